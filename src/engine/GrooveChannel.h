@@ -1,0 +1,86 @@
+// One of the thirteen channels: voices, samples, modulation, effects.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+
+#include "content/SamplePool.h"
+#include "content/SampleSlot.h"
+#include "engine/ChannelVoice.h"
+#include "engine/FXUnit.h"
+#include "engine/Limits.h"
+#include "engine/RandomGenerator.h"
+#include "platform/Shared.h"
+#include "platform/SharedText.h"
+
+namespace korvane {
+
+/// Six voices, seven sample slots, ten effect units and a stutter. Owned by GrooveEngine; operations are the audio
+/// thread's unless they say otherwise.
+class GrooveChannel {
+public:
+    GrooveChannel(SamplePool& pool, RandomGenerator& generator);
+
+    /// Serves the load requests of the slots, refreshes modulation and effect settings and renders the active voices
+    /// into their own buffers.
+    /// frames  0..512; 0 still refreshes the modulation, so a tick is heard at its exact frame
+    /// tempo   beats per minute
+    void Render(int frames, float tempo);
+
+    /// Starts a note on a free voice, else on the oldest one; in mono mode always on voice 0.
+    /// note      key number; the pad offset plus 48, any integer that pads and keys can give
+    /// tempo     beats per minute; 0 means a live note, which nothing but a release ends
+    /// velocity  0..1
+    void NoteOn(int note, float tempo, float velocity);
+
+    void ReleaseNote(int note); // every voice that plays `note`
+    void ReleaseLive();         // every voice that the sequencer did not start
+    void ReleaseSequenced();    // every voice that the sequencer started
+
+    /// Silences every voice, refills its phases from the generator, clears effects, meters and smoothed gains. Audio
+    /// thread or under the program-switch handshake.
+    /// newRate  Hz; 0 keeps the rate
+    void Reset(float newRate);
+
+    /// The working value of a channel parameter after the three modulation sources; 0 outside 0..211.
+    float Modulated(int index) const;
+
+    Shared<float> params[kChannelSlots]; // working block, step locks applied, always finite; any thread writes
+    bool isSampler = false;              // fixed before the first block
+    std::array<SampleSlot, kSampleSlots> sampleSlots; // 0..2 oscillator waveforms, 3..6 layer samples
+    SharedText<512> programPath;                      // last program file saved from or loaded into the channel
+    std::array<std::unique_ptr<FXUnit>, kEffects> fxUnits;
+    std::unique_ptr<FXUnit> stutterUnit;
+    Shared<bool> fxActive[kEffects]; // whether each unit is played; any thread writes
+    SamplePool& samplePool;
+    RandomGenerator& random;
+
+    // Inputs of a run, written by the render loop.
+    bool muted = false;
+    float modWheelIn = 0.0f, pitchBendIn = 0.0f, pressureIn = 0.0f;
+
+    float rate = 0.0f; // Hz
+    std::uint32_t voiceCounter = 0;
+    float lastPitch = -1.0f; // pitch of the last note started, the glide's source; -1 none
+    bool soundedThisBlock = false;
+    float velocityIn = 0.0f; // modulation source A
+    std::array<std::unique_ptr<ChannelVoice>, kVoices> voices;
+
+    // Modulation of the run, the same for every voice.
+    float lfo1Phase = 0.0f, lfo2Phase = 0.0f;                                               // 0..1
+    float lfo1Increment = 0.0f, lfo2Increment = 0.0f;                                       // cycles per frame
+    int lfo1Shape = 0, lfo2Shape = 0;                                                       // 0..3
+    float lfo1Amount = 0.0f, lfo2Amount = 0.0f;                                             // signed
+    float env1Amount = 0.0f, env2Amount = 0.0f;                                             // signed
+    int env1Destination = 0, env2Destination = 0, lfo1Destination = 0, lfo2Destination = 0; // 0..3
+    int filterType = 0;                            // 0 low-pass, 1 band-pass, 2 high-pass
+    float cutoffBase = 0.0f, cutoffSmooth = -1.0f; // -1 before first use
+    float modAmountSmooth = 0.0f;
+
+    // Mixer strip.
+    float outGainLeft = -1.0f, outGainRight = -1.0f; // -1 before first use
+    Shared<float> peakLeft, peakRight;               // audio raises them, the meter zeroes them
+};
+
+} // namespace korvane

@@ -1,0 +1,27 @@
+// The instrument's fixed sizes.
+#pragma once
+
+namespace korvane {
+
+inline constexpr int kSamplerChannels = 8; // channels 0..7; 8..12 are the synth channels
+inline constexpr int kChannels = 13;
+inline constexpr int kChannelSlots = 212; // values in a channel's parameter block
+inline constexpr int kPatterns = 8;
+inline constexpr int kBars = 8; // of a pattern
+inline constexpr int kStepsPerBar = 16;
+inline constexpr int kSteps = kBars * kStepsPerBar;
+inline constexpr int kFirstNote = 48;  // bit 0 of a step word
+inline constexpr int kNotes = 24;      // bits of a step word that play: notes 48..71
+inline constexpr int kVoices = 6;      // of a channel
+inline constexpr int kLayers = 4;      // of a sampler voice
+inline constexpr int kOscillators = 3; // of a synth voice
+inline constexpr int kUnison = 16;     // voices stacked in one synth voice
+inline constexpr int kSampleSlots = kOscillators + kLayers;
+inline constexpr int kFirstLayerSlot = kOscillators;
+inline constexpr int kEffects = 10;
+inline constexpr int kStutterButtons = 5;
+inline constexpr int kExtControls = 5;
+inline constexpr int kMaxRun = 512;                 // frames that one render run may have
+inline constexpr int kLiveLengthFrames = 268435455; // length of a note that no clock ends
+
+} // namespace korvane

@@ -1,0 +1,20 @@
+// The engine's random numbers.
+#pragma once
+
+#include <cstdint>
+
+namespace korvane {
+
+/// Linear congruential generator shared by the whole engine; audio thread, or under the program-switch handshake.
+/// It starts at 0 in every instance, so that two fresh instances render the same bytes.
+struct RandomGenerator {
+    std::uint32_t state = 0;
+
+    std::uint32_t Next()
+    {
+        state = state * 196314165u + 907633515u;
+        return state;
+    }
+};
+
+} // namespace korvane
