@@ -1,0 +1,79 @@
+// Effect settings: channel parameters and step clock into unit fields.
+#include "engine/FxSettings.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+// Values in the channel's parameter block; the first of ten where there is one per effect.
+constexpr std::size_t kPadX = 117, kPadY = 127, kLfoRate = 137, kGlue = 147, kLfoShape = 157, kLfoSync = 167,
+                      kLfoAmount = 177, kBypassStutter = 187, kEqOn = 206, kEqGains = 207;
+
+constexpr float kPeriodBeats[] = {0.125f, 0.25f, 0.375f, 0.5f, 0.75f, 1.0f, 2.0f, 4.0f, 8.0f};
+constexpr float kSyncFactor = 4.0f; // LFO periods count bars instead of beats
+
+struct StutterSetting {
+    float beats;
+    std::uint8_t reverse;
+};
+constexpr StutterSetting kStutterSettings[] = {
+    {1.0f, 0}, {0.75f, 0}, {0.5f, 0}, {0.375f, 0}, {0.25f, 0}, {1.0f, 1}, {0.75f, 1}, {0.5f, 1}, {0.125f, 0},
+};
+
+void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
+{
+    unit.eqOn = params[kEqOn] != 0.0f;
+    for (std::size_t band = 0; band < kEqBands; ++band) {
+        const float gain = Clamp<float>(params[kEqGains + band], 0.0f, 1.0f);
+        if (gain == unit.eqGains[band]) continue;
+        unit.eqGains[band] = gain;
+        unit.eqChanged[band] = 1;
+    }
+}
+
+} // namespace
+
+void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
+                      const std::array<std::unique_ptr<FXUnit>, kEffects>& units, FXUnit& stutter)
+{
+    for (std::size_t k = 0; k < units.size(); ++k) {
+        FXUnit& unit = *units[k];
+        unit.bypass = !fxActive[k] && params[kGlue + k] == 0.0f;
+        unit.x = Clamp<float>(params[kPadX + k], 0.0f, 1.0f);
+        unit.y = Clamp<float>(params[kPadY + k], 0.0f, 1.0f);
+        const float amount = Clamp(2.0f * params[kLfoAmount + k] - 1.0f, -1.0f, 1.0f);
+        unit.lfoAmount = std::copysign(amount * amount, amount);
+        unit.lfoShape = Clamp(Truncate(params[kLfoShape + k] * 3.0f), 0, 3);
+        const int rate = Clamp(Truncate(params[kLfoRate + k] * 9.0f), 0, 8);
+        unit.lfoBeats = kPeriodBeats[rate] * (params[kLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
+        if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);
+    }
+    if (params[kBypassStutter] != 0.0f) stutter.bypass = 1;
+}
+
+void SetStutter(FXUnit& stutter, std::int8_t& code)
+{
+    if (code < 0) {
+        stutter.Reset(0.0f);
+        code = static_cast<std::int8_t>(-code);
+    }
+    stutter.bypass = code < 1 || code > 9;
+    if (stutter.bypass) return;
+    const StutterSetting& setting = kStutterSettings[code - 1];
+    stutter.lfoBeats = setting.beats;
+    stutter.reverse = setting.reverse;
+}
+
+void SyncLfo(FXUnit& unit, int stepCounter)
+{
+    if (!(unit.lfoBeats > 0.0f)) return;
+    const double periods = stepCounter / (static_cast<double>(unit.lfoBeats) * 4.0);
+    unit.lfoPhase = periods - std::floor(periods);
+}
+
+} // namespace korvane
