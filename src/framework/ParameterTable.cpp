@@ -1,0 +1,96 @@
+// Every control of the instrument that a host, a MIDI link or the editor can move.
+#include "framework/ParameterTable.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr std::size_t kTextBytes = 32;
+
+struct BlockDefault {
+    int first, last;
+    float value;
+};
+
+// Everything that is not listed starts at 0.
+constexpr BlockDefault kBlockDefaults[] = {
+    {slot::MixLevel, slot::MixLevel, 0.75f},
+    {slot::Panning, slot::Pitch, 0.5f},
+    {slot::NoteLength, slot::NoteLength, 0.44444445f},
+    {slot::AmpDecay, slot::AmpSustain, 1.0f},
+    {slot::AmpRelease, slot::AmpRelease, 0.1f},
+    {slot::AmpLevel, slot::AmpLevel, 0.5f},
+    {slot::EnvelopeDecay, slot::EnvelopeDecay + 1, 1.0f},
+    {slot::UnisonDetune, slot::UnisonDetune, 0.25f},
+    {slot::Octave, slot::Octave, 0.5f},
+    {slot::Osc1Pitch, slot::Osc3Detune, 0.5f},
+    {slot::LayerLevel, slot::LayerAttack - 1, 0.5f}, // level, pan, pitch
+    {slot::LayerDecay, slot::LayerDecay + 3, 1.0f},
+    {slot::LayerHiCut, slot::LayerHiCut + 3, 1.0f},
+    {slot::FxX, slot::FxLfoRate - 1, 0.5f},
+    {slot::FxLfoRate, slot::FxGlue - 1, 0.5566667f},
+    {slot::FxLfoAmount, slot::FxBypassStutter - 1, 0.5f},
+    {slot::VelocityAmount, slot::VelocityAmount, 0.5f},
+    {slot::VelocitySensitivity, slot::VelocitySensitivity, 1.0f},
+    {slot::WheelAmount, slot::WheelAmount, 0.5f},
+    {slot::PressureAmount, slot::PressureAmount, 0.5f},
+    {slot::BendRange, slot::BendRange, 0.16666667f},
+    {slot::EqGain, slot::EqGain + 4, 0.5f},
+};
+
+constexpr const char* kSyncTexts[] = {"1/8", "1/4", "3/8", "1/2", "3/4", "1/1", "2/1", "4/1", "8/1"};
+
+} // namespace
+
+Bank BankOf(int base)
+{
+    if (base >= slot::EnvelopeAmount && base <= slot::EnvelopeDestination)
+        return base % 2 == 0 ? Bank::Envelope : Bank::None;
+    if (base >= slot::LfoRetrig && base <= slot::LfoDestination) return base % 2 == 0 ? Bank::Lfo : Bank::None;
+    if (base >= slot::LayerLevel && base <= slot::LayerReverse)
+        return (base - slot::LayerLevel) % 4 == 0 ? Bank::Layer : Bank::None;
+    if (base >= slot::FxX && base <= slot::FxLfoAmount) return (base - slot::FxX) % 10 == 0 ? Bank::Fx : Bank::None;
+    return Bank::None;
+}
+
+float ChannelBlockDefault(int index, bool isSampler)
+{
+    if (index == slot::FilterCutoff) return isSampler ? 0.0f : 1.0f;
+    if (index == slot::FilterType) return isSampler ? 1.0f : 0.0f;
+    for (const BlockDefault& range : kBlockDefaults)
+        if (index >= range.first && index <= range.last) return range.value;
+    return 0.0f;
+}
+
+void FormatDisplay(Display display, float v, char* buffer)
+{
+    const auto number = [buffer](const char* format, float value) {
+        std::snprintf(buffer, kTextBytes, format, static_cast<double>(value));
+    };
+    const auto whole = [buffer](const char* format, float value, int plus = 0) {
+        std::snprintf(buffer, kTextBytes, format, std::clamp(Truncate(value), -1000000, 1000000) + plus);
+    };
+    switch (display) {
+    case Display::Percent: number("%.1f %%", v * 100.0f); break;
+    case Display::Sync: std::snprintf(buffer, kTextBytes, "%s", kSyncTexts[std::clamp(Truncate(v * 9.0f), 0, 8)]); break;
+    case Display::MixDb: number("%.1f dB", v * 80.0f - 60.0f); break;
+    case Display::Pan: number("%.1f", (2.0f * v - 1.0f) * 100.0f); break;
+    case Display::Semitones24: whole("%d", v * 48.0f - 24.0f); break;
+    case Display::Length: number("%.2f", std::pow(2.0f, 8.0f * v) * 0.125f); break;
+    case Display::AmpDb: number("%.1f dB", v * 50.0f - 25.0f); break;
+    case Display::Voices: whole("%d", v * 15.0f, 1); break;
+    case Display::Semitones36: whole("%d", v * 72.0f - 36.0f); break;
+    case Display::Detune: whole("%d", v * 100.0f - 50.0f); break;
+    case Display::Bipolar: number("%.1f %%", (v - 0.5f) * 200.0f); break;
+    case Display::Smt: whole("%d smt", v * 12.0f); break;
+    case Display::GainDb: number("%.2f dB", (v - 0.5f) * 24.0f); break;
+    }
+}
+
+} // namespace korvane
