@@ -78,7 +78,9 @@ void FormatDisplay(Display display, float v, char* buffer)
     };
     switch (display) {
     case Display::Percent: number("%.1f %%", v * 100.0f); break;
-    case Display::Sync: std::snprintf(buffer, kTextBytes, "%s", kSyncTexts[std::clamp(Truncate(v * 9.0f), 0, 8)]); break;
+    case Display::Sync:
+        std::snprintf(buffer, kTextBytes, "%s", kSyncTexts[std::clamp(Truncate(v * 9.0f), 0, 8)]);
+        break;
     case Display::MixDb: number("%.1f dB", v * 80.0f - 60.0f); break;
     case Display::Pan: number("%.1f", (2.0f * v - 1.0f) * 100.0f); break;
     case Display::Semitones24: whole("%d", v * 48.0f - 24.0f); break;

@@ -160,7 +160,19 @@ enum class Kind : std::uint8_t {
 
 /// Rule of the value's text.
 enum class Display : std::uint8_t {
-    Percent, Sync, MixDb, Pan, Semitones24, Length, AmpDb, Voices, Semitones36, Detune, Bipolar, Smt, GainDb,
+    Percent,
+    Sync,
+    MixDb,
+    Pan,
+    Semitones24,
+    Length,
+    AmpDb,
+    Voices,
+    Semitones36,
+    Detune,
+    Bipolar,
+    Smt,
+    GainDb,
 };
 
 inline constexpr int kFromProgram = -1; // read back: the value last written

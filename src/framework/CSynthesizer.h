@@ -1,0 +1,112 @@
+// The engine's interface to its bridges: events, blocks, parameters, programs.
+#pragma once
+
+#include <atomic>
+#include <cstdint>
+#include <memory>
+#include <thread>
+
+#include "framework/CMidiController.h"
+#include "framework/CProgram.h"
+#include "shell/CPluginWrapper.h"
+
+namespace korvane {
+
+/// Host-independent engine base. A bridge constructs it through the definition, calls SetSampleRate and SetProgram (0),
+/// then per block: SetTempo, songPosition, SetPlaying when the host says so, and ProcessBlock. Events are queued before
+/// their block. ProcessBlock belongs to the audio thread; parameter, program and state calls come from any other.
+/// Text buffers have 256 bytes.
+class CSynthesizer : public CMidiController {
+public:
+    static constexpr int kMaxChunk = 128; // frames
+
+    explicit CSynthesizer(CPluginWrapper* bridge) : wrapper(bridge) {}
+    ~CSynthesizer() override;
+
+    // clang-format off
+    virtual void NoteEvent(std::int8_t, std::int8_t) {}          // velocity 0: release
+    virtual void VoiceNoteOn(std::int8_t, std::int8_t) {}
+    virtual void PitchBendChanged() {}
+    virtual void ControllerChanged(std::int8_t) {}
+    virtual void ChannelPressureChanged() {}
+    virtual void ProgramChangeReceived(int) {}
+    virtual bool BankSelectReceived(int) { return false; }       // whether it was handled
+    virtual void Destroy() { delete this; }
+    virtual bool SetProgramName(int index, const char* text);
+    virtual bool GetProgramName(int index, char* buffer);
+    virtual std::int32_t SetBankChunk(const void*, std::int32_t) { return 0; }    // size accepted, 0 refused
+    virtual std::int32_t SetProgramChunk(const void*, std::int32_t) { return 0; }
+    virtual std::int32_t GetBankChunk(void*) { return 0; }       // null: the size needed
+    virtual std::int32_t GetProgramChunk(void*) { return 0; }
+    virtual float GetParameter(int index);
+    virtual float GetParameterDefault(int index);
+    virtual void SetParameter(int index, float value);
+    virtual void GetParameterName(int index, char* buffer);
+    virtual void GetParameterDisplay(int index, char* buffer);
+    virtual void GetParameterLabel(int index, char* buffer);
+    virtual void SetProgram(int index);
+    virtual void Reserved23() {}
+    virtual void Reserved24(float*, float*, float*, float*, int) {}
+    virtual void Reserved25(float*, float*, float*, float*, int) {}
+    virtual void Reserved26(float*, float*, float*, float*, int) {}
+    virtual void ProcessMultiOut(float**, float**, int) {}       // adds one chunk of at most kMaxChunk frames
+    virtual void ParameterChanged(int, float) {}
+    virtual void Reset();
+    virtual void SetSampleRate(double newRate);
+    virtual void SetTempo(double bpm);
+    virtual int GetOutputTarget(int) { return 0; }
+    virtual int GetExtraName(int, char*) { return 0; }
+    virtual int GetMidiPort() { return -1; }
+    virtual void SetPlaying(bool) {}
+    virtual void ProcessBlock(float** inputs, float** outputs, int frames, bool replacing);
+    virtual void Reserved37(std::int8_t, std::int8_t) {}
+    virtual float Reserved38(bool) { return 0.0f; }
+    // clang-format on
+
+    /// A whole-state operation in progress: from construction to destruction blocks are skipped and none is running.
+    /// Waits for a running block in steps of 10 ms, unless this thread is the one that renders it.
+    class ProgramSwitch {
+    public:
+        explicit ProgramSwitch(CSynthesizer& owner);
+        ~ProgramSwitch();
+        ProgramSwitch(const ProgramSwitch&) = delete;
+
+    private:
+        CSynthesizer& synth;
+    };
+
+    int CurrentProgram() const { return programIndex; }
+
+    Shared<double> songPosition;        // quarter notes; the bridge writes it before each block
+    Shared<double> sampleRate = 1000.0; // Hz, until a bridge sets it
+    Shared<double> tempo = 120.0;       // beats per minute, at least 1
+
+protected:
+    /// Appends to the list; the first one becomes current. Construction only.
+    void AddProgram(std::unique_ptr<CProgram> program);
+    CProgram* ProgramAt(int index) const;
+
+    CPluginWrapper* const wrapper;
+
+private:
+    bool EnterBlock();
+    void RenderChunks(float** inputs, float** outputs, int frames);
+    std::int64_t NextGap(std::int64_t rest);
+    void Dispatch(const MidiEvent& event);
+    void NoteOff(int key);
+    void Controller(std::uint8_t number, std::uint8_t value);
+    void ReleaseKey(int key);
+    void NotifyKey(int key, std::uint8_t velocity);
+    void ResetControllers();
+    void ReleaseAll();
+
+    std::unique_ptr<CProgram> programs;
+    int programCount = 0;
+    Shared<CProgram*> currentProgram = nullptr;
+    Shared<int> programIndex = 0;
+    std::atomic<bool> processing{false};
+    std::atomic<int> programChanges{0};
+    Shared<std::thread::id> renderingThread; // nobody between blocks
+};
+
+} // namespace korvane
