@@ -1,0 +1,66 @@
+// The engine as a VST 2 plug-in.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <vector>
+
+#include "framework/CSynthesizer.h"
+#include "shell/CPluginWrapper.h"
+#include "shell/CVstEditor.h"
+#include "shell/vst2/AudioEffectX.h"
+
+namespace korvane {
+
+/// Translates each host call into one call of the engine. Blocks and events come on the host's audio thread, everything
+/// else on its others. Deletes itself with the host's close request.
+class CVstWrapper : public AudioEffectX, public CPluginWrapper {
+public:
+    explicit CVstWrapper(AudioMasterCallback hostCallback);
+    ~CVstWrapper() override;
+
+    std::intptr_t Dispatch(std::int32_t opcode, std::int32_t index, std::intptr_t value, void* pointer,
+                           float option) override;
+    void Process(float** inputs, float** outputs, std::int32_t frames) override
+    {
+        RenderBlock(inputs, outputs, frames, false);
+    }
+    void ProcessReplacing(float** inputs, float** outputs, std::int32_t frames) override
+    {
+        RenderBlock(inputs, outputs, frames, true);
+    }
+    void SetParameter(std::int32_t index, float value) override;
+    float GetParameter(std::int32_t index) override { return engine ? engine->GetParameter(index) : 0.0f; }
+    void GetParameterLabel(std::int32_t index, char* text) override;
+    void GetParameterDisplay(std::int32_t index, char* text) override;
+    void GetParameterName(std::int32_t index, char* text) override;
+    void SetSampleRate(float newRate) override;
+    std::int32_t ProcessEvents(const VstEvents* events) override;
+    std::int32_t CanDo(const char* text) override;
+
+    void ParameterAutomated(int index, float value) override;
+    CPluginEditor* GetEditor() override { return editor ? editor->Window() : nullptr; }
+    void BeginEdit(int index) override;
+    void EndEdit(int index) override;
+
+private:
+    struct EngineEnd {
+        void operator()(CSynthesizer* synth) const { synth->Destroy(); }
+    };
+
+    void RenderBlock(float** inputs, float** outputs, std::int32_t frames, bool replacing);
+    const VstTimeInfo* AskTime(std::int32_t filter);
+    void Close();
+    void Power(bool on);
+    std::intptr_t OutputProperties(std::int32_t index, VstPinProperties* properties);
+    std::intptr_t GetChunk(bool preset, void** data);
+    std::intptr_t SetChunk(bool preset, const void* data, std::intptr_t size);
+    std::intptr_t EditorRequest(std::int32_t opcode, void* pointer);
+
+    std::unique_ptr<CSynthesizer, EngineEnd> engine;
+    std::unique_ptr<CVstEditor> editor;
+    std::vector<std::uint8_t> chunk; // handed to the host by the last get-chunk request
+    std::int32_t programNumber = 0;
+};
+
+} // namespace korvane

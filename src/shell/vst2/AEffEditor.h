@@ -1,0 +1,22 @@
+// A plug-in's window as a VST 2 host asks for it.
+#pragma once
+
+#include "shell/vst2/AEffect.h"
+
+namespace korvane {
+
+class AudioEffect;
+
+class AEffEditor {
+public:
+    explicit AEffEditor(AudioEffect* owner) : effect(owner) {}
+    virtual ~AEffEditor() = default;
+    virtual bool GetRect(ERect** rectangle) = 0;
+    virtual bool Open(void* parentWindow) = 0;
+    virtual void Close() = 0;
+
+protected:
+    AudioEffect* const effect;
+};
+
+} // namespace korvane
