@@ -4,15 +4,12 @@
 #include <cmath>
 #include <cstddef>
 
+#include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
 
 namespace {
-
-// Values in the channel's parameter block; the first of ten where there is one per effect.
-constexpr std::size_t kPadX = 117, kPadY = 127, kLfoRate = 137, kGlue = 147, kLfoShape = 157, kLfoSync = 167,
-                      kLfoAmount = 177, kBypassStutter = 187, kEqOn = 206, kEqGains = 207;
 
 constexpr float kPeriodBeats[] = {0.125f, 0.25f, 0.375f, 0.5f, 0.75f, 1.0f, 2.0f, 4.0f, 8.0f};
 constexpr float kSyncFactor = 4.0f; // LFO periods count bars instead of beats
@@ -27,9 +24,9 @@ constexpr StutterSetting kStutterSettings[] = {
 
 void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
 {
-    unit.eqOn = params[kEqOn] != 0.0f;
+    unit.eqOn = params[slot::EqOn] != 0.0f;
     for (std::size_t band = 0; band < kEqBands; ++band) {
-        const float gain = Clamp<float>(params[kEqGains + band], 0.0f, 1.0f);
+        const float gain = Clamp<float>(params[slot::EqGain + band], 0.0f, 1.0f);
         if (gain == unit.eqGains[band]) continue;
         unit.eqGains[band] = gain;
         unit.eqChanged[band] = 1;
@@ -43,17 +40,17 @@ void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
 {
     for (std::size_t k = 0; k < units.size(); ++k) {
         FXUnit& unit = *units[k];
-        unit.bypass = !fxActive[k] && params[kGlue + k] == 0.0f;
-        unit.x = Clamp<float>(params[kPadX + k], 0.0f, 1.0f);
-        unit.y = Clamp<float>(params[kPadY + k], 0.0f, 1.0f);
-        const float amount = Clamp(2.0f * params[kLfoAmount + k] - 1.0f, -1.0f, 1.0f);
+        unit.bypass = !fxActive[k] && params[slot::FxGlue + k] == 0.0f;
+        unit.x = Clamp<float>(params[slot::FxX + k], 0.0f, 1.0f);
+        unit.y = Clamp<float>(params[slot::FxY + k], 0.0f, 1.0f);
+        const float amount = Clamp(2.0f * params[slot::FxLfoAmount + k] - 1.0f, -1.0f, 1.0f);
         unit.lfoAmount = std::copysign(amount * amount, amount);
-        unit.lfoShape = Clamp(Truncate(params[kLfoShape + k] * 3.0f), 0, 3);
-        const int rate = Clamp(Truncate(params[kLfoRate + k] * 9.0f), 0, 8);
-        unit.lfoBeats = kPeriodBeats[rate] * (params[kLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
+        unit.lfoShape = Clamp(Truncate(params[slot::FxLfoShape + k] * 3.0f), 0, 3);
+        const int rate = Clamp(Truncate(params[slot::FxLfoRate + k] * 9.0f), 0, 8);
+        unit.lfoBeats = kPeriodBeats[rate] * (params[slot::FxLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
         if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);
     }
-    if (params[kBypassStutter] != 0.0f) stutter.bypass = 1;
+    if (params[slot::FxBypassStutter] != 0.0f) stutter.bypass = 1;
 }
 
 void SetStutter(FXUnit& stutter, std::int8_t& code)
