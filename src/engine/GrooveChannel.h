@@ -9,12 +9,19 @@
 #include "content/SampleSlot.h"
 #include "engine/ChannelVoice.h"
 #include "engine/FXUnit.h"
+#include "engine/Lfo.h"
 #include "engine/Limits.h"
 #include "engine/RandomGenerator.h"
 #include "platform/Shared.h"
 #include "platform/SharedText.h"
 
 namespace korvane {
+
+/// Where a voice envelope of the channel goes.
+struct EnvelopeRoute {
+    float amount = 0.0f; // signed
+    int destination = 0; // 0..3
+};
 
 /// Six voices, seven sample slots, ten effect units and a stutter. Owned by GrooveEngine; operations are the audio
 /// thread's unless they say otherwise.
@@ -46,6 +53,8 @@ public:
     /// The working value of a channel parameter after the three modulation sources; 0 outside 0..211.
     float Modulated(int index) const;
 
+    bool AnyVoiceActive() const;
+
     Shared<float> params[kChannelSlots]; // working block, step locks applied, always finite; any thread writes
     bool isSampler = false;              // fixed before the first block
     std::array<SampleSlot, kSampleSlots> sampleSlots; // 0..2 oscillator waveforms, 3..6 layer samples
@@ -64,16 +73,12 @@ public:
     std::uint32_t voiceCounter = 0;
     float lastPitch = -1.0f; // pitch of the last note started, the glide's source; -1 none
     bool soundedThisBlock = false;
-    float velocityIn = 0.0f; // modulation source A
+    float velocityIn = 0.0f; // modulation source A: of the note being started or, live notes only, the voice refreshed
     std::array<std::unique_ptr<ChannelVoice>, kVoices> voices;
 
     // Modulation of the run, the same for every voice.
-    float lfo1Phase = 0.0f, lfo2Phase = 0.0f;                                               // 0..1
-    float lfo1Increment = 0.0f, lfo2Increment = 0.0f;                                       // cycles per frame
-    int lfo1Shape = 0, lfo2Shape = 0;                                                       // 0..3
-    float lfo1Amount = 0.0f, lfo2Amount = 0.0f;                                             // signed
-    float env1Amount = 0.0f, env2Amount = 0.0f;                                             // signed
-    int env1Destination = 0, env2Destination = 0, lfo1Destination = 0, lfo2Destination = 0; // 0..3
+    Lfo lfo1, lfo2;
+    EnvelopeRoute env1, env2;
     int filterType = 0;                            // 0 low-pass, 1 band-pass, 2 high-pass
     float cutoffBase = 0.0f, cutoffSmooth = -1.0f; // -1 before first use
     float modAmountSmooth = 0.0f;
@@ -81,6 +86,11 @@ public:
     // Mixer strip.
     float outGainLeft = -1.0f, outGainRight = -1.0f; // -1 before first use
     Shared<float> peakLeft, peakRight;               // audio raises them, the meter zeroes them
+
+private:
+    void RefreshVoices();
+    void RenderVoices(int frames);
+    ChannelVoice& VoiceForNote();
 };
 
 } // namespace korvane

@@ -1,0 +1,35 @@
+// Start, refresh, release and end of a voice, whatever its source.
+#pragma once
+
+#include <cstdint>
+
+namespace korvane {
+
+class GrooveChannel;
+struct ChannelVoice;
+
+/// Pitch of a note on the channel: transposed by "CHN: Pitch" and "SYNTH: Octave", in whole semitones.
+std::int32_t PitchNote(const GrooveChannel& channel, int note);
+
+/// "CHN: Pitch" in whole semitones, -24..24.
+int ChannelTranspose(const GrooveChannel& channel);
+
+/// Starts what NoteOn has described in the voice: envelopes, gain, glide, LFO restart and the source. A voice that
+/// still sounds keeps its amplitude and rises from there.
+void StartVoice(GrooveChannel& channel, ChannelVoice& voice);
+
+/// At the start of a block: takes over what the channel's parameters say now, or ends a voice that has faded or whose
+/// layers have all run out. False when the voice has ended.
+/// levelGain  output gain of the channel's "CHN: Amp Level", see LevelGain
+bool RefreshVoice(GrooveChannel& channel, ChannelVoice& voice, float levelGain);
+
+/// Gain that "CHN: Amp Level" gives a note at full velocity: -25 dB to +25 dB, on top of the sources' own scale.
+float LevelGain(float ampLevel);
+
+/// Lets the note fade.
+void ReleaseVoice(ChannelVoice& voice);
+
+/// Silences the voice at once.
+void ClearVoice(ChannelVoice& voice);
+
+} // namespace korvane
