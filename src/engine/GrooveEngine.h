@@ -48,6 +48,7 @@ public:
     void RefreshChannel(int channel);
     /// Recomputes a channel's fxActive flags from held effects, the pad and the chosen channels.
     void RefreshFxActive(int channel);
+    void RefreshAllFxActive();
 
     // Life cycle.
 
@@ -194,7 +195,16 @@ private:
     void MixStrip(int channel, float* const* outputs, int frames);
     void AddMetronome(float* left, float* right, int frames);
     void ExecuteVoiceCommands();
+    void AdvancePosition();
     void PlayStep(int channel, bool late, bool recording);
+    void ClearMarks();
+    bool AnyMarked() const;
+    void SelectBar(int bar);
+    void EditSamplerStep(int k);
+    void ToggleNote(int k);
+    void SelectChannel(int channel);
+    void Move(int direction);
+    bool NudgeHeldSteps(int direction);
 };
 
 } // namespace korvane

@@ -7,6 +7,7 @@
 #include "content/CFileList.h"
 #include "content/CPresetList.h"
 #include "content/ContentFolders.h"
+#include "content/ImageFile.h"
 #include "engine/GrooveEngine.h"
 #include "framework/CSynthesizer.h"
 #include "framework/ParameterTable.h"
@@ -21,7 +22,7 @@ class KVSynth : public CSynthesizer {
 public:
     static constexpr int kSources = 257; // MIDI sources: 0..127 controllers, 128 wheel, 129..256 keys
 
-    explicit KVSynth(CPluginWrapper* wrapper);
+    explicit KVSynth(CPluginWrapper* bridge);
     ~KVSynth() override;
 
     void NoteEvent(std::int8_t key, std::int8_t velocity) override;
@@ -76,14 +77,22 @@ public:
     SharedText<256> lastSourceText, lastParameterText;
 
 private:
+    void FollowHost(); // tempo and position into the engine core
+    void WriteValue(const ParameterInfo& info, float value);
+    void Follow(int index, bool on);
+    void Trigger(int index);
+    void Change(int index, bool on);
+    void Press(int index, bool on, bool changed);
+    void Select(int index, float value);
     void LoadDefaultGroove();
     void ReadLinkMap();
     void WriteLinkMap();
     void SourceTouched(int source, const char* format, int number);
-    bool Edge(int index, bool on);
-    void LoadCurrentProgram(const CPresetList& list);
+    bool Edge(int index, bool on); // whether the on/off state changed; always false for internal parameters
+    void RefreshEditor();
 
     Shared<bool> switchStates[154]; // on/off of the last value written, per host parameter
+    Image sizedChunk;               // state at the last request for its size
     Shared<bool> keyTrigger;        // a MIDI key drives a pad parameter
 };
 

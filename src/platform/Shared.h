@@ -14,8 +14,17 @@ public:
     Shared(T initial = {}) : value(initial) {}
     Shared(const Shared&) = delete;
     operator T() const { return value.load(std::memory_order_relaxed); }
-    void operator=(T next) { value.store(next, std::memory_order_relaxed); }
-    void operator=(const Shared& other) { *this = static_cast<T>(other); }
+    T operator=(T next)
+    {
+        value.store(next, std::memory_order_relaxed);
+        return next;
+    }
+    T operator=(const Shared& other) { return *this = static_cast<T>(other); }
+    /// Stores `next` only while the value is still the expected one.
+    bool Replace(T expected, T next)
+    {
+        return value.compare_exchange_strong(expected, next, std::memory_order_relaxed);
+    }
 
 private:
     std::atomic<T> value;

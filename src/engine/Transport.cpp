@@ -1,0 +1,113 @@
+// The engine core's transport: play, record, and notes asked for by other threads.
+#include <cmath>
+
+#include "engine/GrooveEngine.h"
+
+namespace korvane {
+
+void GrooveEngine::TogglePlay()
+{
+    const bool nowPlaying = !playing;
+    playing = nowPlaying;
+    for (int c = 0; c < kChannels; ++c) RefreshChannel(c);
+
+    if (nowPlaying) {
+        const double position = hostPosition > 0.0 ? static_cast<double>(hostPosition) : 0.0;
+        hostPosition = position;
+        const double steps = 4.0 * position;
+        const double whole = std::floor(steps);
+        const double fraction = steps - whole;
+        const bool between = fraction > 0.01;
+        const double next = between ? whole + 1.0 : whole;
+        samplesToNextStep = between ? (1.0 - fraction) * StepFrames() : 0.0;
+        patternRepeats = 0;
+        patternStep = std::uint8_t{0};
+        if (recordMode && !editMode) {
+            samplesToNextStep = 0.0;
+            stepCounter = std::uint8_t{0};
+        } else {
+            stepCounter = static_cast<std::uint8_t>(std::fmod(next, kSteps));
+        }
+    }
+
+    stutterButtons.Clear();
+    for (auto& code : stutterCode) code = std::int8_t{0};
+    nextPattern = static_cast<int>(currentPattern);
+    for (auto& step : lastStep) step = -1;
+    if (!nowPlaying) ReleaseSequenced();
+
+    if (!recordMode) {
+        countIn = std::int8_t{0};
+    } else if (!nowPlaying) {
+        countIn = std::int8_t{0};
+        ToggleRecord();
+    } else {
+        countIn = std::int8_t{kStepsPerBar};
+    }
+}
+
+void GrooveEngine::ToggleRecord()
+{
+    const bool nowRecording = !recordMode;
+    recordMode = nowRecording;
+    if (nowRecording) {
+        if (editMode) ToggleEdit();
+        recordStartedWhilePlaying = static_cast<bool>(playing);
+    } else if (playing && !recordStartedWhilePlaying) {
+        TogglePlay();
+    }
+    recordStep = recordBar = -1;
+    for (auto& notes : playedThisStep) notes = 0u;
+}
+
+void GrooveEngine::NoteOn(int channel, int note, float noteTempo, float velocity)
+{
+    if (OnAudioThread())
+        Channel(channel).NoteOn(note, noteTempo, velocity);
+    else
+        voiceCommands.Push({VoiceCommand::Kind::NoteOn, static_cast<std::uint8_t>(channel),
+                            static_cast<std::int16_t>(note), velocity});
+}
+
+void GrooveEngine::ReleaseNote(int channel, int note)
+{
+    if (OnAudioThread())
+        Channel(channel).ReleaseNote(note);
+    else
+        voiceCommands.Push({VoiceCommand::Kind::ReleaseNote, static_cast<std::uint8_t>(channel),
+                            static_cast<std::int16_t>(note), 0.0f});
+}
+
+void GrooveEngine::ReleaseLive(int channel)
+{
+    if (OnAudioThread())
+        Channel(channel).ReleaseLive();
+    else
+        voiceCommands.Push({VoiceCommand::Kind::ReleaseLive, static_cast<std::uint8_t>(channel), 0, 0.0f});
+}
+
+void GrooveEngine::ReleaseSequenced()
+{
+    if (OnAudioThread())
+        for (auto& channel : channels) channel->ReleaseSequenced();
+    else
+        voiceCommands.Push({VoiceCommand::Kind::ReleaseSequenced, 0, 0, 0.0f});
+}
+
+void GrooveEngine::ExecuteVoiceCommands()
+{
+    VoiceCommand command;
+    while (voiceCommands.Pop(command)) {
+        GrooveChannel& channel = Channel(command.channel);
+        switch (command.kind) {
+        case VoiceCommand::Kind::NoteOn: channel.NoteOn(command.note, 0.0f, command.velocity); break;
+        case VoiceCommand::Kind::ReleaseNote: channel.ReleaseNote(command.note); break;
+        case VoiceCommand::Kind::ReleaseLive: channel.ReleaseLive(); break;
+        case VoiceCommand::Kind::ReleaseSequenced:
+            for (auto& each : channels) each->ReleaseSequenced();
+            break;
+        }
+    }
+}
+
+} // namespace korvane
