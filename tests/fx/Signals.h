@@ -1,0 +1,73 @@
+// Test signals and what is measured on them.
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <numbers>
+#include <vector>
+
+#include "engine/FXUnit.h"
+
+namespace korvane::fxtest {
+
+constexpr float kRate = 48000.0f, kTempo = 120.0f;
+constexpr int kBlock = 128;
+
+struct Sound {
+    std::vector<float> left, right;
+    explicit Sound(int frames) : left(frames), right(frames) {}
+    int Frames() const { return static_cast<int>(left.size()); }
+};
+
+inline Sound Noise(int frames, float level = 0.5f)
+{
+    Sound sound(frames);
+    std::uint32_t seed = 1;
+    const auto next = [&] {
+        return static_cast<float>(static_cast<std::int32_t>(seed = seed * 196314165u + 907633515u)) / 2147483648.0f;
+    };
+    for (int n = 0; n < frames; ++n) {
+        sound.left[n] = level * next();
+        sound.right[n] = level * next();
+    }
+    return sound;
+}
+
+inline Sound Sine(int frames, double hz, float level = 0.5f)
+{
+    Sound sound(frames);
+    for (int n = 0; n < frames; ++n)
+        sound.left[n] = sound.right[n] = level * static_cast<float>(std::sin(2.0 * std::numbers::pi * hz * n / kRate));
+    return sound;
+}
+
+/// A unit at 48 kHz that is on, LFO still.
+struct Played : FXUnit {
+    explicit Played(FxType unitType, float padX = 0.5f, float padY = 0.5f, float rate = kRate) : FXUnit(unitType)
+    {
+        Reset(rate);
+        bypass = 0;
+        x = padX;
+        y = padY;
+        lfoBeats = 1.0f;
+    }
+
+    /// Runs frames from..to in blocks of 128; -1: to the end.
+    void Run(Sound& sound, int from = 0, int to = -1, float tempo = kTempo)
+    {
+        if (to < 0) to = sound.Frames();
+        for (int n = from; n < to; n += kBlock)
+            Process(&sound.left[n], &sound.right[n], std::min(kBlock, to - n), tempo);
+    }
+};
+
+inline double Rms(const std::vector<float>& samples, int from, int to)
+{
+    double sum = 0.0;
+    for (int n = from; n < to; ++n) sum += static_cast<double>(samples[n]) * samples[n];
+    return std::sqrt(sum / (to - from));
+}
+
+inline double Decibels(double ratio) { return 20.0 * std::log10(ratio); }
+
+} // namespace korvane::fxtest

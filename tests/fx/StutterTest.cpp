@@ -1,0 +1,127 @@
+// Stutter: buttons into codes, codes into settings, the loop itself.
+#include <gtest/gtest.h>
+
+#include "Signals.h"
+#include "engine/FxSettings.h"
+#include "engine/StutterButtons.h"
+
+using namespace korvane;
+using namespace korvane::fxtest;
+
+namespace {
+
+// Digits press buttons 1 to 5, letters a to e release them.
+TEST(StutterButtons, TurnHoldsIntoCodes)
+{
+    struct Case {
+        const char* what;
+        const char* presses;
+        int code;
+    };
+    const Case cases[] = {
+        {"none", "", 0},
+        {"1/1", "1", 1},
+        {"1/4", "5", 5},
+        {"the last one counts", "13", 3},
+        {"back to the one still held", "13c", 1},
+        {"back to the latest still held", "1324d", 2},
+        {"first let go", "13a", 3},
+        {"all let go", "13ac", 0},
+        {"1/4 turns 1/1", "15", 6},
+        {"in either order", "52", 7},
+        {"1/4 turns 1/2", "35", 8},
+        {"1/4 turns 3/8 into 1/8", "45", 9},
+        {"with two others it counts alone", "125", 5},
+        {"until one is let go", "125b", 6},
+        {"its partner let go", "15a", 5},
+        {"pressed twice", "112b", 1},
+        {"no such button", "1689", 1},
+    };
+    for (const Case& c : cases) {
+        StutterButtons buttons;
+        for (const char* p = c.presses; *p; ++p) *p < 'a' ? buttons.Press(*p - '1') : buttons.Release(*p - 'a');
+        EXPECT_EQ(buttons.Code(), c.code) << c.what;
+        buttons.Clear();
+        EXPECT_EQ(buttons.Code(), 0) << c.what;
+    }
+}
+
+TEST(SetStutter, SetsLengthAndDirection)
+{
+    struct Case {
+        int code;
+        float beats;
+        int reverse, bypass;
+    };
+    const Case cases[] = {{1, 1.0f, 0, 0},   {2, 0.75f, 0, 0}, {3, 0.5f, 0, 0},  {4, 0.375f, 0, 0},
+                          {5, 0.25f, 0, 0},  {6, 1.0f, 1, 0},  {7, 0.75f, 1, 0}, {8, 0.5f, 1, 0},
+                          {9, 0.125f, 0, 0}, {-3, 0.5f, 0, 0}, {-7, 0.75f, 1, 0}};
+    for (const Case& c : cases) {
+        FXUnit unit(FxType::Stutter);
+        std::int8_t code = static_cast<std::int8_t>(c.code);
+        SetStutter(unit, code);
+        EXPECT_EQ(code, std::abs(c.code));
+        EXPECT_EQ(unit.lfoBeats, c.beats) << c.code;
+        EXPECT_EQ(unit.reverse, c.reverse) << c.code;
+        EXPECT_EQ(unit.bypass, 0) << c.code;
+    }
+    FXUnit unit(FxType::Stutter);
+    for (std::int8_t code : {0, 10, -128}) {
+        SetStutter(unit, code);
+        EXPECT_EQ(unit.bypass, 1);
+    }
+}
+
+/// Slice of 6000 frames: 1/4 beat at 120 BPM.
+constexpr int kSlice = 6000;
+
+Sound Stuttered(const Sound& input, std::int8_t code, int offAt)
+{
+    FXUnit unit(FxType::Stutter);
+    unit.Reset(kRate);
+    SetStutter(unit, code);
+    unit.lfoBeats = 0.25f;
+    Sound sound = input;
+    for (int n = 0; n < input.Frames(); n += kBlock) {
+        if (n >= offAt) unit.bypass = 1;
+        unit.Process(&sound.left[n], &sound.right[n], std::min(kBlock, input.Frames() - n), kTempo);
+    }
+    return sound;
+}
+
+// The first slice passes while it is recorded; then it repeats, behind a seam of 192 frames.
+TEST(Stutter, LoopsTheFirstSlice)
+{
+    const Sound input = Noise(4 * kSlice);
+    const Sound forwards = Stuttered(input, -1, 1 << 30), backwards = Stuttered(input, -6, 1 << 30);
+    for (int n = 0; n < kSlice - 1; ++n) ASSERT_EQ(forwards.left[n], input.left[n]);
+    for (int repeat = 2; repeat < 4; ++repeat) {
+        for (int n = 200; n < kSlice - 2; ++n) {
+            const int at = repeat * kSlice + n;
+            ASSERT_NEAR(forwards.left[at], input.left[n], 1e-3f) << at;
+            ASSERT_NEAR(backwards.right[at], input.right[kSlice - n], 1e-3f) << at;
+        }
+    }
+}
+
+TEST(Stutter, ReturnsToTheInput)
+{
+    const Sound input = Noise(6 * kSlice);
+    const Sound sound = Stuttered(input, -1, 3 * kSlice);
+    for (int n = 3 * kSlice + 1500; n < input.Frames(); ++n) ASSERT_EQ(sound.left[n], input.left[n]) << n;
+}
+
+// Slices longer than the recording, an input that outlasts it, a tempo that changes underneath.
+TEST(Stutter, StaysInsideItsRecording)
+{
+    FXUnit unit(FxType::Stutter);
+    unit.Reset(8000.0f);
+    std::int8_t code = -6;
+    SetStutter(unit, code);
+    Sound sound = Noise(60000);
+    for (int n = 0; n + 100 <= sound.Frames(); n += 100)
+        unit.Process(&sound.left[n], &sound.right[n], 100, n % 7000 < 3500 ? 10.0f : 1e7f);
+    EXPECT_LE(*std::max_element(sound.left.begin(), sound.left.end()), 0.51f);
+}
+
+} // namespace
