@@ -97,7 +97,8 @@ TEST(Stutter, LoopsTheFirstSlice)
     for (int n = 0; n < kSlice - 1; ++n) ASSERT_EQ(forwards.left[n], input.left[n]);
     for (int repeat = 2; repeat < 4; ++repeat) {
         for (int n = 200; n < kSlice - 2; ++n) {
-            const int at = repeat * kSlice + n;
+            const int at = repeat * kSlice + 1 + n; // the sum of 6000 steps stays just below 1
+            if (at >= input.Frames()) break;
             ASSERT_NEAR(forwards.left[at], input.left[n], 1e-3f) << at;
             ASSERT_NEAR(backwards.right[at], input.right[kSlice - n], 1e-3f) << at;
         }
