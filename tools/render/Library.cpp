@@ -1,0 +1,98 @@
+// The content beside the plug-in.
+#include "render/Library.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+
+#include "render/Failure.h"
+#include "render/ReadFile.h"
+
+namespace korvane::render {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Groove image: header, then thirteen channel chunks and eight pattern chunks, each behind its length.
+constexpr std::size_t kHeaderBytes = 95, kSelectedChannel = 4, kChannelBytes = 4948, kChannels = 13, kPatterns = 8;
+constexpr std::size_t kStepRecords = 13 * 128, kEmptyRecordBytes = 6;
+constexpr char kPatternTag[] = "1rtP";
+
+struct Shelf {
+    const char* folder;
+    const char* extension;
+};
+constexpr Shelf kShelves[] = {
+    {"Grooves", ".kvprj"}, {"Synth Programs", ".kvsynth"}, {"Sampler Programs", ".kvsmp"}, {"Parts", ".kvprt"}};
+
+std::vector<fs::path> Files(const std::string& bundle, const Shelf& shelf)
+{
+    std::vector<fs::path> files;
+    std::error_code none;
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(bundle) / shelf.folder, none))
+        if (entry.path().extension() == shelf.extension) files.push_back(entry.path());
+    std::sort(files.begin(), files.end());
+    return files;
+}
+
+std::string Find(const std::string& bundle, const std::string& name, const char* what,
+                 std::initializer_list<Shelf> shelves)
+{
+    std::string names;
+    for (const Shelf& shelf : shelves) {
+        for (const fs::path& file : Files(bundle, shelf)) {
+            if (file.stem() == name) return file.string();
+            names += (names.empty() ? "" : ", ") + file.stem().string();
+        }
+    }
+    throw Failure("there is no " + std::string(what) + " '" + name + "'; there are: " + names);
+}
+
+} // namespace
+
+void PrintLibrary(const std::string& bundle)
+{
+    for (const Shelf& shelf : kShelves) {
+        std::printf("%s\n", shelf.folder);
+        std::string category;
+        for (const fs::path& file : Files(bundle, shelf)) {
+            const std::string folder = file.parent_path().filename().string();
+            if (folder != shelf.folder && folder != category) std::printf("  %s\n", (category = folder).c_str());
+            std::printf("    %s\n", file.stem().c_str());
+        }
+    }
+}
+
+std::string FindGroove(const std::string& bundle, const std::string& name)
+{
+    return Find(bundle, name, "groove", {kShelves[0]});
+}
+
+std::string FindProgram(const std::string& bundle, const std::string& name)
+{
+    return Find(bundle, name, "program", {kShelves[1], kShelves[2]});
+}
+
+std::vector<std::uint8_t> StateWithProgram(std::vector<std::uint8_t> state, const std::string& programFile)
+{
+    const std::vector<std::uint8_t> program = ReadFile(programFile);
+    const std::size_t channel = fs::path(programFile).extension() == ".kvsmp" ? 0 : 8;
+    const std::size_t at = kHeaderBytes + channel * (4 + kChannelBytes) + 4;
+    const std::size_t patterns = kHeaderBytes + kChannels * (4 + kChannelBytes);
+    if (program.size() != kChannelBytes || state.size() < patterns)
+        throw Failure("'" + programFile + "' is no program");
+    state[kSelectedChannel] = static_cast<std::uint8_t>(channel);
+    std::copy(program.begin(), program.end(), state.begin() + static_cast<std::ptrdiff_t>(at));
+    state.resize(patterns);
+    const std::int32_t bytes = 4 + static_cast<std::int32_t>(kStepRecords * kEmptyRecordBytes);
+    for (std::size_t n = 0; n < kPatterns; ++n) {
+        for (int k = 0; k < 4; ++k) state.push_back(static_cast<std::uint8_t>(bytes >> (8 * k)));
+        state.insert(state.end(), kPatternTag, kPatternTag + 4);
+        state.insert(state.end(), kStepRecords * kEmptyRecordBytes, 0);
+    }
+    return state;
+}
+
+} // namespace korvane::render

@@ -1,0 +1,175 @@
+// korvane-render: plays the plug-in without a sound card.
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <exception>
+#include <filesystem>
+#include <optional>
+
+#include "render/Failure.h"
+#include "render/LevelMeter.h"
+#include "render/Library.h"
+#include "render/MidiFile.h"
+#include "render/Options.h"
+#include "render/PluginHost.h"
+#include "render/ReadFile.h"
+#include "render/WavOutput.h"
+
+namespace korvane::render {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kProgramNote = 36; // below the pads, so the selected channel plays it
+constexpr double kProgramNoteSeconds = 2.0;
+
+std::string DefaultPlugin()
+{
+    return (fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "Korvane" / "korvane.so").string();
+}
+
+/// One rendering, from the loaded plug-in to the finished files.
+class Rendering {
+public:
+    explicit Rendering(const Options& chosen) : options(chosen), host(options.plugin, options.rate, options.block)
+    {
+        if (!options.midi.empty()) midi.emplace(options.midi);
+        Prepare();
+        meters.resize(static_cast<std::size_t>(host.Pairs()));
+        files.emplace_back(options.output, options.rate, options.integers);
+        for (int pair = 1; pair < host.Pairs() && !options.stems.empty(); ++pair)
+            files.emplace_back((fs::path(options.stems) / (host.PairName(pair) + ".wav")).string(), options.rate,
+                               options.integers);
+    }
+
+    void Run()
+    {
+        const auto start = std::chrono::steady_clock::now();
+        const long long runFrames = Frames(transport ? options.bars * 4 * 60.0 / TempoAt(0.0) : length);
+        const long long allFrames = runFrames + Frames(options.tailSeconds);
+        if (transport) host.SetPlaying(true);
+        for (long long done = 0; done < allFrames;) {
+            if (transport && done == runFrames) host.SetPlaying(false);
+            const long long rest = (done < runFrames ? runFrames : allFrames) - done;
+            const int frames = static_cast<int>(std::min<long long>(options.block, rest));
+            RenderBlock(done, frames);
+            done += frames;
+            ShowProgress(done, allFrames);
+        }
+        for (WavOutput& file : files) file.Finish();
+        const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - start;
+        Report(static_cast<double>(allFrames) / options.rate / spent.count());
+    }
+
+private:
+    void Prepare()
+    {
+        transport = options.midi.empty() && options.program.empty();
+        if (midi && options.barsGiven) transport = true;
+        length = midi ? midi->lengthSeconds : kProgramNoteSeconds;
+        if (!options.groove.empty()) host.SetState(ReadFile(options.groove), options.groove);
+        if (!options.program.empty()) {
+            const std::string file = FindProgram(fs::path(options.plugin).parent_path().string(), options.program);
+            host.SetState(StateWithProgram(host.GetState(), file), file);
+        }
+        for (const auto& [name, value] : options.params) host.SetParameter(name, value);
+        if (!options.stems.empty() && !fs::is_directory(options.stems) && !fs::create_directory(options.stems))
+            throw Failure("cannot create the folder '" + options.stems + "'");
+    }
+
+    long long Frames(double seconds) const { return std::llround(seconds * options.rate); }
+    double TempoAt(double seconds) const { return midi ? midi->TempoAt(seconds) : options.tempo; }
+
+    void RenderBlock(long long done, int frames)
+    {
+        const double seconds = static_cast<double>(done) / options.rate;
+        host.SetTempo(TempoAt(seconds));
+        host.SetPosition(midi ? midi->QuartersAt(seconds) : seconds * options.tempo / 60.0);
+        if (midi) {
+            for (; next < midi->messages.size(); ++next) {
+                const MidiMessage& message = midi->messages[next];
+                const long long frame = Frames(message.seconds) - done;
+                if (frame >= frames) break;
+                host.QueueMidi(static_cast<int>(std::max(frame, 0LL)), message.status, message.data1, message.data2);
+            }
+        }
+        if (!options.program.empty()) {
+            const long long off = Frames(kProgramNoteSeconds / 2) - done;
+            if (done == 0) host.QueueMidi(0, 0x90, kProgramNote, 100);
+            if (off >= 0 && off < frames) host.QueueMidi(static_cast<int>(off), 0x80, kProgramNote, 0);
+        }
+        host.Render(frames);
+        for (int pair = 0; pair < host.Pairs(); ++pair) {
+            const float* left = host.Output(2 * pair);
+            const float* right = host.Output(2 * pair + 1);
+            meters[static_cast<std::size_t>(pair)].Add(left, right, frames);
+            if (static_cast<std::size_t>(pair) < files.size())
+                files[static_cast<std::size_t>(pair)].Write(left, right, frames);
+        }
+    }
+
+    static void ShowProgress(long long done, long long all)
+    {
+        constexpr int kWidth = 50;
+        static int shown = -1;
+        const int now = static_cast<int>(done * kWidth / all);
+        if (!isatty(STDERR_FILENO) || now == shown) return;
+        shown = now;
+        std::fprintf(stderr, "\r[%-*s]%s", kWidth, std::string(static_cast<std::size_t>(now), '#').c_str(),
+                     done == all ? "\n" : "");
+    }
+
+    void Report(double speed) const
+    {
+        std::printf("%-12s %10s %10s\n", "", "peak dBFS", "RMS dBFS");
+        for (int pair = 0; pair < host.Pairs(); ++pair) {
+            const LevelMeter& meter = meters[static_cast<std::size_t>(pair)];
+            std::printf("%-12s %10.1f %10.1f\n", host.PairName(pair).c_str(), meter.PeakDb(), meter.RmsDb());
+        }
+        std::printf("%.1f times faster than real time\n", speed);
+    }
+
+    Options options;
+    PluginHost host;
+    std::optional<MidiFile> midi;
+    std::size_t next = 0;  // MIDI message to be played
+    bool transport = true; // the plug-in's own sequencer runs
+    double length = 0.0;   // seconds before the tail, without transport
+    std::vector<LevelMeter> meters;
+    std::vector<WavOutput> files; // main mix, then the stems
+};
+
+int Main(int count, char** arguments)
+{
+    Options options = ParseOptions(count, arguments);
+    if (options.help) {
+        std::fputs(kUsage, stdout);
+        return 0;
+    }
+    if (options.plugin.empty()) options.plugin = DefaultPlugin();
+    if (options.list) {
+        PrintLibrary(fs::path(options.plugin).parent_path().string());
+        return 0;
+    }
+    if (!options.groove.empty() && !fs::exists(options.groove))
+        options.groove = FindGroove(fs::path(options.plugin).parent_path().string(), options.groove);
+    Rendering(options).Run();
+    return 0;
+}
+
+} // namespace
+
+} // namespace korvane::render
+
+int main(int count, char** arguments)
+{
+    try {
+        return korvane::render::Main(count, arguments);
+    } catch (const std::exception& reason) {
+        std::fprintf(stderr, "korvane-render: %s\n", reason.what());
+        return 1;
+    }
+}
