@@ -1,0 +1,140 @@
+// Whole blocks of the engine: a tick, a typical groove, everything at once.
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <random>
+
+#include "engine/GrooveEngine.h"
+#include "framework/ParameterTable.h"
+
+namespace korvane {
+namespace {
+
+constexpr int kFrames = 128;
+constexpr double kRate = 48000.0;
+
+/// Ten seconds of noise and a saw cycle in the temp folder.
+std::string SoundFile(const char* name, int frames)
+{
+    const std::string path = std::string("/tmp/korvane_bench_") + name + ".wav";
+    std::ofstream file(path, std::ios::binary);
+    const std::uint32_t bytes = 2u * static_cast<std::uint32_t>(frames);
+    const auto word = [&file](std::uint32_t value, int count) {
+        for (int n = 0; n < count; ++n) file.put(static_cast<char>(value >> (8 * n)));
+    };
+    file << "RIFF";
+    word(36 + bytes, 4);
+    file << "WAVEfmt ";
+    word(16, 4), word(1, 2), word(1, 2), word(44100, 4), word(88200, 4), word(2, 2), word(16, 2);
+    file << "data";
+    word(bytes, 4);
+    std::minstd_rand noise(1);
+    for (int n = 0; n < frames; ++n)
+        word(frames > 4096 ? static_cast<std::uint32_t>(noise()) & 0x3FFF : static_cast<std::uint32_t>(n * 16), 2);
+    std::string engine = path;
+    for (char& c : engine) c = c == '/' ? '\\' : c;
+    return engine;
+}
+
+struct Rig {
+    GrooveEngine engine;
+    std::vector<float> buffer = std::vector<float>(28 * kFrames);
+    std::array<float*, 28> out{};
+
+    Rig(int layers, float unison)
+    {
+        engine.ResetGroove();
+        engine.ResetEngine(static_cast<float>(kRate));
+        const std::string sample = SoundFile("noise", 441000), wave = SoundFile("saw", 2048);
+        for (int c = 0; c < kChannels; ++c) {
+            for (int n = 0; n < kSampleSlots; ++n) {
+                const bool used = n < kFirstLayerSlot || n < kFirstLayerSlot + layers;
+                engine.Channel(c).sampleSlots[static_cast<std::size_t>(n)].request.Post(!used ? "!"
+                                                                                        : n < kFirstLayerSlot
+                                                                                            ? wave.c_str()
+                                                                                            : sample.c_str());
+            }
+            engine.storedParams[c][slot::UnisonVoices] = unison;
+            engine.storedParams[c][slot::LayerPitch] = 0.3f;
+            engine.RefreshChannel(c);
+        }
+        for (std::size_t n = 0; n < out.size(); ++n) out[n] = &buffer[n * kFrames];
+        Block();
+    }
+
+    void Block() { engine.RenderFrames(out.data(), kFrames); }
+
+    void Notes(int perSampler, int perSynth)
+    {
+        for (int c = 0; c < kChannels; ++c)
+            for (int n = 0; n < (c < kSamplerChannels ? perSampler : perSynth); ++n)
+                engine.NoteOn(c, 50 + 3 * n, 0.0f, 1.0f);
+    }
+};
+
+void Report(benchmark::State& state)
+{
+    state.counters["of_real_time"] = benchmark::Counter(static_cast<double>(state.iterations()) * kFrames / kRate,
+                                                        benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
+/// 13 channels, 20 voices: one note on each sampler channel, a bass, a lead, three chords.
+void TypicalBlock(benchmark::State& state)
+{
+    Rig rig(1, 0.2f);
+    for (auto _ : state) {
+        if (!rig.engine.Channel(0).AnyVoiceActive()) {
+            state.PauseTiming();
+            rig.engine.ResetEngine(0.0f);
+            rig.Notes(1, 2);
+            rig.engine.NoteOn(8, 70, 0.0f, 1.0f);
+            rig.engine.NoteOn(9, 70, 0.0f, 1.0f);
+            state.ResumeTiming();
+        }
+        rig.Block();
+    }
+    Report(state);
+}
+
+/// 13 channels, 78 voices, four layers or sixteen-fold unison each.
+void HeaviestBlock(benchmark::State& state)
+{
+    Rig rig(4, 1.0f);
+    for (auto _ : state) {
+        if (!rig.engine.Channel(0).AnyVoiceActive()) {
+            state.PauseTiming();
+            rig.engine.ResetEngine(0.0f);
+            rig.Notes(6, 6);
+            state.ResumeTiming();
+        }
+        rig.Block();
+    }
+    Report(state);
+}
+
+void SilentBlock(benchmark::State& state)
+{
+    Rig rig(1, 0.0f);
+    for (auto _ : state) rig.Block();
+    Report(state);
+}
+
+/// A tick that starts a note on every channel.
+void Tick(benchmark::State& state)
+{
+    Rig rig(1, 0.0f);
+    rig.engine.TogglePlay();
+    for (int c = 0; c < kChannels; ++c)
+        for (int s = 0; s < kSteps; ++s) rig.engine.patterns[0]->steps[c][s] = 1u;
+    for (auto _ : state) rig.engine.SequencerTick(false);
+}
+
+BENCHMARK(SilentBlock);
+BENCHMARK(TypicalBlock);
+BENCHMARK(HeaviestBlock);
+BENCHMARK(Tick);
+
+} // namespace
+} // namespace korvane
