@@ -1,0 +1,88 @@
+// korvane-factory: computes the content that the instrument ships with. Argument: the bundle's folder.
+#include <cstdint>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "Grooves.h"
+#include "Kits.h"
+#include "WavFile.h"
+#include "Waves.h"
+
+namespace korvane::factory {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Writes files below the bundle and remembers whether every one could be written.
+class Bundle {
+public:
+    explicit Bundle(fs::path bundleRoot) : root(std::move(bundleRoot)) {}
+
+    fs::path Folder(const char* name)
+    {
+        fs::remove_all(root / name); // what an older build left is no content
+        fs::create_directories(root / name);
+        return root / name;
+    }
+    void Keep(bool written, const fs::path& path)
+    {
+        if (!written) std::fprintf(stderr, "korvane-factory: cannot write %s\n", path.c_str()), complete = false;
+    }
+    void Wav(const fs::path& folder, const char* name, const Sound& sound)
+    {
+        const fs::path path = folder / (std::string(name) + ".wav");
+        Keep(WriteWav(path.string(), sound), path);
+    }
+
+    fs::path root;
+    bool complete = true;
+};
+
+bool WriteImage(const fs::path& path, const std::vector<std::uint8_t>& image)
+{
+    std::ofstream file(path, std::ios::binary | std::ios::trunc);
+    file.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
+    return static_cast<bool>(file.flush());
+}
+
+std::vector<std::uint8_t> StateOf(const GrooveEngine& engine)
+{
+    std::vector<std::uint8_t> image(static_cast<std::size_t>(engine.SaveState(nullptr)));
+    engine.SaveState(image.data());
+    return image;
+}
+
+void WriteSounds(Bundle& bundle)
+{
+    const fs::path drums = bundle.Folder("Drum Samples"), waves = bundle.Folder("Synth Waves");
+    for (const OneShot& row : AllOneShots()) bundle.Wav(drums, row.name, Render(row));
+    for (const Cycle& cycle : AllCycles()) bundle.Wav(waves, cycle.name, Render(cycle));
+}
+
+void WriteGrooves(Bundle& bundle)
+{
+    for (const char* empty : {"Grooves", "Synth Programs", "Sampler Programs", "Parts"}) bundle.Folder(empty);
+    fs::create_directories(bundle.root / "Graphics");
+    GrooveEngine engine;
+    std::snprintf(engine.defaultWavePath, sizeof engine.defaultWavePath, "\\Saw.wav");
+    engine.ResetGroove();
+    DefaultGroove(engine);
+    bundle.Keep(WriteImage(bundle.root / "default.kvprj", StateOf(engine)), "default.kvprj");
+}
+
+} // namespace
+
+} // namespace korvane::factory
+
+int main(int count, char** arguments)
+{
+    if (count != 2) return std::fprintf(stderr, "usage: korvane-factory FOLDER\n"), 2;
+    korvane::factory::Bundle bundle(arguments[1]);
+    korvane::factory::WriteSounds(bundle);
+    korvane::factory::WriteGrooves(bundle);
+    return bundle.complete ? 0 : 1;
+}
