@@ -8,6 +8,7 @@
 
 #include "Grooves.h"
 #include "Kits.h"
+#include "Programs.h"
 #include "WavFile.h"
 #include "Waves.h"
 
@@ -63,13 +64,35 @@ void WriteSounds(Bundle& bundle)
     for (const Cycle& cycle : AllCycles()) bundle.Wav(waves, cycle.name, Render(cycle));
 }
 
+void ResetToBundle(GrooveEngine& engine)
+{
+    std::snprintf(engine.defaultWavePath, sizeof engine.defaultWavePath, "\\Saw.wav"); // wherever the bundle lies
+    engine.ResetGroove();
+}
+
+void WritePrograms(Bundle& bundle, const char* library, const char* extension, int channel,
+                   const std::vector<ProgramRow>& rows)
+{
+    const fs::path folder = bundle.Folder(library);
+    GrooveEngine engine;
+    ResetToBundle(engine);
+    for (const ProgramRow& row : rows) {
+        UseProgram(engine, channel, row.name);
+        std::vector<std::uint8_t> image(static_cast<std::size_t>(engine.SaveChannelChunk(nullptr, channel)));
+        engine.SaveChannelChunk(image.data(), channel);
+        const fs::path category = folder / row.folder;
+        fs::create_directories(category);
+        const fs::path path = category / (std::string(row.name) + extension);
+        bundle.Keep(WriteImage(path, image), path);
+    }
+}
+
 void WriteGrooves(Bundle& bundle)
 {
-    for (const char* empty : {"Grooves", "Synth Programs", "Sampler Programs", "Parts"}) bundle.Folder(empty);
+    for (const char* empty : {"Grooves", "Parts"}) bundle.Folder(empty);
     fs::create_directories(bundle.root / "Graphics");
     GrooveEngine engine;
-    std::snprintf(engine.defaultWavePath, sizeof engine.defaultWavePath, "\\Saw.wav");
-    engine.ResetGroove();
+    ResetToBundle(engine);
     DefaultGroove(engine);
     bundle.Keep(WriteImage(bundle.root / "default.kvprj", StateOf(engine)), "default.kvprj");
 }
@@ -83,6 +106,9 @@ int main(int count, char** arguments)
     if (count != 2) return std::fprintf(stderr, "usage: korvane-factory FOLDER\n"), 2;
     korvane::factory::Bundle bundle(arguments[1]);
     korvane::factory::WriteSounds(bundle);
+    korvane::factory::WritePrograms(bundle, "Synth Programs", ".kvsynth", korvane::kSamplerChannels,
+                                    korvane::factory::SynthPrograms());
+    korvane::factory::WritePrograms(bundle, "Sampler Programs", ".kvsmp", 0, korvane::factory::SamplerPrograms());
     korvane::factory::WriteGrooves(bundle);
     return bundle.complete ? 0 : 1;
 }
