@@ -70,8 +70,8 @@ float ChannelBlockDefault(int index, bool isSampler)
 
 void FormatDisplay(Display display, float v, char* buffer)
 {
-    const auto number = [buffer](const char* format, float value) {
-        std::snprintf(buffer, kTextBytes, format, static_cast<double>(value));
+    const auto number = [buffer](const char* format, double value) {
+        std::snprintf(buffer, kTextBytes, format, value);
     };
     const auto whole = [buffer](const char* format, float value, int plus = 0) {
         std::snprintf(buffer, kTextBytes, format, std::clamp(Truncate(value), -1000000, 1000000) + plus);
@@ -84,7 +84,9 @@ void FormatDisplay(Display display, float v, char* buffer)
     case Display::MixDb: number("%.1f dB", v * 80.0f - 60.0f); break;
     case Display::Pan: number("%.1f", (2.0f * v - 1.0f) * 100.0f); break;
     case Display::Semitones24: whole("%d", v * 48.0f - 24.0f); break;
-    case Display::Length: number("%.2f", std::pow(2.0f, 8.0f * v) * 0.125f); break;
+    case Display::Length: // an eighth shows as 0.13, where the library would round to even
+        number("%.2f", std::round(100.0 * static_cast<double>(std::pow(2.0f, 8.0f * v) * 0.125f)) / 100.0);
+        break;
     case Display::AmpDb: number("%.1f dB", v * 50.0f - 25.0f); break;
     case Display::Voices: whole("%d", v * 15.0f, 1); break;
     case Display::Semitones36: whole("%d", v * 72.0f - 36.0f); break;

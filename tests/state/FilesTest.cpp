@@ -8,11 +8,7 @@
 #include <memory>
 
 #include "Images.h"
-#include <unistd.h>
-
-#include "engine/KVSynth.h"
-#include "platform/Files.h"
-#include "shell/SMX_Def.h"
+#include "support/SynthRig.h"
 
 namespace korvane {
 
@@ -20,53 +16,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Write(const fs::path& path, const Bytes& bytes)
-{
-    fs::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
-}
-
 /// A mono 16-bit wave of one frame.
 constexpr char kWaveText[] = "RIFF\46\0\0\0WAVEfmt \20\0\0\0\1\0\1\0\104\254\0\0\210\130\1\0\2\0\20\0data\2\0\0\0\0";
 const Bytes kWave(kWaveText, kWaveText + sizeof kWaveText);
 
-struct Host : CPluginWrapper {
-    void ParameterAutomated(int, float) override { ++told; }
-    CPluginEditor* GetEditor() override { return nullptr; }
-    void BeginEdit(int) override {}
-    void EndEdit(int) override {}
-    int told = 0;
-};
-
-class Files : public testing::Test {
-protected:
-    Files()
-    {
-        fs::remove_all(root);
-        const std::string setting = "rootFolder=" + root.string();
-        Write(root / "Brassmoor/Korvane.conf", Bytes(setting.begin(), setting.end()));
-        setenv("XDG_CONFIG_HOME", root.c_str(), 1);
-        SMX_Def::Install();
-    }
-    ~Files() override { fs::remove_all(root); }
-
-    KVSynth& Synth()
-    {
-        if (!owned) owned = std::make_unique<KVSynth>(&host);
-        return *owned;
-    }
-    std::string Path(const char* name) const { return EnginePath((root / name).c_str()); }
-    void Send(std::uint8_t status, std::uint8_t data1, std::uint8_t data2 = 0)
-    {
-        Synth().QueueEvent(status, data1, data2, 0, 0);
-        Render();
-    }
-    void Render() { Synth().ProcessBlock(nullptr, nullptr, 64, true); }
-
-    const fs::path root = fs::path(testing::TempDir()) / ("korvane_state_files." + std::to_string(getpid()));
-    Host host;
-    std::unique_ptr<KVSynth> owned;
-};
+using Files = SynthTest;
 
 } // namespace
 
@@ -74,7 +28,7 @@ TEST_F(Files, GroovesNameTheGroove)
 {
     GrooveEngine engine;
     FillGroove(engine, 1);
-    Write(root / "default.kvprj", Saved(engine));
+    WriteBytes(root / "default.kvprj", Saved(engine));
     EXPECT_TRUE(Saved(*Synth().engine) == Saved(engine));
     EXPECT_EQ(TextOf(Synth().grooveName), "Default Groove");
     EXPECT_TRUE(Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str()));
@@ -98,8 +52,8 @@ TEST_F(Files, GroovesNameTheGroove)
 // The copies beside a groove are found again wherever both go; saving into the folder of the originals harms nothing.
 TEST_F(Files, SamplesTravelWithTheirGroove)
 {
-    Write(root / "F/Samples/kick.wav", kWave);
-    Write(root / "Synth Waves/Saw.wav", kWave);
+    WriteBytes(root / "F/Samples/kick.wav", kWave);
+    WriteBytes(root / "Synth Waves/Saw.wav", kWave);
     auto& slot = Synth().engine->Channel(0).sampleSlots[3];
     slot.request.Post(Path("F/Samples/kick.wav").c_str());
     Render();
@@ -161,8 +115,8 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
     Bytes program(4948);
     Synth().engine->SaveChannelChunk(program.data(), 8);
     for (const char* name : {"Synth Programs/A/1.kvsynth", "Synth Programs/A/2.kvsynth", "Sampler Programs/B/1.kvsmp"})
-        Write(root / name, program);
-    owned.reset();
+        WriteBytes(root / name, program);
+    Close();
     const auto loads = [this] { return std::exchange(host.told, 0) / 196; };
     loads();
     Send(0xC0, 0);

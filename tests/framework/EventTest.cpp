@@ -1,0 +1,227 @@
+// MIDI events, chunks and the program-switch handshake of the framework.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include "framework/CSynthesizer.h"
+#include "framework/KVProgram.h"
+#include "shell/SMX_Def.h"
+
+namespace korvane {
+namespace {
+
+using Log = std::vector<std::string>;
+
+/// Writes down what it is told.
+struct Listener : CSynthesizer {
+    Listener() : CSynthesizer(nullptr)
+    {
+        SMX_Def::Install();
+        AddProgram(std::make_unique<KVProgram>());
+    }
+    void NoteEvent(std::int8_t key, std::int8_t velocity) override { Say("note", key, velocity); }
+    void ControllerChanged(std::int8_t number) override
+    {
+        ++controllerCalls;
+        Say("cc", number, static_cast<int>(controllers[number] * 127.0 + 0.5));
+    }
+    void PitchBendChanged() override { Say("bend", static_cast<int>(pitchBend * 8191.5), 0); }
+    void ChannelPressureChanged() override { Say("pressure", static_cast<int>(channelPressure * 127.0 + 0.5), 0); }
+    void ProgramChangeReceived(int program) override { Say("program", program, 0); }
+    bool BankSelectReceived(int bank) override { return Say("bank", bank, 0), bank != 5; }
+    void ProcessMultiOut(float** inputs, float** outputs, int frames) override
+    {
+        Say("render", frames, 0);
+        if (outputs[0]) outputs[0][0] += 1.0f;
+        if (inputs[0]) seenInput = inputs[0];
+        while (stall) std::this_thread::yield();
+    }
+    void Say(const char* what, int a, int b)
+    {
+        log.push_back(std::string(what) + " " + std::to_string(a) + (b ? " " + std::to_string(b) : ""));
+    }
+    void Send(std::uint8_t status, std::uint8_t data1, std::uint8_t data2 = 0, int frame = 0)
+    {
+        QueueEvent(status, data1, data2, 0, frame);
+    }
+    Log Play(int frames)
+    {
+        log.clear();
+        ProcessBlock(nullptr, nullptr, frames, true);
+        return log;
+    }
+
+    Log log;
+    int controllerCalls = 0;
+    float* seenInput = nullptr;
+    std::atomic<bool> stall{false};
+};
+
+// A block is cut at every event and at 128 frames; what cannot be placed is lost, none waits for the next block.
+TEST(BlockSplitter, CutsTheBlockAtItsEvents)
+{
+    struct Case {
+        const char* what;
+        int frames;
+        std::vector<int> events;
+        Log log;
+    };
+    const Case cases[] = {
+        {"no event", 300, {}, {"render 128", "render 128", "render 44"}},
+        {"nothing to render", 0, {0}, {}},
+        {"at the start", 2, {0}, {"note 0 1", "render 2"}},
+        {"two on one frame", 100, {40, 40}, {"render 40", "note 0 1", "note 1 1", "render 60"}},
+        {"on a chunk's edge", 130, {128}, {"render 128", "note 0 1", "render 2"}},
+        {"on the last frame", 64, {63}, {"render 63", "note 0 1", "render 1"}},
+        {"at the end", 64, {64}, {"render 64"}},
+        {"far beyond", 64, {2000000000, 2000000000}, {"render 64"}},
+        {"out of order ends all", 100, {50, 20, 70}, {"render 50", "note 0 1", "render 50"}},
+        {"before the block", 10, {-3, 5}, {"render 10"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Listener synth;
+        for (std::size_t n = 0; n < c.events.size(); ++n)
+            synth.Send(0x93, static_cast<std::uint8_t>(n), 1, c.events[n]); // any channel
+        EXPECT_EQ(synth.Play(c.frames), c.log);
+        EXPECT_EQ(synth.Play(1), Log{"render 1"});
+    }
+}
+
+TEST(BlockSplitter, QueuesWhatItHoldsAndMasksIt)
+{
+    Listener synth;
+    for (int n = 0; n < 1100; ++n) synth.Send(0xA0, 1, 2);
+    synth.Send(0x90, 1, 1);
+    EXPECT_EQ(synth.Play(1), Log{"render 1"}) << "the note came too late for the queue";
+    synth.Send(0x95, 0xBC, 0xFF);
+    EXPECT_EQ(synth.Play(1), (Log{"note 60 127", "render 1"}));
+}
+
+TEST(Keys, HoldSustainAndRelease)
+{
+    Listener synth;
+    struct Case {
+        const char* what;
+        std::uint8_t status, data1, data2;
+        Log log;
+    };
+    const Case cases[] = {
+        {"on", 0x90, 60, 100, {"note 60 100"}},
+        {"again while it sounds", 0x90, 60, 50, {}},
+        {"off by velocity 0", 0x90, 60, 0, {"note 60"}},
+        {"off when silent", 0x80, 60, 9, {}},
+        {"low key", 0x90, 40, 10, {"note 40 10"}},
+        {"high key", 0x90, 90, 20, {"note 90 20"}},
+        {"middle key", 0x90, 70, 30, {"note 70 30"}},
+        {"pedal", 0xB0, 64, 65, {}},
+        {"sustained", 0x80, 90, 0, {}},
+        {"sustained too", 0x80, 40, 0, {}},
+        {"pedal up", 0xB0, 64, 64, {"note 40", "note 90"}},
+        {"pedal", 0xB0, 64, 127, {}},
+        {"all notes off waits for the pedal", 0xB0, 123, 0, {}},
+        {"pedal up", 0xB0, 64, 0, {"note 70"}},
+        {"on", 0x90, 5, 1, {"note 5 1"}},
+        {"all notes off", 0xB0, 123, 0, {"note 5"}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        synth.Send(c.status, c.data1, c.data2);
+        Log expected = c.log;
+        expected.push_back("render 1");
+        EXPECT_EQ(synth.Play(1), expected);
+    }
+}
+
+TEST(Controllers, ReachTheirNotification)
+{
+    Listener synth;
+    struct Case {
+        std::uint8_t status, data1, data2;
+        Log log;
+    };
+    const Case cases[] = {
+        {0xB0, 7, 127, {"cc 7 127"}},
+        {0xB0, 32, 4, {"bank 4"}},
+        {0xB0, 32, 5, {"bank 5", "cc 32 5"}}, // nobody took it
+        {0xE0, 0, 0, {"bend -8191"}},
+        {0xE0, 127, 127, {"bend 8191"}},
+        {0xD0, 64, 0, {"pressure 64"}},
+        {0xC0, 9, 0, {"program 9"}},
+        {0xA0, 9, 9, {}},
+        {0xF0, 1, 1, {}},
+    };
+    for (const Case& c : cases) {
+        synth.Send(c.status, c.data1, c.data2);
+        Log expected = c.log;
+        expected.push_back("render 1");
+        EXPECT_EQ(synth.Play(1), expected);
+    }
+    synth.controllerCalls = 0;
+    synth.controllers[20] = 0.5;
+    synth.Send(0xB0, 121, 0);
+    const Log log = synth.Play(1);
+    EXPECT_EQ(synth.controllerCalls, 128);
+    EXPECT_EQ(log.front(), "cc 0");
+    EXPECT_EQ(synth.controllers[7], 1.0);
+    EXPECT_EQ(synth.controllers[10], 0.5);
+    EXPECT_EQ(synth.controllers[20], 0.0);
+}
+
+// While a switch waits, blocks are skipped: silent in replacing mode, untouched else, and their events wait.
+TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
+{
+    Listener synth;
+    std::array<float, 64> buffer;
+    std::array<float*, 28> outputs{};
+    outputs[0] = buffer.data();
+    {
+        const CSynthesizer::ProgramSwitch exclusive(synth);
+        synth.Send(0x90, 60, 1);
+        for (bool replacing : {false, true}) {
+            buffer.fill(0.5f);
+            synth.ProcessBlock(nullptr, outputs.data(), 64, replacing);
+            EXPECT_EQ(buffer[63], replacing ? 0.0f : 0.5f);
+        }
+        EXPECT_EQ(synth.log, Log{});
+    }
+    EXPECT_EQ(synth.Play(2), (Log{"note 60 1", "render 2"}));
+
+    synth.stall = true;
+    std::thread audio([&] { synth.ProcessBlock(nullptr, outputs.data(), 64, true); });
+    while (buffer[0] != 1.0f) std::this_thread::yield();
+    std::atomic<bool> switched{false};
+    std::thread host([&] { synth.SetProgram(3), switched = true; });
+    std::this_thread::sleep_for(std::chrono::milliseconds(30));
+    EXPECT_FALSE(switched);
+    synth.stall = false;
+    audio.join();
+    host.join();
+    EXPECT_TRUE(switched);
+    EXPECT_EQ(synth.CurrentProgram(), 0);
+}
+
+TEST(Programs, AreNamedByIndex)
+{
+    Listener synth;
+    char name[256];
+    EXPECT_TRUE(synth.SetProgramName(-5, "first"));
+    EXPECT_FALSE(synth.SetProgramName(1, "none"));
+    EXPECT_FALSE(synth.SetProgramName(0, nullptr));
+    EXPECT_TRUE(synth.GetProgramName(0, name));
+    EXPECT_STREQ(name, "first");
+    EXPECT_FALSE(synth.GetProgramName(1, name));
+    EXPECT_TRUE(synth.SetProgramName(0, std::string(400, 'x').c_str()));
+    EXPECT_TRUE(synth.GetProgramName(0, name));
+    EXPECT_EQ(std::string(name), std::string(255, 'x'));
+    synth.SetTempo(0.5);
+    EXPECT_EQ(synth.tempo, 1.0);
+}
+
+} // namespace
+} // namespace korvane

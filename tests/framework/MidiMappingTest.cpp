@@ -1,0 +1,145 @@
+// Links from MIDI sources to parameters, pads, and the file in which links survive.
+#include <gtest/gtest.h>
+
+#include "framework/ParameterTable.h"
+#include "support/SynthRig.h"
+
+namespace korvane {
+namespace {
+
+class MidiMapping : public SynthTest {
+protected:
+    template <class Field>
+    static std::string TextOf(const Field& field)
+    {
+        char text[256];
+        field.Get(text);
+        return text;
+    }
+    void LinkTo(int parameter)
+    {
+        Synth().SetParameter(parameter, Synth().GetParameter(parameter));
+        Synth().Link(true);
+    }
+    int Sounding(int channel)
+    {
+        int notes = 0;
+        for (const auto& voice : Synth().engine->Channel(channel).voices) notes += voice->active && !voice->releasing;
+        return notes;
+    }
+};
+
+TEST_F(MidiMapping, LinksDriveParameters)
+{
+    KVSynth& synth = Synth();
+    synth.Link(true);
+    EXPECT_EQ(TextOf(synth.lastSourceText), "---");
+    EXPECT_EQ(TextOf(synth.lastParameterText), "---");
+
+    Send(0xB0, 7, 10);
+    EXPECT_EQ(TextOf(synth.lastSourceText), "CC 7");
+    LinkTo(80);
+    EXPECT_EQ(TextOf(synth.lastParameterText), "CHN: Mix Level");
+    host.told = 0;
+    Send(0xB0, 7, 127);
+    EXPECT_EQ(synth.GetParameter(80), 1.0f);
+    EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
+
+    Send(0xE0, 0, 0);
+    EXPECT_EQ(TextOf(synth.lastSourceText), "Pitch Wheel");
+    LinkTo(81);
+    Send(0xE0, 0, 0);
+    EXPECT_EQ(synth.GetParameter(81), -1.0f);
+    EXPECT_EQ(synth.engine->livePitchBend, -1.0f);
+
+    Send(0x90, 60, 127);
+    EXPECT_EQ(TextOf(synth.lastSourceText), "Key 60 Velocity");
+    LinkTo(92);
+    Send(0x80, 60, 0);
+    EXPECT_EQ(synth.GetParameter(92), 0.0f) << "a release writes 0";
+    Send(0x90, 60, 127);
+    EXPECT_EQ(synth.GetParameter(92), 1.0f);
+    synth.Link(false);
+    EXPECT_EQ(synth.links[129 + 60], -1);
+
+    Send(0xB0, 1, 127);
+    EXPECT_EQ(synth.engine->liveModWheel, 1.0f);
+    Send(0xD0, 127);
+    EXPECT_EQ(synth.engine->livePressure, 1.0f);
+}
+
+// A link that ignores its controller's value fires once per message.
+TEST_F(MidiMapping, PulsesFireTriggers)
+{
+    KVSynth& synth = Synth();
+    Send(0xE0, 1, 1);
+    LinkTo(param::FilterTypeSwitch);
+    synth.SetIgnoreValue(true);
+    EXPECT_EQ(synth.ignoreValue[128], 0) << "only controllers can be pulses";
+    synth.Link(false);
+    Send(0xB0, 20, 0);
+    LinkTo(param::FilterTypeSwitch);
+    synth.SetIgnoreValue(true);
+    for (const float expected : {0.5f, 1.0f, 0.0f}) {
+        Send(0xB0, 20, 64);
+        EXPECT_EQ(synth.GetParameter(95), expected);
+    }
+    synth.Link(false);
+    EXPECT_EQ(synth.ignoreValue[20], 0);
+}
+
+// Two octaves press the pads at the key's velocity; every other key plays the selected channel.
+TEST_F(MidiMapping, KeysPlayPadsAndNotes)
+{
+    KVSynth& synth = Synth();
+    GrooveEngine& engine = *synth.engine;
+    Send(0x90, 48, 100);
+    EXPECT_TRUE(engine.stepHeld[0]);
+    EXPECT_EQ(engine.liveVelocity, 100 / 127.0f);
+    EXPECT_EQ(synth.GetParameter(param::Step1), 100 / 127.0f);
+    Send(0x90, 71, 127), Send(0x90, 72, 127), Send(0x90, 47, 127);
+    EXPECT_TRUE(engine.stepHeld[23]);
+    EXPECT_EQ(Sounding(8), 4);
+    for (std::uint8_t key : {47, 48, 71, 72}) Send(0x80, key);
+    EXPECT_EQ(Sounding(8), 0);
+    synth.SetParameter(param::Step1 + 2, 1.0f);
+    EXPECT_EQ(engine.liveVelocity, 1.0f) << "pads of host and editor sound at full velocity";
+}
+
+TEST_F(MidiMapping, LinksSurviveInTheirFile)
+{
+    Send(0xB0, 7, 10);
+    LinkTo(80);
+    Synth().SetIgnoreValue(true);
+    Close();
+    std::vector<std::uint8_t> file = ReadBytes(root / "linkmap");
+    ASSERT_EQ(file.size(), 771u);
+    EXPECT_EQ(file[14], 0x50);
+    EXPECT_EQ(file[15], 0x00);
+    EXPECT_EQ(file[16], 0xFF);
+    EXPECT_EQ(file[514 + 7], 1);
+    Send(0xB0, 7, 127);
+    EXPECT_EQ(Synth().links[7], 80);
+    EXPECT_EQ(Synth().ignoreValue[7], 1);
+    Close();
+    EXPECT_EQ(ReadBytes(root / "linkmap"), file);
+
+    // Any size, any content: what is there is taken, what points nowhere moves nothing.
+    for (std::size_t size : {0, 1, 15, 16, 514, 520, 771, 5000}) {
+        SCOPED_TRACE(size);
+        std::vector<std::uint8_t> wild(size, 0x7E);
+        WriteBytes(root / "linkmap", wild);
+        EXPECT_EQ(Synth().links[7], size < 16 ? -1 : 0x7E7E);
+        EXPECT_EQ(Synth().ignoreValue[200], size < 771 ? 0 : 0x7E);
+        for (std::uint8_t n = 0; n < 128; ++n) Send(0xB0, n, n), Send(0x90, n, 100), Send(0xE0, n, n);
+        Close();
+    }
+    std::filesystem::remove(root / "linkmap");
+    std::filesystem::create_directory(root / "linkmap"); // cannot be written: no error
+    Close();
+    Synth();
+    Close();
+}
+
+} // namespace
+} // namespace korvane
