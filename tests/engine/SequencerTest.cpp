@@ -1,0 +1,267 @@
+// The step sequencer and its buttons.
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cmath>
+#include <vector>
+
+#include "engine/GrooveEngine.h"
+#include "framework/ParameterTable.h"
+
+namespace korvane {
+namespace {
+
+struct Sequencer : testing::Test {
+    GrooveEngine engine;
+    std::array<float*, 28> nobody{};
+
+    Sequencer()
+    {
+        engine.ResetGroove();
+        engine.ResetEngine(44100.0f);
+        Run(0);
+    }
+    void Run(int frames)
+    {
+        do engine.RenderFrames(nobody.data(), std::min(frames, 128));
+        while ((frames -= 128) > 0);
+    }
+    /// Renders until the next regular tick has been taken.
+    void NextStep()
+    {
+        while (engine.samplesToNextStep >= 1.0) Run(1);
+        Run(1);
+    }
+    Shared<std::uint32_t>& Step(int channel, int step, int pattern = 0)
+    {
+        return engine.patterns[static_cast<std::size_t>(pattern)]->steps[channel][step];
+    }
+    StepLockList& Locks(int channel, int step) { return engine.patterns[0]->locks[channel][step]; }
+    void Click(int button) { engine.StepButton(button), engine.StepButtonRelease(button); }
+    void Tap(int channel) { engine.ChannelPress(channel), engine.ChannelRelease(channel); }
+    int Sounding(int channel) const
+    {
+        int count = 0;
+        for (const auto& voice : engine.Channel(channel).voices) count += voice->active && !voice->releasing;
+        return count;
+    }
+    std::vector<int> Steps(int count)
+    {
+        std::vector<int> steps;
+        for (; count > 0; --count) NextStep(), steps.push_back(engine.patternStep);
+        return steps;
+    }
+};
+
+TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
+{
+    for (const auto& [step, length] :
+         {std::pair{0, 16}, {15, 16}, {16, 32}, {40, 64}, {63, 64}, {64, 128}, {127, 128}}) {
+        Step(12, step) = 1u;
+        engine.Pattern().UpdateLength();
+        EXPECT_EQ(engine.Pattern().length, length);
+    }
+    engine.Pattern().Clear();
+    EXPECT_EQ(engine.Pattern().length, 16);
+}
+
+// A step's locks hold from its tick until the channel's next step; a chord stops the chord before.
+TEST_F(Sequencer, PlaysChordsWithTheirLocks)
+{
+    Step(9, 0) = 0x91u, Step(9, 2) = 0x800000u;
+    Locks(9, 0).Append(slot::FilterCutoff, -0.25f);
+    Locks(9, 0).Append(-4, 0.5f), Locks(9, 0).Append(400, 0.5f);
+    engine.storedParams[9][slot::NoteLength] = 0.9f;
+    engine.TogglePlay();
+    NextStep();
+    EXPECT_EQ(Sounding(9), 3);
+    EXPECT_EQ(engine.Channel(9).params[slot::FilterCutoff], 0.75f);
+    NextStep();
+    EXPECT_EQ(engine.Channel(9).params[slot::FilterCutoff], 0.75f);
+    NextStep();
+    EXPECT_EQ(engine.Channel(9).params[slot::FilterCutoff], 1.0f);
+    EXPECT_EQ(Sounding(9), 1);
+    engine.TogglePlay();
+    EXPECT_EQ(Sounding(9), 0);
+    EXPECT_EQ(engine.lastStep[9], -1);
+}
+
+TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
+{
+    Step(0, 17) = 2u;   // pattern 0 has two bars
+    Step(0, 0, 3) = 1u; // pattern 3 one
+    engine.TogglePlay();
+    EXPECT_EQ(Steps(3), (std::vector<int>{0, 1, 2}));
+    engine.selectedBar = 1, engine.playBar = true;
+    EXPECT_EQ(Steps(2), (std::vector<int>{19, 20}));
+    engine.playBar = false;
+    engine.playOnce[3] = true;
+    engine.SelectPattern(3);
+    EXPECT_EQ(engine.nextPattern, 0);
+    EXPECT_EQ(Steps(11).back(), 15);
+    EXPECT_EQ(engine.currentPattern, 3);
+    EXPECT_EQ(Steps(1).front(), 16) << "back in pattern 0, where the song stands";
+    EXPECT_EQ(engine.currentPattern, 0);
+    EXPECT_EQ(Steps(15).back(), 31);
+    engine.SelectPattern(3); // on its last step: one more tick before it may return
+    EXPECT_EQ(engine.patternRepeats, 1);
+    Steps(1);
+    EXPECT_EQ(engine.currentPattern, 3);
+    Steps(15);
+    EXPECT_EQ(engine.currentPattern, 3);
+    Steps(1);
+    EXPECT_EQ(engine.currentPattern, 0);
+}
+
+// Edit mode: a sampler's steps go on, edited, off; a synth's step takes a chord; bars are marked.
+TEST_F(Sequencer, EditsSteps)
+{
+    Tap(0);
+    engine.ToggleEdit();
+    Click(5);
+    EXPECT_EQ(Step(0, 5), 0x20u);
+    EXPECT_EQ(engine.editStep, -1);
+    Click(5);
+    EXPECT_EQ(engine.editStep, 5);
+    Locks(0, 5).Set(12, 0.5f);
+    Click(5);
+    EXPECT_EQ(Step(0, 5), 0u);
+    EXPECT_EQ(Locks(0, 5).Count(), 0);
+    EXPECT_EQ(engine.editStep, -1);
+    Click(18);
+    EXPECT_EQ(engine.selectedBar, 2);
+    EXPECT_EQ(engine.selectedBarMark, 2);
+    Click(18);
+    EXPECT_EQ(engine.selectedBarMark, -1);
+    EXPECT_EQ(engine.selectedBar, 2);
+
+    Tap(8);
+    EXPECT_TRUE(engine.channelMarked[8]);
+    Click(3);
+    EXPECT_EQ(engine.editStep, 3);
+    EXPECT_FALSE(engine.channelMarked[8]);
+    Click(0), Click(7), Click(23), Click(7);
+    EXPECT_EQ(Step(8, 2 * 16 + 3), 0x800001u);
+    engine.Forward();
+    EXPECT_EQ(engine.editStep, 4);
+    engine.editStep = 15;
+    engine.Forward();
+    EXPECT_EQ(engine.editStep, 0);
+    EXPECT_EQ(engine.selectedBar, 3);
+    engine.Back();
+    EXPECT_EQ(engine.editStep, 15);
+    EXPECT_EQ(engine.selectedBar, 2);
+    engine.ToggleEdit();
+    EXPECT_EQ(engine.editStep, -1);
+}
+
+TEST_F(Sequencer, CopiesPastesAndClears)
+{
+    Step(8, 1) = 5u, Locks(8, 1).Set(3, 0.25f), Step(0, 1) = 2u, Step(2, 20) = 16u;
+    engine.ToggleEdit();
+    engine.editStep = 1;
+    engine.Copy();
+    engine.selectedBar = 4, engine.editStep = 7;
+    engine.channelMarked[0] = engine.channelMarked[3] = true;
+    engine.Paste();
+    EXPECT_EQ(Step(8, 71), 5u);
+    EXPECT_EQ(Locks(8, 71).Offset(3), 0.25f);
+    EXPECT_EQ(Step(0, 71), 128u) << "a sampler's step has its own bit";
+    EXPECT_EQ(Step(3, 71), 128u) << "on even when the copied one was not";
+    EXPECT_EQ(engine.editStep, -1);
+    engine.SelectPattern(5);
+    engine.Paste();
+    EXPECT_EQ(Step(2, 20, 5), 16u);
+    EXPECT_EQ(engine.selectedPatternMark, -1);
+    engine.selectedBar = 0, engine.Copy();
+    Click(16 + 6);
+    engine.Paste();
+    EXPECT_EQ(Step(8, 97), 5u);
+    engine.Clear();
+    EXPECT_EQ(Step(8, 97), 0u);
+    EXPECT_EQ(Step(8, 71), 5u);
+    engine.channelMarked[8] = true;
+    engine.Clear();
+    EXPECT_EQ(Step(8, 71) + Step(8, 1), 0u);
+    EXPECT_EQ(Step(0, 1), 2u);
+}
+
+TEST_F(Sequencer, NudgesHeldSteps)
+{
+    Tap(1);
+    Step(1, 0) = 1u, Step(1, 1) = 2u, Step(1, 15) = 0x8000u, Locks(1, 1).Set(5, 0.5f);
+    engine.stepHeld[1] = engine.stepHeld[15] = true;
+    engine.Forward();
+    EXPECT_EQ(Step(1, 2), 4u);
+    EXPECT_EQ(Locks(1, 2).Offset(5), 0.5f);
+    EXPECT_EQ(Step(1, 1), 0u);
+    EXPECT_EQ(Step(1, 15), 0x8000u) << "the bar's edge holds it";
+    engine.stepHeld[1] = engine.stepHeld[15] = false;
+    engine.stepHeld[0] = true;
+    engine.Back();
+    EXPECT_EQ(Step(1, 0), 1u);
+    engine.stepHeld[0] = false;
+    engine.Forward();
+    EXPECT_EQ(engine.selectedBar, 1) << "nothing held: the bar moves";
+}
+
+TEST_F(Sequencer, ChannelButtonsSelectHoldAndMute)
+{
+    Tap(3);
+    EXPECT_EQ(engine.selectedChannel, 3);
+    engine.SetMuteModifier(true), engine.SetMuteModifier(false);
+    EXPECT_TRUE(engine.muted[3]) << "the modifier alone mutes the selected channel";
+    engine.ChannelPress(5);
+    engine.SetMuteModifier(true), engine.SetMuteModifier(false);
+    EXPECT_TRUE(engine.muted[5]);
+    EXPECT_TRUE(engine.muted[3]);
+    engine.ChannelRelease(5);
+    EXPECT_EQ(engine.selectedChannel, 3) << "it was held to be muted";
+    Tap(5);
+    EXPECT_EQ(engine.selectedChannel, 5);
+    engine.SetFxButton(4, true);
+    EXPECT_EQ(engine.selectedFx, 4);
+    engine.SetFxButton(2, true);
+    EXPECT_EQ(engine.selectedFx, 4);
+}
+
+// A press in the second half of a step belongs to the next one and is not played twice.
+TEST_F(Sequencer, RecordsWhatIsPlayed)
+{
+    engine.TogglePlay();
+    engine.ToggleRecord();
+    NextStep();
+    Run(100);
+    engine.StepButton(7);
+    EXPECT_EQ(Step(8, 0), 0x80u);
+    Run(22050 - 101 - 1);
+    engine.StepButtonRelease(7);
+    EXPECT_NEAR(Locks(8, 0).Offset(slot::NoteLength), 0.375f - 0.44444445f, 1e-3f) << "one beat";
+    NextStep();
+    Run(4000);
+    const int next = (engine.patternStep + 1) % 16;
+    engine.StepButton(2);
+    EXPECT_EQ(Step(8, next), 4u);
+    EXPECT_EQ(engine.playedThisStep[8], 4u);
+    EXPECT_EQ(Sounding(8), 1);
+    NextStep();
+    EXPECT_EQ(Sounding(8), 1);
+    engine.SelectPattern(1);
+    EXPECT_FALSE(engine.recordMode);
+    EXPECT_TRUE(engine.playing) << "recording had begun while it played";
+}
+
+// Outside edit mode a sampler's buttons play the channels that own them, else the selected one.
+TEST_F(Sequencer, PadsPlayTheirChannels)
+{
+    Tap(2);
+    for (const auto& [button, channel] : {std::pair{12, 0}, {23, 7}, {13, 2}}) {
+        auto& slot = engine.Channel(channel).voices[5]->note;
+        engine.StepButton(button);
+        EXPECT_EQ(slot, 48 + button);
+        engine.StepButtonRelease(button);
+    }
+}
+
+} // namespace
+} // namespace korvane
