@@ -33,9 +33,9 @@ struct PluginTest : testing::Test {
     /// 64 frames of half scale: a sound whose first frame is not silent and that ends before the next step.
     std::string Click() const
     {
-        const std::uint8_t header[] = {'R', 'I', 'F', 'F', 164, 0, 0, 0, 'W', 'A', 'V', 'E', 'f', 'm', 't',
-                                       ' ', 16,  0,   0,   0,   1, 0, 1, 0,   0x44, 0xAC, 0, 0, 0x88, 0x58,
-                                       1,   0,   2,   0,   16,  0, 'd', 'a', 't', 'a', 128, 0, 0, 0};
+        const std::uint8_t header[] = {'R', 'I', 'F', 'F', 164, 0, 0,   0,   'W', 'A',  'V',  'E', 'f', 'm',  't',
+                                       ' ', 16,  0,   0,   0,   1, 0,   1,   0,   0x44, 0xAC, 0,   0,   0x88, 0x58,
+                                       1,   0,   2,   0,   16,  0, 'd', 'a', 't', 'a',  128,  0,   0,   0};
         std::ofstream file(folder / "click.wav", std::ios::binary);
         file.write(reinterpret_cast<const char*>(header), sizeof header);
         for (int n = 0; n < 64; ++n) file.write("\x00\x40", 2);
@@ -156,7 +156,8 @@ TEST_F(PluginTest, SurvivesOddHosts)
         }
         host.Render(0);
         host.Render(65536);
-        for (int n = 0; n < 3000; ++n) host.QueueMidi(n % 7 * 100 - 200, static_cast<std::uint8_t>(n), static_cast<std::uint8_t>(3 * n), 255);
+        for (int n = 0; n < 3000; ++n)
+            host.QueueMidi(n % 7 * 100 - 200, static_cast<std::uint8_t>(n), static_cast<std::uint8_t>(3 * n), 255);
         host.Render(129);
     }
 }
@@ -167,7 +168,8 @@ TEST_F(PluginTest, ExportsItsEntriesOnly)
     std::FILE* list = popen(("nm -D --defined-only --format=posix '" + kPlugin + "'").c_str(), "r");
     ASSERT_TRUE(list);
     std::set<std::string> names;
-    for (char line[512]; std::fgets(line, sizeof line, list);) names.insert(std::string(line, std::strcspn(line, " \n")));
+    for (char line[512]; std::fgets(line, sizeof line, list);)
+        names.insert(std::string(line, std::strcspn(line, " \n")));
     pclose(list);
     EXPECT_EQ(names, (std::set<std::string>{"DllMain", "VSTPluginMain", "main"}));
 }
