@@ -174,20 +174,17 @@ MidiFile::MidiFile(const std::string& path)
     lengthSeconds = seconds(ticks.last);
 }
 
-double MidiFile::TempoAt(double seconds) const
+const TempoChange& MidiFile::At(double seconds) const
 {
-    double bpm = 120.0;
-    for (const TempoChange& change : tempi)
-        if (change.seconds <= seconds) bpm = change.bpm;
-    return bpm;
+    const auto later = std::upper_bound(tempi.begin() + 1, tempi.end(), seconds,
+                                        [](double time, const TempoChange& change) { return time < change.seconds; });
+    return *(later - 1);
 }
 
 double MidiFile::QuartersAt(double seconds) const
 {
-    const TempoChange* last = &tempi.front();
-    for (const TempoChange& change : tempi)
-        if (change.seconds <= seconds) last = &change;
-    return last->quarters + (seconds - last->seconds) * last->bpm / 60.0;
+    const TempoChange& last = At(seconds);
+    return last.quarters + (seconds - last.seconds) * last.bpm / 60.0;
 }
 
 } // namespace korvane::render

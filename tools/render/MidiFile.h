@@ -23,11 +23,14 @@ struct MidiFile {
     explicit MidiFile(const std::string& path);
 
     double QuartersAt(double seconds) const;
-    double TempoAt(double seconds) const;
+    double TempoAt(double seconds) const { return At(seconds).bpm; } // beats per minute
 
     std::vector<MidiMessage> messages; // in time
     std::vector<TempoChange> tempi;    // in time, the first at 0
     double lengthSeconds = 0.0;
+
+private:
+    const TempoChange& At(double seconds) const;
 };
 
 } // namespace korvane::render
