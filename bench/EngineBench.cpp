@@ -70,7 +70,7 @@ struct Rig {
     {
         for (int c = 0; c < kChannels; ++c)
             for (int n = 0; n < (c < kSamplerChannels ? perSampler : perSynth); ++n)
-                engine.NoteOn(c, 50 + 3 * n, 0.0f, 1.0f);
+                engine.NoteOn(c, 50 + 3 * n, 1.0f);
     }
 };
 
@@ -89,8 +89,8 @@ void TypicalBlock(benchmark::State& state)
             state.PauseTiming();
             rig.engine.ResetEngine(0.0f);
             rig.Notes(1, 2);
-            rig.engine.NoteOn(8, 70, 0.0f, 1.0f);
-            rig.engine.NoteOn(9, 70, 0.0f, 1.0f);
+            rig.engine.NoteOn(8, 70, 1.0f);
+            rig.engine.NoteOn(9, 70, 1.0f);
             state.ResumeTiming();
         }
         rig.Block();

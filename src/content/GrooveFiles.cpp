@@ -126,7 +126,9 @@ std::int32_t KVSynth::GetProgramChunk(void* buffer)
         sizedChunk = std::move(image);
         return sizedChunk.size;
     }
-    const Image& given = sizedChunk.size > 0 && image.size > sizedChunk.size ? sizedChunk : image;
+    const Image sized = std::move(sizedChunk);
+    sizedChunk = {};
+    const Image& given = sized.size > 0 && image.size > sized.size ? sized : image;
     if (given.size > 0) std::memcpy(buffer, given.bytes.get(), static_cast<std::size_t>(given.size));
     return given.size;
 }

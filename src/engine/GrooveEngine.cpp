@@ -2,6 +2,7 @@
 #include "engine/GrooveEngine.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
 
 #include "framework/ParameterTable.h"
@@ -32,7 +33,9 @@ void Fill(Shared<T> (&values)[kCount], V value)
 
 } // namespace
 
-GrooveEngine::GrooveEngine() : samplePool(std::make_unique<SamplePool>()), clipboard(std::make_unique<GroovePattern>())
+GrooveEngine::GrooveEngine(const Shared<std::thread::id>* newBlockThread)
+    : samplePool(std::make_unique<SamplePool>()), clipboard(std::make_unique<GroovePattern>()),
+      blockThread(newBlockThread)
 {
     clipboard->Clear();
     for (auto& pattern : patterns) {
@@ -121,12 +124,22 @@ void GrooveEngine::SetExtControl(int n, float value)
 
 void GrooveEngine::RefreshChannel(int channel)
 {
-    float block[kChannelSlots];
-    std::copy(std::begin(storedParams[channel]), std::end(storedParams[channel]), block);
-    const int step = lastStep[channel];
-    if (playing && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
-    for (int n = 0; n < kChannelSlots; ++n)
-        Channel(channel).params[n] = std::isfinite(block[n]) ? block[n] : 0.0f; // wild values stay in the stored block
+    const auto& stored = storedParams[channel];
+    const auto moved = [&stored](const float* seen) {
+        for (int n = 0; n < kChannelSlots; ++n)
+            if (std::bit_cast<std::uint32_t>(static_cast<float>(stored[n])) != std::bit_cast<std::uint32_t>(seen[n]))
+                return true;
+        return false;
+    };
+    float seen[kChannelSlots], block[kChannelSlots];
+    do { // another thread's write must not be lost under this copy
+        std::copy(std::begin(stored), std::end(stored), seen);
+        std::copy(std::begin(seen), std::end(seen), block);
+        const int step = lastStep[channel];
+        if (playing && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
+        for (int n = 0; n < kChannelSlots; ++n)
+            Channel(channel).params[n] = std::isfinite(block[n]) ? block[n] : 0.0f; // wild values stay in `stored`
+    } while (moved(seen));
     RefreshFxActive(channel);
 }
 
@@ -225,6 +238,7 @@ void GrooveEngine::ResetSelectedChannel()
 
 void GrooveEngine::ResetEngine(float newRate)
 {
+    for (VoiceCommand dropped; voiceCommands.Pop(dropped);) {} // their notes would end here
     hostPosition = 0.0;
     clickPhase = clickLevel = clickIncrement = 0.0f;
     if (newRate != 0.0f) sampleRate = static_cast<double>(newRate);

@@ -22,11 +22,12 @@ namespace korvane {
 ///
 /// Threads: RenderFrames and what it calls belong to the audio thread. The operations of buttons and parameters may be
 /// called from any thread: they touch shared values only, and notes that they start or release reach the voices
-/// through `voiceCommands` unless the caller is the audio thread. ResetGroove, LoadState, LoadPart, LoadChannelChunk
+/// through `voiceCommands` unless the caller is inside a block. ResetGroove, LoadState, LoadPart, LoadChannelChunk
 /// and ResetEngine replace whole states and run under the program-switch handshake.
 class GrooveEngine {
 public:
-    GrooveEngine();
+    /// blockThread  the thread inside a block, nobody's id between blocks; null where one thread does everything
+    explicit GrooveEngine(const Shared<std::thread::id>* blockThread = nullptr);
     ~GrooveEngine();
 
     // Parameters. A base is a channel parameter index before banking.
@@ -75,10 +76,9 @@ public:
     void TogglePlay();
     void ToggleRecord();
 
-    // Notes. Any thread; executed at once on the audio thread, else at the start of its next run.
+    // Live notes, and releases. Any thread; executed at once inside a block, else at the start of the next one.
 
-    /// tempo  0 for a live note; sequenced notes come from the audio thread only
-    void NoteOn(int channel, int note, float noteTempo, float velocity);
+    void NoteOn(int channel, int note, float velocity);
     void ReleaseNote(int channel, int note);
     void ReleaseLive(int channel);
     void ReleaseSequenced();
@@ -121,7 +121,8 @@ public:
     }
     GrooveChannel& Channel(int c) { return *channels[static_cast<std::size_t>(c)]; }
     const GrooveChannel& Channel(int c) const { return *channels[static_cast<std::size_t>(c)]; }
-    bool OnAudioThread() const { return audioThread == std::this_thread::get_id(); }
+    /// Voices may be touched by whoever asks.
+    bool InBlock() const { return !blockThread || *blockThread == std::this_thread::get_id(); }
 
     std::unique_ptr<SamplePool> samplePool;
     RandomGenerator random;
@@ -188,13 +189,16 @@ public:
     std::array<std::unique_ptr<GrooveChannel>, kChannels> channels;
 
     VoiceCommands voiceCommands;
-    Shared<std::thread::id> audioThread; // the thread that rendered last
 
 private:
+    const Shared<std::thread::id>* const blockThread;
+
     void MixChannels(float* const* outputs, int frames);
     void MixStrip(int channel, float* const* outputs, int frames);
     void AddMetronome(float* left, float* right, int frames);
+    void Command(const VoiceCommand& command);
     void ExecuteVoiceCommands();
+    void Execute(const VoiceCommand& command);
     void AdvancePosition();
     void PlayStep(int channel, bool late, bool recording);
     void ClearMarks();

@@ -13,7 +13,7 @@ namespace korvane {
 
 namespace {
 
-constexpr double kMaxTempo = 9999.0; // faster clocks could not advance by a frame per step
+constexpr double kFastestTempo = 15.0; // times the sample rate: a step of one frame
 
 } // namespace
 
@@ -23,9 +23,9 @@ KVSynth::KVSynth(CPluginWrapper* bridge) : CSynthesizer(bridge)
     program->InitDefaults();
     AddProgram(std::move(program));
 
-    folders = ContentFolders::Find(Definition() ? Definition()->hostKind : 0);
+    folders = ContentFolders::Find(Definition() ? static_cast<int>(Definition()->hostKind) : host::Unknown);
     LastSampleFolder().Set(folders.drumSamples);
-    engine = std::make_unique<GrooveEngine>();
+    engine = std::make_unique<GrooveEngine>(&blockThread);
     SamplePool& pool = *engine->samplePool;
     std::snprintf(pool.sampleFolder, sizeof pool.sampleFolder, "%s", folders.drumSamples);
     std::snprintf(pool.waveFolder, sizeof pool.waveFolder, "%s", folders.synthWaves);
@@ -41,8 +41,6 @@ KVSynth::KVSynth(CPluginWrapper* bridge) : CSynthesizer(bridge)
     waveforms->Scan(folders.synthWaves);
 
     for (auto& link : links) link = std::int16_t{-1};
-    lastSourceText.Set("---");
-    lastParameterText.Set("---");
     ReadLinkMap();
     LoadDefaultGroove();
 }
@@ -57,12 +55,13 @@ void KVSynth::ProcessMultiOut(float**, float** outputs, int frames)
 
 void KVSynth::FollowHost()
 {
-    engine->tempo = static_cast<float>(Clamp(static_cast<double>(tempo), 1.0, kMaxTempo));
+    engine->tempo = static_cast<float>(Clamp<double>(tempo, 1.0, kFastestTempo * engine->sampleRate));
     engine->hostPosition = static_cast<double>(songPosition);
 }
 
 void KVSynth::SetPlaying(bool running)
 {
+    const BetweenBlocks exclusive(*this);
     FollowHost();
     if (engine->playing) {
         if (engine->recordMode) engine->ToggleRecord();
@@ -121,11 +120,14 @@ float KVSynth::GetParameter(int index)
     case param::EnvelopeNumber: return engine->envelopeNumber;
     case param::LfoNumber: return engine->lfoNumber;
     case param::LayerNumber: return static_cast<float>(engine->layerNumber) / 3.0f;
+    case param::Stutter1_4: return flag(engine->stutterButtons.Held(4));
     case param::EngineFlag: return flag(engine->muteModifier);
     default: break;
     }
     if (index >= param::Enable1 && index < param::Enable1 + kChannels)
         return flag(!engine->muted[index - param::Enable1]);
+    if (index >= param::Stutter1_1 && index < param::Stutter1_1 + 4)
+        return flag(engine->stutterButtons.Held(index - param::Stutter1_1));
     if (index >= param::Ext1 && index < param::Ext1 + kExtControls)
         return engine->extControls[index - param::Ext1].value;
     return CSynthesizer::GetParameter(index); // what the program stores
@@ -142,10 +144,8 @@ bool KVSynth::Edge(int index, bool on)
 void KVSynth::ParameterChanged(int index, float value)
 {
     if (index < 0 || index >= param::Count) return;
+    const BetweenBlocks exclusive(*this);
     lastParameter = index;
-    char name[256] = "";
-    GetParameterName(index, name);
-    lastParameterText.Set(name);
     if (!keyTrigger) engine->liveVelocity = 1.0f;
 
     const ParameterInfo& info = kParameters[static_cast<std::size_t>(index)];

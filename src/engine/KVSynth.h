@@ -52,6 +52,9 @@ public:
     void Link(bool link);
     /// Marks the last source, a controller linked to the last parameter, as one whose value is ignored.
     void SetIgnoreValue(bool on);
+    /// What was touched last, as the editor shows it; "---" when nothing was. The buffer has 256 bytes.
+    void GetLastSourceText(char* buffer) const;
+    void GetLastParameterText(char* buffer);
 
     // Groove, part and program files. Paths use backslashes. Not from the audio thread, except LoadProgramFile.
 
@@ -74,7 +77,6 @@ public:
     Shared<std::int16_t> links[kSources];       // parameter 0..195, -1 none
     Shared<std::uint8_t> ignoreValue[kSources]; // 1: the link sends 1.0 and then 0.0 instead of the value
     Shared<std::int32_t> lastSource = -1, lastParameter = -1;
-    SharedText<256> lastSourceText, lastParameterText;
 
 private:
     void FollowHost(); // tempo and position into the engine core
@@ -87,7 +89,6 @@ private:
     void LoadDefaultGroove();
     void ReadLinkMap();
     void WriteLinkMap();
-    void SourceTouched(int source, const char* format, int number);
     bool Edge(int index, bool on); // whether the on/off state changed; always false for internal parameters
     void RefreshEditor();
 

@@ -17,12 +17,24 @@ constexpr std::size_t kLinkMapBytes = kLinkBytes + KVSynth::kSources;
 
 } // namespace
 
-void KVSynth::SourceTouched(int source, const char* format, int number)
+void KVSynth::GetLastSourceText(char* buffer) const
 {
-    char text[256];
-    std::snprintf(text, sizeof text, format, number);
-    lastSource = source;
-    lastSourceText.Set(text);
+    const int source = lastSource;
+    if (source < 0)
+        std::strcpy(buffer, "---");
+    else if (source < kPitchWheel)
+        std::snprintf(buffer, 256, "CC %d", source);
+    else if (source == kPitchWheel)
+        std::strcpy(buffer, "Pitch Wheel");
+    else
+        std::snprintf(buffer, 256, "Key %d Velocity", source - kFirstKeySource);
+}
+
+void KVSynth::GetLastParameterText(char* buffer)
+{
+    const int parameter = lastParameter;
+    std::strcpy(buffer, "---");
+    if (parameter >= 0) GetParameterName(parameter, buffer);
 }
 
 void KVSynth::NoteEvent(std::int8_t key, std::int8_t velocity)
@@ -31,7 +43,7 @@ void KVSynth::NoteEvent(std::int8_t key, std::int8_t velocity)
     const float value = static_cast<float>(velocity) / 127.0f;
     if (velocity > 0) {
         engine->liveVelocity = value;
-        SourceTouched(kFirstKeySource + key, "Key %d Velocity", key);
+        lastSource = kFirstKeySource + key;
     }
     const int linked = links[kFirstKeySource + key];
     const int pad = key - kFirstNote;
@@ -50,7 +62,7 @@ void KVSynth::NoteEvent(std::int8_t key, std::int8_t velocity)
 
 void KVSynth::PitchBendChanged()
 {
-    SourceTouched(kPitchWheel, "Pitch Wheel", 0);
+    lastSource = kPitchWheel;
     const float bend = static_cast<float>(pitchBend);
     engine->livePitchBend = bend;
     if (links[kPitchWheel] >= 0) SetParameter(links[kPitchWheel], bend);
@@ -59,7 +71,7 @@ void KVSynth::PitchBendChanged()
 void KVSynth::ControllerChanged(std::int8_t number)
 {
     if (number < 0) return;
-    SourceTouched(number, "CC %d", number);
+    lastSource = number;
     const float value = static_cast<float>(controllers[number]);
     if (number == 1) engine->liveModWheel = value;
     const int linked = links[number];

@@ -34,7 +34,7 @@ bool GrooveEngine::AnyMarked() const
 void GrooveEngine::StepButton(int k)
 {
     if (k < 0 || k >= kNotes) {
-        NoteOn(selectedChannel, kFirstNote + k, 0.0f, liveVelocity);
+        NoteOn(selectedChannel, kFirstNote + k, liveVelocity);
         return;
     }
     if (stepHeld[k]) return;
@@ -42,7 +42,7 @@ void GrooveEngine::StepButton(int k)
     RecordPress(k);
     if (!editMode) {
         const bool sampler = selectedChannel < kSamplerChannels;
-        NoteOn(sampler ? PadChannel(*this, k) : static_cast<int>(selectedChannel), kFirstNote + k, 0.0f, liveVelocity);
+        NoteOn(sampler ? PadChannel(*this, k) : static_cast<int>(selectedChannel), kFirstNote + k, liveVelocity);
     } else if (editStep == -1 && k >= kStepsPerBar) {
         SelectBar(k - kStepsPerBar);
     } else if (k < kStepsPerBar && selectedChannel < kSamplerChannels) {
@@ -76,7 +76,7 @@ void GrooveEngine::EditSamplerStep(int k)
     selectedBarMark = -1;
     if (!set) {
         Pattern().steps[channel][step] = word | 1u << k;
-        NoteOn(channel, kFirstNote + k, 0.0f, 1.0f);
+        NoteOn(channel, kFirstNote + k, 1.0f);
         editStep = -1;
         return;
     }
@@ -91,7 +91,7 @@ void GrooveEngine::ToggleNote(int k)
     const int channel = selectedChannel;
     auto& word = Pattern().steps[channel][selectedBar * kStepsPerBar + editStep];
     word = word ^ 1u << k;
-    if (word >> k & 1u) NoteOn(channel, kFirstNote + k, 0.0f, 1.0f);
+    if (word >> k & 1u) NoteOn(channel, kFirstNote + k, 1.0f);
 }
 
 void GrooveEngine::StepButtonRelease(int k)

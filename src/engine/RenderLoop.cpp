@@ -23,7 +23,6 @@ constexpr float kGainCeiling = 1.0e9f; // keeps a wild level finite
 void GrooveEngine::RenderFrames(float* const* outputs, int frames)
 {
     assert(frames <= kMaxRun);
-    audioThread = std::this_thread::get_id();
     ExecuteVoiceCommands();
 
     std::array<float*, kOutputs> out;

@@ -88,7 +88,8 @@ void GrooveEngine::PlayStep(int c, bool late, bool recording)
         RefreshChannel(c);
     }
     const bool odd = (patternStep & 1) != 0;
-    if (shuffled ? late != odd : late) return; // shuffled channels sound late on odd steps, all others on time
+    const bool sounds = shuffled ? late || !odd : !late; // shuffled channels sound late on odd steps
+    if (!sounds) return;
     channel.ReleaseSequenced();
     const std::uint32_t sounding = playedThisStep[c];
     for (int k = 0; k < kNotes; ++k)

@@ -60,53 +60,51 @@ void GrooveEngine::ToggleRecord()
     for (auto& notes : playedThisStep) notes = 0u;
 }
 
-void GrooveEngine::NoteOn(int channel, int note, float noteTempo, float velocity)
+void GrooveEngine::NoteOn(int channel, int note, float velocity)
 {
-    if (OnAudioThread())
-        Channel(channel).NoteOn(note, noteTempo, velocity);
-    else
-        voiceCommands.Push({VoiceCommand::Kind::NoteOn, static_cast<std::uint8_t>(channel),
-                            static_cast<std::int16_t>(note), velocity});
+    Command(
+        {VoiceCommand::Kind::NoteOn, static_cast<std::uint8_t>(channel), static_cast<std::int16_t>(note), velocity});
 }
 
 void GrooveEngine::ReleaseNote(int channel, int note)
 {
-    if (OnAudioThread())
-        Channel(channel).ReleaseNote(note);
-    else
-        voiceCommands.Push({VoiceCommand::Kind::ReleaseNote, static_cast<std::uint8_t>(channel),
-                            static_cast<std::int16_t>(note), 0.0f});
+    Command(
+        {VoiceCommand::Kind::ReleaseNote, static_cast<std::uint8_t>(channel), static_cast<std::int16_t>(note), 0.0f});
 }
 
 void GrooveEngine::ReleaseLive(int channel)
 {
-    if (OnAudioThread())
-        Channel(channel).ReleaseLive();
-    else
-        voiceCommands.Push({VoiceCommand::Kind::ReleaseLive, static_cast<std::uint8_t>(channel), 0, 0.0f});
+    Command({VoiceCommand::Kind::ReleaseLive, static_cast<std::uint8_t>(channel), 0, 0.0f});
 }
 
-void GrooveEngine::ReleaseSequenced()
+void GrooveEngine::ReleaseSequenced() { Command({VoiceCommand::Kind::ReleaseSequenced, 0, 0, 0.0f}); }
+
+void GrooveEngine::Command(const VoiceCommand& command)
 {
-    if (OnAudioThread())
-        for (auto& channel : channels) channel->ReleaseSequenced();
-    else
-        voiceCommands.Push({VoiceCommand::Kind::ReleaseSequenced, 0, 0, 0.0f});
+    if (!InBlock()) {
+        voiceCommands.Push(command);
+        return;
+    }
+    ExecuteVoiceCommands(); // what came before comes first
+    Execute(command);
 }
 
 void GrooveEngine::ExecuteVoiceCommands()
 {
     VoiceCommand command;
-    while (voiceCommands.Pop(command)) {
-        GrooveChannel& channel = Channel(command.channel);
-        switch (command.kind) {
-        case VoiceCommand::Kind::NoteOn: channel.NoteOn(command.note, 0.0f, command.velocity); break;
-        case VoiceCommand::Kind::ReleaseNote: channel.ReleaseNote(command.note); break;
-        case VoiceCommand::Kind::ReleaseLive: channel.ReleaseLive(); break;
-        case VoiceCommand::Kind::ReleaseSequenced:
-            for (auto& each : channels) each->ReleaseSequenced();
-            break;
-        }
+    while (voiceCommands.Pop(command)) Execute(command);
+}
+
+void GrooveEngine::Execute(const VoiceCommand& command)
+{
+    GrooveChannel& channel = Channel(command.channel);
+    switch (command.kind) {
+    case VoiceCommand::Kind::NoteOn: channel.NoteOn(command.note, 0.0f, command.velocity); break;
+    case VoiceCommand::Kind::ReleaseNote: channel.ReleaseNote(command.note); break;
+    case VoiceCommand::Kind::ReleaseLive: channel.ReleaseLive(); break;
+    case VoiceCommand::Kind::ReleaseSequenced:
+        for (auto& each : channels) each->ReleaseSequenced();
+        break;
     }
 }
 

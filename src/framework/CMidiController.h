@@ -17,7 +17,6 @@ public:
     static constexpr int kKeys = 128;
 
     CMidiController();
-    virtual ~CMidiController() = default;
 
     /// Appends an event; a full queue drops it. Status and data are masked to what a MIDI event can hold.
     /// deltaFrames  frame in the coming block, not below that of the event queued before
@@ -31,6 +30,8 @@ public:
     Shared<double> pitchBend;          // -1..+1
 
 protected:
+    ~CMidiController() = default; // through CSynthesizer, whose operations keep their slots
+
     std::array<MidiEvent, kQueueCapacity> events;
     std::int32_t eventCount = 0;
     std::int32_t nextEvent = 0;     // to take

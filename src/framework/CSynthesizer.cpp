@@ -26,25 +26,48 @@ CSynthesizer::~CSynthesizer() = default;
 
 // Handshake
 
-CSynthesizer::ProgramSwitch::ProgramSwitch(CSynthesizer& owner) : synth(owner)
+CSynthesizer::ProgramSwitch::ProgramSwitch(CSynthesizer& owner)
+    : synth(owner), nested(owner.blockThread == std::this_thread::get_id())
 {
     ++synth.programChanges;
-    if (synth.renderingThread == std::this_thread::get_id()) return;
-    while (synth.processing) std::this_thread::sleep_for(kPoll);
+    if (nested) return;
+    while (synth.processing.exchange(true)) std::this_thread::sleep_for(kPoll);
+    synth.blockThread = std::this_thread::get_id();
 }
 
 CSynthesizer::ProgramSwitch::~ProgramSwitch()
 {
-    int count = synth.programChanges;
-    while (count > 0 && !synth.programChanges.compare_exchange_weak(count, count - 1)) {}
+    if (!nested) synth.LeaveBlock();
+    --synth.programChanges;
+}
+
+CSynthesizer::BetweenBlocks::BetweenBlocks(CSynthesizer& owner)
+    : synth(owner),
+      entered((owner.audioThread == std::thread::id{} || owner.audioThread == std::this_thread::get_id()) &&
+              owner.EnterBlock())
+{
+}
+
+CSynthesizer::BetweenBlocks::~BetweenBlocks()
+{
+    if (entered) synth.LeaveBlock();
 }
 
 bool CSynthesizer::EnterBlock()
 {
     if (programChanges > 0 || processing.exchange(true)) return false;
-    if (programChanges == 0) return true; // a switch may have begun between the first look and the set
+    if (programChanges > 0) { // a switch has begun between the first look and the set
+        processing = false;
+        return false;
+    }
+    blockThread = std::this_thread::get_id();
+    return true;
+}
+
+void CSynthesizer::LeaveBlock()
+{
+    blockThread = std::thread::id{};
     processing = false;
-    return false;
 }
 
 // Blocks
@@ -56,17 +79,16 @@ void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, boo
     std::array<float*, kMaxPointers> in{}, out{};
     if (inputs) std::copy_n(inputs, numInputs, in.begin());
     if (outputs) std::copy_n(outputs, numOutputs, out.begin());
-    if (processing) return; // entered again
+    if (processing && programChanges == 0) return; // entered again
     if (replacing && frames > 0)
         for (float* output : out)
             if (output) std::fill_n(output, frames, 0.0f);
     if (!EnterBlock()) return;
-    renderingThread = std::this_thread::get_id();
+    audioThread = std::this_thread::get_id();
     RenderChunks(in.data(), out.data(), frames);
     pendingEvent = -1;
     eventCount = nextEvent = lastDelta = 0;
-    renderingThread = std::thread::id{};
-    processing = false;
+    LeaveBlock();
 }
 
 void CSynthesizer::RenderChunks(float** inputs, float** outputs, int frames)

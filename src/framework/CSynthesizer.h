@@ -21,7 +21,6 @@ public:
     static constexpr int kMaxChunk = 128; // frames
 
     explicit CSynthesizer(CPluginWrapper* bridge) : wrapper(bridge) {}
-    ~CSynthesizer() override;
 
     // clang-format off
     virtual void NoteEvent(std::int8_t, std::int8_t) {}          // velocity 0: release
@@ -31,6 +30,7 @@ public:
     virtual void ChannelPressureChanged() {}
     virtual void ProgramChangeReceived(int) {}
     virtual bool BankSelectReceived(int) { return false; }       // whether it was handled
+    virtual ~CSynthesizer();
     virtual void Destroy() { delete this; }
     virtual bool SetProgramName(int index, const char* text);
     virtual bool GetProgramName(int index, char* buffer);
@@ -63,8 +63,8 @@ public:
     virtual float Reserved38(bool) { return 0.0f; }
     // clang-format on
 
-    /// A whole-state operation in progress: from construction to destruction blocks are skipped and none is running.
-    /// Waits for a running block in steps of 10 ms, unless this thread is the one that renders it.
+    /// A whole-state operation in progress: from construction to destruction blocks are skipped, none is running, and
+    /// no other switch either. Waits for them in steps of 10 ms, unless this thread is inside a block or switch itself.
     class ProgramSwitch {
     public:
         explicit ProgramSwitch(CSynthesizer& owner);
@@ -73,6 +73,20 @@ public:
 
     private:
         CSynthesizer& synth;
+        const bool nested;
+    };
+
+    /// What the audio thread is asked for between two blocks has the engine to itself, as inside a block. Other
+    /// threads, and everybody during a switch, are left outside; nobody waits.
+    class BetweenBlocks {
+    public:
+        explicit BetweenBlocks(CSynthesizer& owner);
+        ~BetweenBlocks();
+        BetweenBlocks(const BetweenBlocks&) = delete;
+
+    private:
+        CSynthesizer& synth;
+        const bool entered;
     };
 
     int CurrentProgram() const { return programIndex; }
@@ -87,9 +101,11 @@ protected:
     CProgram* ProgramAt(int index) const;
 
     CPluginWrapper* const wrapper;
+    Shared<std::thread::id> blockThread; // who has the engine to itself, in a block or switch; nobody in between
 
 private:
     bool EnterBlock();
+    void LeaveBlock();
     void RenderChunks(float** inputs, float** outputs, int frames);
     std::int64_t NextGap(std::int64_t rest);
     void Dispatch(const MidiEvent& event);
@@ -104,9 +120,9 @@ private:
     int programCount = 0;
     Shared<CProgram*> currentProgram = nullptr;
     Shared<int> programIndex = 0;
-    std::atomic<bool> processing{false};
+    Shared<std::thread::id> audioThread; // rendered the last block; nobody before the first
+    std::atomic<bool> processing{false}; // somebody has the engine to itself
     std::atomic<int> programChanges{0};
-    Shared<std::thread::id> renderingThread; // nobody between blocks
 };
 
 } // namespace korvane

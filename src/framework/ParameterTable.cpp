@@ -2,8 +2,10 @@
 #include "framework/ParameterTable.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <iterator>
 
 #include "platform/Numbers.h"
 
@@ -70,30 +72,32 @@ float ChannelBlockDefault(int index, bool isSampler)
 
 void FormatDisplay(Display display, float v, char* buffer)
 {
-    const auto number = [buffer](const char* format, double value) {
-        std::snprintf(buffer, kTextBytes, format, value);
+    const auto number = [buffer](double value, int decimals, const char* unit) {
+        char digits[400]; // the longest double; not by printf, whose decimal point is the host's language's
+        *std::to_chars(digits, std::end(digits) - 1, value, std::chars_format::fixed, decimals).ptr = '\0';
+        std::snprintf(buffer, kTextBytes, "%s%s", digits, unit);
     };
-    const auto whole = [buffer](const char* format, float value, int plus = 0) {
-        std::snprintf(buffer, kTextBytes, format, std::clamp(Truncate(value), -1000000, 1000000) + plus);
+    const auto whole = [buffer](float value, const char* unit = "") {
+        std::snprintf(buffer, kTextBytes, "%d%s", Truncate(value), unit);
     };
     switch (display) {
-    case Display::Percent: number("%.1f %%", v * 100.0f); break;
+    case Display::Percent: number(v * 100.0f, 1, " %"); break;
     case Display::Sync:
         std::snprintf(buffer, kTextBytes, "%s", kSyncTexts[std::clamp(Truncate(v * 9.0f), 0, 8)]);
         break;
-    case Display::MixDb: number("%.1f dB", v * 80.0f - 60.0f); break;
-    case Display::Pan: number("%.1f", (2.0f * v - 1.0f) * 100.0f); break;
-    case Display::Semitones24: whole("%d", v * 48.0f - 24.0f); break;
+    case Display::MixDb: number(v * 80.0f - 60.0f, 1, " dB"); break;
+    case Display::Pan: number((2.0f * v - 1.0f) * 100.0f, 1, ""); break;
+    case Display::Semitones24: whole(v * 48.0f - 24.0f); break;
     case Display::Length: // an eighth shows as 0.13, where the library would round to even
-        number("%.2f", std::round(100.0 * static_cast<double>(std::pow(2.0f, 8.0f * v) * 0.125f)) / 100.0);
+        number(std::round(100.0 * static_cast<double>(std::pow(2.0f, 8.0f * v) * 0.125f)) / 100.0, 2, "");
         break;
-    case Display::AmpDb: number("%.1f dB", v * 50.0f - 25.0f); break;
-    case Display::Voices: whole("%d", v * 15.0f, 1); break;
-    case Display::Semitones36: whole("%d", v * 72.0f - 36.0f); break;
-    case Display::Detune: whole("%d", v * 100.0f - 50.0f); break;
-    case Display::Bipolar: number("%.1f %%", (v - 0.5f) * 200.0f); break;
-    case Display::Smt: whole("%d smt", v * 12.0f); break;
-    case Display::GainDb: number("%.2f dB", (v - 0.5f) * 24.0f); break;
+    case Display::AmpDb: number(v * 50.0f - 25.0f, 1, " dB"); break;
+    case Display::Voices: whole(std::trunc(v * 15.0f) + 1.0f); break;
+    case Display::Semitones36: whole(v * 72.0f - 36.0f); break;
+    case Display::Detune: whole(v * 100.0f - 50.0f); break;
+    case Display::Bipolar: number((v - 0.5f) * 200.0f, 1, " %"); break;
+    case Display::Smt: whole(v * 12.0f, " smt"); break;
+    case Display::GainDb: number((v - 0.5f) * 24.0f, 2, " dB"); break;
     }
 }
 

@@ -49,7 +49,8 @@ enum : int {
     LayerResetStart = 153,
     Step1 = 155,
     Bar1 = 171,
-    EngineFlag = 180,    HostCount = 154,
+    EngineFlag = 180,
+    HostCount = 154,
     Count = 196,
     // clang-format on
 };
@@ -139,7 +140,8 @@ enum : int {
     PressureDestination = 204,
     BendRange = 205,
     EqOn = 206,
-    EqGain = 207,    Count = 212,
+    EqGain = 207,
+    Count = 212,
     // clang-format on
 };
 } // namespace slot

@@ -28,7 +28,7 @@ static std::vector<std::string> SettingFolders()
     };
     const std::string user = Environment("XDG_CONFIG_HOME");
     const std::string home = Environment("HOME");
-    add(user.empty() ? home + "/.config" : user);
+    add(!user.empty() ? user : home.empty() ? home : home + "/.config");
     std::string machine = Environment("XDG_CONFIG_DIRS");
     if (machine.empty()) machine = "/etc/xdg";
     for (std::size_t start = 0; start <= machine.size();) {

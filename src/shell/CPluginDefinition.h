@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "platform/Shared.h"
+
 namespace korvane {
 
 class CPluginEditor;
@@ -18,7 +20,6 @@ class CPluginDefinition {
 public:
     CPluginDefinition() = default;
     CPluginDefinition(const CPluginDefinition&) = delete;
-    virtual ~CPluginDefinition() = default;
 
     /// Asked once by each entry point; false means that no plug-in is made.
     virtual bool CheckHost(const char* product, const char* vendor);
@@ -35,13 +36,16 @@ public:
     char versionText[512] = "Unknown";
     std::uint8_t isEffect = 0;
     std::uint8_t hasEditor = 1;
-    std::int32_t hostKind = host::Unknown; // of the most recent entry
+    Shared<std::int32_t> hostKind = host::Unknown; // of the most recent entry; entries write, engines read
     std::int32_t numPrograms = 0;
     std::int32_t numHostParams = 0;   // indices below are open to automation
     std::int32_t numStoredParams = 0; // values that a program holds
     std::int32_t numInputs = 0;
     std::int32_t numOutputPairs = 1;
     char uniqueId[4] = {}; // in memory order
+
+protected:
+    ~CPluginDefinition() = default;
 };
 
 /// The module's definition, null before there is one.

@@ -11,8 +11,7 @@ namespace korvane {
 /// Owns the window object and holds its rectangle.
 class CVstEditor : public AEffEditor {
 public:
-    CVstEditor(AudioEffect* owner, std::unique_ptr<CPluginEditor> editorWindow)
-        : AEffEditor(owner), window(std::move(editorWindow))
+    explicit CVstEditor(std::unique_ptr<CPluginEditor> editorWindow) : window(std::move(editorWindow))
     {
         int height = 0, width = 0;
         window->GetEditorSize(height, width);

@@ -24,7 +24,7 @@ CVstWrapper::CVstWrapper(AudioMasterCallback hostCallback)
     engine->Reset();
     if (definition.hasEditor != 0) {
         if (std::unique_ptr<CPluginEditor> window{definition.CreateEditor(engine.get())}) {
-            editor = std::make_unique<CVstEditor>(this, std::move(window));
+            editor = std::make_unique<CVstEditor>(std::move(window));
             record.flags |= effect_flag::HasEditor;
         }
     }
@@ -52,8 +52,8 @@ std::intptr_t CVstWrapper::Dispatch(std::int32_t opcode, std::int32_t index, std
     switch (opcode) {
     case request::Close: Close(); return 1;
     case request::SetProgram:
+        if (engine) engine->SetProgram(static_cast<std::int32_t>(value));
         programNumber = static_cast<std::int32_t>(value);
-        if (engine) engine->SetProgram(programNumber);
         return 0;
     case request::GetProgram: return programNumber;
     case request::SetProgramName:
@@ -120,9 +120,9 @@ std::intptr_t CVstWrapper::GetChunk(bool preset, void** data)
     const std::int32_t size = fill(nullptr);
     if (size < 2) return 0;
     chunk.resize(static_cast<std::size_t>(size));
-    fill(chunk.data());
+    const std::int32_t filled = fill(chunk.data()); // less than told when a step has lost its locks meanwhile
     *data = chunk.data();
-    return size;
+    return filled;
 }
 
 std::intptr_t CVstWrapper::SetChunk(bool preset, const void* data, std::intptr_t size)
@@ -195,7 +195,7 @@ std::int32_t CVstWrapper::ProcessEvents(const VstEvents* events)
 
 std::int32_t CVstWrapper::CanDo(const char* text)
 {
-    if (!text) return -1;
+    if (!text) return 0;
     for (const char* ability : {"receiveVstEvents", "receiveVstMidiEvent", "receiveVstTimeInfo"})
         if (std::strcmp(text, ability) == 0) return 1;
     return -1;

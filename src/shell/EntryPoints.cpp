@@ -1,9 +1,10 @@
 // What the module exports.
 #include <dlfcn.h>
 
-#include <new>
+#include <exception>
 
 #include "platform/FlushToZero.h"
+#include "platform/ModulePath.h"
 #include "shell/CVstWrapper.h"
 #include "shell/SMX_Def.h"
 
@@ -24,7 +25,7 @@ AEffect* CreateVstPlugin(AudioMasterCallback host)
     if (!definition.CheckHost(product, vendor)) return nullptr;
     try {
         return (new CVstWrapper(host))->Record();
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception&) {
         return nullptr;
     }
 }
@@ -33,10 +34,10 @@ AEffect* CreateVstPlugin(AudioMasterCallback host)
 
 } // namespace korvane
 
-KORVANE_EXPORT bool DllMain(void* moduleHandle, unsigned long, void*)
+KORVANE_EXPORT int DllMain(void* moduleHandle, unsigned long, void*)
 {
     if (korvane::Definition()) korvane::Definition()->moduleHandle = moduleHandle;
-    return true;
+    return 1;
 }
 
 KORVANE_EXPORT korvane::AEffect* VSTPluginMain(korvane::AudioMasterCallback host)
@@ -58,6 +59,7 @@ namespace {
 __attribute__((constructor)) void ModuleLoaded()
 {
     korvane::SMX_Def::Install();
+    korvane::ModulePath();
     Dl_info info{};
     dladdr(reinterpret_cast<void*>(&ModuleLoaded), &info);
     DllMain(info.dli_fbase, 1, nullptr);

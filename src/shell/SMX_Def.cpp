@@ -3,7 +3,7 @@
 
 #include <cstdio>
 #include <cstring>
-#include <new>
+#include <exception>
 
 #include "engine/KVSynth.h"
 #include "framework/ParameterTable.h"
@@ -36,7 +36,7 @@ CSynthesizer* SMX_Def::CreateSynth(CPluginWrapper* wrapper)
 {
     try {
         return new KVSynth(wrapper);
-    } catch (const std::bad_alloc&) {
+    } catch (const std::exception&) {
         return nullptr;
     }
 }

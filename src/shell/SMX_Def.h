@@ -5,7 +5,7 @@
 
 namespace korvane {
 
-class SMX_Def : public CPluginDefinition {
+class SMX_Def final : public CPluginDefinition {
 public:
     SMX_Def();
     CSynthesizer* CreateSynth(CPluginWrapper* wrapper) override;

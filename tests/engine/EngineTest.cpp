@@ -123,7 +123,8 @@ TEST_F(EngineTest, FractionsCarryOverFromStepToStep)
         last = engine.stepCounter;
     }
     ASSERT_EQ(ticks.size(), 17u);
-    for (std::size_t n = 0; n < ticks.size(); ++n) EXPECT_EQ(ticks[n], static_cast<int>(static_cast<double>(n) * 5512.5));
+    for (std::size_t n = 0; n < ticks.size(); ++n)
+        EXPECT_EQ(ticks[n], static_cast<int>(static_cast<double>(n) * 5512.5));
 }
 
 // Sixteen silent steps with clicks on every fourth, then step 0.
@@ -151,7 +152,7 @@ TEST_F(EngineTest, WildParametersNeverReachTheVoices)
 {
     for (float wild : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity(), 1.0e30f}) {
         for (int n = 0; n < kChannelSlots; ++n) engine.SetChannelParameter(n, wild);
-        engine.NoteOn(8, 60, 0.0f, 1.0f);
+        engine.NoteOn(8, 60, 1.0f);
         Render(1024);
         for (const auto& buffer : buffers)
             for (float sample : buffer) ASSERT_TRUE(std::isfinite(sample));
@@ -161,16 +162,24 @@ TEST_F(EngineTest, WildParametersNeverReachTheVoices)
     EXPECT_TRUE(std::isfinite(engine.Channel(8).outGainLeft));
 }
 
-// Notes from other threads reach the voices through the queue, none twice, none torn.
-TEST_F(EngineTest, OtherThreadsNotesArrive)
+// Notes from outside a block reach the voices through the queue, none twice, none torn.
+TEST(EngineThreads, NotesWaitForTheNextBlock)
 {
-    Render(1);
-    std::thread other([this] {
-        for (int n = 0; n < 5; ++n) engine.NoteOn(8, 40 + n, 0.0f, 1.0f);
+    Shared<std::thread::id> blockThread;
+    GrooveEngine engine(&blockThread);
+    engine.ResetGroove();
+    engine.ResetEngine(44100.0f);
+    std::thread other([&engine] {
+        for (int n = 0; n < 4; ++n) engine.NoteOn(8, 40 + n, 1.0f);
     });
     other.join();
+    engine.NoteOn(8, 44, 1.0f);
     for (const auto& voice : engine.Channel(8).voices) EXPECT_FALSE(voice->active);
-    Render(1);
+    blockThread = std::this_thread::get_id();
+    engine.NoteOn(9, 40, 1.0f);
+    EXPECT_TRUE(engine.Channel(9).voices[5]->active);
+    float* nobody[28] = {};
+    engine.RenderFrames(nobody, 1);
     int notes = 0;
     for (const auto& voice : engine.Channel(8).voices) notes += voice->active ? voice->note : 0;
     EXPECT_EQ(notes, 40 + 41 + 42 + 43 + 44);

@@ -39,6 +39,7 @@ struct Listener : CSynthesizer {
         Say("render", frames, 0);
         if (outputs[0]) outputs[0][0] += 1.0f;
         if (inputs[0]) seenInput = inputs[0];
+        stalled = stall.load();
         while (stall) std::this_thread::yield();
     }
     void Say(const char* what, int a, int b)
@@ -59,7 +60,7 @@ struct Listener : CSynthesizer {
     Log log;
     int controllerCalls = 0;
     float* seenInput = nullptr;
-    std::atomic<bool> stall{false};
+    std::atomic<bool> stall{false}, stalled{false};
 };
 
 // A block is cut at every event and at 128 frames; what cannot be placed is lost, none waits for the next block.
@@ -194,7 +195,7 @@ TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
 
     synth.stall = true;
     std::thread audio([&] { synth.ProcessBlock(nullptr, outputs.data(), 64, true); });
-    while (buffer[0] != 1.0f) std::this_thread::yield();
+    while (!synth.stalled) std::this_thread::yield();
     std::atomic<bool> switched{false};
     std::thread host([&] { synth.SetProgram(3), switched = true; });
     std::this_thread::sleep_for(std::chrono::milliseconds(30));

@@ -9,11 +9,16 @@ namespace {
 
 class MidiMapping : public SynthTest {
 protected:
-    template <class Field>
-    static std::string TextOf(const Field& field)
+    std::string SourceText()
     {
         char text[256];
-        field.Get(text);
+        Synth().GetLastSourceText(text);
+        return text;
+    }
+    std::string ParameterText()
+    {
+        char text[256];
+        Synth().GetLastParameterText(text);
         return text;
     }
     void LinkTo(int parameter)
@@ -33,27 +38,27 @@ TEST_F(MidiMapping, LinksDriveParameters)
 {
     KVSynth& synth = Synth();
     synth.Link(true);
-    EXPECT_EQ(TextOf(synth.lastSourceText), "---");
-    EXPECT_EQ(TextOf(synth.lastParameterText), "---");
+    EXPECT_EQ(SourceText(), "---");
+    EXPECT_EQ(ParameterText(), "---");
 
     Send(0xB0, 7, 10);
-    EXPECT_EQ(TextOf(synth.lastSourceText), "CC 7");
+    EXPECT_EQ(SourceText(), "CC 7");
     LinkTo(80);
-    EXPECT_EQ(TextOf(synth.lastParameterText), "CHN: Mix Level");
+    EXPECT_EQ(ParameterText(), "CHN: Mix Level");
     host.told = 0;
     Send(0xB0, 7, 127);
     EXPECT_EQ(synth.GetParameter(80), 1.0f);
     EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
 
     Send(0xE0, 0, 0);
-    EXPECT_EQ(TextOf(synth.lastSourceText), "Pitch Wheel");
+    EXPECT_EQ(SourceText(), "Pitch Wheel");
     LinkTo(81);
     Send(0xE0, 0, 0);
     EXPECT_EQ(synth.GetParameter(81), -1.0f);
     EXPECT_EQ(synth.engine->livePitchBend, -1.0f);
 
     Send(0x90, 60, 127);
-    EXPECT_EQ(TextOf(synth.lastSourceText), "Key 60 Velocity");
+    EXPECT_EQ(SourceText(), "Key 60 Velocity");
     LinkTo(92);
     Send(0x80, 60, 0);
     EXPECT_EQ(synth.GetParameter(92), 0.0f) << "a release writes 0";

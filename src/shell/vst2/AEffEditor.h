@@ -5,18 +5,12 @@
 
 namespace korvane {
 
-class AudioEffect;
-
 class AEffEditor {
 public:
-    explicit AEffEditor(AudioEffect* owner) : effect(owner) {}
     virtual ~AEffEditor() = default;
     virtual bool GetRect(ERect** rectangle) = 0;
     virtual bool Open(void* parentWindow) = 0;
     virtual void Close() = 0;
-
-protected:
-    AudioEffect* const effect;
 };
 
 } // namespace korvane

@@ -1,6 +1,8 @@
 // Base of everything that has the VST 2 effect interface.
 #include "shell/vst2/AudioEffect.h"
 
+#include <exception>
+
 namespace korvane {
 
 namespace {
@@ -11,7 +13,11 @@ std::intptr_t DispatchEntry(AEffect* record, std::int32_t opcode, std::int32_t i
                             void* pointer, float option)
 {
     AudioEffect& effect = Of(record);
-    const std::intptr_t answer = effect.Dispatch(opcode, index, value, pointer, option);
+    std::intptr_t answer = 0;
+    try {
+        answer = effect.Dispatch(opcode, index, value, pointer, option);
+    } catch (const std::exception&) { // out of memory: the request is not carried out
+    }
     if (opcode == request::Close) delete &effect;
     return answer;
 }
