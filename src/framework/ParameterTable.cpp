@@ -75,7 +75,7 @@ void FormatDisplay(Display display, float v, char* buffer)
     const auto number = [buffer](double value, int decimals, const char* unit) {
         char digits[400]; // the longest double; not by printf, whose decimal point is the host's language's
         *std::to_chars(digits, std::end(digits) - 1, value, std::chars_format::fixed, decimals).ptr = '\0';
-        std::snprintf(buffer, kTextBytes, "%s%s", digits, unit);
+        std::snprintf(buffer, kTextBytes, "%.24s%s", digits, unit);
     };
     const auto whole = [buffer](float value, const char* unit = "") {
         std::snprintf(buffer, kTextBytes, "%d%s", Truncate(value), unit);
