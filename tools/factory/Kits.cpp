@@ -40,7 +40,7 @@ Sound Treated(const std::function<Buffer(std::uint32_t seed)>& model, const Trea
 std::vector<OneShot> AllOneShots()
 {
     std::vector<OneShot> all;
-    for (const auto kit : {&VoltKit, &DeepKit, &OakKit})
+    for (const auto kit : {&VoltKit, &DeepKit, &OakKit, &ForgeKit})
         for (OneShot& row : kit()) all.push_back(std::move(row));
     return all;
 }

@@ -53,6 +53,7 @@ void Add(Kit& kit, Buffer (*model)(const Shape&, std::uint32_t), const KitRow<Sh
 Kit VoltKit();  // electronic, after the analogue drum machines' circuits
 Kit DeepKit();  // low and dark, for slow clubs
 Kit OakKit();   // a drum set in a room
+Kit ForgeKit(); // machines and metal
 
 /// Every one-shot of every kit.
 std::vector<OneShot> AllOneShots();
