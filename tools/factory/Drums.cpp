@@ -1,4 +1,4 @@
-// The drum models that the kits are built from.
+// The electronic drum models that the kits are built from.
 #include "Drums.h"
 
 #include <algorithm>
@@ -8,25 +8,20 @@ namespace korvane::factory {
 
 namespace {
 
-constexpr double kTail = 1.25; // a sound is computed for this many decays
-
-double Octaves(double count) { return std::exp2(count); }
-double Rise(double t, double seconds) { return seconds <= 0.0 ? 1.0 : std::min(1.0, t / seconds); }
-
 Buffer Band(double seconds, double lowHz, double highHz, std::uint32_t seed)
 {
     Buffer noise = Filtered(WhiteNoise(seconds, seed), Pass::High, lowHz);
     return Filtered(std::move(noise), Pass::Low, highHz);
 }
 
-Buffer ClickOf(double hz, double seconds, std::uint32_t seed)
-{
-    Buffer click = Filtered(WhiteNoise(seconds * kTail + 0.002, seed), Pass::Band, hz, 0.8);
-    Shape(click, [seconds](double t) { return Decay(t, seconds) * Rise(t, 0.0002); });
-    return click;
-}
-
 } // namespace
+
+Buffer Burst(double hz, double seconds, std::uint32_t seed)
+{
+    Buffer burst = Filtered(WhiteNoise(seconds * kTail + 0.002, seed), Pass::Band, hz, 0.8);
+    Shape(burst, [seconds](double t) { return Decay(t, seconds) * Rise(t, 0.0002); });
+    return burst;
+}
 
 Buffer Kick(const KickShape& shape, std::uint32_t seed)
 {
@@ -42,7 +37,7 @@ Buffer Kick(const KickShape& shape, std::uint32_t seed)
     }
     Shape(body, [&shape](double t) { return Decay(std::max(0.0, t - shape.hold), shape.decay) * Rise(t, 0.0006); });
     Saturate(body, shape.drive);
-    Mix(body, ClickOf(shape.clickHz, 0.012, seed), shape.click);
+    Mix(body, Burst(shape.clickHz, 0.022, seed), shape.click);
     return Filtered(std::move(body), Pass::Low, shape.lowPass);
 }
 
@@ -62,7 +57,7 @@ Buffer Snare(const SnareShape& shape, std::uint32_t seed)
         return (0.75 * Decay(t, shape.noiseDecay) + 0.25 * Decay(t, 0.4 * shape.noiseDecay)) * Rise(t, 0.0008);
     });
     Mix(sum, wires, shape.noise);
-    Mix(sum, ClickOf(3800.0, 0.010, seed + 1), shape.crack);
+    Mix(sum, Burst(3800.0, 0.018, seed + 1), shape.crack);
     Saturate(sum, shape.drive);
     return sum;
 }
@@ -72,12 +67,15 @@ Buffer Clap(const ClapShape& shape, std::uint32_t seed)
     const double length = shape.spacing * shape.hands + shape.decay * kTail;
     const Buffer noise = WhiteNoise(length, seed);
     Buffer sum = Filtered(noise, Pass::Band, shape.hz, shape.q);
+    Mix(sum, Filtered(noise, Pass::Band, 2.3 * shape.hz, 1.5 * shape.q), 0.5); // the hollow of the hands
     Scale(sum, 2.0);
-    Mix(sum, Filtered(noise, Pass::High, 4000.0), shape.bright);
+    Mix(sum, Filtered(noise, Pass::High, 4000.0), 0.5 * shape.bright);
+    sum = Filtered(std::move(sum), Pass::Low, 11000.0);
     const double last = shape.spacing * (shape.hands - 1);
     Shape(sum, [&shape, last](double t) {
-        if (t >= last) return 0.6 * Decay(t - last, shape.decay) + 0.4 * Decay(t - last, 0.035);
-        return Decay(std::fmod(t, shape.spacing), 2.2 * shape.spacing) * Rise(std::fmod(t, shape.spacing), 0.0003);
+        if (t >= last) return 0.55 * Decay(t - last, shape.decay) + 0.45 * Decay(t - last, 0.04);
+        const double since = std::fmod(t, shape.spacing);
+        return 0.85 * Decay(since, 2.2 * shape.spacing) * Rise(since, 0.0003);
     });
     Saturate(sum, shape.drive);
     return sum;
@@ -90,15 +88,15 @@ Buffer Cymbal(const CymbalShape& shape, std::uint32_t seed)
     Scale(source, shape.metal);
     Mix(source, WhiteNoise(length, seed), shape.noise);
     Buffer sum = Filtered(Filtered(source, Pass::High, shape.highPass, 0.9), Pass::High, shape.highPass);
+    sum = Filtered(std::move(sum), Pass::Low, shape.lowPass, 0.6);
     Shape(sum, [&shape](double t) {
-        return Rise(t, shape.attack) * (0.7 * Decay(t, shape.decay) + 0.3 * Decay(t, 0.3 * shape.decay));
+        return Rise(t, shape.attack) * (0.75 * Decay(t, shape.decay) + 0.25 * Decay(t, 0.3 * shape.decay));
     });
     if (shape.body > 0.0) {
         Buffer body = Filtered(std::move(source), Pass::Band, shape.bodyHz, 1.2);
         Shape(body, [&shape](double t) { return Rise(t, shape.attack) * Decay(t, shape.decay * shape.bodyTime); });
         Mix(sum, body, shape.body);
     }
-    Mix(sum, ClickOf(6000.0, 0.008, seed + 1), shape.stick);
     Saturate(sum, shape.drive);
     return sum;
 }
@@ -115,14 +113,14 @@ Buffer Tom(const TomShape& shape, std::uint32_t seed)
         Shape(mode, [&](double t) { return Decay(t, shape.decay * partial.decay) * Rise(t, 0.0008); });
         Mix(sum, mode, partial.level);
     }
-    Mix(sum, ClickOf(shape.skinHz, 0.05, seed), shape.skin);
+    Mix(sum, Burst(shape.skinHz, 0.05, seed), shape.skin);
     Saturate(sum, shape.drive);
     return sum;
 }
 
 Buffer Struck(const StruckShape& shape, std::uint32_t seed)
 {
-    Buffer sum = Ring(shape.length, shape.modes);
+    Buffer sum = Ring(shape.length, {shape.modes.begin(), shape.modes.end()});
     if (shape.squares > 0.0) {
         Buffer squares = MetalSquares(shape.length, shape.squaresHz, {1.0, 1.4815});
         squares = Filtered(std::move(squares), Pass::Band, shape.squaresHz * 1.9, 1.1);
@@ -131,7 +129,7 @@ Buffer Struck(const StruckShape& shape, std::uint32_t seed)
         });
         Mix(sum, squares, shape.squares);
     }
-    Mix(sum, ClickOf(shape.clickHz, shape.clickTime, seed), shape.click);
+    Mix(sum, Burst(shape.clickHz, shape.clickTime, seed), shape.click);
     Saturate(sum, shape.drive);
     return sum;
 }
@@ -141,7 +139,8 @@ Buffer Shaker(const ShakerShape& shape, std::uint32_t seed)
     const double length = shape.backAt + shape.attack + shape.decay * kTail;
     Noise beads(seed);
     Buffer noise = Make(length, [&](double) {
-        const double value = beads.Next(), chance = 0.5 + 0.5 * beads.Next();
+        const double value = beads.Next();
+        const double chance = 0.5 + 0.5 * beads.Next();
         return chance < shape.grain * 0.9 ? 0.0 : value; // fewer, louder beads
     });
     noise = Filtered(Filtered(std::move(noise), Pass::Band, shape.hz, shape.q), Pass::High, 0.5 * shape.hz);
@@ -161,14 +160,47 @@ Buffer Clang(const ClangShape& shape, std::uint32_t seed)
         const double hz = shape.hz * Octaves(shape.bend * std::exp(-t / shape.bendTime));
         const double index = shape.index * Decay(t, shape.indexDecay);
         const double value = std::sin(kTurn * carrier + index * std::sin(kTurn * modulator));
-        carrier += hz / kRate, modulator += hz * shape.ratio / kRate;
+        carrier += hz / kRate;
+        modulator += hz * shape.ratio / kRate;
         return value * Decay(t, shape.decay) * Rise(t, 0.0003);
     });
     Buffer noise = Filtered(WhiteNoise(length, seed), Pass::Band, shape.noiseHz, 0.8);
     Shape(noise, [&shape](double t) { return Decay(t, shape.noiseDecay); });
     Mix(sum, noise, 2.0 * shape.noise);
     Saturate(sum, shape.drive);
-    if (shape.crushHold > 0.0) Crush(sum, shape.crushHold, shape.crushBits);
+    return sum;
+}
+
+Buffer Sweep(const SweepShape& shape, std::uint32_t seed)
+{
+    const double length = shape.attack + shape.decay * kTail;
+    const auto corner = [&shape](double t) {
+        return shape.toHz * Octaves(std::log2(shape.fromHz / shape.toHz) * std::exp(-t / shape.time));
+    };
+    Buffer noise = FilteredAlong(WhiteNoise(length, seed), Pass::Band, shape.q, corner);
+    Shape(noise, [&shape](double t) {
+        const double beat = 0.5 - 0.5 * std::cos(kTurn * shape.flutterHz * t);
+        return Rise(t, shape.attack) * Decay(std::max(0.0, t - shape.attack), shape.decay) *
+               (1.0 - shape.flutter * beat);
+    });
+    Scale(noise, 1.5);
+    Saturate(noise, shape.drive);
+    return noise;
+}
+
+Buffer Stab(const StabShape& shape, std::uint32_t seed)
+{
+    const double length = shape.decay * kTail;
+    Buffer sum = MetalSquares(length, shape.hz, shape.chord);
+    Mix(sum, MetalSquares(length, shape.hz * 1.004, shape.chord), 0.8); // a little chorus
+    Mix(sum, WhiteNoise(length, seed), 0.04);
+    const auto corner = [&shape](double t) {
+        return shape.closedHz + (shape.openHz - shape.closedHz) * std::exp(-t / shape.closeTime);
+    };
+    sum = FilteredAlong(std::move(sum), Pass::Low, shape.q, corner);
+    sum = FilteredAlong(std::move(sum), Pass::Low, 0.7, corner);
+    Shape(sum, [&shape](double t) { return Decay(t, shape.decay) * Rise(t, 0.001); });
+    Saturate(sum, shape.drive);
     return sum;
 }
 

@@ -1,104 +1,144 @@
-// The drum models that the kits are built from. Every setting of a model is a field of its shape.
+// The electronic drum models that the kits are built from. Every setting of a model is a field of its shape, in the
+// order of the kits' columns.
 #pragma once
 
+#include <array>
 #include <cstdint>
-#include <vector>
 
 #include "Sound.h"
 #include "Synthesis.h"
 
 namespace korvane::factory {
 
-/// Sine with two falling pitch envelopes, a click and some air.
+inline constexpr double kTail = 1.25; // a sound is computed for this many decays
+
+inline double Octaves(double count) { return std::exp2(count); }
+inline double Rise(double t, double seconds) { return seconds <= 0.0 ? 1.0 : std::fmin(1.0, t / seconds); }
+
+/// A burst of noise around hz, 60 dB down after `seconds`.
+Buffer Burst(double hz, double seconds, std::uint32_t seed);
+
+/// Sine with two falling pitch envelopes and a click.
 struct KickShape {
-    double hz = 50.0;        // where the pitch comes to rest
-    double sweep = 3.0;      // octaves above, the slow fall...
-    double sweepTime = 0.05; // ...and its time constant, seconds
-    double snap = 1.5;       // more octaves above, the fast fall of 3 ms
-    double decay = 0.6;      // seconds to -60 dB
-    double hold = 0.02;      // seconds before the decay
-    double click = 0.2;      // level of the noise burst at the start
-    double clickHz = 3000.0;
-    double drive = 1.5;
-    double second = 0.0; // level of the octave above, decays twice as fast
-    double lowPass = 12000.0;
+    double hz;        // where the pitch comes to rest
+    double sweep;     // octaves above, the slow fall...
+    double sweepTime; // ...and its time constant, seconds
+    double snap;      // more octaves above, the fast fall of 3 ms
+    double hold;      // seconds before the decay
+    double decay;     // seconds to -60 dB
+    double click;     // level of the noise burst at the start
+    double clickHz;
+    double second; // level of the octave above, decays twice as fast
+    double drive;
+    double lowPass; // Hz
 };
 Buffer Kick(const KickShape& shape, std::uint32_t seed);
 
 /// Two skin modes and the wires' noise.
 struct SnareShape {
-    double hz = 185.0, ratio = 1.72; // modes
-    double tone = 0.6, toneDecay = 0.16;
-    double bend = 0.6; // octaves that the modes fall in 12 ms
-    double noise = 0.7, noiseDecay = 0.22;
-    double lowHz = 900.0, highHz = 9000.0; // band of the noise
-    double crack = 0.5;                    // level of the first 5 ms
-    double drive = 1.4;
+    double hz, ratio; // of the modes
+    double bend;      // octaves that the modes fall in 12 ms
+    double tone, toneDecay;
+    double noise, noiseDecay;
+    double lowHz, highHz; // band of the noise
+    double crack;         // level of the first 10 ms
+    double drive;
 };
 Buffer Snare(const SnareShape& shape, std::uint32_t seed);
 
+/// Noise that several hands start.
 struct ClapShape {
-    double hz = 1100.0, q = 1.4;
-    int hands = 4;
-    double spacing = 0.010, decay = 0.22; // seconds; the decay is the last hand's
-    double bright = 0.3;                  // level of what lies above 4 kHz
-    double drive = 1.3;
+    double hz, q;
+    int hands;
+    double spacing, decay; // seconds; the decay is the last hand's
+    double bright;         // level of what lies above 4 kHz
+    double drive;
 };
 Buffer Clap(const ClapShape& shape, std::uint32_t seed);
 
-/// Inharmonic squares and noise through high-passes: hats, rides, crashes.
+/// Inharmonic squares and noise through high-passes: hats, rides, crashes of circuits.
 struct CymbalShape {
-    double hz = 320.0; // of the lowest square
-    std::vector<double> ratios = {1.0, 1.342, 1.6532, 1.9523, 2.1523, 2.5714};
-    double metal = 0.7, noise = 0.4;
-    double highPass = 7000.0;
-    double attack = 0.0005, decay = 0.09; // seconds
-    double body = 0.0, bodyHz = 3400.0;   // a lower band that decays `bodyTime` times as long
-    double bodyTime = 1.0;
-    double stick = 0.15;
-    double drive = 1.0;
+    double hz; // of the lowest square
+    Ratios ratios;
+    double metal, noise;
+    double highPass, lowPass; // Hz
+    double attack, decay;     // seconds
+    double body, bodyHz;      // a lower band that decays `bodyTime` times as long
+    double bodyTime;
+    double drive;
 };
 Buffer Cymbal(const CymbalShape& shape, std::uint32_t seed);
 
-/// A skin that bends: sine, overtones, a beat of noise.
+/// A sine that bends, two overtones, a beat of noise.
 struct TomShape {
-    double hz = 110.0, bend = 0.7, bendTime = 0.05, decay = 0.45;
-    double overtone = 0.25; // level of the modes at 1.59 and 2.14
-    double skin = 0.15;     // level of the noise at the start
-    double skinHz = 1800.0;
-    double drive = 1.3;
+    double hz, bend, bendTime, decay;
+    double overtone; // level of the modes at 1.59 and 2.14
+    double skin;     // level of the noise at the start
+    double skinHz;
+    double drive;
 };
 Buffer Tom(const TomShape& shape, std::uint32_t seed);
 
-/// Struck bars, shells and bells: modes, a click and optionally squares through a band-pass.
+using Modes = std::array<Mode, 6>; // level 0: none
+
+/// Struck bars, blocks and bells: modes and a click, or two squares through a band-pass.
 struct StruckShape {
-    std::vector<Mode> modes = {};
-    double length = 0.5; // seconds
-    double click = 0.3, clickHz = 4000.0, clickTime = 0.004;
-    double drive = 1.2;
-    double squares = 0.0, squaresHz = 540.0, squaresDecay = 0.3; // two squares a fifth apart
+    Modes modes;
+    double length; // seconds
+    double click, clickHz, clickTime;
+    double squares, squaresHz, squaresDecay; // two squares a fifth apart
+    double drive;
 };
 Buffer Struck(const StruckShape& shape, std::uint32_t seed);
 
-/// Beads: bursts of band-passed noise.
+/// The modes of a free bar (Euler and Bernoulli), the high ones damped.
+constexpr Modes Bar(double hz, double decay, double bright)
+{
+    return {{{hz, 1.0, decay},
+             {hz * 2.756, bright, decay * 0.6},
+             {hz * 2.771, 0.7 * bright, decay * 0.55}, // bars are never quite round
+             {hz * 5.404, 0.7 * bright, decay * 0.4},
+             {hz * 8.933, 0.5 * bright, decay * 0.28},
+             {hz * 13.34, 0.3 * bright, decay * 0.2}}};
+}
+
+/// Beads: band-passed noise that two strokes of a hand let through.
 struct ShakerShape {
-    double hz = 6500.0, q = 0.9;
-    double attack = 0.02, decay = 0.07;
-    double back = 0.0, backAt = 0.07; // level and time of the return stroke
-    double grain = 0.6;               // 0 smooth, 1 single beads
+    double hz, q;
+    double attack, decay;
+    double back, backAt; // level and time of the return stroke
+    double grain;        // 0 smooth, 1 single beads
 };
 Buffer Shaker(const ShakerShape& shape, std::uint32_t seed);
 
 /// Two-operator frequency modulation with noise: clangs, zaps, machines.
 struct ClangShape {
-    double hz = 220.0, ratio = 1.41, index = 4.0;
-    double bend = 0.0, bendTime = 0.1; // octaves, seconds
-    double decay = 0.5, indexDecay = 0.2;
-    double noise = 0.2, noiseHz = 2500.0, noiseDecay = 0.1;
-    double crushHold = 0.0; // frames; 0 leaves the sound alone
-    int crushBits = 8;
-    double drive = 2.0;
+    double hz, ratio, index;
+    double bend, bendTime; // octaves, seconds
+    double decay, indexDecay;
+    double noise, noiseHz, noiseDecay;
+    double drive;
 };
 Buffer Clang(const ClangShape& shape, std::uint32_t seed);
+
+/// Noise through a filter that moves: steam, brushes, sweeps.
+struct SweepShape {
+    double fromHz, toHz, time; // the corner's time constant, seconds
+    double q;
+    double attack, decay;
+    double flutterHz, flutter; // amplitude modulation, depth 0..1
+    double drive;
+};
+Buffer Sweep(const SweepShape& shape, std::uint32_t seed);
+
+/// A chord of squares through a closing low-pass.
+struct StabShape {
+    double hz;
+    Ratios chord;
+    double openHz, closedHz, closeTime, q;
+    double decay;
+    double drive;
+};
+Buffer Stab(const StabShape& shape, std::uint32_t seed);
 
 } // namespace korvane::factory

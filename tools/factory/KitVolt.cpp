@@ -6,35 +6,69 @@ namespace korvane::factory {
 
 namespace {
 
-const std::vector<double> kSixSquares = {1.0, 1.5005, 1.8195, 2.5366, 2.6341, 3.9024};
+constexpr Ratios kSixSquares = {1.0, 1.5005, 1.8195, 2.5366, 2.6341, 3.9024};
+constexpr Treatment kClapRoom{.wide = true, .room = {.seconds = 0.35, .darkHz = 6500.0, .level = 0.35}};
 
-Sound Hat(std::uint32_t seed, double decay, double highPass)
-{
-    return Cymbal({.hz = 205.0, .ratios = kSixSquares, .noise = 0.15, .highPass = highPass, .decay = decay}, seed);
-}
+// clang-format off
+constexpr KitRow<KickShape> kKicks[] = {
+//   name               peak  treated  hz    sweep time   snap hold   decay click hz      second drive low-pass
+    {"Volt Kick",       -0.5, kDry,   {49.0, 2.2,  0.028, 1.5, 0.020, 0.55, 0.25, 3000.0, 0.0,   1.8,  12000.0}},
+    {"Volt Kick Punch", -0.5, kDry,   {56.0, 3.4,  0.018, 2.0, 0.035, 0.27, 0.45, 4200.0, 0.15,  2.6,  14000.0}},
+    {"Volt Kick Long",  -0.5, kDry,   {46.0, 1.3,  0.040, 2.5, 0.060, 1.70, 0.12, 2200.0, 0.0,   1.3,  6000.0}},
+    {"Volt Zap",        -2.0, kDry,   {95.0, 6.2,  0.045, 0.5, 0.000, 0.32, 0.10, 6000.0, 0.25,  2.2,  16000.0}},
+};
+constexpr KitRow<SnareShape> kSnares[] = {
+//   name                peak  treated  hz     ratio bend tone  decay noise decay low     high     crack drive
+    {"Volt Snare",       -1.0, kDry,   {185.0, 1.72, 0.6, 0.55, 0.16, 1.05, 0.26, 900.0,  9000.0,  0.5,  1.4}},
+    {"Volt Snare Tight", -1.0, kDry,   {230.0, 1.72, 1.0, 0.60, 0.09, 0.95, 0.14, 1800.0, 9000.0,  0.8,  1.4}},
+    {"Volt Snare Noise", -1.0, kWide,  {205.0, 1.58, 0.4, 0.45, 0.12, 1.30, 0.42, 1400.0, 11000.0, 0.3,  1.8}},
+};
+constexpr KitRow<ClapShape> kClaps[] = {
+//   name              peak  treated     hz      q    hands spacing decay bright drive
+    {"Volt Clap",      -1.5, kDry,      {1050.0, 1.6, 4,    0.010,  0.24, 0.30,  1.6}},
+    {"Volt Clap Wide", -1.5, kClapRoom, {900.0,  1.2, 5,    0.013,  0.38, 0.45,  1.4}},
+};
+constexpr KitRow<CymbalShape> kCymbals[] = {
+//   name               peak  treated  hz     ratios       metal noise high-pass low-pass attack  decay body  hz      time drive
+    {"Volt Hat Closed", -3.0, kDry,   {205.0, kSixSquares, 0.8,  0.15, 7000.0,   11500.0, 0.0010, 0.10, 0.05, 5200.0, 0.5, 2.2}},
+    {"Volt Hat Open",   -3.0, kDry,   {205.0, kSixSquares, 0.8,  0.15, 6600.0,   11500.0, 0.0010, 0.62, 0.06, 5200.0, 0.8, 2.0}},
+    {"Volt Crash",      -3.0, kWide,  {290.0, kSixSquares, 0.7,  0.60, 4200.0,   11000.0, 0.0015, 1.95, 0.40, 3100.0, 0.6, 1.6}},
+    {"Volt Ride",       -3.0, kDry,   {365.0, kSixSquares, 0.9,  0.10, 6000.0,   12000.0, 0.0010, 1.30, 0.35, 4300.0, 0.5, 1.4}},
+};
+constexpr KitRow<TomShape> kToms[] = {
+//   name             peak  treated  hz     bend  time  decay overtone skin  hz      drive
+    {"Volt Tom Low",  -1.5, kDry,   {82.0,  0.70, 0.05, 0.62, 0.25,    0.15, 1800.0, 1.3}},
+    {"Volt Tom Mid",  -1.5, kDry,   {118.0, 0.70, 0.05, 0.50, 0.25,    0.15, 1800.0, 1.3}},
+    {"Volt Tom High", -1.5, kDry,   {168.0, 0.70, 0.05, 0.40, 0.25,    0.15, 1800.0, 1.3}},
+};
+// hz, level, decay
+constexpr Modes kRim = {{{1720.0, 0.8, 0.06}, {455.0, 0.6, 0.06}, {2870.0, 0.3, 0.04}}};
+constexpr Modes kClave = {{{2480.0, 1.0, 0.085}, {2512.0, 0.2, 0.05}}};
+constexpr KitRow<StruckShape> kStruck[] = {
+//   name            peak  treated  modes    length click hz      time   squares hz     decay drive
+    {"Volt Rim",     -2.0, kDry,   {kRim,    0.12,  0.5,  4000.0, 0.006, 0.0,    0.0,   0.0,  2.0}},
+    {"Volt Clave",   -2.0, kDry,   {kClave,  0.13,  0.2,  5000.0, 0.004, 0.0,    0.0,   0.0,  1.5}},
+    {"Volt Cowbell", -3.0, kDry,   {Modes{}, 0.60,  0.1,  4000.0, 0.006, 1.2,    540.0, 0.5,  1.2}},
+};
+constexpr KitRow<ShakerShape> kShakers[] = {
+//   name           peak  treated  hz      q    attack decay back at    grain
+    {"Volt Shaker", -4.0, kDry,   {6500.0, 0.9, 0.020, 0.09, 0.3, 0.07, 0.5}},
+};
+// clang-format on
 
 } // namespace
 
-// clang-format off
 Kit VoltKit()
 {
-    return {
-    {"Volt Kick", -0.5, [](auto seed) { return Kick({.hz = 49.0, .sweep = 2.2, .sweepTime = 0.028, .decay = 0.48, .click = 0.25, .drive = 1.8}, seed); }},
-    {"Volt Kick Punch", -0.5, [](auto seed) { return Kick({.hz = 56.0, .sweep = 3.4, .sweepTime = 0.018, .snap = 2.0, .decay = 0.27, .click = 0.45, .clickHz = 4200.0, .drive = 2.6, .second = 0.15}, seed); }},
-    {"Volt Snare", -1.0, [](auto seed) { return Snare({}, seed); }},
-    {"Volt Snare Tight", -1.0, [](auto seed) { return Snare({.hz = 230.0, .toneDecay = 0.09, .bend = 1.0, .noiseDecay = 0.11, .lowHz = 1800.0, .crack = 0.8}, seed); }},
-    {"Volt Rim", -2.0, [](auto seed) { return Struck({.modes = {{1720.0, 0.8, 0.05}, {455.0, 0.6, 0.05}, {2870.0, 0.3, 0.03}}, .length = 0.1, .click = 0.5, .drive = 2.0}, seed); }},
-    {"Volt Clap", -1.5, [](auto seed) { return Clap({}, seed); }},
-    {"Volt Hat Closed", -4.0, [](auto seed) { return Hat(seed, 0.075, 7200.0); }},
-    {"Volt Hat Open", -4.0, [](auto seed) { return Hat(seed, 0.55, 6800.0); }},
-    {"Volt Tom Low", -1.5, [](auto seed) { return Tom({.hz = 82.0, .decay = 0.62}, seed); }},
-    {"Volt Tom Mid", -1.5, [](auto seed) { return Tom({.hz = 118.0, .decay = 0.5}, seed); }},
-    {"Volt Tom High", -1.5, [](auto seed) { return Tom({.hz = 168.0, .decay = 0.4}, seed); }},
-    {"Volt Cowbell", -3.0, [](auto seed) { return Struck({.length = 0.6, .click = 0.1, .squares = 1.2, .squaresDecay = 0.5}, seed); }},
-    {"Volt Crash", -3.0, [](auto seed) { return Cymbal({.hz = 290.0, .ratios = kSixSquares, .noise = 0.6, .highPass = 4200.0, .attack = 0.001, .decay = 1.9, .body = 0.5, .bodyHz = 3100.0, .bodyTime = 0.5}, seed); }},
-    {"Volt Shaker", -5.0, [](auto seed) { return Shaker({}, seed); }},
-    };
+    Kit kit;
+    Add(kit, Kick, kKicks);
+    Add(kit, Snare, kSnares);
+    Add(kit, Clap, kClaps);
+    Add(kit, Cymbal, kCymbals);
+    Add(kit, Tom, kToms);
+    Add(kit, Struck, kStruck);
+    Add(kit, Shaker, kShakers);
+    return kit;
 }
-// clang-format on
 
 } // namespace korvane::factory

@@ -1,5 +1,7 @@
-// The drum kits: one row per one-shot.
+// The drum kits: what turns a row into a file's sound.
 #include "Kits.h"
+
+#include <utility>
 
 namespace korvane::factory {
 
@@ -15,12 +17,30 @@ std::uint32_t SeedOf(const char* name)
     return hash;
 }
 
+void Overdrive(Buffer& side, double drive)
+{
+    const double peak = Peak(Sound(side));
+    if (peak > 0.0) Saturate(side, drive / peak);
+}
+
 } // namespace
+
+Sound Treated(const std::function<Buffer(std::uint32_t seed)>& model, const Treatment& treatment, std::uint32_t seed)
+{
+    constexpr std::uint32_t kOtherSide = 1000, kRoom = 2000; // far from the seeds that models derive from theirs
+    Sound sound(model(seed));
+    if (treatment.wide) sound.right = model(seed + kOtherSide);
+    for (Buffer* side : {&sound.left, &sound.right}) {
+        if (treatment.crushHold > 0.0) Crush(*side, treatment.crushHold, treatment.crushBits);
+        if (treatment.drive > 0.0) Overdrive(*side, treatment.drive);
+    }
+    return treatment.room.seconds > 0.0 ? InRoom(sound, treatment.room, seed + kRoom) : sound;
+}
 
 std::vector<OneShot> AllOneShots()
 {
     std::vector<OneShot> all;
-    for (const auto kit : {&VoltKit})
+    for (const auto kit : {&VoltKit, &DeepKit, &OakKit, &ForgeKit})
         for (OneShot& row : kit()) all.push_back(std::move(row));
     return all;
 }

@@ -1,4 +1,4 @@
-// The drum kits: one row per one-shot.
+// The drum kits: one row per one-shot, one table per model.
 #pragma once
 
 #include <cstdint>
@@ -6,8 +6,20 @@
 #include <vector>
 
 #include "Sound.h"
+#include "Synthesis.h"
 
 namespace korvane::factory {
+
+/// What happens to a model's sound on its way to the file, in this order.
+struct Treatment {
+    bool wide = false;      // other noise left and right
+    double crushHold = 0.0; // frames that a value stays; 0 leaves the sound alone
+    int crushBits = 8;
+    double drive = 0.0; // tanh at full level; 0 leaves the sound alone
+    RoomSize room = {}; // 0 seconds: none
+};
+inline constexpr Treatment kDry;
+inline constexpr Treatment kWide{.wide = true};
 
 struct OneShot {
     const char* name; // the kit's name and what it is; also the file's name
@@ -16,7 +28,32 @@ struct OneShot {
 };
 using Kit = std::vector<OneShot>;
 
-Kit VoltKit(); // electronic, after the analogue drum machines' circuits
+template <class Shape>
+struct KitRow {
+    const char* name;
+    double peakDb;
+    Treatment treatment;
+    Shape shape;
+};
+
+/// The model's sound, treated.
+Sound Treated(const std::function<Buffer(std::uint32_t seed)>& model, const Treatment& treatment, std::uint32_t seed);
+
+/// Adds a table of sounds that one model makes.
+template <class Shape, std::size_t count>
+void Add(Kit& kit, Buffer (*model)(const Shape&, std::uint32_t), const KitRow<Shape> (&rows)[count])
+{
+    for (const KitRow<Shape>& row : rows)
+        kit.push_back({row.name, row.peakDb, [model, &row](std::uint32_t seed) {
+                           const auto sound = [model, &row](std::uint32_t s) { return model(row.shape, s); };
+                           return Treated(sound, row.treatment, seed);
+                       }});
+}
+
+Kit VoltKit();  // electronic, after the analogue drum machines' circuits
+Kit DeepKit();  // low and dark, for slow clubs
+Kit OakKit();   // a drum set in a room
+Kit ForgeKit(); // machines and metal
 
 /// Every one-shot of every kit.
 std::vector<OneShot> AllOneShots();

@@ -1,6 +1,8 @@
 // Building blocks of the drum synthesis: sources, filters, shapers, rooms.
 #include "Synthesis.h"
 
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace korvane::factory {
@@ -23,21 +25,29 @@ double BlepEdge(double phase, double step)
 
 double Fraction(double x) { return x - std::floor(x); }
 
-Buffer Reflected(const Buffer& dry, const RoomSize& room, std::uint32_t seed)
+/// Adds the reflections that arrive between two times, each a copy of `dark`.
+void AddReflections(Buffer& wet, const Buffer& dark, const RoomSize& room, double from, double to, Noise& noise)
 {
     constexpr double kDensity = 1800.0; // reflections per second
-    Noise noise(seed);
-    Buffer wet(dry.size() + FramesOf(room.seconds + room.preDelay));
-    const Buffer dark = Filtered(dry, Pass::Low, room.darkHz, 0.6);
-    const int count = static_cast<int>(room.seconds * kDensity);
-    for (int n = 0; n < count; ++n) {
+    const int first = static_cast<int>(from * kDensity), last = static_cast<int>(to * kDensity);
+    for (int n = first; n < last; ++n) {
         const double at = (static_cast<double>(n) + 0.5 + 0.49 * noise.Next()) / kDensity;
         const double sign = noise.Next() < 0.0 ? -1.0 : 1.0;
-        const double gain = sign * Decay(at, room.seconds);
-        const std::size_t offset = FramesOf(at + room.preDelay);
-        for (std::size_t i = 0; i < dark.size() && offset + i < wet.size(); ++i) wet[offset + i] += dark[i] * gain;
+        Mix(wet, dark, sign * Decay(at, room.seconds), at + room.preDelay);
     }
-    Scale(wet, room.level / std::sqrt(static_cast<double>(count) * 0.15));
+}
+
+Buffer Reflected(const Buffer& dry, const RoomSize& room, std::uint32_t seed)
+{
+    constexpr double kThirds[] = {0.0, 0.2, 0.5, 1.0}; // of the room's time: walls take the high frequencies first
+    constexpr double kDarker[] = {1.0, 0.6, 0.35};
+    Noise noise(seed);
+    Buffer wet;
+    for (std::size_t n = 0; n < std::size(kDarker); ++n) {
+        const Buffer dark = Filtered(dry, Pass::Low, room.darkHz * kDarker[n], 0.6);
+        AddReflections(wet, dark, room, room.seconds * kThirds[n], room.seconds * kThirds[n + 1], noise);
+    }
+    Scale(wet, room.level / std::sqrt(270.0 * room.seconds));
     return Filtered(std::move(wet), Pass::High, 120.0);
 }
 
@@ -54,7 +64,8 @@ Buffer Ring(double seconds, const std::vector<Mode>& modes)
     Buffer sum(FramesOf(seconds));
     for (const Mode& mode : modes) {
         const double step = kTurn * mode.hz / kRate, loss = Decay(1.0 / kRate, mode.decay);
-        double real = 0.0, imaginary = mode.level; // a decaying phasor; its real part starts at 0
+        const double start = kTurn * mode.phase;
+        double real = mode.level * std::sin(start), imaginary = mode.level * std::cos(start); // a decaying phasor
         const double turnReal = std::cos(step) * loss, turnImaginary = std::sin(step) * loss;
         for (double& value : sum) {
             value += real;
@@ -66,11 +77,13 @@ Buffer Ring(double seconds, const std::vector<Mode>& modes)
     return sum;
 }
 
-Buffer MetalSquares(double seconds, double hz, const std::vector<double>& ratios)
+Buffer MetalSquares(double seconds, double hz, const Ratios& ratios)
 {
     Buffer sum(FramesOf(seconds));
-    double start = 0.0;
+    double start = 0.0, count = 0.0;
     for (const double ratio : ratios) {
+        if (ratio <= 0.0) continue;
+        count += 1.0;
         const double step = hz * ratio / kRate;
         double phase = start = Fraction(start + 0.381966);
         for (double& value : sum) {
@@ -79,7 +92,7 @@ Buffer MetalSquares(double seconds, double hz, const std::vector<double>& ratios
             phase = Fraction(phase + step);
         }
     }
-    Scale(sum, 1.0 / static_cast<double>(ratios.size()));
+    Scale(sum, 1.0 / count);
     return sum;
 }
 
@@ -100,17 +113,25 @@ void Crush(Buffer& sound, double hold, int bits)
     const double steps = static_cast<double>(1 << (bits - 1));
     double held = 0.0, left = 0.0;
     for (double& value : sound) {
-        if (left <= 0.0) held = std::round(value * steps) / steps, left += hold;
+        if (left <= 0.0) {
+            const double root = std::round(std::sqrt(std::abs(value)) * steps) / steps;
+            held = std::copysign(root * root, value);
+            left += hold;
+        }
         left -= 1.0;
         value = held;
     }
 }
 
-Sound InRoom(const Buffer& dry, const RoomSize& room, std::uint32_t seed)
+Sound InRoom(const Sound& dry, const RoomSize& room, std::uint32_t seed)
 {
-    Sound sound(Reflected(dry, room, seed), Reflected(dry, room, seed + 77));
-    Mix(sound.left, dry);
-    Mix(sound.right, dry);
+    const Buffer& right = dry.Stereo() ? dry.right : dry.left;
+    Sound sound(Reflected(dry.left, room, seed), Reflected(right, room, seed + 77));
+    Mix(sound.left, dry.left);
+    Mix(sound.right, right);
+    const std::size_t longer = std::max(sound.left.size(), sound.right.size());
+    sound.left.resize(longer);
+    sound.right.resize(longer);
     return sound;
 }
 

@@ -1,6 +1,7 @@
 // Building blocks of the drum synthesis: sources, filters, shapers, rooms.
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <numbers>
@@ -18,7 +19,7 @@ inline double Decay(double seconds, double decay) { return std::exp(-6.907755 * 
 /// White noise, -1..1; the same seed gives the same noise everywhere.
 class Noise {
 public:
-    explicit Noise(std::uint32_t seed) : state(seed * 2654435761u + 1u) {}
+    explicit Noise(std::uint32_t seed) : state(seed * 2654435761u | 1u) {}
     double Next()
     {
         state ^= state << 13, state ^= state >> 17, state ^= state << 5; // Marsaglia, xorshift
@@ -69,13 +70,16 @@ Buffer WhiteNoise(double seconds, std::uint32_t seed);
 struct Mode {
     double hz;
     double level;
-    double decay; // seconds to -60 dB
+    double decay;       // seconds to -60 dB
+    double phase = 0.0; // of its sine at the start, cycles
 };
 
 Buffer Ring(double seconds, const std::vector<Mode>& modes);
 
+using Ratios = std::array<double, 6>; // 0: none
+
 /// Square waves at fixed ratios, the inharmonic metal of cymbals. Edges are smoothed (polyBLEP).
-Buffer MetalSquares(double seconds, double hz, const std::vector<double>& ratios);
+Buffer MetalSquares(double seconds, double hz, const Ratios& ratios);
 
 /// State-variable filter by A. Simper (trapezoidal integration), two poles.
 enum class Pass { Low, Band, High };
@@ -99,21 +103,33 @@ struct Filter {
 
 Buffer Filtered(Buffer sound, Pass output, double hz, double q = 0.707);
 
+/// Filtered with the corner at hz(t).
+template <class F>
+Buffer FilteredAlong(Buffer sound, Pass output, double q, F hz)
+{
+    Filter filter(output, hz(0.0), q);
+    for (std::size_t n = 0; n < sound.size(); ++n) {
+        filter.Tune(hz(static_cast<double>(n) / kRate));
+        sound[n] = filter.Step(sound[n]);
+    }
+    return sound;
+}
+
 /// tanh of drive times the sound.
 void Saturate(Buffer& sound, double drive);
 
-/// Holds values for `hold` frames and rounds them to `bits`.
+/// Holds values for `hold` frames and rounds their roots to `bits`, as companding samplers do: tails stay audible.
 void Crush(Buffer& sound, double hold, int bits);
 
 struct RoomSize {
-    double seconds; // to -60 dB
-    double darkHz;  // low-pass of the reflections
-    double level;   // of the reflections against the sound
+    double seconds = 0.0; // to -60 dB
+    double darkHz = 6000; // low-pass of the first reflections; the later ones are darker
+    double level = 0.0;   // of the reflections against the sound
     double preDelay = 0.004;
 };
 
 /// The sound in a short room: sparse random reflections ("velvet noise", Karjalainen and Järveläinen), other ones left
 /// and right.
-Sound InRoom(const Buffer& dry, const RoomSize& room, std::uint32_t seed);
+Sound InRoom(const Sound& dry, const RoomSize& room, std::uint32_t seed);
 
 } // namespace korvane::factory
