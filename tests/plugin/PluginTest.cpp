@@ -1,6 +1,5 @@
 // The plug-in as hosts get it: its file, its clock, its bytes.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <array>
 #include <cmath>
@@ -14,6 +13,7 @@
 #include "framework/ParameterTable.h"
 #include "render/Failure.h"
 #include "render/PluginHost.h"
+#include "support/ContentRoot.h"
 
 namespace korvane {
 namespace {
@@ -25,10 +25,8 @@ using State = std::vector<std::uint8_t>;
 const std::string kPlugin = std::string(KORVANE_BUNDLE) + "/korvane.so";
 
 struct PluginTest : testing::Test {
-    const fs::path folder = fs::path(testing::TempDir()) / ("korvane_plugin." + std::to_string(getpid()));
-
-    PluginTest() { fs::create_directories(folder); }
-    ~PluginTest() override { fs::remove_all(folder); }
+    const ContentRoot root;
+    const fs::path& folder = root.path;
 
     /// 64 frames of half scale: a sound whose first frame is not silent and that ends before the next step.
     std::string Click() const
@@ -61,7 +59,7 @@ struct PluginTest : testing::Test {
     }
 };
 
-/// Both sides of an output pair.
+/// The left side of an output pair.
 using Sound = std::vector<float>;
 
 Sound Play(PluginHost& host, int pair, int frames, int block, double tempo = 120.0)
@@ -72,8 +70,7 @@ Sound Play(PluginHost& host, int pair, int frames, int block, double tempo = 120
     for (int done = 0; done < frames; done += block) {
         const int run = std::min(block, frames - done);
         host.Render(run);
-        for (int n = 0; n < run; ++n) sound.push_back(host.Output(2 * pair)[n]);
-        for (int n = 0; n < run; ++n) sound.back() += 0.0f * host.Output(2 * pair + 1)[n];
+        sound.insert(sound.end(), host.Output(2 * pair), host.Output(2 * pair) + run);
     }
     return sound;
 }

@@ -2,12 +2,9 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdint>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <utility>
@@ -16,6 +13,7 @@
 #include "engine/KVSynth.h"
 #include "platform/Files.h"
 #include "shell/SMX_Def.h"
+#include "support/ContentRoot.h"
 
 namespace korvane {
 
@@ -34,29 +32,9 @@ struct Host : CPluginWrapper {
     std::vector<std::pair<int, float>> reports;
 };
 
-inline void WriteBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes)
-{
-    std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
-}
-
-inline std::vector<std::uint8_t> ReadBytes(const std::filesystem::path& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 class SynthTest : public testing::Test {
 protected:
-    SynthTest()
-    {
-        std::filesystem::remove_all(root);
-        const std::string setting = "rootFolder=" + root.string();
-        WriteBytes(root / "Brassmoor/Korvane.conf", {setting.begin(), setting.end()});
-        setenv("XDG_CONFIG_HOME", root.c_str(), 1);
-        SMX_Def::Install();
-    }
-    ~SynthTest() override { std::filesystem::remove_all(root); }
+    SynthTest() { SMX_Def::Install(); }
 
     /// Made at the first call, and anew after Close.
     KVSynth& Synth()
@@ -73,8 +51,8 @@ protected:
     }
     void Render(int frames = 64) { Synth().ProcessBlock(nullptr, nullptr, frames, true); }
 
-    const std::filesystem::path root =
-        std::filesystem::path(testing::TempDir()) / ("korvane_root." + std::to_string(getpid()));
+    const ContentRoot content;
+    const std::filesystem::path& root = content.path;
     Host host;
     std::unique_ptr<KVSynth> owned;
 };

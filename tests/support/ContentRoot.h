@@ -1,0 +1,44 @@
+// A content folder of a test's own.
+#pragma once
+
+#include <unistd.h>
+
+#include <cstdint>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <vector>
+
+namespace korvane {
+
+inline void WriteBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes)
+{
+    std::filesystem::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
+}
+
+inline std::vector<std::uint8_t> ReadBytes(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+/// Instruments made while it lives find their content here, nothing at first, whatever the user's settings say.
+struct ContentRoot {
+    ContentRoot()
+    {
+        std::filesystem::remove_all(path);
+        const std::string setting = "rootFolder=" + path.string();
+        WriteBytes(path / "Brassmoor/Korvane.conf", {setting.begin(), setting.end()});
+        setenv("XDG_CONFIG_HOME", path.c_str(), 1);
+    }
+    ~ContentRoot() { std::filesystem::remove_all(path); }
+    ContentRoot(const ContentRoot&) = delete;
+
+    const std::filesystem::path path =
+        std::filesystem::temp_directory_path() / ("korvane_root." + std::to_string(getpid()));
+};
+
+} // namespace korvane
