@@ -2,6 +2,7 @@
 #include "engine/FXUnit.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <numbers>
 
@@ -23,7 +24,7 @@ template <int shape>
 float LfoValue(double p)
 {
     if constexpr (shape == 0)
-        return std::sin(2.0f * std::numbers::pi_v<float> * static_cast<float>(p));
+        return static_cast<float>(std::sin(2.0 * std::numbers::pi * p));
     else if constexpr (shape == 1)
         return static_cast<float>(2.0 * p <= 1.0 ? 2.0 * p : 2.0 - 2.0 * p);
     else if constexpr (shape == 2)
@@ -102,7 +103,7 @@ void FXUnit::Reset(float newRate)
     loop.Restart();
     lfoPhase = 0.0;
     mix = 0.0f;
-    holdFrames = ringFrames = 0;
+    holdFrames = 0;
     audible = 0;
 }
 
@@ -112,18 +113,12 @@ void FXUnit::Process(float* left, float* right, int frames, float tempo)
         audible = 0;
         return;
     }
+    assert(frames <= kMaxRun);
     if (frames < 1) return;
     audible = 0;
     lfoSeconds = lfoBeats * 60.0f / tempo;
     lfoIncrement = lfoSeconds > 0.0f ? 1.0 / (static_cast<double>(sampleRate) * static_cast<double>(lfoSeconds)) : 0.0;
-    for (int done = 0; done < frames; done += kMaxRun)
-        ProcessBlock({left + done, right + done, std::min(frames - done, kMaxRun)});
-}
-
-void FXUnit::ProcessBlock(const Block& block)
-{
-    const std::uint8_t before = audible;
-    audible = 0;
+    const Block block{left, right, frames};
     switch (type) {
     case FxType::Distortion: Distort(block); break;
     case FxType::Decimator: Decimate(block); break;
@@ -139,7 +134,6 @@ void FXUnit::ProcessBlock(const Block& block)
     }
     if (audible && !(AllFinite(block.left, block.frames) && AllFinite(block.right, block.frames))) Silence(block);
     mix = Flushed(mix);
-    audible = audible | before;
 }
 
 bool FXUnit::Off() const

@@ -48,7 +48,7 @@ public:
 
     /// Does nothing when the rate is outside 1..1000000 Hz or the tempo below 1. Allocates nothing. An input that is
     /// not finite, or overflows, gives one silent block and a reset.
-    /// frames  0 changes nothing, the tail flag included; above 512 is worked through in blocks of 512
+    /// frames  0..kMaxRun; 0 changes nothing, the tail flag included
     /// tempo   beats per minute
     void Process(float* left, float* right, int frames, float tempo);
 
@@ -85,7 +85,6 @@ private:
 
     bool Usable() const;
     bool Off() const; // faded out
-    void ProcessBlock(const Block& block);
     float Target() const { return bypass ? 0.0f : 1.0f; }
     float BlockLfo(int frames);
     void FillLfo(float* lfo, int frames);
@@ -132,7 +131,6 @@ private:
     std::unique_ptr<TapeDelay<StereoChain>> chorusDelays; // three in series per side
     std::unique_ptr<TapeDelay<Stereo>> echoDelays;
     std::unique_ptr<MFXTapeDelay> panDelays[2];
-    std::int32_t ringFrames = 0; // echo and reverb: frames until what is left in them is silence
     std::unique_ptr<fxReverb> reverb;
     StutterLoop loop;
 };

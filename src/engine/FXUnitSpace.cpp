@@ -36,11 +36,10 @@ bool Exceeds(Stereo frame, float threshold)
 
 } // namespace
 
-/// holdFrames keeps a released unit running while the channel sounds; ringFrames ends that when the tape has been
-/// silent for a whole loop, from where on the unit would only copy its input.
+/// holdFrames keeps a released unit running while the channel sounds and for one tape after.
 void FXUnit::Echo(const Block& block)
 {
-    if (bypass && (holdFrames < 0 || ringFrames <= 0)) return;
+    if (bypass && holdFrames < 0) return;
     audible = 1;
     constexpr float kLongestSeconds = 1.5f;
     TapeDelay<Stereo>& delays = *echoDelays;
@@ -56,7 +55,6 @@ void FXUnit::Echo(const Block& block)
     const float target = Target();
     float level = mix;
     Countdown hold{holdFrames, full};
-    Countdown ring{ringFrames, full};
     for (int n = 0; n < block.frames; ++n) {
         level += (target - level) * kOnStep;
         delays.inputGain = level * send;
@@ -64,12 +62,10 @@ void FXUnit::Echo(const Block& block)
         const Stereo wet = delays.Process(dry);
         const Stereo out = dry + wet;
         hold.Step(Exceeds(dry, kAudibleAbove) || Exceeds(out, kAudibleAbove));
-        ring.Step(level >= kFlushBelow || Exceeds(wet, 0.0f));
         StoreFrame(out, block.left, block.right, n);
     }
     mix = level;
     holdFrames = hold.frames;
-    ringFrames = ring.frames;
 }
 
 void FXUnit::AllocateReverb()
@@ -79,10 +75,10 @@ void FXUnit::AllocateReverb()
     reverb->SetSampleRate(sampleRate);
 }
 
-/// As with the echo, ringFrames ends the tail of a released unit once it is far below hearing.
+/// As with the echo, but for a quarter of a second.
 void FXUnit::Reverberate(const Block& block)
 {
-    if (bypass && (holdFrames <= 0 || ringFrames <= 0)) return;
+    if (bypass && holdFrames <= 0) return;
     audible = 1;
     const float decay = 0.75f * (x * x * x);
     reverb->SetParameter(reverb::HighDamping, y * y);
@@ -104,16 +100,13 @@ void FXUnit::Reverberate(const Block& block)
 
     const auto full = static_cast<std::int32_t>(std::lround(sampleRate * 0.25f));
     Countdown hold{holdFrames, full};
-    Countdown ring{ringFrames, full};
     for (int n = 0; n < block.frames; ++n) {
         const Stereo wet = LoadFrame(wetLeft, wetRight, n);
         const Stereo out = LoadFrame(block.left, block.right, n) + wet;
         hold.Step(Exceeds(out, kAudibleAbove));
-        ring.Step(level >= kFlushBelow || Exceeds(wet, kFlushBelow));
         StoreFrame(out, block.left, block.right, n);
     }
     holdFrames = hold.frames;
-    ringFrames = ring.frames;
 }
 
 } // namespace korvane

@@ -26,7 +26,7 @@ void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
 {
     unit.eqOn = params[slot::EqOn] != 0.0f;
     for (std::size_t band = 0; band < kEqBands; ++band) {
-        const float gain = Clamp<float>(params[slot::EqGain + band], 0.0f, 1.0f);
+        const float gain = params[slot::EqGain + band];
         if (gain == unit.eqGains[band]) continue;
         unit.eqGains[band] = gain;
         unit.eqChanged[band] = 1;

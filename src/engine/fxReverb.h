@@ -19,17 +19,17 @@ public:
     /// Starts at 44100 Hz with the program "[1] Default Reverb".
     fxReverb();
 
-    void Process(float** inputs, float** outputs, std::int32_t frames) override; // adds to the outputs
+    /// Empties the delay memory; the reverb level starts at its target.
+    void Reset() override;
+    /// Reallocates and empties the delay memory; a rate outside 1..1000000 Hz is ignored.
+    void SetSampleRate(float newRate) override;
     void ProcessReplacing(float** inputs, float** outputs, std::int32_t frames) override;
     void SetParameter(std::int32_t index, float value) override; // 0..1; an unknown index is ignored
     float GetParameter(std::int32_t index) override;             // 0 for an unknown index
     void GetParameterLabel(std::int32_t index, char* text) override;
     void GetParameterDisplay(std::int32_t index, char* text) override;
     void GetParameterName(std::int32_t index, char* text) override;
-    /// Reallocates and empties the delay memory; a rate outside 1..1000000 Hz is ignored.
-    void SetSampleRate(float newRate) override;
-    /// Empties the delay memory; the reverb level starts at its target.
-    void Reset() override;
+    void Process(float** inputs, float** outputs, std::int32_t frames) override; // adds to the outputs
 
     /// Level of one input or output.
     struct Meter {

@@ -42,7 +42,8 @@ TEST(FXUnit, PassesTheSignalUntouchedWhenItDoesNotWork)
             unit.Run(sound, 0, -1, c.tempo);
             EXPECT_EQ(sound.left, input.left);
             EXPECT_EQ(sound.right, input.right);
-            EXPECT_FALSE(unit.HasTail());
+            const bool runsAlong = type == FxType::Echo && c.bypass; // its tape turns while the channel sounds
+            EXPECT_EQ(unit.HasTail(), runsAlong);
         }
     }
 }
@@ -326,8 +327,8 @@ TEST(FXUnit, WildSettingsNeverGiveBadNumbers)
                 unit.y = unit.lfoAmount = value;
                 unit.lfoBeats = std::fabs(value);
                 unit.lfoShape = static_cast<int>(type);
-                unit.Process(sound.left.data(), sound.right.data(), 1000, 1e30f);
-                unit.Process(sound.left.data(), sound.right.data(), 1000, 130.0f);
+                unit.Process(sound.left.data(), sound.right.data(), 512, 1e30f);
+                unit.Process(sound.left.data(), sound.right.data(), 512, 130.0f);
             }
             for (const float sample : sound.left)
                 ASSERT_TRUE(std::isfinite(sample)) << static_cast<int>(type) << " " << rate;
@@ -365,7 +366,7 @@ TEST(FXUnit, BlockLengthDoesNotMatter)
         Played whole(type, 0.6f, 0.4f), cut(type, 0.6f, 0.4f);
         whole.lfoAmount = cut.lfoAmount = 0.4f;
         Sound a = Noise(6000), b = a;
-        whole.Process(a.left.data(), a.right.data(), 6000, kTempo);
+        whole.Run(a);
         for (int n = 0, step = 0; n < 6000; n += step) {
             step = std::min(n % 97, 6000 - n);
             cut.Process(&b.left[n], &b.right[n], step, kTempo);

@@ -15,16 +15,16 @@ public:
 
     virtual std::intptr_t Dispatch(std::int32_t opcode, std::int32_t index, std::intptr_t value, void* pointer,
                                    float option);
-    virtual void Process(float** inputs, float** outputs, std::int32_t frames) = 0; // adds to the outputs
+    virtual void Reset() {}
+    virtual void SetSampleRate(float newRate) { sampleRate = newRate; }
+    virtual void SetBlockSize(std::int32_t frames) { blockSize = frames; }
     virtual void ProcessReplacing(float**, float**, std::int32_t) {}
     virtual void SetParameter(std::int32_t, float) {}
     virtual float GetParameter(std::int32_t) { return 0.0f; }
     virtual void GetParameterLabel(std::int32_t, char* text) { *text = '\0'; }
     virtual void GetParameterDisplay(std::int32_t, char* text) { *text = '\0'; }
     virtual void GetParameterName(std::int32_t, char* text) { *text = '\0'; }
-    virtual void SetSampleRate(float newRate) { sampleRate = newRate; }
-    virtual void SetBlockSize(std::int32_t frames) { blockSize = frames; }
-    virtual void Reset() {}
+    virtual void Process(float** inputs, float** outputs, std::int32_t frames) = 0; // adds to the outputs
 
     AEffect* Record() { return &record; }
 
