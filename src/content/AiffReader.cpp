@@ -12,6 +12,7 @@ namespace korvane {
 namespace {
 
 constexpr int kMaxMarkers = 1024;
+constexpr int kMarkerBudget = 64 * kMaxMarkers; // of a whole file: bounds what damaged chunks cost
 
 struct AiffHeader {
     int channels = 1;
@@ -20,7 +21,8 @@ struct AiffHeader {
     std::uint32_t rate = 44100;
     bool loop = false;
     int beginMarker = -1, endMarker = -1;
-    std::map<int, std::uint32_t> markers; // of markers with one id the last counts
+    std::map<int, std::uint32_t> markers; // of the last chunk; of markers with one id the last counts
+    int markerBudget = kMarkerBudget;
 };
 
 bool ReadCommon(CFileStreamer& file, std::uint32_t size, AiffHeader& header)
@@ -36,8 +38,10 @@ bool ReadCommon(CFileStreamer& file, std::uint32_t size, AiffHeader& header)
 
 void ReadMarkers(CFileStreamer& file, AiffHeader& header)
 {
+    header.markers.clear();
     const int count = std::min<int>(file.ReadWordBigEndian(), kMaxMarkers);
-    for (int n = 0; n < count && file.position < file.fileSize; ++n) {
+    for (int n = 0; n < count && header.markerBudget > 0 && file.position < file.fileSize; ++n) {
+        --header.markerBudget;
         const int id = static_cast<std::int16_t>(file.ReadWordBigEndian());
         header.markers[id] = file.ReadDwordBigEndian();
         const int text = file.ReadByte();
@@ -106,18 +110,18 @@ bool CWaveSample::LoadAiff(const char* path, int padFrames)
         return false;
     }
     numChannels = header.channels;
-    numFrames = channelData[0] ? static_cast<std::int32_t>(soundFrames) : 0;
+    numFrames = channelData[0] ? static_cast<std::int32_t>(std::min(soundFrames, header.frames)) : 0;
     if (numChannels == 2 && numFrames > 0 && !channelData[1]) numChannels = 1; // the header changed behind its sound
     sampleRate = header.rate;
     std::int64_t start = 0, end = numFrames;
     if (header.loop) {
         if (const auto marker = header.markers.find(header.beginMarker); marker != header.markers.end())
-            start = marker->second;
+            start = static_cast<std::int32_t>(marker->second); // a position beyond that is below 0
         if (const auto marker = header.markers.find(header.endMarker); marker != header.markers.end())
             end = marker->second;
     }
     loopEnd = static_cast<std::int32_t>(std::min<std::int64_t>(end, numFrames));
-    loopStart = static_cast<std::int32_t>(std::min<std::int64_t>(start, loopEnd));
+    loopStart = static_cast<std::int32_t>(std::clamp<std::int64_t>(start, 0, loopEnd));
     return true;
 }
 

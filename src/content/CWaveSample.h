@@ -20,8 +20,8 @@ public:
     // sound. padFrames is the number of zero frames wanted after the last one.
     //
     // A file that was cut short plays silence for what its sound chunk announces but does not hold. It is refused
-    // when more than its own size and another 1 MiB are missing: such a length is a fault, and no reason to take
-    // memory.
+    // when the chunk announces more than four times the file and another 1 MiB: such a length is a fault, and no
+    // reason to take memory.
 
     /// RIFF WAVE: integers of 16, 24 or 32 bits or 32-bit floats, mono or stereo. First frame at index 0. A loop counts
     /// only when it follows the sound.

@@ -83,8 +83,8 @@ bool KVSynth::LoadPartFile(const char* path)
         const float level = engine->GetChannelParameter(slot::MixLevel); // as shown: an edited step's lock included
         const float panning = engine->GetChannelParameter(slot::Panning);
         loaded = engine->LoadPart(image.bytes.get(), image.size);
-        engine->SetChannelParameter(slot::MixLevel, level);
-        engine->SetChannelParameter(slot::Panning, panning);
+        for (const auto& [base, value] : {std::pair{slot::MixLevel, level}, {slot::Panning, panning}})
+            if (engine->GetChannelParameter(base) != value) engine->SetChannelParameter(base, value);
     }
     if (!loaded) return false;
     ReportParameters();

@@ -132,8 +132,8 @@ bool SamplePool::CopyFiles(const std::vector<std::string>& paths, const char* fo
     bool all = true;
     for (const std::string& path : paths) {
         const std::string target = std::string(folder) + "\\" + std::string(FileNameOf(path));
-        if (target != path && !CopyFile(path.c_str(), target.c_str()))
-            all = false; // a file is never copied onto itself
+        if (SameFile(path.c_str(), target.c_str())) continue; // creating it would empty it
+        if (!CopyFile(path.c_str(), target.c_str())) all = false;
     }
     return all;
 }

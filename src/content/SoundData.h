@@ -10,8 +10,9 @@
 
 namespace korvane {
 
-/// A sound chunk may announce this much more than the whole file holds; what is missing is silence. More is a fault.
-inline constexpr std::int64_t kMissingBytes = 1 << 20;
+/// A sound chunk may announce more than the whole file holds, so many times its size and so many bytes; what is missing
+/// is silence. More is a fault.
+inline constexpr std::int64_t kMissingTimes = 4, kMissingBytes = 1 << 20;
 
 /// Reads `bytes` from the file's position and converts them frame by frame into new buffers of the sample, from index
 /// firstIndex on. False, with an empty sample, when memory runs out or the length is impossible.
@@ -21,7 +22,7 @@ bool ReadFrames(CFileStreamer& file, CWaveSample& sample, std::int64_t bytes, in
                 std::int64_t frames, int padFrames, int firstIndex, Convert convert)
 {
     sample.Clear();
-    if (bytes > std::int64_t{file.fileSize} + kMissingBytes || padFrames < firstIndex) return false;
+    if (bytes > kMissingTimes * file.fileSize + kMissingBytes || padFrames < firstIndex) return false;
     std::unique_ptr<std::uint8_t[]> raw(new (std::nothrow) std::uint8_t[static_cast<std::size_t>(bytes)]);
     if (!raw) return false;
     for (int c = 0; c < channels; ++c) {

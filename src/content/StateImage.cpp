@@ -42,7 +42,7 @@ void ReadFlags(ByteReader& in, Shared<bool> (&flags)[kCount])
     }
 }
 
-/// An assignment to what does not exist is none.
+/// Whoever follows an assignment looks whether it leads anywhere.
 void ReadExtControl(ByteReader& in, GrooveEngine::ExtControl& control)
 {
     const auto value = in.Read<float>();
@@ -51,7 +51,7 @@ void ReadExtControl(ByteReader& in, GrooveEngine::ExtControl& control)
     if (!in.Ok()) return;
     control.value = value;
     control.channel = channel;
-    control.param = param < kChannelSlots && channel >= 0 && channel < kChannels ? param : std::min(param, -1);
+    control.param = param;
 }
 
 /// The fields that are there are taken over, also when the header is cut.

@@ -219,7 +219,7 @@ void GrooveChannel::Reset(float newRate)
     voiceCounter = 0;
     lastPitch = -1.0f;
     for (auto& voice : voices) {
-        ClearVoice(*voice);
+        EndVoice(*voice); // its gain stays where it was
         voice->amp = voice->env1 = voice->env2 = {};
         FillPhases(*voice, random);
     }

@@ -122,7 +122,7 @@ void GrooveEngine::SetExtControl(int n, float value)
     RefreshChannel(channel);
 }
 
-void GrooveEngine::RefreshChannel(int channel)
+void GrooveEngine::RefreshChannel(int channel, bool withLocks)
 {
     const auto& stored = storedParams[channel];
     const auto moved = [&stored](const float* seen) {
@@ -131,15 +131,17 @@ void GrooveEngine::RefreshChannel(int channel)
                 return true;
         return false;
     };
-    float seen[kChannelSlots], block[kChannelSlots];
-    do { // another thread's write must not be lost under this copy
+    constexpr int kTries = 3; // another thread's write, or step, is not to be lost under this copy
+    for (int n = 0; n < kTries; ++n) {
+        const int step = lastStep[channel];
+        float seen[kChannelSlots], block[kChannelSlots];
         std::copy(std::begin(stored), std::end(stored), seen);
         std::copy(std::begin(seen), std::end(seen), block);
-        const int step = lastStep[channel];
-        if (playing && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
-        for (int n = 0; n < kChannelSlots; ++n)
-            Channel(channel).params[n] = std::isfinite(block[n]) ? block[n] : 0.0f; // wild values stay in `stored`
-    } while (moved(seen));
+        if (withLocks && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
+        for (int i = 0; i < kChannelSlots; ++i)
+            Channel(channel).params[i] = std::isfinite(block[i]) ? block[i] : 0.0f; // wild values stay in `stored`
+        if (lastStep[channel] == step && !moved(seen)) break;
+    }
     RefreshFxActive(channel);
 }
 
@@ -227,6 +229,7 @@ void GrooveEngine::InitChannel(int channel)
         sampleSlot.request.Post(oscillator ? defaultWavePath : "!");
         sampleSlot.path.Set(oscillator ? defaultWavePath : ""); // a state saved before the next block has it already
     }
+    Channel(channel).programPath.Set("");
     RefreshChannel(channel);
 }
 

@@ -46,7 +46,7 @@ public:
     void SetExtControl(int n, float value);
     /// Copies the stored block of a channel, with the locks of its last step while playing, into the working block and
     /// refreshes its fxActive flags.
-    void RefreshChannel(int channel);
+    void RefreshChannel(int channel) { RefreshChannel(channel, playing); }
     /// Recomputes a channel's fxActive flags from held effects, the pad and the chosen channels.
     void RefreshFxActive(int channel);
     void RefreshAllFxActive();
@@ -193,6 +193,7 @@ public:
 private:
     const Shared<std::thread::id>* const blockThread;
 
+    void RefreshChannel(int channel, bool withLocks);
     void MixChannels(float* const* outputs, int frames);
     void MixStrip(int channel, float* const* outputs, int frames);
     void AddMetronome(float* left, float* right, int frames);
@@ -205,7 +206,7 @@ private:
     bool AnyMarked() const;
     void SelectBar(int bar);
     void EditSamplerStep(int k);
-    void ToggleNote(int k);
+    void ToggleNote(int step, int k);
     void SelectChannel(int channel);
     void Move(int direction);
     bool NudgeHeldSteps(int direction);

@@ -11,7 +11,6 @@ void GroovePattern::Clear()
 
 void GroovePattern::CopyFrom(const GroovePattern& other)
 {
-    length = other.length;
     for (int c = 0; c < kChannels; ++c)
         for (int s = 0; s < kSteps; ++s) CopyStep(c, s, other, c, s);
 }

@@ -40,18 +40,19 @@ void GrooveEngine::StepButton(int k)
     if (stepHeld[k]) return;
     stepHeld[k] = true;
     RecordPress(k);
+    const int edited = editStep;
     if (!editMode) {
         const bool sampler = selectedChannel < kSamplerChannels;
         NoteOn(sampler ? PadChannel(*this, k) : static_cast<int>(selectedChannel), kFirstNote + k, liveVelocity);
-    } else if (editStep == -1 && k >= kStepsPerBar) {
+    } else if (edited == -1 && k >= kStepsPerBar) {
         SelectBar(k - kStepsPerBar);
     } else if (k < kStepsPerBar && selectedChannel < kSamplerChannels) {
         EditSamplerStep(k);
-    } else if (editStep == -1) {
+    } else if (edited == -1) {
         editStep = k;
         ClearMarks();
     } else {
-        ToggleNote(k);
+        ToggleNote(edited, k);
     }
 }
 
@@ -86,10 +87,10 @@ void GrooveEngine::EditSamplerStep(int k)
     ClearMarks();
 }
 
-void GrooveEngine::ToggleNote(int k)
+void GrooveEngine::ToggleNote(int step, int k)
 {
     const int channel = selectedChannel;
-    auto& word = Pattern().steps[channel][selectedBar * kStepsPerBar + editStep];
+    auto& word = Pattern().steps[channel][selectedBar * kStepsPerBar + step];
     word = word ^ 1u << k;
     if (word >> k & 1u) NoteOn(channel, kFirstNote + k, 1.0f);
 }
@@ -121,7 +122,7 @@ void GrooveEngine::RecordPress(int k)
     recordBar = position / kStepsPerBar;
     const bool sampler = selectedChannel < kSamplerChannels;
     const int target = sampler ? PadChannel(*this, k) : static_cast<int>(selectedChannel);
-    const std::uint32_t bit = 1u << (sampler ? static_cast<int>(recordStep) : k);
+    const std::uint32_t bit = 1u << (sampler ? position % kStepsPerBar : k);
     auto& word = Pattern().steps[target][position];
     word = word | bit;
     if (next) playedThisStep[target] = playedThisStep[target] | bit;

@@ -41,9 +41,9 @@ void GrooveEngine::Paste()
 void GrooveEngine::Clear()
 {
     GroovePattern& pattern = Pattern();
-    const int bar = selectedBar * kStepsPerBar;
-    if (editStep != -1) {
-        pattern.ClearStep(selectedChannel, bar + editStep);
+    const int bar = selectedBar * kStepsPerBar, edited = editStep;
+    if (edited != -1) {
+        pattern.ClearStep(selectedChannel, bar + edited);
     } else {
         for (int c = 0; c < kChannels; ++c) {
             if (selectedBarMark == -1) {

@@ -31,18 +31,17 @@ void GrooveEngine::RenderFrames(float* const* outputs, int frames)
     std::fill_n(out[0], frames, 0.0f);
     std::fill_n(out[1], frames, 0.0f);
 
-    const double lateThreshold =
-        StepFrames() * (0.5 + 0.5 * static_cast<double>(Clamp(1.0f - shuffleAmount, 0.0f, 1.0f)));
+    // A late tick comes with the first run that begins after its instant. Without shuffle that instant is the step's
+    // own, which no run begins after, so the two ticks come together.
+    const double straightness = static_cast<double>(Clamp(1.0f - shuffleAmount, 0.0f, 1.0f));
+    const double lateThreshold = StepFrames() * (0.5 + 0.5 * straightness);
     while (frames > 0) {
-        // Both ticks fall on the whole frame at or before their instant, whatever blocks the host asks for.
-        const int framesToLate = Truncate(samplesToNextStep - lateThreshold);
-        if (lateTickPending && framesToLate <= 0) {
+        if (lateTickPending && (samplesToNextStep < lateThreshold || straightness == 1.0)) {
             SequencerTick(true);
             lateTickPending = false;
         }
         const int framesToStep = std::max(0, Truncate(static_cast<double>(samplesToNextStep)));
         int run = std::min(framesToStep, frames);
-        if (lateTickPending) run = std::min(run, framesToLate);
         if (framesToStep == 0) {
             SequencerTick(false);
             if (patternStep & 1) lateTickPending = true;

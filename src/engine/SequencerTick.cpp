@@ -41,12 +41,10 @@ void GrooveEngine::SequencerTick(bool late)
 void GrooveEngine::AdvancePosition()
 {
     const bool recording = Recording();
-    if (playOnce[currentPattern] && !playBar && !recording) {
-        if (patternRepeats > 0)
-            patternRepeats = patternRepeats - 1;
-        else if (patternStep == Pattern().length - 1)
-            currentPattern = static_cast<int>(nextPattern);
-    }
+    if (patternRepeats > 0)
+        patternRepeats = patternRepeats - 1;
+    else if (playOnce[currentPattern] && !playBar && !recording && patternStep == Pattern().length - 1)
+        currentPattern = static_cast<int>(nextPattern);
     GroovePattern& pattern = Pattern();
     int step = stepCounter;
     pattern.UpdateLength();

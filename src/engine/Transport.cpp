@@ -7,11 +7,11 @@ namespace korvane {
 
 void GrooveEngine::TogglePlay()
 {
-    const bool nowPlaying = !playing;
-    playing = nowPlaying;
-    for (int c = 0; c < kChannels; ++c) RefreshChannel(c);
+    const bool start = !playing;
+    if (!start) playing = false;
+    for (int c = 0; c < kChannels; ++c) RefreshChannel(c, start);
 
-    if (nowPlaying) {
+    if (start) {
         const double position = hostPosition > 0.0 ? static_cast<double>(hostPosition) : 0.0;
         hostPosition = position;
         const double steps = 4.0 * position;
@@ -34,16 +34,17 @@ void GrooveEngine::TogglePlay()
     for (auto& code : stutterCode) code = std::int8_t{0};
     nextPattern = static_cast<int>(currentPattern);
     for (auto& step : lastStep) step = -1;
-    if (!nowPlaying) ReleaseSequenced();
+    if (!start) ReleaseSequenced();
 
     if (!recordMode) {
         countIn = std::int8_t{0};
-    } else if (!nowPlaying) {
+    } else if (!start) {
         countIn = std::int8_t{0};
         ToggleRecord();
     } else {
         countIn = std::int8_t{kStepsPerBar};
     }
+    if (start) playing = true; // last: the clock runs while stopped, and a tick must find the new position
 }
 
 void GrooveEngine::ToggleRecord()

@@ -110,9 +110,7 @@ bool RefreshVoice(GrooveChannel& channel, ChannelVoice& voice, float levelGain)
         return false;
     }
     if (Faded(voice)) {
-        voice.note = -1;
-        voice.active = voice.releasing = false;
-        std::memset(voice.filterState, 0, sizeof voice.filterState);
+        EndVoice(voice);
         return false;
     }
 
@@ -137,11 +135,16 @@ void ReleaseVoice(ChannelVoice& voice)
     voice.amp.target = 0.0f;
 }
 
-void ClearVoice(ChannelVoice& voice)
+void EndVoice(ChannelVoice& voice)
 {
     voice.note = -1;
     voice.active = voice.releasing = false;
     std::memset(voice.filterState, 0, sizeof voice.filterState);
+}
+
+void ClearVoice(ChannelVoice& voice)
+{
+    EndVoice(voice);
     voice.gain = -1.0f;
     voice.gainTarget = 1.0f;
     voice.amp.level = voice.env1.level = voice.env2.level = 0.0f;

@@ -29,6 +29,9 @@ float LevelGain(float ampLevel);
 /// Lets the note fade.
 void ReleaseVoice(ChannelVoice& voice);
 
+/// The voice is free for the next note; its levels stay where they are.
+void EndVoice(ChannelVoice& voice);
+
 /// Silences the voice at once.
 void ClearVoice(ChannelVoice& voice);
 

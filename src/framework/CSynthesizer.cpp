@@ -79,7 +79,7 @@ void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, boo
     std::array<float*, kMaxPointers> in{}, out{};
     if (inputs) std::copy_n(inputs, numInputs, in.begin());
     if (outputs) std::copy_n(outputs, numOutputs, out.begin());
-    if (processing && programChanges == 0) return; // entered again
+    if (blockThread == std::this_thread::get_id() && programChanges == 0) return; // entered again
     if (replacing && frames > 0)
         for (float* output : out)
             if (output) std::fill_n(output, frames, 0.0f);

@@ -50,6 +50,14 @@ bool FileExists(const char* path)
     return true;
 }
 
+bool SameFile(const char* a, const char* b)
+{
+    struct stat first {
+    }, second{};
+    return stat(SystemPath(a).c_str(), &first) == 0 && stat(SystemPath(b).c_str(), &second) == 0 &&
+           first.st_dev == second.st_dev && first.st_ino == second.st_ino;
+}
+
 static bool IsFolder(const std::string& systemPath)
 {
     struct stat status {};

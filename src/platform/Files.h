@@ -23,6 +23,9 @@ std::FILE* OpenForWriting(const char* path);
 /// True when the file can be opened for reading.
 bool FileExists(const char* path);
 
+/// True when both paths lead to one file, through whatever links and detours.
+bool SameFile(const char* a, const char* b);
+
 /// True when the folder exists afterwards; its parent must exist.
 bool CreateFolder(const char* path);
 

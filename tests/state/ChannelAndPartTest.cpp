@@ -20,12 +20,12 @@ TEST(ChannelChunk, EndsWhereItIsCut)
     const Case cases[] = {
         {"whole", 4948, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, "D:\\program"},
         {"longer than it is", 5000, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, "D:\\program"},
-        {"cut program path", 4947, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, "old"},
-        {"no program path", 4436, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, "old"},
-        {"cut last value", 4435, false, "D:\\0", "", 0.25f, 0.0f, 0.75f, "old"},
-        {"no values", 3588, false, "D:\\0", "", 0.0f, 0.0f, 0.75f, "old"},
-        {"cut last path", 3587, false, "D:\\0", "", 0.75f, 0.5f, 0.75f, "old"},
-        {"tag only", 4, false, "", "", 0.75f, 0.5f, 0.75f, "old"},
+        {"cut program path", 4947, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, ""},
+        {"no program path", 4436, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, ""},
+        {"cut last value", 4435, false, "D:\\0", "", 0.25f, 0.0f, 0.75f, ""},
+        {"no values", 3588, false, "D:\\0", "", 0.0f, 0.0f, 0.75f, ""},
+        {"cut last path", 3587, false, "D:\\0", "", 0.75f, 0.5f, 0.75f, ""},
+        {"tag only", 4, false, "", "", 0.75f, 0.5f, 0.75f, ""},
         {"cut tag", 3, false, "old", "old", 0.125f, 0.125f, 0.125f, "old"},
         {"negative length", -1, false, "old", "old", 0.125f, 0.125f, 0.125f, "old"},
     };

@@ -49,23 +49,28 @@ TEST_F(Files, GroovesNameTheGroove)
     EXPECT_EQ(host.told, 196);
 }
 
-// The copies beside a groove are found again wherever both go; saving into the folder of the originals harms nothing.
+// The copies beside a groove are found again wherever both go; saving into the folder of the originals, by whatever
+// path they were found, harms nothing.
 TEST_F(Files, SamplesTravelWithTheirGroove)
 {
-    WriteBytes(root / "F/Samples/kick.wav", kWave);
+    Bytes kick = kWave;
+    kick.resize(200000, 0x40); // more than a file's buffer holds
+    WriteBytes(root / "F/Samples/kick.wav", kick);
     WriteBytes(root / "Synth Waves/Saw.wav", kWave);
     auto& slot = Synth().engine->Channel(0).sampleSlots[3];
     slot.request.Post(Path("F/Samples/kick.wav").c_str());
     Render();
     ASSERT_EQ(TextOf(slot.path), Path("F/Samples/kick.wav"));
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("F/g.kvprj").c_str()));
-    EXPECT_EQ(fs::file_size(root / "F/Samples/kick.wav"), kWave.size());
+    EXPECT_TRUE(ReadBytes(root / "F/Samples/kick.wav") == kick);
     EXPECT_EQ(fs::file_size(root / "F/Waveforms/Saw.wav"), kWave.size());
     fs::rename(root / "F", root / "G");
     ASSERT_TRUE(Synth().LoadGrooveFile(Path("G/g.kvprj").c_str()));
     EXPECT_EQ(TextOf(slot.path), Path("F/Samples/kick.wav"));
     Render();
     EXPECT_EQ(fs::path(TextOf(slot.path)).string(), Path("G/Samples/") + "\\kick.wav");
+    ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("G/g.kvprj").c_str()));
+    EXPECT_TRUE(ReadBytes(root / "G/Samples/kick.wav") == kick);
     const Bytes image = Saved(*Synth().engine);
     EXPECT_EQ(Synth().SetBankChunk(image.data(), static_cast<int>(image.size())), static_cast<int>(image.size()));
     EXPECT_TRUE(Synth().engine->samplePool->grooveSampleFolder.Empty());
@@ -94,8 +99,12 @@ TEST_F(Files, AProgramKeepsTheChannelsFourSettings)
         std::uintmax_t size; // of the file
         bool accepted;
         float pitch; // taken from the program or not
+        std::string path;
     };
-    for (const Case& c : {Case{4948, true, 0.25f}, {4436, true, 0.25f}, {4435, false, 0.25f}, {4, false, 0.75f}}) {
+    for (const Case& c : {Case{4948, true, 0.25f, Path("p.kvsynth")},
+                          {4436, true, 0.25f, Path("p.kvsynth")},
+                          {4435, false, 0.25f, ""},
+                          {4, false, 0.75f, "old"}}) {
         SCOPED_TRACE(c.size);
         fs::resize_file(root / "p.kvsynth", c.size);
         engine.selectedChannel = 10;
@@ -105,7 +114,7 @@ TEST_F(Files, AProgramKeepsTheChannelsFourSettings)
         EXPECT_EQ(Synth().LoadProgramFile(Path("p.kvsynth").c_str()), c.accepted);
         for (const int n : {0, 1, 3, 9}) EXPECT_EQ(engine.GetChannelParameter(n), 0.75f) << n;
         EXPECT_EQ(engine.GetChannelParameter(2), c.pitch);
-        EXPECT_EQ(TextOf(engine.Channel(10).programPath), c.accepted ? Path("p.kvsynth") : "old");
+        EXPECT_EQ(TextOf(engine.Channel(10).programPath), c.path);
         EXPECT_EQ(host.told, c.accepted ? 196 : 0);
     }
 }

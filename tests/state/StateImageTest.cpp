@@ -100,9 +100,10 @@ TEST(StateImage, TakesWhatItCanOfADamagedImage)
                                    true, [](auto& e) { return e.selectedChannel == 12 && e.selectedBar == 7 &&
                                          e.currentPattern == 0 && e.selectedFx == 9 && e.envelopeNumber == 1 &&
                                          e.lfoNumber == 0; }},
-        {"EXT of no parameter",    [](Bytes& b) { Put(b, 43, 212); }, true, [](auto& e) { return e.extControls[0].param == -1; }},
+        {"EXT of no parameter",    [](Bytes& b) { Put(b, 43, 300); }, true,
+                                   [](auto& e) { e.SetExtControl(0, 0.5f); return e.extControls[0].param == 300; }},
         {"EXT of no channel",      [](Bytes& b) { Put(b, 39, 13); Put(b, 43, 5); }, true,
-                                   [](auto& e) { return e.extControls[0].param == -1; }},
+                                   [](auto& e) { e.SetExtControl(0, 0.5f); return e.extControls[0].channel == 13; }},
         {"no program paths",       cutPaths, true, [&](auto& e) { return all(e) && e.Channel(12).programPath.Empty(); }},
         {"longer channel chunk",   [](Bytes& b) { Put(b, kHeader, 4957); b.insert(b.begin() + kHeader + kFramedChannel, 9, 1); },
                                    true, all},

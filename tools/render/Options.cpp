@@ -40,7 +40,7 @@ void Take(Options& options, const std::string& name, const std::string& value)
     if (name == "--plugin")
         options.plugin = value;
     else if (name == "--rate")
-        options.rate = Number(name, value, 8000, 384000);
+        options.rate = Whole(name, value, 8000, 384000);
     else if (name == "--block")
         options.block = Whole(name, value, 1, 65536);
     else if (name == "--tempo")
@@ -86,6 +86,8 @@ Options ParseOptions(int count, char** arguments)
         else if (word.size() > 1 && word[0] == '-') {
             if (n + 1 >= count) throw Failure("'" + word + "' is unknown or lacks its value");
             Take(options, word, arguments[++n]);
+        } else if (word.empty()) {
+            throw Failure("an argument is empty");
         } else {
             files.push_back(word);
         }

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -23,8 +24,15 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kProgramNote = 36; // below the pads, so the selected channel plays it
+constexpr long long kLongestFile = 0x7FFFFFFF; // bytes of sound that any reader of WAV files accepts
+constexpr std::size_t kEventsPerBlock = 1000;  // a plug-in holds so many for sure
+constexpr int kProgramNote = 36;               // below the pads, so the selected channel plays it
 constexpr double kProgramNoteSeconds = 2.0;
+
+volatile std::sig_atomic_t interrupted = 0;
+bool progressShown = false; // and its line not ended
+
+void Interrupt(int) { interrupted = 1; }
 
 std::string DefaultPlugin()
 {
@@ -40,6 +48,7 @@ public:
         Prepare();
         meters.resize(static_cast<std::size_t>(host.Pairs()));
         files.emplace_back(options.output, options.rate, options.integers);
+        if (!options.stems.empty()) CreateStemsFolder();
         for (int pair = 1; pair < host.Pairs() && !options.stems.empty(); ++pair)
             files.emplace_back((fs::path(options.stems) / (host.PairName(pair) + ".wav")).string(), options.rate,
                                options.integers);
@@ -48,14 +57,12 @@ public:
     void Run()
     {
         const auto start = std::chrono::steady_clock::now();
-        const long long runFrames = Frames(transport ? options.bars * 4 * 60.0 / TempoAt(0.0) : length);
-        const long long allFrames = runFrames + Frames(options.tailSeconds);
         if (transport) host.SetPlaying(true);
         for (long long done = 0; done < allFrames;) {
             if (transport && done == runFrames) host.SetPlaying(false);
+            if (interrupted) throw Failure("interrupted");
             const long long rest = (done < runFrames ? runFrames : allFrames) - done;
-            const int frames = static_cast<int>(std::min<long long>(options.block, rest));
-            RenderBlock(done, frames);
+            const int frames = RenderBlock(done, static_cast<int>(std::min<long long>(options.block, rest)));
             done += frames;
             ShowProgress(done, allFrames);
         }
@@ -76,31 +83,32 @@ private:
             host.SetState(StateWithProgram(host.GetState(), file), file);
         }
         for (const auto& [name, value] : options.params) host.SetParameter(name, value);
-        if (!options.stems.empty() && !fs::is_directory(options.stems) && !fs::create_directory(options.stems))
-            throw Failure("cannot create the folder '" + options.stems + "'");
+        runFrames = Frames(transport ? options.bars * 4 * 60.0 / TempoAt(0.0) : length);
+        allFrames = runFrames + Frames(options.tailSeconds);
+        if (allFrames > kLongestFile / (2 * static_cast<long long>(sizeof(float))))
+            throw Failure("that is longer than a WAV file holds");
     }
 
-    long long Frames(double seconds) const { return std::llround(seconds * options.rate); }
+    void CreateStemsFolder() const
+    {
+        std::error_code none;
+        if (fs::is_directory(options.stems, none) || fs::create_directory(options.stems, none)) return;
+        throw Failure("cannot create the folder '" + options.stems + "'");
+    }
+
+    long long Frames(double seconds) const { return std::llround(std::min(seconds * options.rate, 1.0e15)); }
     double TempoAt(double seconds) const { return midi ? midi->TempoAt(seconds) : options.tempo; }
 
-    void RenderBlock(long long done, int frames)
+    /// Renders up to `frames` frames, fewer where more events come than a plug-in takes at once; returns how many.
+    int RenderBlock(long long done, int frames)
     {
         const double seconds = static_cast<double>(done) / options.rate;
         host.SetTempo(TempoAt(seconds));
         host.SetPosition(midi ? midi->QuartersAt(seconds) : seconds * options.tempo / 60.0);
-        if (midi) {
-            for (; next < midi->messages.size(); ++next) {
-                const MidiMessage& message = midi->messages[next];
-                const long long frame = Frames(message.seconds) - done;
-                if (frame >= frames) break;
-                host.QueueMidi(static_cast<int>(std::max(frame, 0LL)), message.status, message.data1, message.data2);
-            }
-        }
-        if (!options.program.empty()) {
-            const long long off = Frames(kProgramNoteSeconds / 2) - done;
-            if (done == 0) host.QueueMidi(0, 0x90, kProgramNote, 100);
-            if (off >= 0 && off < frames) host.QueueMidi(static_cast<int>(off), 0x80, kProgramNote, 0);
-        }
+        if (midi)
+            frames = QueueMessages(done, frames);
+        else if (!options.program.empty())
+            QueueProgramNote(done, frames);
         host.Render(frames);
         for (int pair = 0; pair < host.Pairs(); ++pair) {
             const float* left = host.Output(2 * pair);
@@ -109,6 +117,27 @@ private:
             if (static_cast<std::size_t>(pair) < files.size())
                 files[static_cast<std::size_t>(pair)].Write(left, right, frames);
         }
+        return frames;
+    }
+
+    int QueueMessages(long long done, int frames)
+    {
+        int last = 0; // frame of the event queued last
+        for (std::size_t queued = 0; next < midi->messages.size(); ++next, ++queued) {
+            const MidiMessage& message = midi->messages[next];
+            const long long frame = std::max(Frames(message.seconds) - done, 0LL);
+            if (frame >= frames) break;
+            if (queued >= kEventsPerBlock && frame > last) return static_cast<int>(frame);
+            host.QueueMidi(last = static_cast<int>(frame), message.status, message.data1, message.data2);
+        }
+        return frames;
+    }
+
+    void QueueProgramNote(long long done, int frames)
+    {
+        const long long off = Frames(kProgramNoteSeconds / 2) - done;
+        if (done == 0) host.QueueMidi(0, 0x90, kProgramNote, 100);
+        if (off >= 0 && off < frames) host.QueueMidi(static_cast<int>(off), 0x80, kProgramNote, 0);
     }
 
     static void ShowProgress(long long done, long long all)
@@ -118,6 +147,7 @@ private:
         const int now = static_cast<int>(done * kWidth / all);
         if (!isatty(STDERR_FILENO) || now == shown) return;
         shown = now;
+        progressShown = done < all;
         std::fprintf(stderr, "\r[%-*s]%s", kWidth, std::string(static_cast<std::size_t>(now), '#').c_str(),
                      done == all ? "\n" : "");
     }
@@ -135,9 +165,10 @@ private:
     Options options;
     PluginHost host;
     std::optional<MidiFile> midi;
-    std::size_t next = 0;  // MIDI message to be played
-    bool transport = true; // the plug-in's own sequencer runs
-    double length = 0.0;   // seconds before the tail, without transport
+    std::size_t next = 0;                   // MIDI message to be played
+    bool transport = true;                  // the plug-in's own sequencer runs
+    double length = 0.0;                    // seconds before the tail, without transport
+    long long runFrames = 0, allFrames = 0; // before the tail, and with it
     std::vector<LevelMeter> meters;
     std::vector<WavOutput> files; // main mix, then the stems
 };
@@ -166,9 +197,11 @@ int Main(int count, char** arguments)
 
 int main(int count, char** arguments)
 {
+    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) std::signal(signal, korvane::render::Interrupt);
     try {
         return korvane::render::Main(count, arguments);
     } catch (const std::exception& reason) {
+        if (korvane::render::progressShown) std::fputs("\n", stderr);
         std::fprintf(stderr, "korvane-render: %s\n", reason.what());
         return 1;
     }
