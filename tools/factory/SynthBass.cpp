@@ -115,10 +115,10 @@ constexpr SynthSound kSounds[] = {
      .velocity = {Target::Env1Amount, 0.10}, .wheel = {Target::Modulation, 0.60},
      .effects = {{Fx::HighPass, 0.0, 0.0}}},
 
-    {.name = "Dub Bass", .levelDb = 1.25,
+    {.name = "Dub Bass", .levelDb = 2.5,
      .oscillators = {{"Soft Square"}, {"Sub Fifth", 0, 0, 0.4}},
      .playing = {.mono = true, .slide = 0.30, .octave = -1}, .unison = {.restarts = true},
-     .filter = {LowPass, 0.56, 0.20, 0.5}, .amp = {0.18, 0.65, 0.60, 0.30},
+     .filter = {LowPass, 0.62, 0.35, 0.5}, .amp = {0.18, 0.65, 0.60, 0.30},
      .envelopes = {{To::Cutoff, 0.20, 0.0, 0.30}},
      .wheel = {Target::Cutoff, 0.30}, .eqDb = {3.0, 2.0, 0.0, 0.0, 0.0}},
 };
