@@ -69,8 +69,7 @@ struct Rig {
     void Notes(int perSampler, int perSynth)
     {
         for (int c = 0; c < kChannels; ++c)
-            for (int n = 0; n < (c < kSamplerChannels ? perSampler : perSynth); ++n)
-                engine.NoteOn(c, 50 + 3 * n, 1.0f);
+            for (int n = 0; n < (c < kSamplerChannels ? perSampler : perSynth); ++n) engine.NoteOn(c, 50 + 3 * n, 1.0f);
     }
 };
 

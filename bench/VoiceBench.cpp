@@ -45,8 +45,7 @@ struct Rig {
                  {slot::Pitch, slot::AmpLevel, slot::Octave, slot::Osc1Pitch, slot::Osc1Detune, slot::Osc2Pitch,
                   slot::Osc2Detune, slot::Osc3Pitch, slot::Osc3Detune, slot::UnisonDetune, slot::FilterCutoff})
                 channel.params[index] = 0.5f;
-            for (int index : {5, 6, slot::EnvelopeDecay + 0, slot::EnvelopeDecay + 1})
-                channel.params[index] = 1.0f;
+            for (int index : {5, 6, slot::EnvelopeDecay + 0, slot::EnvelopeDecay + 1}) channel.params[index] = 1.0f;
             for (int l = 0; l < kLayers; ++l) {
                 for (int index : {slot::LayerLevel, slot::LayerPan, slot::LayerPitch}) channel.params[index + l] = 0.4f;
                 for (int index : {slot::LayerDecay, slot::LayerHiCut}) channel.params[index + l] = 1.0f;
@@ -115,6 +114,22 @@ void BM_SynthChannel(benchmark::State& state) // six voices; unit: unison voice
     PerFrame(state, kVoices * unison);
 }
 BENCHMARK(BM_SynthChannel)->ArgNames({"kind", "unison", "all"})->ArgsProduct({{0, 1, 2}, {1, 16}, {0, 1}});
+
+void BM_HeaviestSynths(benchmark::State& state) // 30 voices × 16, every source
+{
+    Rig rig;
+    for (int c = kSamplerChannels; c < kChannels; ++c) {
+        rig.channels[c]->params[slot::ModKind] = static_cast<float>(state.range(0));
+        rig.channels[c]->params[slot::UnisonVoices] = 1.0f;
+        for (int index : {slot::MixOsc2, slot::MixOsc3, slot::NoiseMix, slot::Modulation})
+            rig.channels[c]->params[index] = 0.5f;
+        rig.Play(c, kVoices);
+    }
+    for (auto _ : state)
+        for (int c = kSamplerChannels; c < kChannels; ++c) rig.channels[c]->Render(kFrames, kTempo);
+    PerFrame(state, 1);
+}
+BENCHMARK(BM_HeaviestSynths)->DenseRange(0, 2);
 
 void BM_EverythingAtOnce(benchmark::State& state) // 48 sampler voices of four layers, 30 synth voices × 16
 {
