@@ -1,6 +1,7 @@
 // Raw sample bytes of a sound chunk into float channels.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <memory>
 #include <new>
@@ -11,8 +12,8 @@
 namespace korvane {
 
 /// A sound chunk may announce more than the whole file holds, so many times its size and so many bytes; what is missing
-/// is silence. More is a fault.
-inline constexpr std::int64_t kMissingTimes = 4, kMissingBytes = 1 << 20;
+/// is silence. More is a fault, and so is what one read cannot take.
+inline constexpr std::int64_t kMissingTimes = 4, kMissingBytes = 1 << 20, kLargestChunk = INT32_MAX;
 
 /// Reads `bytes` from the file's position and converts them frame by frame into new buffers of the sample, from index
 /// firstIndex on. False, with an empty sample, when memory runs out or the length is impossible.
@@ -22,7 +23,8 @@ bool ReadFrames(CFileStreamer& file, CWaveSample& sample, std::int64_t bytes, in
                 std::int64_t frames, int padFrames, int firstIndex, Convert convert)
 {
     sample.Clear();
-    if (bytes > kMissingTimes * file.fileSize + kMissingBytes || padFrames < firstIndex) return false;
+    if (bytes > std::min(kLargestChunk, kMissingTimes * file.fileSize + kMissingBytes) || padFrames < firstIndex)
+        return false;
     std::unique_ptr<std::uint8_t[]> raw(new (std::nothrow) std::uint8_t[static_cast<std::size_t>(bytes)]);
     if (!raw) return false;
     for (int c = 0; c < channels; ++c) {
