@@ -162,7 +162,8 @@ TEST_F(PluginTest, SurvivesOddHosts)
         for (double tempo : {1.0, 999.0, 1.0e30, std::nan("")}) {
             for (double position : {-1.0e9, 2.6, 1.0e15}) {
                 host.SetPosition(position);
-                for (const float sample : Play(host, {0}, 4000, 4000, tempo)[0]) ASSERT_TRUE(std::isfinite(sample));
+                const Sound sound = Play(host, {0}, 4000, 4000, tempo)[0];
+                for (const float sample : sound) ASSERT_TRUE(std::isfinite(sample));
             }
         }
         host.Render(0);
