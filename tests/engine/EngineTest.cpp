@@ -111,22 +111,6 @@ TEST_F(EngineTest, StartFollowsTheHostPosition)
     }
 }
 
-// Sixteen steps at 120 BPM take 88200 frames although one has 5512.5.
-TEST_F(EngineTest, FractionsCarryOverFromStepToStep)
-{
-    engine.TogglePlay();
-    int rendered = 0;
-    std::vector<int> ticks;
-    for (int last = engine.stepCounter; rendered <= 88200; ++rendered) {
-        Render(1);
-        if (engine.stepCounter != last) ticks.push_back(rendered);
-        last = engine.stepCounter;
-    }
-    ASSERT_EQ(ticks.size(), 17u);
-    for (std::size_t n = 0; n < ticks.size(); ++n)
-        EXPECT_EQ(ticks[n], static_cast<int>(static_cast<double>(n) * 5512.5));
-}
-
 // Sixteen silent steps with clicks on every fourth, then step 0.
 TEST_F(EngineTest, RecordingFromStandstillCountsIn)
 {

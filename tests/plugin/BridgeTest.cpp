@@ -127,24 +127,11 @@ TEST_F(Bridge, IsMadeInOrder)
 TEST_F(Bridge, AnswersItsRequests)
 {
     Open();
-    for (const auto& [opcode, answer] : {std::pair{0, 0},
-                                         {3, 0},
-                                         {11, 0},
-                                         {13, 0},
-                                         {14, 0},
-                                         {15, 0},
-                                         {35, 2},
-                                         {58, 2400},
-                                         {25, 1},
-                                         {29, 1},
-                                         {51, 0},
-                                         {45, 0},
-                                         {23, 0},
-                                         {24, 0},
-                                         {34, 0},
-                                         {9, 0},
-                                         {99, 0},
-                                         {-7, 0}})
+    // clang-format off
+    constexpr std::pair<int, int> kAnswers[] = {{0, 0}, {3, 0}, {11, 0}, {13, 0}, {14, 0}, {15, 0}, {35, 2}, {58, 2400}, {25, 1},
+                                                {29, 1}, {51, 0}, {45, 0}, {23, 0}, {24, 0}, {34, 0}, {9, 0}, {99, 0}, {-7, 0}};
+    // clang-format on
+    for (const auto& [opcode, answer] : kAnswers)
         EXPECT_EQ(Ask(opcode), answer) << opcode;
     EXPECT_EQ(Text(request::EffectName), "Korvane");
     EXPECT_EQ(Text(request::VendorString), "Brassmoor");
@@ -156,11 +143,10 @@ TEST_F(Bridge, AnswersItsRequests)
     EXPECT_EQ(Text(request::GetParameterName, 0), "Shuffle Amuont");
     EXPECT_EQ(Text(request::GetParameterDisplay, 80), "0.0 dB");
     EXPECT_EQ(Text(request::GetParameterLabel, 80), "");
-    for (const auto& [text, answer] : {std::pair{"receiveVstEvents", 1},
-                                       {"receiveVstMidiEvent", 1},
-                                       {"receiveVstTimeInfo", 1},
-                                       {"sendVstMidiEvent", -1},
-                                       {"", -1}})
+    // clang-format off
+    for (const auto& [text, answer] : {std::pair{"receiveVstEvents", 1}, {"receiveVstMidiEvent", 1}, {"receiveVstTimeInfo", 1},
+                                       {"sendVstMidiEvent", -1}, {"", -1}})
+        // clang-format on
         EXPECT_EQ(Ask(request::CanDo, 0, 0, const_cast<char*>(text)), answer) << text;
     const auto identity = static_cast<std::int32_t>(Ask(request::Identify));
     EXPECT_EQ(std::memcmp(&identity, "fEvN", 4), 0);

@@ -91,39 +91,17 @@ TEST_F(RenderTest, RefusesInOneLine)
     Write("text.kvprj", "no groove");
     Write("text.mid", "no song");
     fs::create_directory(folder / "folder.wav");
+    // clang-format off
     const char* const cases[] = {
-        "",
-        "a.wav b.wav c.wav",
-        "a.txt",
-        "--rate 0 a.wav",
-        "--rate 44100.5 a.wav",
-        "'' a.wav",
-        "/dev/zero a.wav",
-        "--bars 10000 --tempo 1 --rate 384000 a.wav",
-        "--rate x a.wav",
-        "--block 1.5 a.wav",
-        "--tempo 1000 a.wav",
-        "--bars -1 a.wav",
-        "--tail nan a.wav",
-        "--format 16 a.wav",
-        "--what 1 a.wav",
-        "--rate",
-        "--param Level a.wav",
-        "--param 'No Such=0.5' a.wav",
-        "--param 'CHN:=0.5' a.wav",
-        "--plugin text.so a.wav",
-        "--plugin none.so a.wav",
-        "text.kvprj a.wav",
-        "none.kvprj a.wav",
-        "folder.wav a.wav",
-        "--midi text.mid a.wav",
-        "--midi none.mid a.wav",
-        "--program 'No Such' a.wav",
-        "--program 'Saw Bass' text.kvprj a.wav",
-        "none/a.wav",
-        "folder.wav",
+        "", "a.wav b.wav c.wav", "a.txt", "--rate 0 a.wav", "--rate 44100.5 a.wav", "'' a.wav", "/dev/zero a.wav",
+        "--bars 10000 --tempo 1 --rate 384000 a.wav", "--rate x a.wav", "--block 1.5 a.wav", "--tempo 1000 a.wav",
+        "--bars -1 a.wav", "--tail nan a.wav", "--format 16 a.wav", "--what 1 a.wav", "--rate", "--param Level a.wav",
+        "--param 'No Such=0.5' a.wav", "--param 'CHN:=0.5' a.wav", "--plugin text.so a.wav", "--plugin none.so a.wav",
+        "text.kvprj a.wav", "none.kvprj a.wav", "folder.wav a.wav", "--midi text.mid a.wav", "--midi none.mid a.wav",
+        "--program 'No Such' a.wav", "--program 'Saw Bass' text.kvprj a.wav", "none/a.wav", "folder.wav",
         "--stems none/x --bars 0 a.wav",
     };
+    // clang-format on
     for (const char* arguments : cases) {
         SCOPED_TRACE(arguments);
         const Answer answer = Run(arguments);
