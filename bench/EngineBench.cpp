@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <random>
 
@@ -18,7 +19,8 @@ constexpr double kRate = 48000.0;
 /// Ten seconds of noise and a saw cycle in the temp folder.
 std::string SoundFile(const char* name, int frames)
 {
-    const std::string path = std::string("/tmp/korvane_bench_") + name + ".wav";
+    const std::string path =
+        (std::filesystem::temp_directory_path() / (std::string("korvane_bench_") + name + ".wav")).string();
     std::ofstream file(path, std::ios::binary);
     const std::uint32_t bytes = 2u * static_cast<std::uint32_t>(frames);
     const auto word = [&file](std::uint32_t value, int count) {

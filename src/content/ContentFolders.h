@@ -10,8 +10,9 @@ struct ContentFolders {
     explicit ContentFolders(const char* contentRoot);
 
     /// Under the native host the content lies beside the plug-in. Elsewhere the setting "rootFolder" names its root;
-    /// the plug-in's own folder stands in for a missing one. hostKind  as the plug-in definition has it: 3 is the
-    /// native host
+    /// the plug-in's own folder stands in for a missing one.
+    ///
+    /// hostKind  as the plug-in definition has it: 3 is the native host
     static ContentFolders Find(int hostKind);
 
     char root[1024] = "";

@@ -9,6 +9,8 @@
 
 namespace korvane {
 
+inline constexpr float kSourceScale = 0.005f; // full scale of the sources; the voice's output gain undoes it
+
 /// One layer of a sampler voice; fixed at note start but for position, increment, delay, hold, envelope and filters.
 struct SamplerLayer {
     bool bypassed = false;

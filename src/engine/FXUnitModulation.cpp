@@ -34,7 +34,8 @@ void FXUnit::Chorus(const Block& block)
     mix = level;
 }
 
-/// Six first-order allpass stages whose notches the LFO sweeps, with feedback around them.
+/// Six first-order allpass stages whose notches the LFO sweeps, with feedback around them (J. O. Smith, "An allpass
+/// approach to digital phasing and flanging", 1984).
 void FXUnit::Phase(const Block& block)
 {
     if (Off()) return;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "engine/Lfo.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -11,7 +12,6 @@ namespace korvane {
 
 namespace {
 
-constexpr float kPeriodBeats[] = {0.125f, 0.25f, 0.375f, 0.5f, 0.75f, 1.0f, 2.0f, 4.0f, 8.0f};
 constexpr float kSyncFactor = 4.0f; // LFO periods count bars instead of beats
 
 struct StutterSetting {
@@ -46,8 +46,8 @@ void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
         const float amount = Clamp(2.0f * params[slot::FxLfoAmount + k] - 1.0f, -1.0f, 1.0f);
         unit.lfoAmount = std::copysign(amount * amount, amount);
         unit.lfoShape = Clamp(Truncate(params[slot::FxLfoShape + k] * 3.0f), 0, 3);
-        const int rate = Clamp(Truncate(params[slot::FxLfoRate + k] * 9.0f), 0, 8);
-        unit.lfoBeats = kPeriodBeats[rate] * (params[slot::FxLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
+        unit.lfoBeats =
+            SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
         if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);
     }
     if (params[slot::FxBypassStutter] != 0.0f) stutter.bypass = 1;

@@ -92,7 +92,7 @@ private:
     bool Edge(int index, bool on); // whether the on/off state changed; always false for internal parameters
     void RefreshEditor();
 
-    Shared<bool> switchStates[154]; // on/off of the last value written, per host parameter
+    Shared<bool> switchStates[param::HostCount]; // on/off of the last value written, per host parameter
     Image sizedChunk;               // state at the last request for its size
     Shared<bool> keyTrigger;        // a MIDI key drives a pad parameter
 };

@@ -199,6 +199,7 @@ void GrooveEngine::ChannelRelease(int c)
 void GrooveEngine::SelectChannel(int c)
 {
     selectedChannel = c;
+    RefreshStutterCodes();
     RefreshAllFxActive();
 }
 

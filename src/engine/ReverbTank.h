@@ -24,7 +24,7 @@ public:
     void Allocate(float rate);
     /// Fills the memory with a value below hearing but far above the denormal range; clears the filters.
     void Reset();
-    /// Takes over new lengths. clear  empties the lines
+    /// Takes over new lengths; the lines are emptied when `clear` is set.
     void Fit(const ReverbCoefficients& c, bool clear);
     /// Frames that Run may be given with these lengths, 1..kLongestRun.
     int RunLimit() const { return runLimit; }

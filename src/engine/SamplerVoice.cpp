@@ -15,7 +15,6 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSourceScale = 0.005f; // full scale of the sources; the voice's output gain undoes it
 constexpr float kHoldLevel = 1.00001f; // beyond full level, so that every frame of the hold finds the attack over
 constexpr float kNoDecay = 0.999f;     // "SAMPLER: Layer Decay" from which a layer stays at full level
 

@@ -13,8 +13,7 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSourceScale = 0.005f; // full scale of the sources; the voice's output gain undoes it
-constexpr float kNoteOf220 = 57.0f;    // sounds at 220 Hz
+constexpr float kNoteOf220 = 57.0f; // sounds at 220 Hz
 constexpr int kRichestTable = 511;
 constexpr std::uint32_t kRestartFrames = 512; // a restarted phase starts up to this many frames into the cycle
 

@@ -17,9 +17,10 @@ enum class FilterType : int { LowPass = 0, BandPass = 1, HighPass = 2 };
 
 inline constexpr int kOversampling = 4;
 
-/// Four-pole resonant ladder, run four times per frame on the same input. S is float or a vector of floats; every lane
-/// of the vector form gives the bits of the float form. The limiter keeps |u| at or below 2.5, so the stages stay
-/// finite for every finite input.
+/// Four-pole resonant ladder (R. A. Moog, "A voltage-controlled low-pass high-pass filter for audio signal processing",
+/// 1965) with the limiter in its feedback path, run four times per frame on the same input. S is float or a vector of
+/// floats; every lane of the vector form gives the bits of the float form. The limiter keeps |u| at or below 2.5, so
+/// the stages stay finite for every finite input.
 template <class S>
 struct Ladder {
     S s1{}, s2{}, s3{}, s4{};

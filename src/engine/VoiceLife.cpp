@@ -14,10 +14,9 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSilence = 0.0001f;    // gains and levels below it are not heard
-constexpr float kSourceScale = 0.005f; // full scale of the sources; the output gain undoes it
-constexpr float kLoudest = 1e9f;       // output gain that only a parameter far outside 0..1 asks for
-constexpr int kFarthest = 1000000;     // semitones, likewise
+constexpr float kSilence = 0.0001f; // gains and levels below it are not heard
+constexpr float kLoudest = 1e9f;    // output gain that only a parameter far outside 0..1 asks for
+constexpr int kFarthest = 1000000;  // semitones, likewise
 
 float Square(float x) { return x * x; }
 float Cube(float x) { return x * x * x; }

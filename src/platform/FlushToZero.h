@@ -10,6 +10,4 @@ inline constexpr unsigned kFlushToZeroBit = 1u << 15; // of MXCSR
 /// Of the calling thread, until something else sets its control register.
 inline void EnableFlushToZero() { _mm_setcsr(_mm_getcsr() | kFlushToZeroBit); }
 
-inline bool FlushToZeroEnabled() { return (_mm_getcsr() & kFlushToZeroBit) != 0; }
-
 } // namespace korvane

@@ -1,6 +1,7 @@
 // Parameters, transport and clock of the engine core.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
@@ -142,8 +143,13 @@ TEST_F(EngineTest, WildParametersNeverReachTheVoices)
             for (float sample : buffer) ASSERT_TRUE(std::isfinite(sample));
     }
     engine.ResetSelectedChannel();
-    Render(4096);
-    EXPECT_TRUE(std::isfinite(engine.Channel(8).outGainLeft));
+    engine.SetChannelParameter(slot::NoiseMix, 1.0f);
+    for (int k = 0; k < kEffects; ++k) engine.SetChannelParameter(slot::FxGlue + k, 1.0f);
+    engine.NoteOn(8, 60, 1.0f);
+    Render(8192);
+    const auto& sound = buffers[2 + 2 * 8]; // the last 128 frames of it
+    EXPECT_TRUE(std::all_of(sound.begin(), sound.end(), [](float x) { return std::isfinite(x); }));
+    EXPECT_TRUE(std::any_of(sound.begin(), sound.end(), [](float x) { return std::fabs(x) > 0.001f; })) << "recovered";
 }
 
 // Notes from outside a block reach the voices through the queue, none twice, none torn.

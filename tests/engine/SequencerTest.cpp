@@ -223,6 +223,16 @@ TEST_F(Sequencer, ChannelButtonsSelectHoldAndMute)
     EXPECT_EQ(engine.selectedFx, 4);
     engine.SetFxButton(2, true);
     EXPECT_EQ(engine.selectedFx, 4);
+    engine.SetFxButton(4, false), engine.SetFxButton(2, false);
+    engine.SetFxPad(true);
+    engine.ChannelPress(7);
+    for (const int c : {5, 7}) EXPECT_TRUE(engine.Channel(c).fxActive[4]) << "selected or held";
+    EXPECT_FALSE(engine.Channel(3).fxActive[4]);
+    engine.SetStutterButton(2, true);
+    for (const auto& [c, code] : {std::pair{5, -3}, {7, -3}, {3, 0}}) EXPECT_EQ(engine.stutterCode[c], code) << c;
+    engine.ChannelRelease(7);
+    for (const auto& [c, code] : {std::pair{5, 0}, {7, -3}})
+        EXPECT_EQ(engine.stutterCode[c], code) << "selected: " << c;
 }
 
 // A press in the second half of a step belongs to the next one and is not played twice.

@@ -15,7 +15,7 @@ TEST(Equaliser, BoostsAndCutsAtItsFrequencies)
         int band;
         double hz, share; // of the band's decibels
     };
-    const Case cases[] = {{0, 10.0, 1.0},   {0, 80.0, 0.5},    {1, 220.0, 1.0},   {2, 1200.0, 1.0},
+    const Case cases[] = {{0, 10.0, 1.0},   {0, 80.0, 0.5},    {1, 220.0, 1.0},    {2, 1200.0, 1.0},
                           {3, 6000.0, 1.0}, {4, 12000.0, 0.5}, {4, 22000.0, 0.95}, {0, 10000.0, 0.0}};
     for (const Case& c : cases) {
         for (const float gain : {0.0f, 0.5f, 0.75f, 1.0f}) {
@@ -61,9 +61,7 @@ TEST(Equaliser, RingsAndEnds)
     sound.left[0] = 1.0f;
     for (int n = 0; n < 24000; n += kBlock) {
         unit.Process(&sound.left[n], &sound.right[n], std::min(kBlock, 24000 - n), kTempo);
-        if (n == 0) {
-            EXPECT_TRUE(unit.HasTail());
-        }
+        if (n == 0) { EXPECT_TRUE(unit.HasTail()); }
     }
     EXPECT_FALSE(unit.HasTail());
     EXPECT_EQ(sound.left.back(), 0.0f);

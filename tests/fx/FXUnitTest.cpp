@@ -200,7 +200,8 @@ TEST(FXUnit, EchoKeepsTime)
         const double delay = 2.0 + std::min(c.beats * 60.0 / c.tempo / 1.5, 0.99) * (72000.0 - 2.0);
         EXPECT_NEAR(delay, c.frames, 3.0);
         for (int n = -3; n <= 3; ++n)
-            for (int k = 0; k < 2; ++k) echo[k] += sound.left[static_cast<int>(std::lround((k + 1) * (delay + 1.0))) + n];
+            for (int k = 0; k < 2; ++k)
+                echo[k] += sound.left[static_cast<int>(std::lround((k + 1) * (delay + 1.0))) + n];
         EXPECT_NEAR(echo[0], 0.5, 0.002) << c.what;
         EXPECT_NEAR(echo[1], 0.25, 0.002) << c.what;
         EXPECT_EQ(Rms(sound.right, 0, 160000), 0.0);
@@ -309,7 +310,9 @@ TEST(FXUnit, RecoversFromBadInput)
             for (int n = 9600; n < 9700; ++n) sound.left[n] = sound.right[n] = bad;
             unit.Run(sound);
             for (int n = 24000; n < sound.Frames(); ++n)
-                ASSERT_TRUE(std::isfinite(sound.left[n]) && (type == FxType::Echo || type == FxType::Stutter || std::fabs(sound.left[n]) < 50.0f)) << static_cast<int>(type);
+                ASSERT_TRUE(std::isfinite(sound.left[n]) &&
+                            (type == FxType::Echo || type == FxType::Stutter || std::fabs(sound.left[n]) < 50.0f))
+                    << static_cast<int>(type);
             EXPECT_GT(Rms(sound.right, 72000, 96000), 0.001) << static_cast<int>(type) << " " << bad;
         }
     }

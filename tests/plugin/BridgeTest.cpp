@@ -131,8 +131,7 @@ TEST_F(Bridge, AnswersItsRequests)
     constexpr std::pair<int, int> kAnswers[] = {{0, 0}, {3, 0}, {11, 0}, {13, 0}, {14, 0}, {15, 0}, {35, 2}, {58, 2400}, {25, 1},
                                                 {29, 1}, {51, 0}, {45, 0}, {23, 0}, {24, 0}, {34, 0}, {9, 0}, {99, 0}, {-7, 0}};
     // clang-format on
-    for (const auto& [opcode, answer] : kAnswers)
-        EXPECT_EQ(Ask(opcode), answer) << opcode;
+    for (const auto& [opcode, answer] : kAnswers) EXPECT_EQ(Ask(opcode), answer) << opcode;
     EXPECT_EQ(Text(request::EffectName), "Korvane");
     EXPECT_EQ(Text(request::VendorString), "Brassmoor");
     EXPECT_EQ(Text(request::ProductString), "Korvane 1.0.2");

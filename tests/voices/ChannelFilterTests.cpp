@@ -77,11 +77,13 @@ TEST(ChannelFilter, VectorsGiveTheBitsOfThePlainForm)
             std::vector<std::vector<float>> states;
             for (int c = 0; c < kChannels; ++c) {
                 for (auto& mix : mixes[c]) mix.assign(kMaxRun, 0.25f);
-                for (int n = 0; n < kMaxRun; ++n) mixer.pool->ChannelLeft(c)[n] = mixer.pool->ChannelRight(c)[n] = 0.25f;
+                for (int n = 0; n < kMaxRun; ++n)
+                    mixer.pool->ChannelLeft(c)[n] = mixer.pool->ChannelRight(c)[n] = 0.25f;
                 for (auto& voice : mixer.channels[c]->voices) {
                     if (!voice->active) continue;
                     ChannelVoice plain = *voice;
-                    FilterPlainly(plain, c % 3, mixer.pool->engineTable, mixes[c][0].data(), mixes[c][1].data(), frames);
+                    FilterPlainly(plain, c % 3, mixer.pool->engineTable, mixes[c][0].data(), mixes[c][1].data(),
+                                  frames);
                     states.emplace_back(&plain.filterState[0][0], &plain.filterState[0][0] + 8);
                 }
             }
@@ -94,7 +96,8 @@ TEST(ChannelFilter, VectorsGiveTheBitsOfThePlainForm)
                 ASSERT_EQ(std::vector<float>(right, right + kMaxRun), mixes[c][1]) << voices << " voices, " << frames;
                 for (auto& voice : mixer.channels[c]->voices)
                     if (voice->active)
-                        ASSERT_EQ(std::vector<float>(&voice->filterState[0][0], &voice->filterState[0][0] + 8), *state++);
+                        ASSERT_EQ(std::vector<float>(&voice->filterState[0][0], &voice->filterState[0][0] + 8),
+                                  *state++);
             }
         }
     }

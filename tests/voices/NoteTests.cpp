@@ -64,9 +64,9 @@ TEST(Notes, EndAfterTheirLength)
         SynthRig rig;
         rig.Set({{slot::NoteLength, 0}, {slot::AmpRelease, 0}}); // an eighth of a beat
         const int length = 2756;
-        rig.channel.NoteOn(50, 0, 1);                           // voice 5: live, same note
-        rig.channel.NoteOn(50, VoiceRig::kTempo, 1);            // voice 4
-        rig.channel.NoteOn(51, VoiceRig::kTempo / 2, 1);        // voice 3: twice as long
+        rig.channel.NoteOn(50, 0, 1);                    // voice 5: live, same note
+        rig.channel.NoteOn(50, VoiceRig::kTempo, 1);     // voice 4
+        rig.channel.NoteOn(51, VoiceRig::kTempo / 2, 1); // voice 3: twice as long
         EXPECT_EQ(rig.Voice(4).lengthFrames, length);
         rig.Render(length, run);
         EXPECT_EQ(rig.Voice(4).amp.level, 1.0f) << run;
@@ -99,8 +99,11 @@ TEST(Notes, AreReleasedByKeyAndByOrigin)
 TEST(Notes, FollowTheirEnvelopesFrameByFrame)
 {
     SynthRig rig;
-    rig.Set({{slot::AmpAttack, 0.05f}, {slot::AmpDecay, 0.3f}, {slot::AmpSustain, 0.4f},
-             {slot::EnvelopeAttack, 0.2f}, {slot::EnvelopeDecay, 0.1f}});
+    rig.Set({{slot::AmpAttack, 0.05f},
+             {slot::AmpDecay, 0.3f},
+             {slot::AmpSustain, 0.4f},
+             {slot::EnvelopeAttack, 0.2f},
+             {slot::EnvelopeDecay, 0.1f}});
     rig.channel.NoteOn(50, 0, 1);
     const auto rateOf = [](double seconds) { return 8.82 / ((seconds + 0.001) * VoiceRig::kRate); };
     double amp = 0, ampTarget = 5, ampRate = rateOf(std::pow(0.05, 3) * 50);
@@ -174,8 +177,11 @@ TEST(Modulation, SourcesReachTheirTarget)
     rig.channel.velocityIn = 0.5f;
     rig.channel.modWheelIn = 1.0f;
     for (int i = 0; i < kChannelSlots; ++i) rig.channel.params[i] = 0.25f;
-    rig.Set({{slot::VelocityAmount, 0.6f}, {slot::WheelAmount, 0.1f}, {slot::VelocityDestination, 0},
-             {slot::WheelDestination, 0}, {slot::PressureDestination, 0}});
+    rig.Set({{slot::VelocityAmount, 0.6f},
+             {slot::WheelAmount, 0.1f},
+             {slot::VelocityDestination, 0},
+             {slot::WheelDestination, 0},
+             {slot::PressureDestination, 0}});
     for (int code = 0; code < static_cast<int>(std::size(targets)); ++code) {
         rig.Set({{slot::VelocityDestination, static_cast<float>(code)}});
         for (int i = 0; i < slot::VelocityAmount; ++i)
@@ -192,7 +198,7 @@ TEST(Modulation, LfoRates)
     const struct {
         float rate, sync, tempo, hertz;
     } cases[] = {
-        {0, 0, 120, 25.01f},     {1, 0, 120, 0.01f},  {0.5f, 0.49f, 120, 6.26f}, {0.5f, 1, 120, 1 / 1.5f},
+        {0, 0, 120, 25.01f},        {1, 0, 120, 0.01f},  {0.5f, 0.49f, 120, 6.26f}, {0.5f, 1, 120, 1 / 1.5f},
         {0.5f, 0.5f, 120, 2.6667f}, {0, 0.5f, 60, 8.0f}, {1, 1, 60, 1 / 32.0f},     {-3, 0.5f, 60, 8.0f},
         {0.12f, 0.5f, 60, 4.0f},    {0.5f, 1, 0, 0},     {0.5f, 1, -5, 0},
     };
@@ -210,10 +216,16 @@ TEST(Modulation, EnvelopesAndLfosReachTheirDestinations)
                 SCOPED_TRACE(testing::Message() << "shape " << shape << ", destination " << destination);
                 SynthRig rig;
                 const float third = static_cast<float>(destination) / 3.0f, s = kShapes[shape];
-                rig.Set({{slot::FilterCutoff, 0.25f}, {slot::LfoAmount + 1, 0.5f}, {slot::LfoInvert + 1, invert},
-                         {slot::LfoShape + 1, static_cast<float>(shape) / 3.0f}, {slot::LfoRate + 1, 1},
-                         {slot::LfoDestination + 1, third}, {slot::EnvelopeAmount, 0.6f},
-                         {slot::EnvelopeDestination, third}, {slot::LfoAmount, 0.4f}, {slot::LfoShape, 1}});
+                rig.Set({{slot::FilterCutoff, 0.25f},
+                         {slot::LfoAmount + 1, 0.5f},
+                         {slot::LfoInvert + 1, invert},
+                         {slot::LfoShape + 1, static_cast<float>(shape) / 3.0f},
+                         {slot::LfoRate + 1, 1},
+                         {slot::LfoDestination + 1, third},
+                         {slot::EnvelopeAmount, 0.6f},
+                         {slot::EnvelopeDestination, third},
+                         {slot::LfoAmount, 0.4f},
+                         {slot::LfoShape, 1}});
                 rig.channel.NoteOn(57, 0, 1);
                 rig.Render(500);
                 rig.channel.lfo1.phase = rig.channel.lfo2.phase = 0.25f;
@@ -254,7 +266,8 @@ TEST(Modulation, RecoversFromWildParameters)
         rig.Set({{slot::MonoVoice, 1}, {slot::SlideEnable, 1}, {slot::LfoAmount, 0.3f}, {slot::ModKind, 1}});
         for (int wild = 0; wild < slot::VelocityAmount; ++wild)
             for (float value : {1e30f, -1e30f, 3e38f, -3e38f, -0.0794f}) {
-                SCOPED_TRACE(testing::Message() << (isSampler ? "sampler" : "synth") << " slot " << wild << " " << value);
+                SCOPED_TRACE(testing::Message()
+                             << (isSampler ? "sampler" : "synth") << " slot " << wild << " " << value);
                 const auto peak = [&] {
                     float most = 0;
                     rig.channel.NoteOn(60, VoiceRig::kTempo, 1);

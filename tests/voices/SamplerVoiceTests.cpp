@@ -53,8 +53,10 @@ struct PlainLayer {
                 if (reverse) f = 1 - f, i = sample.numFrames - i;
                 position += increment;
                 level += (target - level) * rate;
-                if (level > 1 && held-- > 0) level = 1.00001;
-                else if (level > 1) level = 1, target = 0, rate = decayRate;
+                if (level > 1 && held-- > 0)
+                    level = 1.00001;
+                else if (level > 1)
+                    level = 1, target = 0, rate = decayRate;
                 const double x = (data[i] * (1 - f) + data[i + 1] * f) * (side ? gainRight : gainLeft);
                 out[side].back() = hi.Step(lo.Step(x)) * level * level * kScale;
             }

@@ -40,8 +40,8 @@ void RenderPlainly(const UnisonMix& mix, const UnisonTuning& tuning, const float
             }
             const float s3 = read(2, p.osc3);
             const float w = static_cast<float>(random.Next()) / 4294967296.0f - 0.5f;
-            left[n] += s2 * mix.gainLeft[1][u] + s3 * mix.gainLeft[2][u] + w * mix.gainLeft[3][u] +
-                       s1 * mix.gainLeft[0][u];
+            left[n] +=
+                s2 * mix.gainLeft[1][u] + s3 * mix.gainLeft[2][u] + w * mix.gainLeft[3][u] + s1 * mix.gainLeft[0][u];
             right[n] += s2 * mix.gainRight[1][u] + s3 * mix.gainRight[2][u] + w * mix.gainRight[3][u] +
                         s1 * mix.gainRight[0][u];
             p.osc1 += tuning.increments[0][u];
@@ -68,8 +68,8 @@ double Frequency(const std::vector<float>& signal, double hertz)
 {
     const int half = static_cast<int>(signal.size() / 2);
     const double expected = 6.283185307179586 * hertz / VoiceRig::kRate * half;
-    const double turn = std::arg(Line(&signal[half], half, hertz) / Line(&signal[0], half, hertz) *
-                                 std::polar(1.0, -expected));
+    const double turn =
+        std::arg(Line(&signal[half], half, hertz) / Line(&signal[0], half, hertz) * std::polar(1.0, -expected));
     return hertz * (1 + turn / expected);
 }
 
@@ -120,8 +120,8 @@ TEST(SynthVoice, TheLoopGivesTheBitsOfItsPlainForm)
             for (int unison : {1, 2, 5, 16})
                 for (int frames : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 16, 17, 128}) {
                     compare(kind, sources, unison, frames);
-                    ASSERT_FALSE(HasFatalFailure()) << "kind " << kind << ", sources " << sources << ", unison "
-                                                    << unison << ", frames " << frames;
+                    ASSERT_FALSE(HasFatalFailure())
+                        << "kind " << kind << ", sources " << sources << ", unison " << unison << ", frames " << frames;
                 }
 }
 
@@ -139,13 +139,25 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
         {"channel pitch", 57, {{slot::Pitch, 1}}, 880, 1},
         {"oscillator 1 pitch and detune", 57, {{slot::Osc1Pitch, 1}, {slot::Osc1Detune, 1}}, 1760 * 1.0293022, 1},
         {"oscillator 2 alone", 57, {{slot::MixOsc2, 1}, {slot::Osc2Pitch, 0.75f}}, 220 * 2.8284271, 1},
-        {"oscillator 3, a quarter", 57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}}, 27.5, 0.25},
+        {"oscillator 3, a quarter",
+         57,
+         {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}},
+         27.5,
+         0.25},
         {"oscillator 1, three quarters", 57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 1}}, 220, 0.75},
         {"bent up two semitones", 57, {}, 246.94165, 1, 1.0f},
         {"bent down an octave", 57, {{slot::BendRange, 1}}, 110, 1, -1.0f},
         {"synced at twice the pitch", 57, {{slot::Modulation, 0.33333334f}}, 440, 1},
-        {"LFO an octave up", 57, {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}}, 440, 1},
-        {"envelope an octave up", 57, {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}}, 440, 1},
+        {"LFO an octave up",
+         57,
+         {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}},
+         440,
+         1},
+        {"envelope an octave up",
+         57,
+         {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}},
+         440,
+         1},
     };
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);

@@ -18,12 +18,12 @@ struct VoiceRig {
     explicit VoiceRig(bool isSampler)
     {
         channel.isSampler = isSampler;
-        Set({{slot::Pitch, 0.5f},          {slot::NoteLength, 0.5f},     {slot::AmpDecay, 1.0f},
-             {slot::AmpSustain, 1.0f},     {slot::AmpRelease, 0.1f},     {slot::AmpLevel, 0.5f},
-             {slot::FilterCutoff, 1.0f},   {slot::EnvelopeDecay, 1.0f},  {slot::EnvelopeDecay + 1, 1.0f},
-             {slot::Octave, 0.5f},         {slot::Osc1Pitch, 0.5f},      {slot::Osc1Detune, 0.5f},
-             {slot::Osc2Pitch, 0.5f},      {slot::Osc2Detune, 0.5f},     {slot::Osc3Pitch, 0.5f},
-             {slot::Osc3Detune, 0.5f},     {slot::VelocityAmount, 0.5f}, {slot::WheelAmount, 0.5f},
+        Set({{slot::Pitch, 0.5f},          {slot::NoteLength, 0.5f},      {slot::AmpDecay, 1.0f},
+             {slot::AmpSustain, 1.0f},     {slot::AmpRelease, 0.1f},      {slot::AmpLevel, 0.5f},
+             {slot::FilterCutoff, 1.0f},   {slot::EnvelopeDecay, 1.0f},   {slot::EnvelopeDecay + 1, 1.0f},
+             {slot::Octave, 0.5f},         {slot::Osc1Pitch, 0.5f},       {slot::Osc1Detune, 0.5f},
+             {slot::Osc2Pitch, 0.5f},      {slot::Osc2Detune, 0.5f},      {slot::Osc3Pitch, 0.5f},
+             {slot::Osc3Detune, 0.5f},     {slot::VelocityAmount, 0.5f},  {slot::WheelAmount, 0.5f},
              {slot::PressureAmount, 0.5f}, {slot::BendRange, 0.16666667f}});
         for (int l = 0; l < kLayers; ++l)
             Set({{slot::LayerLevel + l, 0.5f},

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <filesystem>
 
+#include "content/ImageLayout.h"
 #include "render/Failure.h"
 #include "render/ReadFile.h"
 
@@ -15,10 +16,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-// Groove image: header, then thirteen channel chunks and eight pattern chunks, each behind its length.
-constexpr std::size_t kHeaderBytes = 95, kSelectedChannel = 4, kChannelBytes = 4948, kChannels = 13, kPatterns = 8;
-constexpr std::size_t kStepRecords = 13 * 128, kEmptyRecordBytes = 6;
-constexpr char kPatternTag[] = "1rtP";
+// Groove image: header, then the channel chunks and the pattern chunks, each behind its length.
+constexpr std::size_t kHeaderBytes = kStateHeaderBytes, kSelectedChannel = 4, kChannelBytes = kChannelChunkBytes;
+constexpr std::size_t kStepRecords = kChannels * kSteps, kEmptyRecordBytes = 6;
 
 struct Shelf {
     const char* folder;
@@ -54,6 +54,7 @@ std::string Find(const std::string& bundle, const std::string& name, const char*
 
 void PrintLibrary(const std::string& bundle)
 {
+    if (!fs::is_directory(bundle)) throw Failure("there is no folder '" + bundle + "'");
     for (const Shelf& shelf : kShelves) {
         std::printf("%s\n", shelf.folder);
         std::string category;
@@ -89,7 +90,7 @@ std::vector<std::uint8_t> StateWithProgram(std::vector<std::uint8_t> state, cons
     const std::int32_t bytes = 4 + static_cast<std::int32_t>(kStepRecords * kEmptyRecordBytes);
     for (std::size_t n = 0; n < kPatterns; ++n) {
         for (int k = 0; k < 4; ++k) state.push_back(static_cast<std::uint8_t>(bytes >> (8 * k)));
-        state.insert(state.end(), kPatternTag, kPatternTag + 4);
+        state.insert(state.end(), tag::kPattern, tag::kPattern + 4);
         state.insert(state.end(), kStepRecords * kEmptyRecordBytes, 0);
     }
     return state;
