@@ -7,6 +7,7 @@
 #include <cmath>
 #include <map>
 #include <numbers>
+#include <numeric>
 #include <set>
 
 #include "content/CWaveSample.h"
@@ -22,9 +23,10 @@ namespace fs = std::filesystem;
 constexpr int kBlock = 441;
 constexpr double kRate = 44100.0;
 
-/// The main mix.
+/// The main mix, and how much of it each channel is.
 struct Mix {
     std::vector<float> left, right;
+    std::array<double, kChannels> energy{};
 
     float Peak() const
     {
@@ -33,11 +35,18 @@ struct Mix {
             peak = std::max(peak, std::max(std::fabs(left[n]), std::fabs(right[n])));
         return peak;
     }
-    double Mean() const
+    double Mean() const // of the side that has more
     {
-        double sum = 0.0;
-        for (const float x : left) sum += static_cast<double>(x);
-        return sum / static_cast<double>(left.size());
+        const auto mean = [](const std::vector<float>& side) {
+            return std::fabs(std::accumulate(side.begin(), side.end(), 0.0)) / static_cast<double>(side.size());
+        };
+        return std::max(mean(left), mean(right));
+    }
+    double RmsDb() const
+    {
+        const double sum = std::inner_product(left.begin(), left.end(), left.begin(), 0.0) +
+                           std::inner_product(right.begin(), right.end(), right.begin(), 0.0);
+        return 10.0 * std::log10(sum / (2.0 * static_cast<double>(left.size())));
     }
     bool Finite() const
     {
@@ -115,6 +124,9 @@ protected:
             Synth().ProcessBlock(nullptr, pointers.data(), kBlock, true);
             mix.left.insert(mix.left.end(), outputs[0].begin(), outputs[0].end());
             mix.right.insert(mix.right.end(), outputs[1].begin(), outputs[1].end());
+            for (std::size_t n = 2; n < 28; ++n)
+                mix.energy[n / 2 - 1] +=
+                    std::inner_product(outputs[n].begin(), outputs[n].end(), outputs[n].begin(), 0.0);
         }
         return mix;
     }
@@ -133,7 +145,7 @@ protected:
         EXPECT_TRUE(mix.Finite());
         EXPECT_GT(mix.Peak(), 0.02f) << "silent";
         EXPECT_LT(mix.Peak(), 1.0f) << "clips";
-        EXPECT_LT(std::fabs(mix.Mean()), 0.003) << "DC";
+        EXPECT_LT(mix.Mean(), 0.003) << "DC";
     }
 };
 
@@ -149,7 +161,8 @@ TEST_F(Library, IsComplete)
         for (const fs::path& file : files) {
             EXPECT_TRUE(names.insert(file.filename().string()).second) << file << " has a twin";
             const std::vector<std::uint8_t> bytes = ReadBytes(file);
-            for (std::string place : {std::string(KORVANE_SOURCE), EnginePath(KORVANE_SOURCE)})
+            for (const std::string& place : {std::string(KORVANE_SOURCE), EnginePath(KORVANE_SOURCE),
+                                             std::string(KORVANE_BUNDLE), EnginePath(KORVANE_BUNDLE)})
                 EXPECT_EQ(std::search(bytes.begin(), bytes.end(), place.begin(), place.end()), bytes.end())
                     << file << " knows where it was made";
         }
@@ -236,10 +249,19 @@ TEST_F(Library, GroovesPlay)
         const int asked = FilesInUse();
         Synth().SetTempo(tempo);
         Synth().SetPlaying(true);
-        const Mix mix = Play(8 * 60.0 / tempo);
+        const Mix mix = Play(16 * 60.0 / tempo);
         Synth().SetPlaying(false);
         EXPECT_EQ(FilesInUse(), asked) << "a file is missing";
         ExpectGoodSound(mix);
+        EXPECT_GT(mix.RmsDb(), -21.0);
+        EXPECT_LT(mix.RmsDb(), -11.0);
+        const double loudest = *std::max_element(mix.energy.begin(), mix.energy.end());
+        const GroovePattern& pattern = Synth().engine->Pattern();
+        for (int c = 0; c < kChannels; ++c) {
+            const auto* steps = pattern.steps[c];
+            if (std::all_of(steps, steps + 4 * kStepsPerBar, [](const auto& step) { return step == 0u; })) continue;
+            EXPECT_GT(mix.energy[static_cast<std::size_t>(c)], 1e-3 * loudest) << "channel " << c << " is buried";
+        }
     }
 }
 

@@ -3,11 +3,13 @@
 #include <sndfile.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <vector>
 
 #include "render/Failure.h"
 #include "render/MidiFile.h"
@@ -128,6 +130,18 @@ TEST_F(RenderTest, WritesTheMixAndTheStems)
     for ([[maybe_unused]] const auto& entry : fs::directory_iterator(folder / "stems")) ++stems;
     EXPECT_EQ(stems, 13);
     EXPECT_EQ(Run("--midi " + Write("song.mid", kSong) + " song.wav").status, 0);
+    const std::string key = kTwoTracks + Track(std::string("\0\xff\x2f\0", 4)) +
+                            Track(std::string("\x60\x90\x24\x64\x60\x24\0\0\xff\x2f\0", 11));
+    for (const char* block : {"64", "441", "4096"}) { // a quarter at 120 BPM, whatever the blocks
+        ASSERT_EQ(Run("--program 'Saw Bass' --midi " + Write("key.mid", key) + " --block " + block + " key.wav").status,
+                  0);
+        file = sf_open((folder / "key.wav").c_str(), SFM_READ, &info);
+        std::vector<float> sound(2 * 22060);
+        sf_readf_float(file, sound.data(), 22060);
+        sf_close(file);
+        const auto first = std::find_if(sound.begin(), sound.end(), [](float x) { return x != 0.0f; });
+        EXPECT_EQ((first - sound.begin()) / 2, 22050) << block;
+    }
     EXPECT_EQ(Run("--list").status, 0);
 }
 
