@@ -101,6 +101,13 @@ protected:
         for (const auto& entry : fs::directory_iterator(KORVANE_BUNDLE))
             if (entry.path().extension() != ".so" && entry.path().filename() != "linkmap")
                 fs::copy(entry.path(), root / entry.path().filename(), fs::copy_options::recursive);
+        Renew();
+    }
+
+    /// Nothing of what was played before rings on.
+    void Renew()
+    {
+        Close();
         Synth().SetSampleRate(kRate);
         Synth().SetProgram(0);
     }
@@ -243,6 +250,7 @@ TEST_F(Library, GroovesPlay)
     grooves.push_back(root / "default.kvprj");
     for (const fs::path& file : grooves) {
         SCOPED_TRACE(file.filename());
+        Renew();
         ASSERT_TRUE(Synth().LoadGrooveFile(EnginePath(file.c_str()).c_str()));
         const std::string name = file.stem().string();
         const double tempo = name == "default" ? 120.0 : std::stod(name.substr(name.rfind(' ') + 1));
@@ -270,6 +278,7 @@ TEST_F(Library, PartsPlay)
     for (const fs::path& file : Files("Parts")) {
         SCOPED_TRACE(file.filename());
         const bool sampler = ReadBytes(file)[1] == 'D';
+        Renew();
         Synth().engine->ResetGroove();
         Synth().engine->selectedChannel = sampler ? 3 : 10;
         ASSERT_TRUE(Synth().LoadPartFile(EnginePath(file.c_str()).c_str()));

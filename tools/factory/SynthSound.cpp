@@ -160,20 +160,6 @@ void SetRoute(Controls& controls, int amount, int destination, const Route& rout
     controls.Set(destination, static_cast<double>(route.target));
 }
 
-void SetEffect(Controls& controls, const Effect& effect)
-{
-    if (effect.unit == Fx::None) return;
-    const int k = static_cast<int>(effect.unit);
-    const SyncedRate synced = Synced(effect.beats);
-    controls.Switch(slot::FxGlue + k, true);
-    controls.Set(slot::FxX + k, effect.x);
-    controls.Set(slot::FxY + k, effect.y);
-    controls.Set(slot::FxLfoRate + k, synced.value);
-    controls.Switch(slot::FxLfoSync + k, synced.inBars);
-    controls.Set(slot::FxLfoAmount + k, 0.5 + 0.5 * effect.lfo);
-    controls.Position(slot::FxLfoShape + k, static_cast<int>(effect.shape), 3);
-}
-
 void SetEqualiser(Controls& controls, const double (&gainsDb)[5])
 {
     constexpr double kRangeDb = 24.0;
@@ -186,6 +172,21 @@ void SetEqualiser(Controls& controls, const double (&gainsDb)[5])
 }
 
 } // namespace
+
+void Apply(const Effect& effect, Patch& patch)
+{
+    if (effect.unit == Fx::None) return;
+    Controls controls(patch);
+    const int k = static_cast<int>(effect.unit);
+    const SyncedRate synced = Synced(effect.beats);
+    controls.Switch(slot::FxGlue + k, true);
+    controls.Set(slot::FxX + k, effect.x);
+    controls.Set(slot::FxY + k, effect.y);
+    controls.Set(slot::FxLfoRate + k, synced.value);
+    controls.Switch(slot::FxLfoSync + k, synced.inBars);
+    controls.Set(slot::FxLfoAmount + k, 0.5 + 0.5 * effect.lfo);
+    controls.Position(slot::FxLfoShape + k, static_cast<int>(effect.shape), 3);
+}
 
 void Apply(const SynthSound& sound, Patch& patch)
 {
@@ -202,7 +203,7 @@ void Apply(const SynthSound& sound, Patch& patch)
     SetRoute(controls, slot::VelocityAmount, slot::VelocityDestination, sound.velocity);
     SetRoute(controls, slot::WheelAmount, slot::WheelDestination, sound.wheel);
     SetRoute(controls, slot::PressureAmount, slot::PressureDestination, sound.pressure);
-    for (const Effect& effect : sound.effects) SetEffect(controls, effect);
+    for (const Effect& effect : sound.effects) Apply(effect, patch);
     SetEqualiser(controls, sound.eqDb);
 }
 

@@ -133,6 +133,8 @@ struct SynthSound {
     double eqDb[5] = {}; // 80 Hz shelf, 220, 1200 and 6000 Hz, 12 kHz shelf; -12..12
 };
 
+/// Glues the effect on; no other parameter changes.
+void Apply(const Effect& effect, Patch& patch);
 /// Sets a reset channel to the sound.
 void Apply(const SynthSound& sound, Patch& patch);
 

@@ -1,6 +1,7 @@
 // korvane-factory: computes the content that the instrument ships with. Argument: the bundle's folder.
 #include <cstdint>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -8,6 +9,7 @@
 
 #include "Grooves.h"
 #include "Kits.h"
+#include "Parts.h"
 #include "Programs.h"
 #include "WavFile.h"
 #include "Waves.h"
@@ -38,17 +40,16 @@ public:
         const fs::path path = folder / (std::string(name) + ".wav");
         Keep(WriteWav(path.string(), sound), path);
     }
+    void Image(const fs::path& path, const std::vector<std::uint8_t>& image)
+    {
+        std::ofstream file(path, std::ios::binary | std::ios::trunc);
+        file.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
+        Keep(static_cast<bool>(file.flush()), path);
+    }
 
     fs::path root;
     bool complete = true;
 };
-
-bool WriteImage(const fs::path& path, const std::vector<std::uint8_t>& image)
-{
-    std::ofstream file(path, std::ios::binary | std::ios::trunc);
-    file.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
-    return static_cast<bool>(file.flush());
-}
 
 std::vector<std::uint8_t> StateOf(const GrooveEngine& engine)
 {
@@ -82,19 +83,34 @@ void WritePrograms(Bundle& bundle, const char* library, const char* extension, i
         engine.SaveChannelChunk(image.data(), channel);
         const fs::path category = folder / row.folder;
         fs::create_directories(category);
-        const fs::path path = category / (std::string(row.name) + extension);
-        bundle.Keep(WriteImage(path, image), path);
+        bundle.Image(category / (std::string(row.name) + extension), image);
     }
 }
 
 void WriteGrooves(Bundle& bundle)
 {
-    for (const char* empty : {"Grooves", "Parts"}) bundle.Folder(empty);
-    fs::create_directories(bundle.root / "Graphics");
-    GrooveEngine engine;
-    ResetToBundle(engine);
-    DefaultGroove(engine);
-    bundle.Keep(WriteImage(bundle.root / "default.kvprj", StateOf(engine)), "default.kvprj");
+    const fs::path folder = bundle.Folder("Grooves");
+    for (const GrooveRow& row : AllGrooves()) {
+        GrooveEngine engine;
+        ResetToBundle(engine);
+        groove::Write(row.score(), engine);
+        const std::vector<std::uint8_t> image = StateOf(engine);
+        bundle.Image(folder / (std::string(row.name) + ".kvprj"), image);
+        if (std::strcmp(row.name, kDefaultGroove) == 0) bundle.Image(bundle.root / "default.kvprj", image);
+    }
+}
+
+void WriteParts(Bundle& bundle)
+{
+    const fs::path folder = bundle.Folder("Parts");
+    for (const Part& part : AllParts()) {
+        GrooveEngine engine;
+        ResetToBundle(engine);
+        Write(part, engine);
+        std::vector<std::uint8_t> image(static_cast<std::size_t>(engine.SavePart(nullptr)));
+        engine.SavePart(image.data());
+        bundle.Image(folder / (std::string(part.name) + ".kvprt"), image);
+    }
 }
 
 } // namespace
@@ -105,10 +121,12 @@ int main(int count, char** arguments)
 {
     if (count != 2) return std::fprintf(stderr, "usage: korvane-factory FOLDER\n"), 2;
     korvane::factory::Bundle bundle(arguments[1]);
+    std::filesystem::create_directories(bundle.root / "Graphics");
     korvane::factory::WriteSounds(bundle);
     korvane::factory::WritePrograms(bundle, "Synth Programs", ".kvsynth", korvane::kSamplerChannels,
                                     korvane::factory::SynthPrograms());
     korvane::factory::WritePrograms(bundle, "Sampler Programs", ".kvsmp", 0, korvane::factory::SamplerPrograms());
     korvane::factory::WriteGrooves(bundle);
+    korvane::factory::WriteParts(bundle);
     return bundle.complete ? 0 : 1;
 }
