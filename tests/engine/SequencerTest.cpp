@@ -261,17 +261,5 @@ TEST_F(Sequencer, RecordsWhatIsPlayed)
     EXPECT_TRUE(engine.playing) << "recording had begun while it played";
 }
 
-// Outside edit mode a sampler's buttons play the channels that own them, else the selected one.
-TEST_F(Sequencer, PadsPlayTheirChannels)
-{
-    Tap(2);
-    for (const auto& [button, channel] : {std::pair{12, 0}, {23, 7}, {13, 2}}) {
-        auto& slot = engine.Channel(channel).voices[5]->note;
-        engine.StepButton(button);
-        EXPECT_EQ(slot, 48 + button);
-        engine.StepButtonRelease(button);
-    }
-}
-
 } // namespace
 } // namespace korvane
