@@ -133,9 +133,9 @@ TEST_F(RenderTest, WritesTheMixAndTheStems)
     const std::string key = kTwoTracks + Track(std::string("\0\xff\x2f\0", 4)) +
                             Track(std::string("\x60\x90\x24\x64\x60\x24\0\0\xff\x2f\0", 11));
     for (const char* block : {"64", "441", "4096"}) { // a quarter at 120 BPM, whatever the blocks
-        ASSERT_EQ(Run("--program 'Saw Bass' --midi " + Write("key.mid", key) + " --block " + block + " key.wav").status,
-                  0);
-        file = sf_open((folder / "key.wav").c_str(), SFM_READ, &info);
+        const std::string call = "--program 'Saw Bass' --stems stems --midi " + Write("key.mid", key);
+        ASSERT_EQ(Run(call + " --block " + block + " key.wav").status, 0);
+        file = sf_open((folder / "stems/Synth 1.wav").c_str(), SFM_READ, &info);
         std::vector<float> sound(2 * 22060);
         sf_readf_float(file, sound.data(), 22060);
         sf_close(file);
