@@ -14,7 +14,7 @@ constexpr Track kTracks[] = {
     {Snare,  "Oak Snare Lazy",    -6.5,  0.00,  0,   0.0, true},
     {Ghost,  "Oak Snare Ghost",   -4.0,  -0.10, 0,   0.0, true},
     {Hat,    "Oak Hat Crisp",     -9.0,  0.25,  0,   0.0, true},
-    {Loose,  "Oak Hat Loose",     -11.5, 0.25,  0,   1.0, true},
+    {Loose,  "Oak Hat Loose",     -9.5,  0.25,  0,   1.0, true},
     {Stick,  "Oak Stick Room",    -9.5,  -0.35, 0,   0.0, true},
     {Ride,   "Oak Ride Ping",     -21.0, -0.25, 0,   0.0, true},
     {Beads,  "Oak Hand Beads",    -13.5, 0.45,  0,   0.0, true},
