@@ -185,7 +185,7 @@ int Main(int count, char** arguments)
         PrintLibrary(fs::path(options.plugin).parent_path().string());
         return 0;
     }
-    if (!options.groove.empty() && !fs::exists(options.groove))
+    if (!options.groove.empty() && !fs::is_regular_file(options.groove))
         options.groove = FindGroove(fs::path(options.plugin).parent_path().string(), options.groove);
     Rendering(options).Run();
     return 0;
