@@ -52,8 +52,8 @@ bool FileExists(const char* path)
 
 bool SameFile(const char* a, const char* b)
 {
-    struct stat first {
-    }, second{};
+    struct stat first {};
+    struct stat second {};
     return stat(SystemPath(a).c_str(), &first) == 0 && stat(SystemPath(b).c_str(), &second) == 0 &&
            first.st_dev == second.st_dev && first.st_ino == second.st_ino;
 }

@@ -51,10 +51,12 @@ public:
     bool complete = true;
 };
 
-std::vector<std::uint8_t> StateOf(const GrooveEngine& engine)
+/// The image that one of the engine's savers makes.
+template <class Save>
+std::vector<std::uint8_t> ImageOf(Save save)
 {
-    std::vector<std::uint8_t> image(static_cast<std::size_t>(engine.SaveState(nullptr)));
-    engine.SaveState(image.data());
+    std::vector<std::uint8_t> image(static_cast<std::size_t>(save(nullptr)));
+    save(image.data());
     return image;
 }
 
@@ -79,11 +81,10 @@ void WritePrograms(Bundle& bundle, const char* library, const char* extension, i
     ResetToBundle(engine);
     for (const ProgramRow& row : rows) {
         UseProgram(engine, channel, row.name);
-        std::vector<std::uint8_t> image(static_cast<std::size_t>(engine.SaveChannelChunk(nullptr, channel)));
-        engine.SaveChannelChunk(image.data(), channel);
         const fs::path category = folder / row.folder;
         fs::create_directories(category);
-        bundle.Image(category / (std::string(row.name) + extension), image);
+        bundle.Image(category / (std::string(row.name) + extension),
+                     ImageOf([&](std::uint8_t* bytes) { return engine.SaveChannelChunk(bytes, channel); }));
     }
 }
 
@@ -94,7 +95,7 @@ void WriteGrooves(Bundle& bundle)
         GrooveEngine engine;
         ResetToBundle(engine);
         groove::Write(row.score(), engine);
-        const std::vector<std::uint8_t> image = StateOf(engine);
+        const auto image = ImageOf([&](std::uint8_t* bytes) { return engine.SaveState(bytes); });
         bundle.Image(folder / (std::string(row.name) + ".kvprj"), image);
         if (std::strcmp(row.name, kDefaultGroove) == 0) bundle.Image(bundle.root / "default.kvprj", image);
     }
@@ -107,9 +108,8 @@ void WriteParts(Bundle& bundle)
         GrooveEngine engine;
         ResetToBundle(engine);
         Write(part, engine);
-        std::vector<std::uint8_t> image(static_cast<std::size_t>(engine.SavePart(nullptr)));
-        engine.SavePart(image.data());
-        bundle.Image(folder / (std::string(part.name) + ".kvprt"), image);
+        bundle.Image(folder / (std::string(part.name) + ".kvprt"),
+                     ImageOf([&](std::uint8_t* bytes) { return engine.SavePart(bytes); }));
     }
 }
 
