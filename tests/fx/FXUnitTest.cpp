@@ -5,6 +5,7 @@
 #include <cmath>
 #include <complex>
 #include <limits>
+#include <numeric>
 
 #include "Signals.h"
 
@@ -176,6 +177,27 @@ TEST(FXUnit, PhaserHasItsNotches)
         least = std::min(least, expected);
     }
     EXPECT_LT(least, 0.2);
+}
+
+// Three delays in a row, each inverting, of one frame more than their loop of 49. With feedback each gives
+// -z / (1 + z / 2), z being its delay.
+TEST(FXUnit, ChorusIsThreeDelaysInSeries)
+{
+    for (const auto& [y, second] : {std::pair{0.0f, 0.0}, {1.0f, 1.5}}) {
+        Played unit(FxType::Chorus, 0.5f, y);
+        Sound sound = Noise(6000);
+        std::fill(sound.left.begin(), sound.left.end(), 0.0f);
+        std::fill(sound.right.begin(), sound.right.end(), 0.0f);
+        sound.left[5000] = 1.0f;
+        unit.Run(sound);
+        const auto around = [&](int frame) {
+            return std::accumulate(&sound.left[5000 + frame - 3], &sound.left[5000 + frame + 4], 0.0);
+        };
+        EXPECT_EQ(sound.left[5000], 1.0f);
+        EXPECT_NEAR(around(3 * 50), -1.0, 1e-3);
+        EXPECT_NEAR(around(4 * 50), second, 1e-3);
+        EXPECT_EQ(Rms(sound.right, 0, 6000), 0.0);
+    }
 }
 
 TEST(FXUnit, EchoKeepsTime)
