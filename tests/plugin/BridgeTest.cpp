@@ -28,10 +28,13 @@ std::int32_t hostVersion = 2400;
 VstTimeInfo times[2]; // answers to the requests for tempo and for position
 bool givesTime = true;
 
+void (*whenAutomated)(AEffect*, int index) = nullptr; // what the host does with a report
+
 std::intptr_t HostCallback(AEffect* effect, std::int32_t opcode, std::int32_t index, std::intptr_t value, void*,
                            float option)
 {
     calls.push_back({effect, opcode, index, value, option});
+    if (opcode == host_request::Automate && whenAutomated) whenAutomated(effect, index);
     if (opcode == host_request::Version) return hostVersion;
     if (opcode != host_request::GetTime || !givesTime) return 0;
     return reinterpret_cast<std::intptr_t>(&times[value == 1024 ? 0 : 1]);
@@ -45,7 +48,7 @@ protected:
     {
         module = dlopen(KORVANE_BUNDLE "/korvane.so", RTLD_NOW);
         EXPECT_TRUE(module) << dlerror();
-        hostVersion = 2400, givesTime = true;
+        hostVersion = 2400, givesTime = true, whenAutomated = nullptr;
         times[0] = times[1] = VstTimeInfo{};
         calls.clear();
     }
@@ -124,14 +127,57 @@ TEST_F(Bridge, IsMadeInOrder)
     effect = first;
 }
 
+// The reports at creation come before the host has the effect from its entry call: the record that they carry is whole,
+// and a host that acts on them at once is answered.
+TEST_F(Bridge, AnswersWhileItIsMade)
+{
+    whenAutomated = [](AEffect* made, int index) {
+        const auto ask = [made](std::int32_t opcode, int n, std::intptr_t value, void* pointer) {
+            return made->dispatcher(made, opcode, n, value, pointer, 0.0f);
+        };
+        EXPECT_EQ(made->magic, FourBytes("PtsV"));
+        EXPECT_EQ(made->uniqueId, FourBytes("HSvK"));
+        EXPECT_EQ(made->numParams, 154);
+        EXPECT_EQ(made->numOutputs, 28);
+        EXPECT_EQ(made->flags & effect_flag::IsSynth, effect_flag::IsSynth);
+        EXPECT_TRUE(made->user == nullptr && made->reserved1 == 0 && made->reserved2 == 0) << "the host's own fields";
+        EXPECT_EQ(made->getParameter(made, index), calls.back().option);
+        EXPECT_EQ(ask(request::CanBeAutomated, index, 0, nullptr), 1);
+        if (index != 80) return;
+        char text[256] = "";
+        ask(request::GetParameterDisplay, index, 0, text);
+        EXPECT_STREQ(text, "0.0 dB");
+        void* chunk = nullptr;
+        const std::intptr_t size = ask(request::GetChunk, 0, 0, &chunk);
+        EXPECT_EQ(ask(request::SetChunk, 0, size, chunk), size);
+        std::vector<float> sound(64, 9.0f);
+        std::array<float*, 28> outputs{};
+        outputs.fill(sound.data());
+        made->processReplacing(made, nullptr, outputs.data(), 64);
+        EXPECT_EQ(std::count(sound.begin(), sound.end(), 0.0f), 64) << "a switch is on: silence";
+    };
+    Open();
+    ASSERT_TRUE(effect);
+    whenAutomated = nullptr;
+    for (const Call& call : calls)
+        if (call.opcode == host_request::Automate) EXPECT_EQ(call.effect, effect);
+    Render(64);
+    EXPECT_EQ(outputs[0][0], 0.0f);
+}
+
 TEST_F(Bridge, AnswersItsRequests)
 {
     Open();
     // clang-format off
     constexpr std::pair<int, int> kAnswers[] = {{0, 0}, {3, 0}, {11, 0}, {13, 0}, {14, 0}, {15, 0}, {35, 2}, {58, 2400}, {25, 1},
-                                                {29, 1}, {51, 0}, {45, 0}, {23, 0}, {24, 0}, {34, 0}, {9, 0}, {99, 0}, {-7, 0}};
+                                                {29, 1}, {51, 0}, {45, 0}, {23, 0}, {24, 0}, {34, 0}, {9, 0}, {99, 0}, {-7, 0},
+                                                {28, 1}, {31, 1}, {32, 1}, {57, 1}, {63, -1}, {33, 0}, {43, 0}, {44, 0}, {49, 0},
+                                                {52, 0}, {62, 0}, {66, 0}, {69, 0}, {77, 0}, {78, 0}};
     // clang-format on
     for (const auto& [opcode, answer] : kAnswers) EXPECT_EQ(Ask(opcode), answer) << opcode;
+    EXPECT_EQ(Ask(request::TotalFrames, 0, 44100), 44100);
+    for (const auto& [index, answer] : {std::pair{0, 1}, {80, 1}, {153, 1}, {154, 0}, {195, 0}, {-1, 0}})
+        EXPECT_EQ(Ask(request::CanBeAutomated, index), answer) << index;
     EXPECT_EQ(Text(request::EffectName), "Korvane");
     EXPECT_EQ(Text(request::VendorString), "Brassmoor");
     EXPECT_EQ(Text(request::ProductString), "Korvane 1.0.2");

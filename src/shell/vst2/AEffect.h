@@ -66,14 +66,21 @@ enum : std::int32_t {
     GetChunk = 23,
     SetChunk = 24,
     ProcessEvents = 25,
+    CanBeAutomated = 26,
+    ProgramCategories = 28,
     ProgramNameByIndex = 29,
+    ConnectInput = 31,
+    ConnectOutput = 32,
     OutputProperties = 34,
     PlugCategory = 35,
     EffectName = 45,
     VendorString = 47,
     ProductString = 48,
     CanDo = 51,
+    KeysRequired = 57,
     InterfaceVersion = 58,
+    CurrentMidiProgram = 63,
+    TotalFrames = 73,
 };
 }
 
