@@ -1,18 +1,62 @@
+# shellcheck shell=bash
 # Sourced by play and test: the packages of a fresh Debian 12, and the build.
-packages=(g++ cmake make pkg-config libgtest-dev libbenchmark-dev libsndfile1-dev)
-missing=()
-for package in "${packages[@]}"; do
-  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'install ok installed' || missing+=("$package")
-done
-if [ ${#missing[@]} -gt 0 ]; then
-  echo "Installing: ${missing[*]}"
-  as_root=()
-  [ "$(id -u)" -eq 0 ] || as_root=(sudo)
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
-  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
-fi
+root=$(dirname "$(dirname "$(realpath "${BASH_SOURCE[0]}")")")
+log=$root/build/$(basename "$0").log
+packages=(g++ cmake make pkg-config libsndfile1-dev)
+trap 'exit 130' INT # Ctrl-C is no failure to report
 
+fail() {
+  echo "korvane: $*" >&2
+  exit 1
+}
+
+# Runs a command with all its output in the log; if it fails, shows what the log says of the reason.
+logged() {
+  LC_ALL=C "$@" >"$log" 2>&1 && return # in English, so that the reason is found
+  {
+    grep -m 4 -A 3 -E 'error: |CMake Error|undefined reference|command not found|No space left|^E: |^sudo: ' "$log" ||
+      tail -n 10 "$log"
+    echo "korvane: that failed; its whole output is in $log"
+  } >&2
+  return 1
+}
+
+is_installed() {
+  [[ $(dpkg-query -W -f='${Status}' "$1" 2>/dev/null) == *"ok installed"* ]]
+}
+
+# One call, so that sudo asks for one password. An archive that cannot be updated need not be the one that is needed.
+# shellcheck disable=SC2016 # "$@" belongs to the inner shell
+install_packages() {
+  "${as_root[@]}" sh -c 'export DEBIAN_FRONTEND=noninteractive; apt-get update
+    apt-get install -y --no-install-recommends "$@"' sh "$@" </dev/null
+}
+
+# Installs what is missing, or says in one line how somebody else can.
+prepare() {
+  local package advice missing=() as_root=()
+  if command -v apt-get >/dev/null; then # without it, the build itself says what it lacks
+    for package in "${packages[@]}"; do
+      is_installed "$package" || missing+=("$package")
+    done
+  fi
+  advice="packages are missing; as root: apt-get update && apt-get install ${missing[*]}"
+  if [ ${#missing[@]} -gt 0 ] && [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || fail "$advice"
+    as_root=(sudo)
+  fi
+  { mkdir -p "$root/build" && : >"$log"; } 2>/dev/null || fail "cannot write to $log; did somebody else build here?"
+  if [ ${#missing[@]} -gt 0 ]; then
+    echo "Installing ${missing[*]}${as_root[*]:+ with ${as_root[*]}}"
+    logged install_packages "${missing[@]}" || fail "$advice"
+  fi
+}
+
+configure() {
+  cmake -S "$root" -B "$root/build" -DCMAKE_BUILD_TYPE=Release -DKORVANE_WERROR="${KORVANE_WERROR:-OFF}" "$@"
+}
+
+# Builds the targets that are named.
 build() {
-  cmake -S . -B build -DCMAKE_BUILD_TYPE=Release "$@"
-  cmake --build build -j "$(nproc)"
+  cmake --build "$root/build" -j "$(nproc)" --target "$@"
 }
