@@ -1,0 +1,173 @@
+// play and test, with a stand-in for every command they call: what they install, show and play.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+
+namespace korvane {
+namespace {
+
+namespace fs = std::filesystem;
+
+struct CommandsTest : testing::Test {
+    const fs::path folder = fs::path(testing::TempDir()) / ("korvane commands." + std::to_string(getpid()));
+    const fs::path house = folder / "house", bin = folder / "bin", elsewhere = folder / "elsewhere";
+
+    /// An ordinary user on a machine that has all packages, neither sudo nor a player.
+    CommandsTest()
+    {
+        for (const fs::path& path : {house / "tools", house / "build/tools", bin, elsewhere})
+            fs::create_directories(path);
+        for (const char* file : {"play", "test", "tools/setup.sh"})
+            fs::copy_file(fs::path(KORVANE_SOURCE) / file, house / file);
+        for (const char* name : {"awk", "basename", "bash", "cat", "dirname", "env", "grep", "mkdir", "nproc",
+                                 "realpath", "sh", "stat", "tail", "timeout"})
+            fs::create_symlink(fs::path("/usr/bin") / name, bin / name);
+        Stand("id", "echo 1000");
+        Stand("dpkg-query", "echo install ok installed");
+        for (const char* name : {"apt-get", "cmake", "ctest"}) Stand(name, "");
+        Script(house / "build/tools/korvane-render", "for last; do :; done; pwd >\"$last\"");
+    }
+    ~CommandsTest() override { fs::remove_all(folder); }
+
+    void Script(const fs::path& file, const std::string& body) const
+    {
+        std::ofstream(file) << "#!/bin/sh\necho " << file.filename().string() << " \"$@\" >>'"
+                            << (folder / "calls").string() << "'\n"
+                            << body << "\n";
+        fs::permissions(file, fs::perms::owner_all);
+    }
+    void Stand(const char* name, const std::string& body) const { Script(bin / name, body); }
+
+    static std::string Text(const fs::path& path)
+    {
+        std::ifstream file(path);
+        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    }
+    struct Answer {
+        int status;
+        std::string output, errors, calls;
+    };
+    /// Runs one of the two from another folder.
+    Answer Run(const std::string& command) const
+    {
+        fs::remove(folder / "calls");
+        const int status = std::system(("cd '" + elsewhere.string() + "' && env -i PATH='" + bin.string() +
+                                        "' ../house/" + command + " >../out 2>../err </dev/null")
+                                           .c_str());
+        return {WEXITSTATUS(status), Text(folder / "out"), Text(folder / "err"), Text(folder / "calls")};
+    }
+};
+
+bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
+
+const std::string kNeeded = "g++ cmake make pkg-config libsndfile1-dev";
+const std::string kAdvice = "korvane: packages are missing; as root: apt-get update && apt-get install ";
+
+TEST_F(CommandsTest, NamesInOneLineWhatIsMissing)
+{
+    Stand("dpkg-query", "exit 1");
+    for (const auto& [command, more] : {std::pair{"play", ""}, {"test", " libgtest-dev libbenchmark-dev"}}) {
+        const Answer answer = Run(command);
+        EXPECT_EQ(answer.status, 1);
+        EXPECT_EQ(answer.output, "");
+        EXPECT_EQ(answer.errors, kAdvice + kNeeded + more + "\n");
+        EXPECT_FALSE(Has(answer.calls, "apt-get"));
+    }
+}
+
+TEST_F(CommandsTest, InstallsOnlyWhatIsMissing)
+{
+    const std::string install = "apt-get install -y --no-install-recommends cmake\n";
+    Stand("dpkg-query", "for last; do :; done; [ \"$last\" != cmake ] && echo install ok installed");
+    Stand("sudo", "exec \"$@\"");
+    for (const char* user : {"0", "1000"}) {
+        Stand("id", std::string("echo ") + user);
+        const Answer answer = Run("play");
+        EXPECT_EQ(answer.status, 0) << answer.errors;
+        EXPECT_TRUE(Has(answer.calls, install)) << answer.calls;
+        EXPECT_EQ(Has(answer.calls, "sudo"), user[0] == '1');
+    }
+    Stand("sudo", "echo sudo: a password is required >&2; exit 1");
+    const Answer refused = Run("play");
+    EXPECT_EQ(refused.status, 1);
+    EXPECT_TRUE(Has(refused.errors, "sudo: a password is required\n")) << refused.errors;
+    EXPECT_TRUE(Has(refused.errors, kAdvice + "cmake\n")) << refused.errors;
+}
+
+TEST_F(CommandsTest, WithNothingMissingNobodyInstalls)
+{
+    for (const char* command : {"play", "test"}) {
+        const Answer answer = Run(command);
+        EXPECT_EQ(answer.status, 0) << answer.errors;
+        EXPECT_EQ(answer.errors, "");
+        EXPECT_FALSE(Has(answer.calls, "apt-get"));
+        EXPECT_EQ(Has(answer.calls, "KORVANE_TESTS=ON"), Has(answer.calls, "ctest"));
+    }
+    Stand("ctest", "exit 8");
+    EXPECT_EQ(Run("test").status, 8);
+}
+
+TEST_F(CommandsTest, AFailedBuildShowsItsReasonAndItsLog)
+{
+    Stand("cmake", "[ \"$1\" = -S ] || { echo compiling; echo 'a.cpp:1:2: error: broken'; exit 2; }");
+    const Answer answer = Run("play");
+    EXPECT_NE(answer.status, 0);
+    EXPECT_TRUE(Has(answer.errors, "a.cpp:1:2: error: broken\n")) << answer.errors;
+    EXPECT_TRUE(Has(answer.errors, (house / "build/play.log").string())) << answer.errors;
+    EXPECT_TRUE(Has(Text(house / "build/play.log"), "compiling\n"));
+    EXPECT_FALSE(Has(answer.calls, "korvane-render --"));
+}
+
+TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
+{
+    const Answer answer = Run("play 'my groove.kvprj'");
+    EXPECT_TRUE(Has(answer.calls, "korvane-render --bars 8 my groove.kvprj " + (house / "korvane.wav").string()))
+        << answer.calls;
+    EXPECT_EQ(Text(house / "korvane.wav"), elsewhere.string() + "\n");
+    Script(house / "build/tools/korvane-render", "echo there is no such groove >&2; exit 1");
+    const Answer mistyped = Run("play mistyped");
+    EXPECT_EQ(mistyped.status, 1);
+    EXPECT_EQ(mistyped.errors, "there is no such groove\n");
+    EXPECT_EQ(Run("play two words").status, 2);
+}
+
+// A server that only has its stand-in for a device would take the sound and nobody would hear it.
+TEST_F(CommandsTest, PlaysWithTheFirstPlayerThatHasADevice)
+{
+    struct Case {
+        const char *what, *pipewire, *pulse, *cards, *failing, *played;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"all have one",        "speaker",   "speaker",   "card 0: x", "",        "pw-play"},
+        {"a dummy is none",     "auto_null", "speaker",   "card 0: x", "",        "paplay"},
+        {"no server",           "",          "",          "card 0: x", "",        "aplay"},
+        {"the first one fails", "speaker",   "speaker",   "card 0: x", "pw-play", "paplay"},
+        {"no device",           "auto_null", "auto_null", "no card",   "",        ""},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const std::string node = "node.name = \"" + std::string(c.pipewire) + "\"\nmedia.class = \"Audio/Sink\"";
+        Stand("pw-cli", *c.pipewire ? "echo '" + node + "'" : "exit 1");
+        Stand("pactl", *c.pulse ? "echo '0\t" + std::string(c.pulse) + "\tmodule'" : "exit 1");
+        Stand("aplay", "[ \"$1\" != -l ] || echo '" + std::string(c.cards) + "'");
+        for (const std::string player : {"pw-play", "paplay"})
+            Stand(player.c_str(), player == c.failing ? "exit 1" : "");
+        const Answer answer = Run("play");
+        EXPECT_EQ(answer.status, 0);
+        EXPECT_EQ(answer.errors, "");
+        const std::string sound = (house / "korvane.wav").string();
+        for (const std::string player : {"pw-play", "paplay", "aplay"})
+            EXPECT_EQ(Has(answer.calls, "\n" + player + " " + sound), player == c.played || player == c.failing)
+                << player;
+        EXPECT_EQ(Has(answer.output, "the sound is in " + sound), *c.played == '\0');
+        EXPECT_TRUE(Has(answer.output, (house / "build/Korvane").string()));
+    }
+}
+
+} // namespace
+} // namespace korvane
