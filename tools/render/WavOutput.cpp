@@ -3,12 +3,35 @@
 
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstring>
+#include <fstream>
 #include <utility>
 
 #include "render/Failure.h"
 
 namespace korvane::render {
+
+namespace {
+
+/// The library writes the format of floats without the size of its (empty) extension, which some readers warn of, and
+/// leaves space behind it: the one moves into the other. A file laid out in another way stays as it is.
+void CompleteFormat(const std::string& path)
+{
+    constexpr std::size_t kFormatSize = 16, kExtension = 36, kPad = 48, kPadSize = 52, kEnd = 56;
+    std::array<char, kEnd + 2> head{};
+    std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
+    if (!file.read(head.data(), kEnd) || head[kFormatSize] != 16 || std::memcmp(&head[kPad], "PAD ", 4) != 0) return;
+    std::copy_backward(&head[kExtension], &head[kEnd], head.end());
+    head[kExtension] = head[kExtension + 1] = 0;
+    head[kFormatSize] += 2;
+    head[kPadSize + 2] -= 2;
+    file.seekp(0).write(head.data(), head.size());
+}
+
+} // namespace
 
 WavOutput::WavOutput(std::string target, double rate, bool integers)
     : path(std::move(target)), partial(path + ".part" + std::to_string(getpid()))
@@ -49,6 +72,7 @@ void WavOutput::Write(const float* left, const float* right, int frames)
 void WavOutput::Finish()
 {
     const bool closed = sf_close(std::exchange(file, nullptr)) == 0;
+    CompleteFormat(partial);
     if (closed && std::rename(partial.c_str(), path.c_str()) == 0) return;
     std::remove(partial.c_str());
     throw Failure("cannot write '" + path + "'");
