@@ -21,7 +21,11 @@ public:
     double RmsDb() const { return Decibels(count > 0.0 ? std::sqrt(energy / count) : 0.0); }
 
 private:
-    static double Decibels(double level) { return level > 0.0 ? 20.0 * std::log10(level) : -INFINITY; }
+    static double Decibels(double level)
+    {
+        constexpr double kSilence = 1.0e-10; // -200 dB; effects at rest leave less
+        return level > kSilence ? 20.0 * std::log10(level) : -INFINITY;
+    }
 
     double peak = 0.0, energy = 0.0, count = 0.0;
 };
