@@ -133,7 +133,7 @@ TEST_F(PluginTest, RendersTheSameBits)
     for (int block : {128, 512, 4096, 4096}) {
         PluginHost host(kPlugin, 48000.0, block);
         host.SetState(state, "groove");
-        host.SetParameter("SYNTH: Noise Mix", 0.5f);
+        host.SetParameter(host.FindParameter("SYNTH: Noise Mix"), 0.5f);
         host.QueueMidi(0, 0x90, 40, 100);
         sounds.push_back(Play(host, {0}, 49152, block)[0]);
     }

@@ -6,13 +6,19 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "framework/ParameterTable.h"
 #include "render/Failure.h"
+#include "render/Library.h"
 #include "render/MidiFile.h"
+#include "render/Names.h"
+#include "render/ParameterText.h"
 
 namespace korvane::render {
 namespace {
@@ -101,7 +107,9 @@ TEST_F(RenderTest, RefusesInOneLine)
         "--param 'No Such=0.5' a.wav", "--param 'CHN:=0.5' a.wav", "--plugin text.so a.wav", "--plugin none.so a.wav",
         "text.kvprj a.wav", "none.kvprj a.wav", "folder.wav a.wav", "--midi text.mid a.wav", "--midi none.mid a.wav",
         "--program 'No Such' a.wav", "--program 'Saw Bass' text.kvprj a.wav", "none/a.wav", "folder.wav",
-        "--stems none/x --bars 0 a.wav",
+        "--stems none/x --bars 1 a.wav", "--bars 0 a.wav", "--bars=1.5 a.wav", "--help=1 a.wav", "--param 'Filter Type=XP' a.wav",
+        "--param 'CHN: Mix Level=20.1 dB' a.wav", "--param 'CHN: Mix Level=6' a.wav", "--param 'LFO Rate=1/3' a.wav",
+        "--param 'FX LFO Shape=' a.wav", "--param 'SYNTH: Unison Voices=17' a.wav", "--param 'CHN: Pitch=2.5' a.wav",
     };
     // clang-format on
     for (const char* arguments : cases) {
@@ -112,6 +120,133 @@ TEST_F(RenderTest, RefusesInOneLine)
         EXPECT_EQ(answer.errors.find('\n'), answer.errors.size() - 1) << answer.errors;
         for (const auto& entry : fs::directory_iterator(folder)) EXPECT_NE(entry.path().stem(), "a");
     }
+}
+
+// A name is found in any case, without its number, by its beginning; a mistyped one is answered with the nearest.
+TEST_F(RenderTest, FindsNames)
+{
+    const std::vector<std::string> names = {"Night Drive 124", "Steel Yard 134", "Steel Yard 90",
+                                            "Saw Bass",        "Saw Lead",       "saw lead"};
+    for (const auto& [wanted, index] : {std::pair{"Night Drive 124", 0},
+                                        {"night drive", 0},
+                                        {"NIGHT DRIVE 124", 0},
+                                        {"steel yard 9", 2},
+                                        {"saw bass", 3},
+                                        {"Saw Lead", 4},
+                                        {"saw lead", 5},
+                                        {"nig", 0}})
+        EXPECT_EQ(FindName(names, wanted, "groove"), static_cast<std::size_t>(index)) << wanted;
+    struct Case {
+        const char *wanted, *message;
+    };
+    const Case cases[] = {
+        {"Nihgt Drive", "there is no groove 'Nihgt Drive'; did you mean 'Night Drive 124'?"},
+        {"Night Drive 130", "there is no groove 'Night Drive 130'; did you mean 'Night Drive 124'?"},
+        {"lead saw", "there is no groove 'lead saw'."},
+        {"steel yard", "which groove is 'steel yard': 'Steel Yard 134' or 'Steel Yard 90'?"},
+        {"SAW LEAD", "which groove is 'SAW LEAD': 'Saw Lead' or 'saw lead'?"},
+        {"Bas", "there is no groove 'Bas'; did you mean 'Saw Bass'?"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.wanted);
+        try {
+            FindName(names, c.wanted, "groove", ".");
+            ADD_FAILURE() << "found";
+        } catch (const Failure& failure) {
+            EXPECT_STREQ(failure.what(), c.message);
+        }
+    }
+}
+
+TEST_F(RenderTest, TakesTheTempoFromTheName)
+{
+    // clang-format off
+    for (const auto& [groove, tempo] : {std::pair{"Night Drive 124", 124.0}, {"/x/Dub 92.5.kvprj", 92.5}, {"Take 2.kvprj", 0.0},
+                                        {"Jam 500.kvprj", 0.0}, {"120.kvprj", 0.0}, {"Night.kvprj", 0.0}, {"A 1.2.3.kvprj", 0.0}})
+        // clang-format on
+        EXPECT_EQ(TempoInName(groove).value_or(0.0), tempo) << groove;
+    const auto frames = [this](const std::string& arguments) {
+        const Answer answer = Run("--bars 1 --tail 0 --rate 8000 " + arguments + " a.wav");
+        EXPECT_EQ(answer.status, 0) << answer.errors;
+        EXPECT_EQ(answer.output.find("124 BPM, by the groove's name") != std::string::npos,
+                  arguments.find("tempo") == std::string::npos);
+        SF_INFO info{};
+        sf_close(sf_open((folder / "a.wav").c_str(), SFM_READ, &info));
+        return info.frames;
+    };
+    EXPECT_EQ(frames("'night drive'"), 15484) << "four beats at 124 per minute";
+    EXPECT_EQ(frames("--tempo=60 'Night Drive 124'"), 32000);
+}
+
+// What the instrument shows of a value leads back to a value that shows the same.
+TEST_F(RenderTest, ReadsWhatTheInstrumentShows)
+{
+    const auto shown = [](const ParameterInfo& parameter, float value) {
+        char text[32];
+        FormatDisplay(parameter.display, value, text);
+        return std::string(text);
+    };
+    for (const ParameterInfo& parameter : kParameters) {
+        for (int n = 0; n <= 1000; ++n) {
+            std::string text = shown(parameter, static_cast<float>(n) / 1000.0f);
+            char* end = nullptr;
+            const double number = std::strtod(text.c_str(), &end);
+            if (*end == '\0' && number >= 0.0 && number <= 1.0) continue; // stands for the value itself
+            if (number == 0.0 && text[0] == '-') text.erase(0, 1);
+            ASSERT_EQ(shown(parameter, ParameterValue(parameter.index, text)), text) << parameter.name;
+        }
+    }
+    struct Case {
+        int index;
+        const char* text;
+        float value;
+    };
+    const Case cases[] = {
+        {80, "0.3", 0.3f},  {80, "-6 dB", 0.675f}, {80, "+20DB", 1.0f},  {80, "-60.0 dB", 0.0f}, {81, "-50", 0.25f},
+        {82, "-12", 0.25f}, {82, "1", 1.0f},       {83, "4", 0.625f},    {95, "LP", 0.0f},       {95, "bp", 0.5f},
+        {95, "HP", 1.0f},   {92, "25%", 0.25f},    {74, "Square", 1.0f}, {105, "1/4", 1.0f / 9}, {105, "8/1", 8.0f / 9},
+        {115, "on", 1.0f},  {115, "Off", 0.0f},    {116, "16", 1.0f},    {131, "-50", 0.0f},     {110, "Bars", 1.0f},
+    };
+    for (const Case& c : cases) EXPECT_FLOAT_EQ(ParameterValue(c.index, c.text), c.value) << c.index << " " << c.text;
+    const Answer answer = Run("--param 'filter type=HP' --param 'CHN: Mix Level=-6dB' --program 'saw bass' a.wav");
+    EXPECT_EQ(answer.output.rfind("Filter Type = 100.0 %\nCHN: Mix Level = -6.0 dB\n", 0), 0u) << answer.output;
+    EXPECT_NE(answer.output.find("Synth 2            -inf       -inf"), std::string::npos) << answer.output;
+}
+
+TEST_F(RenderTest, TellsAboutItself)
+{
+    EXPECT_EQ(Run("--version").output, "korvane-render 1.0.2\n");
+    const Answer help = Run("--help");
+    EXPECT_EQ(help.status, 0);
+    for (const char* part : {"--tail SECONDS", "(default 44100)", "Examples:"})
+        EXPECT_NE(help.output.find(part), std::string::npos) << part;
+    EXPECT_NE(Run("--tmpo 124 a.wav").errors.find("did you mean '--tempo'?"), std::string::npos);
+}
+
+// Readers warn of a format of floats whose extension has no size, and of sizes that do not add up.
+TEST_F(RenderTest, WritesTheWholeHeader)
+{
+    ASSERT_EQ(Run("--bars 1 --tail 0 --rate 8000 a.wav").status, 0);
+    std::ifstream file(folder / "a.wav", std::ios::binary);
+    const std::string bytes{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+    const auto word = [&bytes](std::size_t at) {
+        std::uint32_t number = 0;
+        std::memcpy(&number, &bytes.at(at), bytes.size() - at < 4 ? 0 : 4);
+        return number;
+    };
+    EXPECT_EQ(word(4) + 8, bytes.size());
+    std::string chunks;
+    for (std::size_t at = 12; at + 8 <= bytes.size(); at += 8 + word(at + 4)) {
+        chunks += bytes.substr(at, 4);
+        if (bytes.compare(at, 4, "fmt ") == 0) EXPECT_EQ(word(at + 4), 18u);
+        if (bytes.compare(at, 4, "fact") == 0) EXPECT_EQ(word(at + 8), 16000u);
+        if (bytes.compare(at, 4, "data") == 0) EXPECT_EQ(word(at + 4), 16000u * 8);
+    }
+    EXPECT_EQ(chunks, "fmt factPAD data");
+    SF_INFO info{};
+    sf_close(sf_open((folder / "a.wav").c_str(), SFM_READ, &info));
+    EXPECT_EQ(info.format, SF_FORMAT_WAV | SF_FORMAT_FLOAT);
+    EXPECT_EQ(info.frames, 16000);
 }
 
 TEST_F(RenderTest, WritesTheMixAndTheStems)

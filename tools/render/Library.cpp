@@ -2,12 +2,15 @@
 #include "render/Library.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <utility>
 
 #include "content/ImageLayout.h"
 #include "render/Failure.h"
+#include "render/Names.h"
 #include "render/ReadFile.h"
 
 namespace korvane::render {
@@ -40,14 +43,15 @@ std::vector<fs::path> Files(const std::string& bundle, const Shelf& shelf)
 std::string Find(const std::string& bundle, const std::string& name, const char* what,
                  std::initializer_list<Shelf> shelves)
 {
-    std::string names;
+    std::vector<fs::path> files;
+    std::vector<std::string> names;
     for (const Shelf& shelf : shelves) {
-        for (const fs::path& file : Files(bundle, shelf)) {
-            if (file.stem() == name) return file.string();
-            names += (names.empty() ? "" : ", ") + file.stem().string();
+        for (fs::path& file : Files(bundle, shelf)) {
+            names.push_back(file.stem().string());
+            files.push_back(std::move(file));
         }
     }
-    throw Failure("there is no " + std::string(what) + " '" + name + "'; there are: " + names);
+    return files[FindName(names, name, what, "; --list shows them all")].string();
 }
 
 } // namespace
@@ -74,6 +78,17 @@ std::string FindGroove(const std::string& bundle, const std::string& name)
 std::string FindProgram(const std::string& bundle, const std::string& name)
 {
     return Find(bundle, name, "program", {kShelves[1], kShelves[2]});
+}
+
+std::optional<double> TempoInName(const std::string& groove)
+{
+    constexpr double kSlowest = 20.0, kFastest = 400.0; // beyond them a number is no tempo
+    const std::string stem = fs::path(groove).stem().string();
+    const std::string_view number = SplitNumber(stem).number;
+    double tempo = 0.0;
+    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), tempo);
+    if (error != std::errc() || end != number.data() + number.size()) return std::nullopt;
+    return tempo >= kSlowest && tempo <= kFastest ? std::optional(tempo) : std::nullopt;
 }
 
 std::vector<std::uint8_t> StateWithProgram(std::vector<std::uint8_t> state, const std::string& programFile)

@@ -5,6 +5,7 @@
 #include <cstdlib>
 
 #include "render/Failure.h"
+#include "render/Names.h"
 
 namespace korvane::render {
 
@@ -27,43 +28,68 @@ int Whole(const std::string& option, const std::string& text, int low, int high)
     return static_cast<int>(value);
 }
 
-std::pair<std::string, float> Parameter(const std::string& text)
+std::pair<std::string, std::string> Parameter(const std::string& text)
 {
     const std::size_t equals = text.rfind('=');
     if (equals == std::string::npos || equals == 0) throw Failure("--param takes NAME=VALUE, not '" + text + "'");
-    return {text.substr(0, equals),
-            static_cast<float>(Number("--param " + text.substr(0, equals), text.substr(equals + 1), 0, 1))};
+    return {text.substr(0, equals), text.substr(equals + 1)};
 }
 
-void Take(Options& options, const std::string& name, const std::string& value)
+bool Is24Bit(const std::string& text)
 {
-    if (name == "--plugin")
-        options.plugin = value;
-    else if (name == "--rate")
-        options.rate = Whole(name, value, 8000, 384000);
-    else if (name == "--block")
-        options.block = Whole(name, value, 1, 65536);
-    else if (name == "--tempo")
-        options.tempo = Number(name, value, 1, 999);
-    else if (name == "--tail")
-        options.tailSeconds = Number(name, value, 0, 600);
-    else if (name == "--param")
-        options.params.push_back(Parameter(value));
-    else if (name == "--midi")
-        options.midi = value;
-    else if (name == "--stems")
-        options.stems = value;
-    else if (name == "--program")
-        options.program = value;
-    else if (name == "--bars") {
-        options.bars = Whole(name, value, 0, 10000);
-        options.barsGiven = true;
-    } else if (name == "--format") {
-        if (value != "float" && value != "24") throw Failure("--format takes float or 24, not '" + value + "'");
-        options.integers = value == "24";
-    } else {
-        throw Failure("unknown option '" + name + "'");
+    if (text != "float" && text != "24") throw Failure("--format takes float or 24, not '" + text + "'");
+    return text == "24";
+}
+
+using Text = std::string;
+
+struct Option {
+    const char* name;
+    const char* value; // what stands behind it, null for nothing
+    const char* help;
+    void (*take)(Options& to, const Text& name, const Text& value);
+};
+constexpr Option kOptions[] = {
+    // clang-format off
+    {"--bars", "N", "bars of 4/4 that the sequencer plays, 1 to 10000 (default 8)",
+     [](Options& to, const Text& name, const Text& value) { to.bars = Whole(name, value, 1, 10000); }},
+    {"--tempo", "BPM", "beats per minute, 1 to 999 (default: what the groove's name ends in, else 120)",
+     [](Options& to, const Text& name, const Text& value) { to.tempo = Number(name, value, 1, 999); }},
+    {"--tail", "SECONDS", "time after the last bar or note, 0 to 600 (default 2)",
+     [](Options& to, const Text& name, const Text& value) { to.tailSeconds = Number(name, value, 0, 600); }},
+    {"--param", "NAME=VALUE", "set a parameter; VALUE is 0 to 1, or as shown: \"-6 dB\", 1/4, LP, on",
+     [](Options& to, const Text&, const Text& value) { to.params.push_back(Parameter(value)); }},
+    {"--program", "NAME", "play one note (1 s, key 36) of a synth or sampler program instead of a groove",
+     [](Options& to, const Text&, const Text& value) { to.program = value; }},
+    {"--midi", "FILE", "play a MIDI file in its own tempo; with --bars the sequencer runs along",
+     [](Options& to, const Text&, const Text& value) { to.midi = value; }},
+    {"--stems", "FOLDER", "also write one file per channel there",
+     [](Options& to, const Text&, const Text& value) { to.stems = value; }},
+    {"--format", "float|24", "samples of 32-bit float or 24 bits (default float)",
+     [](Options& to, const Text&, const Text& value) { to.integers = Is24Bit(value); }},
+    {"--rate", "HZ", "sample rate, 8000 to 384000 (default 44100)",
+     [](Options& to, const Text& name, const Text& value) { to.rate = Whole(name, value, 8000, 384000); }},
+    {"--block", "FRAMES", "frames per block, 1 to 65536 (default 512)",
+     [](Options& to, const Text& name, const Text& value) { to.block = Whole(name, value, 1, 65536); }},
+    {"--plugin", "FILE", "the plug-in (default: korvane.so of the bundle built with this program)",
+     [](Options& to, const Text&, const Text& value) { to.plugin = value; }},
+    {"--list", nullptr, "print the names of grooves, programs and parts",
+     [](Options& to, const Text&, const Text&) { to.list = true; }},
+    {"--version", nullptr, "print the version", [](Options& to, const Text&, const Text&) { to.version = true; }},
+    {"--help", nullptr, "print this", [](Options& to, const Text&, const Text&) { to.help = true; }},
+    // clang-format on
+};
+
+const Option& FindOption(const std::string& name)
+{
+    std::vector<std::string> names;
+    for (const Option& option : kOptions) {
+        if (name == option.name) return option;
+        names.emplace_back(option.name);
     }
+    const std::string nearest = NearestName(names, name);
+    throw Failure("unknown option '" + name + "'" +
+                  (nearest.empty() ? "; --help lists them" : "; did you mean '" + nearest + "'?"));
 }
 
 bool EndsWith(const std::string& text, const std::string& end)
@@ -71,7 +97,34 @@ bool EndsWith(const std::string& text, const std::string& end)
     return text.size() > end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
 
+void TakeFiles(Options& options, const std::vector<std::string>& files)
+{
+    if (files.empty()) throw Failure("no output file given; --help shows how");
+    if (files.size() > 2) throw Failure("unexpected argument '" + files[2] + "'");
+    options.output = files.back();
+    if (!EndsWith(options.output, ".wav")) throw Failure("the output file must end in .wav: '" + options.output + "'");
+    if (files.size() == 2) options.groove = files.front();
+    if (!options.groove.empty() && !options.program.empty()) throw Failure("a groove and --program exclude each other");
+}
+
 } // namespace
+
+std::string HelpText()
+{
+    std::string text =
+        "korvane-render [OPTION]... [GROOVE] OUT.wav\n"
+        "Plays Korvane without a host and writes what it plays. GROOVE is a file or the name of a groove of the\n"
+        "library, in any case and with or without its number; without it the default groove plays.\n\n";
+    for (const Option& option : kOptions) {
+        std::string left = std::string("  ") + option.name + (option.value ? std::string(" ") + option.value : "");
+        left.resize(22, ' ');
+        text += left + option.help + "\n";
+    }
+    return text + "\nExamples:\n"
+                  "  korvane-render --bars 16 --stems channels \"night drive\" mix.wav\n"
+                  "  korvane-render --program \"Saw Bass\" --param \"Filter Type=HP\" --param \"CHN: Mix Level=-6 dB\" "
+                  "note.wav\n";
+}
 
 Options ParseOptions(int count, char** arguments)
 {
@@ -79,26 +132,19 @@ Options ParseOptions(int count, char** arguments)
     std::vector<std::string> files;
     for (int n = 1; n < count; ++n) {
         const std::string word = arguments[n];
-        if (word == "--help" || word == "-h")
-            options.help = true;
-        else if (word == "--list")
-            options.list = true;
-        else if (word.size() > 1 && word[0] == '-') {
-            if (n + 1 >= count) throw Failure("'" + word + "' is unknown or lacks its value");
-            Take(options, word, arguments[++n]);
-        } else if (word.empty()) {
-            throw Failure("an argument is empty");
-        } else {
+        if (word.empty()) throw Failure("an argument is empty");
+        if (word[0] != '-' || word.size() == 1) {
             files.push_back(word);
+            continue;
         }
+        const std::size_t equals = word.find('='); // --tempo=124 or --tempo 124
+        const bool joined = equals != std::string::npos;
+        const Option& option = FindOption(word == "-h" ? "--help" : word.substr(0, equals));
+        if (joined && !option.value) throw Failure(std::string(option.name) + " takes no value");
+        if (option.value && !joined && n + 1 >= count) throw Failure("'" + word + "' lacks its value");
+        option.take(options, option.name, !option.value ? "" : joined ? word.substr(equals + 1) : arguments[++n]);
     }
-    if (options.help || options.list) return options;
-    if (files.empty()) throw Failure("no output file given");
-    if (files.size() > 2) throw Failure("unexpected argument '" + files[2] + "'");
-    options.output = files.back();
-    if (!EndsWith(options.output, ".wav")) throw Failure("the output file must end in .wav: '" + options.output + "'");
-    if (files.size() == 2) options.groove = files.front();
-    if (!options.groove.empty() && !options.program.empty()) throw Failure("a groove and --program exclude each other");
+    if (!options.help && !options.list && !options.version) TakeFiles(options, files);
     return options;
 }
 

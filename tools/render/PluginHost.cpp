@@ -2,12 +2,12 @@
 #include "render/PluginHost.h"
 
 #include <dlfcn.h>
-#include <strings.h>
 
 #include <algorithm>
 #include <cstring>
 
 #include "render/Failure.h"
+#include "render/Names.h"
 
 namespace korvane::render {
 
@@ -57,24 +57,23 @@ PluginHost::~PluginHost()
     dlclose(library);
 }
 
-void PluginHost::SetParameter(const std::string& name, float value)
+int PluginHost::FindParameter(const std::string& name) const
 {
-    int found = -1;
-    bool several = false;
+    std::vector<std::string> names;
     for (int n = 0; n < effect->numParams; ++n) {
         char text[256] = "";
         Ask(request::GetParameterName, n, 0, text);
-        if (name == text) {
-            effect->setParameter(effect, n, value);
-            return;
-        }
-        if (strncasecmp(text, name.c_str(), name.size()) != 0) continue;
-        several = found >= 0;
-        found = n;
+        names.emplace_back(text);
     }
-    if (found < 0) throw Failure("no parameter is called '" + name + "'");
-    if (several) throw Failure("several parameters begin with '" + name + "'");
-    effect->setParameter(effect, found, value);
+    return static_cast<int>(FindName(names, name, "parameter"));
+}
+
+std::string PluginHost::ParameterText(int index) const
+{
+    char name[256] = "", shown[256] = "";
+    Ask(request::GetParameterName, index, 0, name);
+    Ask(request::GetParameterDisplay, index, 0, shown);
+    return std::string(name) + " = " + shown;
 }
 
 std::vector<std::uint8_t> PluginHost::GetState()

@@ -17,8 +17,11 @@ public:
     ~PluginHost();
     PluginHost(const PluginHost&) = delete;
 
-    /// Throws Failure when no parameter, or more than one, goes by the name (whole, else its beginning in any case).
-    void SetParameter(const std::string& name, float value);
+    /// The index of a parameter by what the user calls it, see FindName.
+    int FindParameter(const std::string& name) const;
+    void SetParameter(int index, float value) { effect->setParameter(effect, index, value); }
+    /// "name = value as the plug-in shows it".
+    std::string ParameterText(int index) const;
     std::vector<std::uint8_t> GetState();
     /// Throws Failure when the plug-in refuses the bytes.
     void SetState(const std::vector<std::uint8_t>& bytes, const std::string& name);

@@ -14,6 +14,7 @@
 #include "render/Library.h"
 #include "render/MidiFile.h"
 #include "render/Options.h"
+#include "render/ParameterText.h"
 #include "render/PluginHost.h"
 #include "render/ReadFile.h"
 #include "render/WavOutput.h"
@@ -26,7 +27,9 @@ namespace fs = std::filesystem;
 
 constexpr long long kLongestFile = 0x7FFFFFFF; // bytes of sound that any reader of WAV files accepts
 constexpr std::size_t kEventsPerBlock = 1000;  // a plug-in holds so many for sure
-constexpr int kProgramNote = 36;               // below the pads, so the selected channel plays it
+constexpr int kBars = 8;
+constexpr double kTempo = 120.0; // beats per minute
+constexpr int kProgramNote = 36; // below the pads, so the selected channel plays it
 constexpr double kProgramNoteSeconds = 2.0;
 
 volatile std::sig_atomic_t interrupted = 0;
@@ -75,18 +78,30 @@ private:
     void Prepare()
     {
         transport = options.midi.empty() && options.program.empty();
-        if (midi && options.barsGiven) transport = true;
+        if (midi && options.bars) transport = true;
         length = midi ? midi->lengthSeconds : kProgramNoteSeconds;
         if (!options.groove.empty()) host.SetState(ReadFile(options.groove), options.groove);
+        ChooseTempo();
         if (!options.program.empty()) {
             const std::string file = FindProgram(fs::path(options.plugin).parent_path().string(), options.program);
             host.SetState(StateWithProgram(host.GetState(), file), file);
         }
-        for (const auto& [name, value] : options.params) host.SetParameter(name, value);
-        runFrames = Frames(transport ? options.bars * 4 * 60.0 / TempoAt(0.0) : length);
+        for (const auto& [name, text] : options.params) {
+            const int index = host.FindParameter(name);
+            host.SetParameter(index, ParameterValue(index, text));
+            std::printf("%s\n", host.ParameterText(index).c_str());
+        }
+        runFrames = Frames(transport ? options.bars.value_or(kBars) * 4 * 60.0 / TempoAt(0.0) : length);
         allFrames = runFrames + Frames(options.tailSeconds);
         if (allFrames > kLongestFile / (2 * static_cast<long long>(sizeof(float))))
             throw Failure("that is longer than a WAV file holds");
+    }
+
+    void ChooseTempo()
+    {
+        const auto named = TempoInName(options.groove);
+        tempo = options.tempo.value_or(named.value_or(kTempo));
+        if (named && !options.tempo && !midi) std::printf("%g BPM, by the groove's name\n", tempo);
     }
 
     void CreateStemsFolder() const
@@ -97,14 +112,14 @@ private:
     }
 
     long long Frames(double seconds) const { return std::llround(std::min(seconds * options.rate, 1.0e15)); }
-    double TempoAt(double seconds) const { return midi ? midi->TempoAt(seconds) : options.tempo; }
+    double TempoAt(double seconds) const { return midi ? midi->TempoAt(seconds) : tempo; }
 
     /// Renders up to `frames` frames, fewer where more events come than a plug-in takes at once; returns how many.
     int RenderBlock(long long done, int frames)
     {
         const double seconds = static_cast<double>(done) / options.rate;
         host.SetTempo(TempoAt(seconds));
-        host.SetPosition(midi ? midi->QuartersAt(seconds) : seconds * options.tempo / 60.0);
+        host.SetPosition(midi ? midi->QuartersAt(seconds) : seconds * tempo / 60.0);
         if (midi)
             frames = QueueMessages(done, frames);
         else if (!options.program.empty())
@@ -166,6 +181,7 @@ private:
     PluginHost host;
     std::optional<MidiFile> midi;
     std::size_t next = 0;                   // MIDI message to be played
+    double tempo = kTempo;                  // beats per minute, where no MIDI file says so
     bool transport = true;                  // the plug-in's own sequencer runs
     double length = 0.0;                    // seconds before the tail, without transport
     long long runFrames = 0, allFrames = 0; // before the tail, and with it
@@ -177,7 +193,11 @@ int Main(int count, char** arguments)
 {
     Options options = ParseOptions(count, arguments);
     if (options.help) {
-        std::fputs(kUsage, stdout);
+        std::fputs(HelpText().c_str(), stdout);
+        return 0;
+    }
+    if (options.version) {
+        std::puts("korvane-render " KORVANE_VERSION);
         return 0;
     }
     if (options.plugin.empty()) options.plugin = DefaultPlugin();

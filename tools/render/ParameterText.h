@@ -1,0 +1,13 @@
+// Parameter values as users write them.
+#pragma once
+
+#include <string>
+
+namespace korvane::render {
+
+/// The value (0 to 1) that a text stands for: a number from 0 to 1 is the value itself; then what the instrument shows,
+/// with its unit ("-6 dB", "25 %", "1/4"), the name of a position ("LP"), "on" and "off". Throws Failure.
+/// index  of the parameter
+float ParameterValue(int index, const std::string& text);
+
+} // namespace korvane::render
