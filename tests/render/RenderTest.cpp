@@ -125,8 +125,8 @@ TEST_F(RenderTest, RefusesInOneLine)
 // A name is found in any case, without its number, by its beginning; a mistyped one is answered with the nearest.
 TEST_F(RenderTest, FindsNames)
 {
-    const std::vector<std::string> names = {"Night Drive 124", "Steel Yard 134", "Steel Yard 90",
-                                            "Saw Bass",        "Saw Lead",       "saw lead"};
+    const std::vector<std::string> names = {"Night Drive 124", "Steel Yard 134", "Steel Yard 90", "Saw Bass",
+                                            "Saw Lead",        "saw lead",       "Steel 99"};
     for (const auto& [wanted, index] : {std::pair{"Night Drive 124", 0},
                                         {"night drive", 0},
                                         {"NIGHT DRIVE 124", 0},
@@ -134,7 +134,8 @@ TEST_F(RenderTest, FindsNames)
                                         {"saw bass", 3},
                                         {"Saw Lead", 4},
                                         {"saw lead", 5},
-                                        {"nig", 0}})
+                                        {"nig", 0},
+                                        {"steel", 6}})
         EXPECT_EQ(FindName(names, wanted, "groove"), static_cast<std::size_t>(index)) << wanted;
     struct Case {
         const char *wanted, *message;
