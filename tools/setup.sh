@@ -11,11 +11,11 @@ fail() {
 }
 
 # Runs a command with all its output in the log; if it fails, shows what the log says of the reason.
+reasons='error: |CMake Error|undefined reference|No package|command not found|No space left|^E: |^sudo: '
 logged() {
   LC_ALL=C "$@" >"$log" 2>&1 && return # in English, so that the reason is found
   {
-    grep -m 4 -A 3 -E 'error: |CMake Error|undefined reference|command not found|No space left|^E: |^sudo: ' "$log" ||
-      tail -n 10 "$log"
+    grep -m 4 -A 3 -E "$reasons" "$log" || tail -n 10 "$log"
     echo "korvane: that failed; its whole output is in $log"
   } >&2
   return 1
