@@ -11,7 +11,7 @@ fail() {
 }
 
 # Runs a command with all its output in the log; if it fails, shows what the log says of the reason.
-reasons='error: |CMake Error|undefined reference|No package|command not found|No space left|^E: |^sudo: '
+reasons='error: |CMake Error|undefined reference|Package .* not found|command not found|No space left|^E: |^sudo: '
 logged() {
   LC_ALL=C "$@" >"$log" 2>&1 && return # in English, so that the reason is found
   {
