@@ -73,6 +73,7 @@ enum : std::int32_t {
     ConnectOutput = 32,
     OutputProperties = 34,
     PlugCategory = 35,
+    SetBlockSizeAndSampleRate = 43,
     EffectName = 45,
     VendorString = 47,
     ProductString = 48,

@@ -5,8 +5,9 @@
 
 namespace korvane {
 
-/// Fills the effect record and forwards its entries to the object. Operations that are not overridden do nothing and
-/// answer 0. Usable without a host: with a null callback every host request answers 0.
+/// Fills the effect record and forwards its entries to the object. Operations that are not overridden do nothing, and
+/// requests that it does not know are answered by 0. Usable without a host: with a null callback every host request
+/// answers 0.
 class AudioEffect {
 public:
     AudioEffect(AudioMasterCallback hostCallback, std::int32_t numPrograms, std::int32_t numParams);
