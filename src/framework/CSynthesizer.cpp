@@ -262,6 +262,8 @@ void CSynthesizer::SetProgram(int index)
         currentProgram = ProgramAt(number);
         programIndex = number;
         Reset();
+        // The host hears each value inside the switch, at creation even inside its call of the entry point. It may ask
+        // and write from within; another of its threads gets parameters and skipped blocks, but waits to switch.
         for (int n = 0; n < param::Count; ++n) {
             const float value = GetParameter(n);
             if (wrapper) wrapper->ParameterAutomated(n, value);
