@@ -21,8 +21,9 @@ logged() {
   return 1
 }
 
+# A tool has the name of its package, and need not come from it.
 is_installed() {
-  [[ $(dpkg-query -W -f='${Status}' "$1" 2>/dev/null) == *"ok installed"* ]]
+  command -v "$1" >/dev/null || [[ $(dpkg-query -W -f='${Status}' "$1" 2>/dev/null) == *"ok installed"* ]]
 }
 
 # One call, so that sudo asks for one password. An archive that cannot be updated need not be the one that is needed.
