@@ -2,7 +2,6 @@
 #include "render/Library.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -11,6 +10,7 @@
 #include "content/ImageLayout.h"
 #include "render/Failure.h"
 #include "render/Names.h"
+#include "render/ParseNumber.h"
 #include "render/ReadFile.h"
 
 namespace korvane::render {
@@ -83,12 +83,10 @@ std::string FindProgram(const std::string& bundle, const std::string& name)
 std::optional<double> TempoInName(const std::string& groove)
 {
     constexpr double kSlowest = 20.0, kFastest = 400.0; // beyond them a number is no tempo
-    const std::string stem = fs::path(groove).stem().string();
-    const std::string_view number = SplitNumber(stem).number;
-    double tempo = 0.0;
-    const auto [end, error] = std::from_chars(number.data(), number.data() + number.size(), tempo);
-    if (error != std::errc() || end != number.data() + number.size()) return std::nullopt;
-    return tempo >= kSlowest && tempo <= kFastest ? std::optional(tempo) : std::nullopt;
+    const fs::path path(groove);
+    const std::string name = (path.extension() == kShelves[0].extension ? path.stem() : path.filename()).string();
+    const auto tempo = ParseNumber(SplitNumber(name).number);
+    return tempo && *tempo >= kSlowest && *tempo <= kFastest ? tempo : std::nullopt;
 }
 
 std::vector<std::uint8_t> StateWithProgram(std::vector<std::uint8_t> state, const std::string& programFile)

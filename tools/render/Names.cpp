@@ -18,18 +18,22 @@ bool BeginsWith(std::string_view text, std::string_view beginning)
     return text.size() >= beginning.size() && SameText(text.substr(0, beginning.size()), beginning);
 }
 
-/// Letters to insert, drop or replace until the text is the name or, anywhere, a piece of it, in any case (the dynamic
-/// programme of Wagner and Fischer 1974, with Sellers' free ends of 1980).
+/// Letters to insert, drop, replace or swap with their neighbour until the text is the name or, anywhere, a piece of
+/// it, in any case (optimal string alignment after Damerau 1964, with the free ends of Sellers 1980).
 std::size_t Edits(std::string_view text, std::string_view name, bool anywhere)
 {
-    std::vector<std::size_t> above(name.size() + 1), row(name.size() + 1);
+    const std::size_t width = name.size() + 1;
+    std::vector<std::size_t> before(width), above(width),
+        row(width); // of two letters ago, of the last one, of this one
     if (!anywhere) std::iota(above.begin(), above.end(), 0u);
+    const auto same = [&](std::size_t n, std::size_t k) { return Lower(text[n - 1]) == Lower(name[k - 1]); };
     for (std::size_t n = 1; n <= text.size(); ++n) {
         row[0] = n;
-        for (std::size_t k = 1; k <= name.size(); ++k) {
-            const std::size_t replaced = above[k - 1] + (Lower(text[n - 1]) != Lower(name[k - 1]) ? 1 : 0);
-            row[k] = std::min({replaced, above[k] + 1, row[k - 1] + 1});
+        for (std::size_t k = 1; k < width; ++k) {
+            row[k] = std::min({above[k - 1] + (same(n, k) ? 0 : 1), above[k] + 1, row[k - 1] + 1});
+            if (n > 1 && k > 1 && same(n, k - 1) && same(n - 1, k)) row[k] = std::min(row[k], before[k - 2] + 1);
         }
+        std::swap(before, above);
         std::swap(above, row);
     }
     return anywhere ? *std::min_element(above.begin(), above.end()) : above.back();

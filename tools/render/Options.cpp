@@ -2,10 +2,10 @@
 #include "render/Options.h"
 
 #include <cmath>
-#include <cstdlib>
 
 #include "render/Failure.h"
 #include "render/Names.h"
+#include "render/ParseNumber.h"
 
 namespace korvane::render {
 
@@ -13,12 +13,11 @@ namespace {
 
 double Number(const std::string& option, const std::string& text, double low, double high)
 {
-    char* end = nullptr;
-    const double value = std::strtod(text.c_str(), &end);
-    if (text.empty() || *end != '\0' || !(value >= low && value <= high))
+    const auto value = ParseNumber(text);
+    if (!value || !(*value >= low && *value <= high))
         throw Failure(option + " takes a number from " + std::to_string(static_cast<long long>(low)) + " to " +
                       std::to_string(static_cast<long long>(high)) + ", not '" + text + "'");
-    return value;
+    return *value;
 }
 
 int Whole(const std::string& option, const std::string& text, int low, int high)
@@ -28,11 +27,17 @@ int Whole(const std::string& option, const std::string& text, int low, int high)
     return static_cast<int>(value);
 }
 
+std::string Trimmed(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') + 1 - first);
+}
+
 std::pair<std::string, std::string> Parameter(const std::string& text)
 {
     const std::size_t equals = text.rfind('=');
     if (equals == std::string::npos || equals == 0) throw Failure("--param takes NAME=VALUE, not '" + text + "'");
-    return {text.substr(0, equals), text.substr(equals + 1)};
+    return {Trimmed(text.substr(0, equals)), Trimmed(text.substr(equals + 1))};
 }
 
 bool Is24Bit(const std::string& text)
@@ -57,9 +62,9 @@ constexpr Option kOptions[] = {
      [](Options& to, const Text& name, const Text& value) { to.tempo = Number(name, value, 1, 999); }},
     {"--tail", "SECONDS", "time after the last bar or note, 0 to 600 (default 2)",
      [](Options& to, const Text& name, const Text& value) { to.tailSeconds = Number(name, value, 0, 600); }},
-    {"--param", "NAME=VALUE", "set a parameter; VALUE is 0 to 1, or as shown: \"-6 dB\", 1/4, LP, on",
+    {"--param", "NAME=VALUE", "set a parameter; several are set in their order",
      [](Options& to, const Text&, const Text& value) { to.params.push_back(Parameter(value)); }},
-    {"--program", "NAME", "play one note (1 s, key 36) of a synth or sampler program instead of a groove",
+    {"--program", "NAME", "play a program instead of a groove: key 36 for 1 s, and 1 s of release",
      [](Options& to, const Text&, const Text& value) { to.program = value; }},
     {"--midi", "FILE", "play a MIDI file in its own tempo; with --bars the sequencer runs along",
      [](Options& to, const Text&, const Text& value) { to.midi = value; }},
@@ -76,7 +81,7 @@ constexpr Option kOptions[] = {
     {"--list", nullptr, "print the names of grooves, programs and parts",
      [](Options& to, const Text&, const Text&) { to.list = true; }},
     {"--version", nullptr, "print the version", [](Options& to, const Text&, const Text&) { to.version = true; }},
-    {"--help", nullptr, "print this", [](Options& to, const Text&, const Text&) { to.help = true; }},
+    {"--help", nullptr, "print this (also -h)", [](Options& to, const Text&, const Text&) { to.help = true; }},
     // clang-format on
 };
 
@@ -105,6 +110,9 @@ void TakeFiles(Options& options, const std::vector<std::string>& files)
     if (!EndsWith(options.output, ".wav")) throw Failure("the output file must end in .wav: '" + options.output + "'");
     if (files.size() == 2) options.groove = files.front();
     if (!options.groove.empty() && !options.program.empty()) throw Failure("a groove and --program exclude each other");
+    if (options.tempo && !options.midi.empty()) throw Failure("--tempo and --midi exclude each other");
+    if (options.bars && options.midi.empty() && !options.program.empty())
+        throw Failure("--bars and --program exclude each other");
 }
 
 } // namespace
@@ -113,17 +121,22 @@ std::string HelpText()
 {
     std::string text =
         "korvane-render [OPTION]... [GROOVE] OUT.wav\n"
-        "Plays Korvane without a host and writes what it plays. GROOVE is a file or the name of a groove of the\n"
-        "library, in any case and with or without its number; without it the default groove plays.\n\n";
+        "Plays Korvane without a host and writes what it plays. GROOVE is a file, or a groove of the library by its\n"
+        "name or the beginning of it, in any case, with or without the number; without it the default groove "
+        "plays.\n\n";
     for (const Option& option : kOptions) {
         std::string left = std::string("  ") + option.name + (option.value ? std::string(" ") + option.value : "");
         left.resize(22, ' ');
         text += left + option.help + "\n";
     }
-    return text + "\nExamples:\n"
-                  "  korvane-render --bars 16 --stems channels \"night drive\" mix.wav\n"
-                  "  korvane-render --program \"Saw Bass\" --param \"Filter Type=HP\" --param \"CHN: Mix Level=-6 dB\" "
-                  "note.wav\n";
+    return text +
+           "\nA parameter's VALUE is a number from 0 to 1, or what the instrument shows, with its unit: \"-6 dB\", \"0 "
+           "st\",\n"
+           "1/4, LP, on. Most parameters act on the selected channel; \"CHANNEL 9: Synth 1=on\" selects another.\n"
+           "\nExamples:\n"
+           "  korvane-render --bars 16 --stems channels \"night drive\" mix.wav\n"
+           "  korvane-render --program \"Saw Bass\" --param \"Filter Type=HP\" --param \"CHN: Mix Level=-6 dB\" "
+           "note.wav\n";
 }
 
 Options ParseOptions(int count, char** arguments)
@@ -142,7 +155,9 @@ Options ParseOptions(int count, char** arguments)
         const Option& option = FindOption(word == "-h" ? "--help" : word.substr(0, equals));
         if (joined && !option.value) throw Failure(std::string(option.name) + " takes no value");
         if (option.value && !joined && n + 1 >= count) throw Failure("'" + word + "' lacks its value");
-        option.take(options, option.name, !option.value ? "" : joined ? word.substr(equals + 1) : arguments[++n]);
+        const std::string value = !option.value ? "" : joined ? word.substr(equals + 1) : arguments[++n];
+        if (option.value && value.empty()) throw Failure(std::string("the value of ") + option.name + " is empty");
+        option.take(options, option.name, value);
     }
     if (!options.help && !options.list && !options.version) TakeFiles(options, files);
     return options;

@@ -2,7 +2,6 @@
 #include "render/ParameterText.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <iterator>
 #include <optional>
@@ -12,49 +11,67 @@
 #include "framework/ParameterTable.h"
 #include "render/Failure.h"
 #include "render/Names.h"
+#include "render/ParseNumber.h"
 
 namespace korvane::render {
 
 namespace {
+
+enum class Unit { Shown, Unshown };
 
 /// A display that is a straight line: shown = value * range - offset.
 struct Scale {
     Display display;
     double range, offset;
     const char* unit;
+    Unit shown;
     bool whole; // shown without decimals, cut toward zero
 };
 constexpr Scale kScales[] = {
     // clang-format off
-    {Display::Percent,     100.0,   0.0, "%",   false},
-    {Display::MixDb,        80.0,  60.0, "dB",  false},
-    {Display::Pan,         200.0, 100.0, "",    false},
-    {Display::Semitones24,  48.0,  24.0, "",    true},
-    {Display::AmpDb,        50.0,  25.0, "dB",  false},
-    {Display::Voices,       15.0,  -1.0, "",    true},
-    {Display::Semitones36,  72.0,  36.0, "",    true},
-    {Display::Detune,      100.0,  50.0, "",    true},
-    {Display::Bipolar,     200.0, 100.0, "%",   false},
-    {Display::Smt,          12.0,   0.0, "smt", true},
-    {Display::GainDb,       24.0,  12.0, "dB",  false},
+    {Display::Percent,     100.0,   0.0, "%",      Unit::Shown,   false},
+    {Display::MixDb,        80.0,  60.0, "dB",     Unit::Shown,   false},
+    {Display::Pan,         200.0, 100.0, "%",      Unit::Unshown, false},
+    {Display::Semitones24,  48.0,  24.0, "st",     Unit::Unshown, true},
+    {Display::AmpDb,        50.0,  25.0, "dB",     Unit::Shown,   false},
+    {Display::Voices,       15.0,  -1.0, "voices", Unit::Unshown, true},
+    {Display::Semitones36,  72.0,  36.0, "st",     Unit::Unshown, true},
+    {Display::Detune,      100.0,  50.0, "cents",  Unit::Unshown, true},
+    {Display::Bipolar,     200.0, 100.0, "%",      Unit::Shown,   false},
+    {Display::Smt,          12.0,   0.0, "smt",    Unit::Shown,   true},
+    {Display::GainDb,       24.0,  12.0, "dB",     Unit::Shown,   false},
     // clang-format on
 };
+constexpr const char* kLengthUnit = "beats"; // an eighth to 32, by powers of two
 
-/// Positions that the panel shows as pictures: position p of k + 1 is the value p / k.
+/// Positions that the panel shows as pictures, from 0 to the last one's value.
 struct Positions {
-    int slot;             // channel parameter
-    const char* names[4]; // null behind the last
+    const char* parameter;
+    float last;
+    const char* names[5]; // null behind the last
 };
 constexpr Positions kPositions[] = {
     // clang-format off
-    {slot::FilterType,          {"LP", "BP", "HP"}},
-    {slot::EnvelopeDestination, {"Cutoff", "Modulation", "Pitch", "LFO"}},
-    {slot::LfoDestination,      {"Cutoff", "Modulation", "Pitch", "Level"}},
-    {slot::LfoShape,            {"Sine", "Triangle", "Falling", "Square"}},
-    {slot::LfoSync,             {"Free", "Beats", "Bars"}},
-    {slot::FxLfoShape,          {"Sine", "Triangle", "Rising", "Square"}},
-    {slot::FxLfoSync,           {"Beats", "Bars"}},
+    {"Filter Type",           1.0f, {"LP", "BP", "HP"}},
+    {"Envelope Number",       1.0f, {"Envelope 1", "Envelope 2"}},
+    {"Envelope Destination",  1.0f, {"Cutoff", "Modulation", "Pitch", "LFO"}},
+    {"LFO Number",            1.0f, {"LFO 1", "LFO 2"}},
+    {"LFO Destination",       1.0f, {"Cutoff", "Modulation", "Pitch", "Level"}},
+    {"LFO Shape",             1.0f, {"Sine", "Triangle", "Falling", "Square"}},
+    {"LFO Sync",              1.0f, {"Free", "Beats", "Bars"}},
+    {"FX LFO Shape",          1.0f, {"Sine", "Triangle", "Rising", "Square"}},
+    {"FX LFO Sync",           1.0f, {"Beats", "Bars"}},
+    {"SYNTH: Octave",         1.0f, {"-2 oct", "-1 oct", "0 oct", "1 oct", "2 oct"}},
+    {"SYNTH: Mod Kind",       2.0f, {"Sync", "Phase", "Amplitude"}}, // the kind itself
+    {"SAMPLER: Layer Number", 1.0f, {"Layer 1", "Layer 2", "Layer 3", "Layer 4"}},
     // clang-format on
+};
+constexpr Positions kSwitch = {"", 1.0f, {"off", "on"}};
+constexpr int kSwitchSlots[] = {
+    slot::ShuffleEnable,   slot::SlideEnable,  slot::FilterTracking,  slot::EnvelopeInvert,  slot::LfoRetrig,
+    slot::LfoInvert,       slot::MonoVoice,    slot::UnisonRetrig,    slot::PhaseRetrigOsc2, slot::Osc2Invert,
+    slot::LayerInvert,     slot::LayerReverse, slot::LayerBypass,     slot::LayerBypass + 1, slot::LayerBypass + 2,
+    slot::LayerBypass + 3, slot::FxGlue,       slot::FxBypassStutter,
 };
 
 std::string Shown(Display display, double value)
@@ -64,17 +81,24 @@ std::string Shown(Display display, double value)
     return text;
 }
 
-std::vector<std::string> PositionNames(const ParameterInfo& parameter)
+/// Null where a parameter has no named positions.
+const Positions* PositionsOf(const ParameterInfo& parameter)
 {
-    for (const Positions& positions : kPositions)
-        if (positions.slot == parameter.slotBase)
-            return {std::begin(positions.names),
-                    std::find(std::begin(positions.names), std::end(positions.names), nullptr)};
-    if (parameter.display == Display::Percent) return {"off", "on"};
-    return {};
+    const auto named = std::find_if(std::begin(kPositions), std::end(kPositions), [&](const Positions& row) {
+        return std::string_view(row.parameter) == parameter.name;
+    });
+    if (named != std::end(kPositions)) return &*named;
+    const bool continuous = parameter.kind == Kind::Value || parameter.kind == Kind::None;
+    const auto* slot = std::find(std::begin(kSwitchSlots), std::end(kSwitchSlots), parameter.slotBase);
+    return continuous && slot == std::end(kSwitchSlots) ? nullptr : &kSwitch;
 }
 
-/// The texts of the synchronised rates, slowest last.
+std::vector<std::string> NamesOf(const Positions* positions)
+{
+    if (!positions) return {};
+    return {std::begin(positions->names), std::find(std::begin(positions->names), std::end(positions->names), nullptr)};
+}
+
 std::vector<std::string> SyncTexts()
 {
     std::vector<std::string> texts;
@@ -89,21 +113,6 @@ std::optional<std::size_t> IndexOf(const std::vector<std::string>& texts, const 
     return std::nullopt;
 }
 
-struct Quantity {
-    double number;
-    std::string_view unit;
-};
-std::optional<Quantity> ParseQuantity(std::string_view text)
-{
-    if (!text.empty() && text[0] == '+') text.remove_prefix(1);
-    Quantity quantity{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), quantity.number);
-    if (error != std::errc()) return std::nullopt;
-    quantity.unit = text.substr(static_cast<std::size_t>(end - text.data()));
-    quantity.unit.remove_prefix(std::min(quantity.unit.find_first_not_of(' '), quantity.unit.size()));
-    return quantity;
-}
-
 /// The value nearest to the wanted one that shows just this text: float rounding may leave it a step short.
 double Showing(Display display, double value, const std::string& text, float outward)
 {
@@ -113,20 +122,25 @@ double Showing(Display display, double value, const std::string& text, float out
     return candidate;
 }
 
-/// The value at which the display shows the quantity, in range or not; none when it is not shown so.
+/// The value at which a straight display shows the quantity, in range or not; none when it is never shown.
+std::optional<double> FromScale(const Scale& scale, const Quantity& quantity)
+{
+    const bool bare = quantity.unit.empty() && scale.shown == Unit::Unshown;
+    if (!bare && !SameText(quantity.unit, scale.unit)) return std::nullopt;
+    const double value = (quantity.number + scale.offset) / scale.range;
+    if (!scale.whole || !(value >= 0.0 && value <= 1.0)) return value;
+    if (quantity.number != std::floor(quantity.number)) return std::nullopt;
+    const std::string unit = scale.shown == Unit::Shown ? std::string(" ") + scale.unit : "";
+    return Showing(scale.display, value, std::to_string(static_cast<int>(quantity.number)) + unit,
+                   quantity.number < 0.0 ? 0.0f : 1.0f);
+}
+
 std::optional<double> FromDisplay(Display display, const Quantity& quantity)
 {
-    if (display == Display::Length)
-        return quantity.unit.empty() ? std::optional(std::log2(quantity.number / 0.125) / 8.0) : std::nullopt;
-    for (const Scale& scale : kScales) {
-        if (scale.display != display) continue;
-        if (!SameText(quantity.unit, scale.unit)) return std::nullopt;
-        if (scale.whole && quantity.number != std::floor(quantity.number)) return std::nullopt;
-        const double value = (quantity.number + scale.offset) / scale.range;
-        if (!scale.whole || !(value >= 0.0 && value <= 1.0)) return value;
-        const std::string text = std::to_string(static_cast<int>(quantity.number));
-        return Showing(display, value, *scale.unit ? text + " " + scale.unit : text, quantity.number < 0 ? 0.0f : 1.0f);
-    }
+    if (display == Display::Length && (quantity.unit.empty() || SameText(quantity.unit, kLengthUnit)))
+        return std::log2(quantity.number / 0.125) / 8.0;
+    for (const Scale& scale : kScales)
+        if (scale.display == display) return FromScale(scale, quantity);
     return std::nullopt;
 }
 
@@ -135,11 +149,14 @@ bool InRange(double value) { return value >= 0.0 && value <= 1.0; }
 [[noreturn]] void Refuse(const ParameterInfo& parameter, const std::string& text)
 {
     std::vector<std::string> answers{"0 to 1"};
+    std::string unit = parameter.display == Display::Length ? std::string(" ") + kLengthUnit : "";
+    for (const Scale& scale : kScales)
+        if (scale.display == parameter.display && scale.shown == Unit::Unshown) unit = std::string(" ") + scale.unit;
     if (parameter.display == Display::Sync)
         for (const std::string& rate : SyncTexts()) answers.push_back(rate);
     else
-        answers.push_back(Shown(parameter.display, 0.0) + " to " + Shown(parameter.display, 1.0));
-    for (const std::string& name : PositionNames(parameter)) answers.push_back(name);
+        answers.push_back(Shown(parameter.display, 0.0) + unit + " to " + Shown(parameter.display, 1.0) + unit);
+    for (const std::string& name : NamesOf(PositionsOf(parameter))) answers.push_back(name);
     throw Failure(Quoted(parameter.name) + " takes " + OneOf(answers) + ", not " + Quoted(text));
 }
 
@@ -148,9 +165,10 @@ bool InRange(double value) { return value >= 0.0 && value <= 1.0; }
 float ParameterValue(int index, const std::string& text)
 {
     const ParameterInfo& parameter = kParameters.at(static_cast<std::size_t>(index));
-    const std::vector<std::string> positions = PositionNames(parameter);
-    if (const auto position = IndexOf(positions, text))
-        return static_cast<float>(*position) / static_cast<float>(positions.size() - 1);
+    const Positions* positions = PositionsOf(parameter);
+    const std::vector<std::string> names = NamesOf(positions);
+    if (const auto position = IndexOf(names, text))
+        return static_cast<float>(*position) * positions->last / static_cast<float>(names.size() - 1);
     if (parameter.display == Display::Sync) {
         const std::vector<std::string> rates = SyncTexts();
         if (const auto rate = IndexOf(rates, text))

@@ -17,18 +17,20 @@ namespace korvane::render {
 namespace {
 
 /// The library writes the format of floats without the size of its (empty) extension, which some readers warn of, and
-/// leaves space behind it: the one moves into the other. A file laid out in another way stays as it is.
-void CompleteFormat(const std::string& path)
+/// leaves space behind it: the one moves into the other. A file laid out in another way stays as it is. False when the
+/// disk refuses.
+bool CompleteFormat(const std::string& path)
 {
     constexpr std::size_t kFormatSize = 16, kExtension = 36, kPad = 48, kPadSize = 52, kEnd = 56;
     std::array<char, kEnd + 2> head{};
     std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
-    if (!file.read(head.data(), kEnd) || head[kFormatSize] != 16 || std::memcmp(&head[kPad], "PAD ", 4) != 0) return;
+    if (!file.read(head.data(), kEnd)) return false;
+    if (head[kFormatSize] != 16 || std::memcmp(&head[kPad], "PAD ", 4) != 0) return true;
     std::copy_backward(&head[kExtension], &head[kEnd], head.end());
     head[kExtension] = head[kExtension + 1] = 0;
     head[kFormatSize] += 2;
     head[kPadSize + 2] -= 2;
-    file.seekp(0).write(head.data(), head.size());
+    return !!file.seekp(0).write(head.data(), head.size()).flush();
 }
 
 } // namespace
@@ -72,8 +74,7 @@ void WavOutput::Write(const float* left, const float* right, int frames)
 void WavOutput::Finish()
 {
     const bool closed = sf_close(std::exchange(file, nullptr)) == 0;
-    CompleteFormat(partial);
-    if (closed && std::rename(partial.c_str(), path.c_str()) == 0) return;
+    if (closed && CompleteFormat(partial) && std::rename(partial.c_str(), path.c_str()) == 0) return;
     std::remove(partial.c_str());
     throw Failure("cannot write '" + path + "'");
 }

@@ -50,11 +50,16 @@ public:
         if (!options.midi.empty()) midi.emplace(options.midi);
         Prepare();
         meters.resize(static_cast<std::size_t>(host.Pairs()));
+        RefuseOwnInput(options.groove);
+        RefuseOwnInput(options.midi);
         files.emplace_back(options.output, options.rate, options.integers);
         if (!options.stems.empty()) CreateStemsFolder();
-        for (int pair = 1; pair < host.Pairs() && !options.stems.empty(); ++pair)
-            files.emplace_back((fs::path(options.stems) / (host.PairName(pair) + ".wav")).string(), options.rate,
-                               options.integers);
+        for (int pair = 1; pair < host.Pairs() && !options.stems.empty(); ++pair) {
+            const fs::path stem = fs::path(options.stems) / (host.PairName(pair) + ".wav");
+            if (fs::weakly_canonical(stem) == fs::weakly_canonical(options.output))
+                throw Failure("'" + options.output + "' is a stem's name as well");
+            files.emplace_back(stem.string(), options.rate, options.integers);
+        }
     }
 
     void Run()
@@ -102,6 +107,12 @@ private:
         const auto named = TempoInName(options.groove);
         tempo = options.tempo.value_or(named.value_or(kTempo));
         if (named && !options.tempo && !midi) std::printf("%g BPM, by the groove's name\n", tempo);
+    }
+
+    void RefuseOwnInput(const std::string& input) const
+    {
+        std::error_code none;
+        if (fs::equivalent(input, options.output, none)) throw Failure("'" + input + "' would be overwritten");
     }
 
     void CreateStemsFolder() const
