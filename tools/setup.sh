@@ -10,12 +10,14 @@ fail() {
   exit 1
 }
 
-# Runs a command with all its output in the log; if it fails, shows what the log says of the reason.
+# Runs a command with all its output in the log; if it fails, shows what it said of the reason.
 reasons='error: |CMake Error|undefined reference|Package .* not found|command not found|No space left|^E: |^sudo: '
 logged() {
-  LC_ALL=C "$@" >"$log" 2>&1 && return # in English, so that the reason is found
+  local before
+  before=$(wc -l <"$log")
+  LC_ALL=C "$@" >>"$log" 2>&1 && return # in English, so that the reason is found
   {
-    grep -m 4 -A 3 -E "$reasons" "$log" || tail -n 10 "$log"
+    grep -m 4 -A 3 -E "$reasons" <(tail -n "+$((before + 1))" "$log") || tail -n 10 "$log"
     echo "korvane: that failed; its whole output is in $log"
   } >&2
   return 1
