@@ -89,19 +89,16 @@ TEST_F(EngineTest, ExtControlsLearnAndDrive)
 // A start lands on the host's position; a step already begun is left to the next one.
 TEST_F(EngineTest, StartFollowsTheHostPosition)
 {
-    struct Case {
-        const char* what;
-        double position;
-        int counter;
-        double frames;
-    };
+    // clang-format off
+    struct Case { const char* what; double position; int counter; double frames; };
     const Case cases[] = {
-        {"on a step", 2.5, 10, 0.0},
+        {"on a step",     2.5, 10, 0.0},
         {"inside a step", 2.6, 11, 0.6 * 5512.5},
-        {"before zero", -3.0, 0, 0.0},
-        {"far away", 1.0e9 + 0.25, (4000000001LL) % 128, 0.0},
-        {"nowhere", std::numeric_limits<double>::quiet_NaN(), 0, 0.0},
+        {"before zero",  -3.0, 0,  0.0},
+        {"far away",      1.0e9 + 0.25, (4000000001LL) % 128, 0.0},
+        {"nowhere",       std::numeric_limits<double>::quiet_NaN(), 0, 0.0},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         engine.hostPosition = c.position;

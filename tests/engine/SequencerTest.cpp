@@ -2,11 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <cmath>
-#include <vector>
 
-#include "engine/GrooveEngine.h"
 #include "framework/ParameterTable.h"
+#include "support/SynthRig.h"
 
 namespace korvane {
 namespace {
@@ -39,12 +37,7 @@ struct Sequencer : testing::Test {
     StepLockList& Locks(int channel, int step) { return engine.patterns[0]->locks[channel][step]; }
     void Click(int button) { engine.StepButton(button), engine.StepButtonRelease(button); }
     void Tap(int channel) { engine.ChannelPress(channel), engine.ChannelRelease(channel); }
-    int Sounding(int channel) const
-    {
-        int count = 0;
-        for (const auto& voice : engine.Channel(channel).voices) count += voice->active && !voice->releasing;
-        return count;
-    }
+    int Sounding(int channel) const { return korvane::Sounding(engine.Channel(channel)); }
     std::vector<int> Steps(int count)
     {
         std::vector<int> steps;

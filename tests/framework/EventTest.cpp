@@ -61,27 +61,31 @@ struct Listener : CSynthesizer {
     std::atomic<bool> stall{false}, stalled{false};
 };
 
+/// What the log holds when a block of one frame is rendered after `log`.
+Log WithBlock(Log log)
+{
+    log.push_back("render 1");
+    return log;
+}
+
 // A block is cut at every event and at 128 frames; what cannot be placed is lost, none waits for the next block.
 TEST(BlockSplitter, CutsTheBlockAtItsEvents)
 {
-    struct Case {
-        const char* what;
-        int frames;
-        std::vector<int> events;
-        Log log;
-    };
+    // clang-format off
+    struct Case { const char* what; int frames; std::vector<int> events; Log log; };
     const Case cases[] = {
-        {"no event", 300, {}, {"render 128", "render 128", "render 44"}},
-        {"nothing to render", 0, {0}, {}},
-        {"at the start", 2, {0}, {"note 0 1", "render 2"}},
-        {"two on one frame", 100, {40, 40}, {"render 40", "note 0 1", "note 1 1", "render 60"}},
-        {"on a chunk's edge", 130, {128}, {"render 128", "note 0 1", "render 2"}},
-        {"on the last frame", 64, {63}, {"render 63", "note 0 1", "render 1"}},
-        {"at the end", 64, {64}, {"render 64"}},
-        {"far beyond", 64, {2000000000, 2000000000}, {"render 64"}},
+        {"no event",              300, {},           {"render 128", "render 128", "render 44"}},
+        {"nothing to render",       0, {0},          {}},
+        {"at the start",            2, {0},          {"note 0 1", "render 2"}},
+        {"two on one frame",      100, {40, 40},     {"render 40", "note 0 1", "note 1 1", "render 60"}},
+        {"on a chunk's edge",     130, {128},        {"render 128", "note 0 1", "render 2"}},
+        {"on the last frame",      64, {63},         {"render 63", "note 0 1", "render 1"}},
+        {"at the end",             64, {64},         {"render 64"}},
+        {"far beyond",             64, {2000000000, 2000000000}, {"render 64"}},
         {"out of order ends all", 100, {50, 20, 70}, {"render 50", "note 0 1", "render 50"}},
-        {"before the block", 10, {-3, 5}, {"render 10"}},
+        {"before the block",       10, {-3, 5},      {"render 10"}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         Listener synth;
@@ -105,61 +109,43 @@ TEST(BlockSplitter, QueuesWhatItHoldsAndMasksIt)
 TEST(Keys, HoldSustainAndRelease)
 {
     Listener synth;
-    struct Case {
-        const char* what;
-        std::uint8_t status, data1, data2;
-        Log log;
-    };
+    // clang-format off
+    struct Case { const char* what; std::uint8_t status, data1, data2; Log log; };
     const Case cases[] = {
-        {"on", 0x90, 60, 100, {"note 60 100"}},
-        {"again while it sounds", 0x90, 60, 50, {}},
-        {"off by velocity 0", 0x90, 60, 0, {"note 60"}},
-        {"off when silent", 0x80, 60, 9, {}},
-        {"low key", 0x90, 40, 10, {"note 40 10"}},
-        {"high key", 0x90, 90, 20, {"note 90 20"}},
-        {"middle key", 0x90, 70, 30, {"note 70 30"}},
-        {"pedal", 0xB0, 64, 65, {}},
-        {"sustained", 0x80, 90, 0, {}},
-        {"sustained too", 0x80, 40, 0, {}},
-        {"pedal up", 0xB0, 64, 64, {"note 40", "note 90"}},
-        {"pedal", 0xB0, 64, 127, {}},
+        {"on",                0x90, 60, 100, {"note 60 100"}},        {"again while it sounds", 0x90, 60, 50, {}},
+        {"off by velocity 0", 0x90, 60, 0,   {"note 60"}},            {"off when silent",       0x80, 60, 9,  {}},
+        {"low key",           0x90, 40, 10,  {"note 40 10"}},
+        {"high key",          0x90, 90, 20,  {"note 90 20"}},
+        {"middle key",        0x90, 70, 30,  {"note 70 30"}},         {"pedal",                 0xB0, 64, 65, {}},
+        {"sustained",         0x80, 90, 0,   {}},                     {"sustained too",         0x80, 40, 0,  {}},
+        {"pedal up",          0xB0, 64, 64,  {"note 40", "note 90"}}, {"pedal again",           0xB0, 64, 127, {}},
         {"all notes off waits for the pedal", 0xB0, 123, 0, {}},
-        {"pedal up", 0xB0, 64, 0, {"note 70"}},
-        {"on", 0x90, 5, 1, {"note 5 1"}},
-        {"all notes off", 0xB0, 123, 0, {"note 5"}},
+        {"pedal up again",    0xB0, 64, 0,   {"note 70"}},
+        {"on again",          0x90, 5,  1,   {"note 5 1"}},
+        {"all notes off",     0xB0, 123, 0,  {"note 5"}},
     };
+    // clang-format on
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
         synth.Send(c.status, c.data1, c.data2);
-        Log expected = c.log;
-        expected.push_back("render 1");
-        EXPECT_EQ(synth.Play(1), expected);
+        EXPECT_EQ(synth.Play(1), WithBlock(c.log)) << c.what;
     }
 }
 
 TEST(Controllers, ReachTheirNotification)
 {
     Listener synth;
-    struct Case {
-        std::uint8_t status, data1, data2;
-        Log log;
-    };
+    // clang-format off
+    struct Case { std::uint8_t status, data1, data2; Log log; };
     const Case cases[] = {
-        {0xB0, 7, 127, {"cc 7 127"}},
-        {0xB0, 32, 4, {"bank 4"}},
-        {0xB0, 32, 5, {"bank 5", "cc 32 5"}}, // nobody took it
-        {0xE0, 0, 0, {"bend -8191"}},
-        {0xE0, 127, 127, {"bend 8191"}},
-        {0xD0, 64, 0, {"pressure 64"}},
-        {0xC0, 9, 0, {"program 9"}},
-        {0xA0, 9, 9, {}},
-        {0xF0, 1, 1, {}},
+        {0xB0, 7,  127, {"cc 7 127"}}, {0xE0, 0,   0,   {"bend -8191"}}, {0xD0, 64, 0, {"pressure 64"}},
+        {0xB0, 32, 4,   {"bank 4"}},   {0xE0, 127, 127, {"bend 8191"}},  {0xC0, 9,  0, {"program 9"}},
+        {0xB0, 32, 5,   {"bank 5", "cc 32 5"}}, // nobody took it
+        {0xA0, 9,  9,   {}},           {0xF0, 1,   1,   {}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         synth.Send(c.status, c.data1, c.data2);
-        Log expected = c.log;
-        expected.push_back("render 1");
-        EXPECT_EQ(synth.Play(1), expected);
+        EXPECT_EQ(synth.Play(1), WithBlock(c.log)) << int{c.status};
     }
     synth.controllerCalls = 0;
     synth.controllers[20] = 0.5;

@@ -11,26 +11,16 @@ class MidiMapping : public SynthTest {
 protected:
     std::string SourceText()
     {
-        char text[256];
-        Synth().GetLastSourceText(text);
-        return text;
+        return Written([this](char* text) { Synth().GetLastSourceText(text); });
     }
     std::string ParameterText()
     {
-        char text[256];
-        Synth().GetLastParameterText(text);
-        return text;
+        return Written([this](char* text) { Synth().GetLastParameterText(text); });
     }
     void LinkTo(int parameter)
     {
         Synth().SetParameter(parameter, Synth().GetParameter(parameter));
         Synth().Link(true);
-    }
-    int Sounding(int channel)
-    {
-        int notes = 0;
-        for (const auto& voice : Synth().engine->Channel(channel).voices) notes += voice->active && !voice->releasing;
-        return notes;
     }
 };
 
@@ -104,9 +94,9 @@ TEST_F(MidiMapping, KeysPlayPadsAndNotes)
     EXPECT_EQ(synth.GetParameter(param::Step1), 100 / 127.0f);
     Send(0x90, 71, 127), Send(0x90, 72, 127), Send(0x90, 47, 127);
     EXPECT_TRUE(engine.stepHeld[23]);
-    EXPECT_EQ(Sounding(8), 4);
+    EXPECT_EQ(Sounding(engine.Channel(8)), 4);
     for (std::uint8_t key : {47, 48, 71, 72}) Send(0x80, key);
-    EXPECT_EQ(Sounding(8), 0);
+    EXPECT_EQ(Sounding(engine.Channel(8)), 0);
     synth.SetParameter(param::Step1 + 2, 1.0f);
     EXPECT_EQ(engine.liveVelocity, 1.0f) << "pads of host and editor sound at full velocity";
 }

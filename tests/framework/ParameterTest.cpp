@@ -15,9 +15,7 @@ class Parameters : public SynthTest {
 protected:
     std::string Display(int index)
     {
-        char text[256];
-        Synth().GetParameterDisplay(index, text);
-        return text;
+        return Written([&](char* text) { Synth().GetParameterDisplay(index, text); });
     }
     GrooveEngine& Engine() { return *Synth().engine; }
 };
@@ -25,23 +23,15 @@ protected:
 // Published names keep their spelling; what has none is "unknown".
 TEST_F(Parameters, HaveTheirPublishedNames)
 {
-    const std::pair<int, const char*> names[] = {{0, "Shuffle Amuont"},
-                                                 {11, "Solo Currrent Track"},
-                                                 {33, "CHANNEL 13: Synth 5"},
-                                                 {67, "unknown"},
-                                                 {123, "SYNTH: Mix Oscllator 2"},
-                                                 {153, "SAMPLER: Layer Reset Start"},
-                                                 {178, "SEQ Step Bar 8"},
-                                                 {179, "unknown"},
-                                                 {195, "unknown"},
-                                                 {196, "unknown"},
-                                                 {-1, "unknown"}};
+    // clang-format off
+    const std::pair<int, const char*> names[] = {
+        {0,   "Shuffle Amuont"},         {11,  "Solo Currrent Track"},        {33,  "CHANNEL 13: Synth 5"},
+        {123, "SYNTH: Mix Oscllator 2"}, {153, "SAMPLER: Layer Reset Start"}, {178, "SEQ Step Bar 8"},
+        {67,  "unknown"}, {179, "unknown"}, {195, "unknown"}, {196, "unknown"}, {-1, "unknown"}};
+    // clang-format on
     for (const auto& [index, name] : names) {
-        char text[256];
-        Synth().GetParameterName(index, text);
-        EXPECT_STREQ(text, name) << index;
-        Synth().GetParameterLabel(index, text);
-        EXPECT_STREQ(text, "");
+        EXPECT_EQ(Written([&, n = index](char* text) { Synth().GetParameterName(n, text); }), name) << index;
+        EXPECT_EQ(Written([&, n = index](char* text) { Synth().GetParameterLabel(n, text); }), "");
     }
     std::set<std::string> distinct;
     for (const ParameterInfo& row : kParameters) distinct.insert(row.name);
@@ -50,21 +40,19 @@ TEST_F(Parameters, HaveTheirPublishedNames)
 
 TEST_F(Parameters, ShowTheirValue)
 {
-    struct Case {
-        int index;
-        float value;
-        const char* text;
-    };
+    // clang-format off
+    struct Case { int index; float value; const char* text; };
     const Case cases[] = {
-        {80, 0.75f, "0.0 dB"},     {80, 0.0f, "-60.0 dB"},  {81, 0.25f, "-50.0"},
-        {82, 0.5f, "0"},           {82, 0.49f, "0"},        {82, 0.0f, "-24"},
-        {83, 1.0f / 3.0f, "0.79"}, {83, 0.0f, "0.13"},      {83, 1.0f, "32.00"},
-        {88, 1.0f, "25.0 dB"},     {71, 0.5f, "3/4"},       {71, 1.0f, "8/1"},
-        {71, -1.0f, "1/8"},        {105, 0.89f, "8/1"},     {116, 0.99f, "15"},
-        {116, 1.0f, "16"},         {130, 0.0f, "-36"},      {131, 0.996f, "49"},
-        {85, 0.123f, "12.3 %"},    {182, 0.25f, "-50.0 %"}, {189, 1.0f / 6.0f, "2 smt"},
-        {191, 0.0f, "-12.00 dB"},  {195, 1.0f, "12.00 dB"},
+        {80,  0.75f,       "0.0 dB"},  {80,  0.0f,   "-60.0 dB"}, {81,  0.25f,       "-50.0"},
+        {82,  0.5f,        "0"},       {82,  0.49f,  "0"},        {82,  0.0f,        "-24"},
+        {83,  1.0f / 3.0f, "0.79"},    {83,  0.0f,   "0.13"},     {83,  1.0f,        "32.00"},
+        {88,  1.0f,        "25.0 dB"}, {71,  0.5f,   "3/4"},      {71,  1.0f,        "8/1"},
+        {71,  -1.0f,       "1/8"},     {105, 0.89f,  "8/1"},      {116, 0.99f,       "15"},
+        {116, 1.0f,        "16"},      {130, 0.0f,   "-36"},      {131, 0.996f,      "49"},
+        {85,  0.123f,      "12.3 %"},  {182, 0.25f,  "-50.0 %"},  {189, 1.0f / 6.0f, "2 smt"},
+        {191, 0.0f,      "-12.00 dB"}, {195, 1.0f, "12.00 dB"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         Synth().SetParameter(c.index, c.value);
         EXPECT_EQ(Display(c.index), c.text) << c.index << " at " << c.value;

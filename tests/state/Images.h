@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "engine/GrooveEngine.h"
+#include "support/Written.h"
 
 namespace korvane {
 
@@ -16,31 +17,18 @@ using Bytes = std::vector<std::uint8_t>;
 constexpr int kHeader = 95, kFramedChannel = 4 + 4948, kPatternsAt = kHeader + 13 * kFramedChannel;
 constexpr int kEmptyPattern = 4 + 4 + 1664 * 6, kEmptyGroove = kPatternsAt + 8 * kEmptyPattern;
 
-inline Bytes Saved(const GrooveEngine& engine)
+inline Bytes Saved(const GrooveEngine& engine, decltype(&GrooveEngine::SaveState) save = &GrooveEngine::SaveState)
 {
-    Bytes image(static_cast<std::size_t>(engine.SaveState(nullptr)));
-    EXPECT_EQ(engine.SaveState(image.data()), static_cast<int>(image.size()));
+    Bytes image(static_cast<std::size_t>((engine.*save)(nullptr)));
+    EXPECT_EQ((engine.*save)(image.data()), static_cast<int>(image.size()));
     return image;
 }
 
-inline Bytes SavedPart(const GrooveEngine& engine)
-{
-    Bytes image(static_cast<std::size_t>(engine.SavePart(nullptr)));
-    EXPECT_EQ(engine.SavePart(image.data()), static_cast<int>(image.size()));
-    return image;
-}
+inline Bytes SavedPart(const GrooveEngine& engine) { return Saved(engine, &GrooveEngine::SavePart); }
 
 inline bool Load(GrooveEngine& engine, const Bytes& image)
 {
     return engine.LoadState(image.data(), static_cast<std::int32_t>(image.size()));
-}
-
-template <class Field>
-std::string TextOf(const Field& field)
-{
-    char text[1024];
-    field.Get(text);
-    return text;
 }
 
 template <class T>

@@ -14,8 +14,17 @@
 #include "platform/Files.h"
 #include "shell/SMX_Def.h"
 #include "support/ContentRoot.h"
+#include "support/Written.h"
 
 namespace korvane {
+
+/// Notes that are held.
+inline int Sounding(const GrooveChannel& channel)
+{
+    int notes = 0;
+    for (const auto& voice : channel.voices) notes += voice->active && !voice->releasing;
+    return notes;
+}
 
 /// Remembers what the instrument reports.
 struct Host : CPluginWrapper {
