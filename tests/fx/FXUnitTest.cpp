@@ -22,17 +22,15 @@ constexpr FxType kAllTypes[] = {FxType::Distortion, FxType::Decimator, FxType::C
 
 TEST(FXUnit, PassesTheSignalUntouchedWhenItDoesNotWork)
 {
-    struct Case {
-        const char* what;
-        float rate, tempo;
-        std::uint8_t bypass;
-    };
+    // clang-format off
+    struct Case { const char* what; float rate, tempo; std::uint8_t bypass; };
     const Case cases[] = {
-        {"never switched on", kRate, kTempo, 1},         {"no rate", 0.0f, kTempo, 0},
-        {"negative rate", -48000.0f, kTempo, 0},         {"absurd rate", 1e30f, kTempo, 0},
-        {"rate not a number", std::nanf(""), kTempo, 0}, {"no tempo", kRate, 0.9f, 0},
-        {"tempo not a number", kRate, std::nanf(""), 0},
+        {"never switched on",  kRate,         kTempo,        1}, {"no rate",     0.0f,  kTempo, 0},
+        {"negative rate",      -48000.0f,     kTempo,        0}, {"absurd rate", 1e30f, kTempo, 0},
+        {"rate not a number",  std::nanf(""), kTempo,        0}, {"no tempo",    kRate, 0.9f,   0},
+        {"tempo not a number", kRate,         std::nanf(""), 0},
     };
+    // clang-format on
     const Sound input = Noise(1000);
     for (const FxType type : kAllTypes) {
         for (const Case& c : cases) {
@@ -97,9 +95,7 @@ TEST(FXUnit, DistortionIsASoftClipper)
 {
     for (const float drive : {0.0f, 0.3f, 0.7f, 1.0f}) {
         Played unit(FxType::Distortion, drive, 1.0f);
-        Sound sound(6000);
-        std::fill(sound.left.begin(), sound.left.end(), 0.25f);
-        std::fill(sound.right.begin(), sound.right.end(), -0.5f);
+        Sound sound(6000, 0.25f, -0.5f);
         unit.Run(sound);
         const double k = std::pow(drive, 4.0) * 1024.0, q = 0.99;
         const double w = 2.0 * std::numbers::pi * std::pow(2.0, 14.28) / kRate;
@@ -113,22 +109,18 @@ TEST(FXUnit, DistortionIsASoftClipper)
 
 TEST(FXUnit, DecimatorHoldsForWholeFrames)
 {
-    struct Case {
-        float crush;
-        int period;
-    };
-    for (const Case c : {Case{0.0f, 67}, Case{0.5f, 19}, Case{1.0f, 3}}) {
-        Played unit(FxType::Decimator, c.crush, 1.0f);
-        Sound sound(4000 + 30 * c.period);
+    for (const auto& [crush, period] : {std::pair{0.0f, 67}, {0.5f, 19}, {1.0f, 3}}) {
+        Played unit(FxType::Decimator, crush, 1.0f);
+        Sound sound(4000 + 30 * period);
         for (int n = 0; n < sound.Frames(); ++n) sound.left[n] = n * 0.001f;
         unit.Run(sound);
         std::vector<int> jumps; // the lowpass spreads a jump over a few frames; its largest part tells
         for (int n = 4000; n < sound.Frames() - 1; ++n) {
             const auto step = [&](int at) { return std::fabs(sound.left[at] - sound.left[at - 1]); };
-            if (step(n) > 0.0005f * c.period && step(n) > step(n - 1) && step(n) >= step(n + 1)) jumps.push_back(n);
+            if (step(n) > 0.0005f * period && step(n) > step(n - 1) && step(n) >= step(n + 1)) jumps.push_back(n);
         }
-        ASSERT_GE(jumps.size(), 20u) << c.crush;
-        for (std::size_t n = 1; n < jumps.size(); ++n) EXPECT_EQ(jumps[n] - jumps[n - 1], c.period) << c.crush;
+        ASSERT_GE(jumps.size(), 20u) << crush;
+        for (std::size_t n = 1; n < jumps.size(); ++n) EXPECT_EQ(jumps[n] - jumps[n - 1], period) << crush;
     }
 }
 
@@ -143,10 +135,11 @@ double Gain(Played& unit, double hz)
 
 TEST(FXUnit, ResonantFiltersFollowTheirFormula)
 {
-    for (const bool highPass : {false, true}) {
-        for (const float x : {0.3f, 0.6f}) {
+    const float y = 0.7f;
+    for (const FxType type : {FxType::LowPass, FxType::HighPass})
+        for (const float x : {0.3f, 0.6f})
             for (const double hz : {150.0, 700.0, 3000.0, 9000.0}) {
-                const float y = 0.7f;
+                const bool highPass = type == FxType::HighPass;
                 const double sign = highPass ? 1.0 : -1.0, q = 2.0 * y * y + 1.0;
                 const double f = highPass ? std::pow(2.0, x * 9.28 * 0.8 + 5.0) : std::pow(2.0, x * 8.28 + 6.0);
                 const double w = 2.0 * std::numbers::pi * f / kRate;
@@ -155,12 +148,10 @@ TEST(FXUnit, ResonantFiltersFollowTheirFormula)
                 const double a2 = (q - std::sin(w)) / (q + std::sin(w));
                 const Complex z = std::polar(1.0, -2.0 * std::numbers::pi * hz / kRate);
                 const Complex h = b * (1.0 - sign * 2.0 * z + z * z) / (1.0 + a1 * z + a2 * z * z);
-                Played unit(highPass ? FxType::HighPass : FxType::LowPass, x, y);
-                EXPECT_NEAR(Gain(unit, hz), std::pow(std::abs(h), 4.0), 0.003 + 0.02 * std::pow(std::abs(h), 4.0))
-                    << highPass << " " << x << " " << hz;
+                const double expected = std::pow(std::abs(h), 4.0);
+                Played unit(type, x, y);
+                EXPECT_NEAR(Gain(unit, hz), expected, 0.003 + 0.02 * expected) << highPass << " " << x << " " << hz;
             }
-        }
-    }
 }
 
 // Six allpass stages against the dry signal: notches where they turn the phase by half a period.
@@ -185,9 +176,7 @@ TEST(FXUnit, ChorusIsThreeDelaysInSeries)
 {
     for (const auto& [y, second] : {std::pair{0.0f, 0.0}, {1.0f, 1.5}}) {
         Played unit(FxType::Chorus, 0.5f, y);
-        Sound sound = Noise(6000);
-        std::fill(sound.left.begin(), sound.left.end(), 0.0f);
-        std::fill(sound.right.begin(), sound.right.end(), 0.0f);
+        Sound sound(6000);
         sound.left[5000] = 1.0f;
         unit.Run(sound);
         const auto around = [&](int frame) {
@@ -202,19 +191,15 @@ TEST(FXUnit, ChorusIsThreeDelaysInSeries)
 
 TEST(FXUnit, EchoKeepsTime)
 {
-    struct Case {
-        const char* what;
-        float beats, tempo;
-        int frames;
-    };
+    // clang-format off
+    struct Case { const char* what; float beats, tempo; int frames; };
     const Case cases[] = {
         {"one beat", 1.0f, 120.0f, 24000}, {"limited", 4.0f, 120.0f, 71280}, {"short", 0.125f, 300.0f, 1200}};
+    // clang-format on
     for (const Case& c : cases) {
-        Played unit(FxType::Echo, 1.0f, 0.5f);
-        unit.x = std::sqrt(0.5f);
+        Played unit(FxType::Echo, std::sqrt(0.5f), 0.5f);
         unit.lfoBeats = c.beats;
-        Sound sound(160000);
-        Sound settled(2000);
+        Sound sound(160000), settled(2000);
         unit.Run(settled, 0, -1, c.tempo);
         sound.left[0] = 1.0f;
         unit.Run(sound, 0, -1, c.tempo);
@@ -232,19 +217,16 @@ TEST(FXUnit, EchoKeepsTime)
 
 TEST(FXUnit, PannerDelaysAndWeakensOneSide)
 {
-    struct Case {
-        float x, y;
-        int leftFrames, rightFrames;
-        float left, right;
-    };
+    // clang-format off
+    struct Case { float x, y; int leftFrames, rightFrames; float left, right; };
     const Case cases[] = {
-        {0.5f, 1.0f, 6, 6, 1.0f, 1.0f},   {0.75f, 1.0f, 50, 6, 1.0f, 1.0f}, {1.0f, 1.0f, 96, 6, 0.0f, 1.0f},
-        {1.0f, 0.75f, 96, 6, 0.5f, 1.0f}, {0.0f, 0.75f, 6, 96, 1.0f, 0.5f},
+        {0.5f, 1.0f,   6, 6, 1.0f, 1.0f}, {0.75f, 1.0f,  50,  6, 1.0f, 1.0f}, {1.0f, 1.0f, 96, 6, 0.0f, 1.0f},
+        {1.0f, 0.75f, 96, 6, 0.5f, 1.0f}, {0.0f,  0.75f,  6, 96, 1.0f, 0.5f},
     };
+    // clang-format on
     for (const Case& c : cases) {
         Played unit(FxType::Panner, c.x, c.y);
-        Sound sound(1000);
-        sound.left[500] = sound.right[500] = 1.0f;
+        Sound sound = Impulse(1000, 500);
         unit.Run(sound);
         double left = 0.0, right = 0.0;
         for (int n = -2; n <= 2; ++n) {
@@ -260,8 +242,7 @@ TEST(FXUnit, PumpDropsAtEachPeriod)
 {
     Played unit(FxType::Pump, 0.8f, 0.0f);
     unit.lfoBeats = 0.5f; // 12000 frames
-    Sound sound(60000);
-    std::fill(sound.left.begin(), sound.left.end(), 1.0f);
+    Sound sound(60000, 1.0f);
     unit.Run(sound);
     for (int period = 1; period < 5; ++period) {
         const auto from = sound.left.begin() + period * 12000 - 1000;
@@ -279,23 +260,21 @@ TEST(FXUnit, PumpDropsAtEachPeriod)
 // Shapes by what a panner does with them: the delay of the left side follows the LFO.
 TEST(FXUnit, LfoHasItsShapesAndPeriod)
 {
-    const double expected[4][4] = {
-        {0.0, 1.0, 0.0, -1.0}, {0.0, 0.5, 1.0, 0.5}, {0.0, 0.25, 0.5, 0.75}, {0.0, 0.0, 0.0, 1.0}};
+    constexpr int kStart = 700; // the delay is still filling at frame 0
+    const double phase = kStart / 24000.0;
+    const double expected[4][4] = {{std::sin(2.0 * std::numbers::pi * phase), 1.0, 0.0, -1.0},
+                                   {2.0 * phase, 0.5, 1.0, 0.5},
+                                   {phase, 0.25, 0.5, 0.75},
+                                   {0.0, 0.0, 0.0, 1.0}};
     for (int shape = 0; shape < 4; ++shape) {
         for (int quarter = 0; quarter < 4; ++quarter) {
             Played unit(FxType::Panner, 0.5f, 1.0f);
             unit.lfoShape = shape;
             unit.lfoAmount = 0.25f;
-            Sound sound(24000);
-            std::fill(sound.left.begin(), sound.left.end(), 1.0f);
+            Sound sound(24000, 1.0f);
             unit.Run(sound);
-            const int n = quarter * 6000 + (quarter ? 0 : 700); // the delay is still filling at frame 0
-            const double phase = quarter ? quarter / 4.0 : 700.0 / 24000.0;
-            const double value = shape == 0 ? std::sin(2 * std::numbers::pi * phase)
-                                            : expected[shape][quarter] + (quarter ? 0.0
-                                                                                  : (shape == 3   ? 0.0
-                                                                                     : shape == 1 ? 2 * phase
-                                                                                                  : phase));
+            const int n = quarter ? quarter * 6000 : kStart;
+            const double value = expected[shape][quarter];
             const double gain = std::clamp((1.0 - 0.5 * value) * 2.0, 0.0, 1.0);
             EXPECT_NEAR(sound.left[n], gain, 0.02) << shape << " " << quarter;
         }
@@ -307,8 +286,7 @@ TEST(FXUnit, TailsRingOutAndEnd)
     for (const FxType type : {FxType::Echo, FxType::Reverb}) {
         Played unit(type, 0.6f, 0.5f);
         Sound sound = Noise(48000 * 20);
-        std::fill(sound.left.begin() + 24000, sound.left.end(), 0.0f);
-        std::fill(sound.right.begin() + 24000, sound.right.end(), 0.0f);
+        sound.Silence(24000);
         unit.Run(sound, 0, 24000);
         unit.bypass = 1;
         unit.Run(sound, 24000, 36000);

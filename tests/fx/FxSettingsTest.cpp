@@ -27,13 +27,8 @@ struct Rack {
 
 TEST(FxSettings, TurnParametersIntoFields)
 {
-    struct Case {
-        int k, index;
-        float value;
-        const char* field;
-        float expected;
-        float (*read)(const FXUnit&);
-    };
+    // clang-format off
+    struct Case { int k, index; float value; const char* field; float expected; float (*read)(const FXUnit&); };
     const auto x = [](const FXUnit& u) { return u.x; };
     const auto y = [](const FXUnit& u) { return u.y; };
     const auto beats = [](const FXUnit& u) { return u.lfoBeats; };
@@ -41,23 +36,17 @@ TEST(FxSettings, TurnParametersIntoFields)
     const auto shape = [](const FXUnit& u) { return static_cast<float>(u.lfoShape); };
     const auto bypass = [](const FXUnit& u) { return static_cast<float>(u.bypass); };
     const Case cases[] = {
-        {3, 120, 0.25f, "x", 0.25f, x},
-        {3, 120, 2.0f, "x", 1.0f, x},
-        {9, 136, -1.0f, "y", 0.0f, y},
-        {0, 137, 0.0f, "beats", 0.125f, beats},
-        {0, 137, 0.5566667f, "beats", 1.0f, beats},
-        {0, 137, 0.5f, "beats", 0.75f, beats},
-        {9, 146, 1.0f, "beats", 8.0f, beats},
-        {0, 137, 1e30f, "beats", 8.0f, beats},
-        {2, 179, 0.75f, "amount", 0.25f, amount},
-        {2, 179, 0.25f, "amount", -0.25f, amount},
-        {2, 179, 0.5f, "amount", 0.0f, amount},
-        {2, 159, 1.0f / 3.0f, "shape", 1.0f, shape},
-        {2, 159, 1.0f, "shape", 3.0f, shape},
-        {2, 159, -7.0f, "shape", 0.0f, shape},
-        {5, 152, 0.1f, "glued", 0.0f, bypass},
-        {5, 152, 0.0f, "released", 1.0f, bypass},
+        {3, 120, 0.25f, "x", 0.25f, x}, {3, 120, 2.0f, "x", 1.0f, x}, {9, 136, -1.0f, "y", 0.0f, y},
+        {0, 137, 0.0f,  "beats", 0.125f, beats}, {0, 137, 0.5566667f, "beats", 1.0f, beats},
+        {0, 137, 0.5f,  "beats", 0.75f,  beats}, {0, 137, 1e30f,      "beats", 8.0f, beats},
+        {9, 146, 1.0f,  "beats", 8.0f,   beats},
+        {2, 179, 0.75f, "amount", 0.25f, amount}, {2, 179, 0.25f, "amount", -0.25f, amount},
+        {2, 179, 0.5f,  "amount", 0.0f,  amount},
+        {2, 159, 1.0f / 3.0f, "shape", 1.0f, shape}, {2, 159, 1.0f, "shape", 3.0f, shape},
+        {2, 159, -7.0f,       "shape", 0.0f, shape},
+        {5, 152, 0.1f,  "glued", 0.0f, bypass}, {5, 152, 0.0f, "released", 1.0f, bypass},
     };
+    // clang-format on
     for (const Case& c : cases) {
         Rack rack;
         rack.params[c.index] = c.value;
@@ -94,13 +83,12 @@ TEST(FxSettings, MarkChangedEqualiserBandsAndBypassTheStutter)
 
 TEST(SyncLfo, PutsThePhaseWhereTheSongIs)
 {
-    struct Case {
-        float beats;
-        int step;
-        double phase;
-    };
-    for (const Case c : {Case{1.0f, 0, 0.0}, Case{1.0f, 5, 0.25}, Case{0.125f, 3, 0.0}, Case{0.375f, 2, 1.0 / 3.0},
-                         Case{32.0f, 127, 127.0 / 128.0}, Case{0.0f, 5, 0.7}}) {
+    // clang-format off
+    struct Case { float beats; int step; double phase; };
+    const Case cases[] = {{1.0f,   0, 0.0},       {1.0f,  5,   0.25},          {0.125f, 3, 0.0},
+                          {0.375f, 2, 1.0 / 3.0}, {32.0f, 127, 127.0 / 128.0}, {0.0f,   5, 0.7}};
+    // clang-format on
+    for (const Case& c : cases) {
         FXUnit unit(FxType::Chorus);
         unit.lfoBeats = c.beats;
         unit.lfoPhase = 0.7;

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
+#include <string>
 #include <vector>
 
 #include "Signals.h"
@@ -15,45 +15,31 @@ namespace {
 
 TEST(Reverb, StartsWithItsDefaultProgram)
 {
-    struct Case {
-        int index, step;
-        const char *name, *display, *label;
-    };
-    const Case cases[] = {
-        {0, 0, "Input", "0.0", "dB"},          {1, 75, "LowCut", "75", "Hz"},      {2, 40, "HighCut", "4.0", "kHz"},
-        {3, 0, "Predelay", "0", "ms"},         {4, 50, "RoomSize", "50", ""},      {5, 100, "Diffusion", "100", "%"},
-        {6, 10, "BassMultiplier", "1.0", "x"}, {7, 500, "Crossover", "500", "Hz"}, {8, 15, "Decay", "1.5", "s"},
-        {9, 40, "HighDamping", "4.0", "kHz"},  {10, 0, "Dry", "0.0", "dB"},        {11, -35, "ER", "-3.5", "dB"},
-        {12, -120, "Reverb", "-12.0", "dB"},   {13, 100, "Width", "100", "%"},     {14, 0, "MuteInput", "Off", ""},
-        {15, 0, "MuteDry", "Off", ""},         {16, 0, "MuteER", "Off", ""},       {17, 0, "MuteReverb", "Off", ""},
-    };
     fxReverb unit;
-    char text[64];
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        EXPECT_EQ(unit.steps[c.index], c.step);
-        unit.GetParameterName(c.index, text);
-        EXPECT_STREQ(text, c.name);
-        unit.GetParameterDisplay(c.index, text);
-        EXPECT_STREQ(text, c.display);
-        unit.GetParameterLabel(c.index, text);
-        EXPECT_STREQ(text, c.label);
+    std::string all;
+    for (int n = 0; n < reverb::Count; ++n) {
+        char name[64], display[64], label[64];
+        unit.GetParameterName(n, name);
+        unit.GetParameterDisplay(n, display);
+        unit.GetParameterLabel(n, label);
+        all += std::string(name) + " " + display + " " + label + ", ";
     }
+    EXPECT_EQ(all, "Input 0.0 dB, LowCut 75 Hz, HighCut 4.0 kHz, Predelay 0 ms, RoomSize 50 , Diffusion 100 %, "
+                   "BassMultiplier 1.0 x, Crossover 500 Hz, Decay 1.5 s, HighDamping 4.0 kHz, Dry 0.0 dB, "
+                   "ER -3.5 dB, Reverb -12.0 dB, Width 100 %, "
+                   "MuteInput Off , MuteDry Off , MuteER Off , MuteReverb Off , ");
 }
 
 TEST(Reverb, TurnsValuesIntoSteps)
 {
-    struct Case {
-        int index;
-        float value;
-        int step;
-        const char* display;
-    };
+    // clang-format off
+    struct Case { int index; float value; int step; const char* display; };
     const Case cases[] = {
-        {0, 0.0f, -361, "-Inf"},         {0, 1.0f, 60, "6.0"},     {1, 0.0f, 19, "19"},   {2, 1.0f, 221, "22.1"},
-        {8, 1.0f, 200, "20.0"},          {14, 0.5f, 1, "On"},      {3, 7.0f, 250, "250"}, {3, -7.0f, 0, "0"},
-        {12, std::nanf(""), 0, nullptr}, {11, 0.855f, -1, "-0.1"},
+        {0,  0.0f,         -361, "-Inf"},  {0,  1.0f,   60, "6.0"}, {1, 0.0f, 19,  "19"},  {2, 1.0f,  221, "22.1"},
+        {8,  1.0f,          200, "20.0"},  {14, 0.5f,   1,  "On"},  {3, 7.0f, 250, "250"}, {3, -7.0f, 0,   "0"},
+        {12, std::nanf(""), 0,   nullptr}, {11, 0.855f, -1, "-0.1"},
     };
+    // clang-format on
     fxReverb unit;
     for (const Case& c : cases) {
         unit.SetParameter(c.index, c.value);
@@ -159,17 +145,15 @@ struct PlainReverb {
 
 TEST(Reverb, RunsGiveTheBitsOfSingleFrames)
 {
-    struct Case {
-        const char* what;
-        float rate;
-        std::vector<std::pair<int, float>> values;
-    };
+    // clang-format off
+    struct Case { const char* what; float rate; std::vector<std::pair<int, float>> values; };
     const Case cases[] = {
-        {"default", 44100.0f, {}},
-        {"smallest room, slow rate, predelay", 8000.0f, {{4, 0.0f}, {3, 0.01f}, {11, 1.0f}}},
-        {"dark, bass heavy, wide", 48000.0f, {{6, 1.0f}, {9, 0.0f}, {13, 1.0f}, {1, 0.5f}, {8, 0.5f}}},
+        {"default",                             44100.0f, {}},
+        {"smallest room, slow rate, predelay",   8000.0f, {{4, 0.0f}, {3, 0.01f}, {11, 1.0f}}},
+        {"dark, bass heavy, wide",              48000.0f, {{6, 1.0f}, {9, 0.0f}, {13, 1.0f}, {1, 0.5f}, {8, 0.5f}}},
         {"bass light, undiffused, low cut off", 22050.0f, {{6, 0.0f}, {5, 0.0f}, {1, 0.0f}, {2, 1.0f}, {16, 1.0f}}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         fxReverb unit;
@@ -192,14 +176,18 @@ TEST(Reverb, RunsGiveTheBitsOfSingleFrames)
     }
 }
 
+void Replace(fxReverb& unit, Sound& sound, int frames)
+{
+    float* blocks[] = {sound.left.data(), sound.right.data()};
+    unit.ProcessReplacing(blocks, blocks, frames);
+}
+
 /// Response to an impulse on both sides, without the dry part.
 Sound Response(fxReverb& unit, int frames)
 {
-    Sound sound(frames);
-    sound.left[0] = sound.right[0] = 1.0f;
-    float* blocks[] = {sound.left.data(), sound.right.data()};
+    Sound sound = Impulse(frames);
     unit.SetParameter(reverb::MuteDry, 1.0f);
-    unit.ProcessReplacing(blocks, blocks, frames);
+    Replace(unit, sound, frames);
     return sound;
 }
 
@@ -242,14 +230,12 @@ TEST(Reverb, KeepsItsTailUnlessTheRoomChanges)
     Response(unit, 10000);
     unit.SetParameter(reverb::HighDamping, 0.9f);
     Sound tail(8000);
-    float* blocks[] = {tail.left.data(), tail.right.data()};
-    unit.ProcessReplacing(blocks, blocks, 8000);
+    Replace(unit, tail, 8000);
     EXPECT_GT(Rms(tail.left, 0, 8000), 1e-5);
     unit.SetParameter(reverb::RoomSize, 0.2f);
-    unit.ProcessReplacing(blocks, blocks, 1);
-    std::fill(tail.left.begin(), tail.left.end(), 0.0f);
-    std::fill(tail.right.begin(), tail.right.end(), 0.0f);
-    unit.ProcessReplacing(blocks, blocks, 8000);
+    Replace(unit, tail, 1);
+    tail.Silence();
+    Replace(unit, tail, 8000);
     EXPECT_LT(Rms(tail.left, 0, 8000), 1e-5);
 }
 
@@ -279,11 +265,10 @@ TEST(Reverb, MetersPeaksAndClips)
     EXPECT_EQ(unit.inputMeters[0].clippedBlocks, 0);
     Sound loud(10);
     loud.left[3] = -1.5f;
-    float* blocks[] = {loud.left.data(), loud.right.data()};
-    unit.ProcessReplacing(blocks, blocks, 10);
+    Replace(unit, loud, 10);
     EXPECT_EQ(unit.inputMeters[0].clippedBlocks, 6);
     EXPECT_EQ(unit.inputMeters[1].clippedBlocks, 0);
-    unit.ProcessReplacing(blocks, blocks, 10);
+    Replace(unit, loud, 10);
     EXPECT_EQ(unit.inputMeters[0].clippedBlocks, 5);
 }
 

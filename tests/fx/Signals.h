@@ -15,9 +15,23 @@ constexpr int kBlock = 128;
 
 struct Sound {
     std::vector<float> left, right;
-    explicit Sound(int frames) : left(frames), right(frames) {}
+    explicit Sound(int frames, float leftValue = 0.0f, float rightValue = 0.0f)
+        : left(frames, leftValue), right(frames, rightValue)
+    {
+    }
     int Frames() const { return static_cast<int>(left.size()); }
+    void Silence(int from = 0)
+    {
+        for (auto* side : {&left, &right}) std::fill(side->begin() + from, side->end(), 0.0f);
+    }
 };
+
+inline Sound Impulse(int frames, int at = 0)
+{
+    Sound sound(frames);
+    sound.left[at] = sound.right[at] = 1.0f;
+    return sound;
+}
 
 inline Sound Noise(int frames, float level = 0.5f)
 {

@@ -13,30 +13,20 @@ namespace {
 // Digits press buttons 1 to 5, letters a to e release them.
 TEST(StutterButtons, TurnHoldsIntoCodes)
 {
-    struct Case {
-        const char* what;
-        const char* presses;
-        int code;
-    };
+    // clang-format off
+    struct Case { const char* what; const char* presses; int code; };
     const Case cases[] = {
-        {"none", "", 0},
-        {"1/1", "1", 1},
-        {"1/4", "5", 5},
-        {"the last one counts", "13", 3},
-        {"back to the one still held", "13c", 1},
-        {"back to the latest still held", "1324d", 2},
-        {"first let go", "13a", 3},
-        {"all let go", "13ac", 0},
-        {"1/4 turns 1/1", "15", 6},
-        {"in either order", "52", 7},
-        {"1/4 turns 1/2", "35", 8},
-        {"1/4 turns 3/8 into 1/8", "45", 9},
-        {"with two others it counts alone", "125", 5},
-        {"until one is let go", "125b", 6},
-        {"its partner let go", "15a", 5},
-        {"pressed twice", "112b", 1},
-        {"no such button", "1689", 1},
+        {"none",                          "",      0}, {"1/1",                         "1",    1},
+        {"1/4",                           "5",     5}, {"the last one counts",         "13",   3},
+        {"back to the one still held",    "13c",   1}, {"first let go",                "13a",  3},
+        {"back to the latest still held", "1324d", 2}, {"all let go",                  "13ac", 0},
+        {"1/4 turns 1/1",                 "15",    6}, {"in either order",             "52",   7},
+        {"1/4 turns 1/2",                 "35",    8}, {"1/4 turns 3/8 into 1/8",      "45",   9},
+        {"among three it counts alone",   "125",   5}, {"until one is let go",         "125b", 6},
+        {"its partner let go",            "15a",   5}, {"pressed twice",               "112b", 1},
+        {"no such button",                "1689",  1},
     };
+    // clang-format on
     for (const Case& c : cases) {
         StutterButtons buttons;
         for (const char* p = c.presses; *p; ++p) *p < 'a' ? buttons.Press(*p - '1') : buttons.Release(*p - 'a');
@@ -48,25 +38,23 @@ TEST(StutterButtons, TurnHoldsIntoCodes)
 
 TEST(SetStutter, SetsLengthAndDirection)
 {
-    struct Case {
-        int code;
-        float beats;
-        int reverse, bypass;
-    };
-    const Case cases[] = {{1, 1.0f, 0, 0},   {2, 0.75f, 0, 0}, {3, 0.5f, 0, 0},  {4, 0.375f, 0, 0},
-                          {5, 0.25f, 0, 0},  {6, 1.0f, 1, 0},  {7, 0.75f, 1, 0}, {8, 0.5f, 1, 0},
-                          {9, 0.125f, 0, 0}, {-3, 0.5f, 0, 0}, {-7, 0.75f, 1, 0}};
+    // clang-format off
+    struct Case { int code; float beats; int reverse; };
+    const Case cases[] = {{1, 1.0f,  0}, {2, 0.75f, 0}, {3, 0.5f,   0}, {4,  0.375f, 0}, {5,  0.25f, 0}, {6, 1.0f, 1},
+                          {7, 0.75f, 1}, {8, 0.5f,  1}, {9, 0.125f, 0}, {-3, 0.5f,   0}, {-7, 0.75f, 1}};
+    // clang-format on
+    FXUnit unit(FxType::Stutter);
     for (const Case& c : cases) {
-        FXUnit unit(FxType::Stutter);
         std::int8_t code = static_cast<std::int8_t>(c.code);
+        unit.bypass = 1;
         SetStutter(unit, code);
         EXPECT_EQ(code, std::abs(c.code));
         EXPECT_EQ(unit.lfoBeats, c.beats) << c.code;
         EXPECT_EQ(unit.reverse, c.reverse) << c.code;
         EXPECT_EQ(unit.bypass, 0) << c.code;
     }
-    FXUnit unit(FxType::Stutter);
     for (std::int8_t code : {0, 10, -128}) {
+        unit.bypass = 0;
         SetStutter(unit, code);
         EXPECT_EQ(unit.bypass, 1);
     }
@@ -77,15 +65,13 @@ constexpr int kSlice = 6000;
 
 Sound Stuttered(const Sound& input, std::int8_t code, int offAt)
 {
-    FXUnit unit(FxType::Stutter);
-    unit.Reset(kRate);
+    Played unit(FxType::Stutter);
     SetStutter(unit, code);
     unit.lfoBeats = 0.25f;
     Sound sound = input;
-    for (int n = 0; n < input.Frames(); n += kBlock) {
-        if (n >= offAt) unit.bypass = 1;
-        unit.Process(&sound.left[n], &sound.right[n], std::min(kBlock, input.Frames() - n), kTempo);
-    }
+    unit.Run(sound, 0, offAt);
+    unit.bypass = 1;
+    unit.Run(sound, offAt);
     return sound;
 }
 
@@ -93,7 +79,7 @@ Sound Stuttered(const Sound& input, std::int8_t code, int offAt)
 TEST(Stutter, LoopsTheFirstSlice)
 {
     const Sound input = Noise(4 * kSlice);
-    const Sound forwards = Stuttered(input, -1, 1 << 30), backwards = Stuttered(input, -6, 1 << 30);
+    const Sound forwards = Stuttered(input, -1, 4 * kSlice), backwards = Stuttered(input, -6, 4 * kSlice);
     for (int n = 0; n < kSlice - 1; ++n) ASSERT_EQ(forwards.left[n], input.left[n]);
     for (int repeat = 2; repeat < 4; ++repeat) {
         for (int n = 200; n < kSlice - 2; ++n) {
@@ -115,8 +101,7 @@ TEST(Stutter, ReturnsToTheInput)
 // Slices longer than the recording, an input that outlasts it, a tempo that changes underneath.
 TEST(Stutter, StaysInsideItsRecording)
 {
-    FXUnit unit(FxType::Stutter);
-    unit.Reset(8000.0f);
+    Played unit(FxType::Stutter, 0.5f, 0.5f, 8000.0f);
     std::int8_t code = -6;
     SetStutter(unit, code);
     Sound sound = Noise(60000);
