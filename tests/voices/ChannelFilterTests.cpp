@@ -39,6 +39,8 @@ struct Mixer {
     }
 };
 
+std::vector<float> StateOf(const ChannelVoice& voice) { return {voice.filterState[0], voice.filterState[0] + 8}; }
+
 /// The filter as it reads: one signal, one frame, one pass after the other.
 void FilterPlainly(ChannelVoice& voice, int type, const CutoffPair* table, float* left, float* right, int frames)
 {
@@ -82,9 +84,9 @@ TEST(ChannelFilter, VectorsGiveTheBitsOfThePlainForm)
                 for (auto& voice : mixer.channels[c]->voices) {
                     if (!voice->active) continue;
                     ChannelVoice plain = *voice;
-                    FilterPlainly(plain, c % 3, mixer.pool->engineTable, mixes[c][0].data(), mixes[c][1].data(),
-                                  frames);
-                    states.emplace_back(&plain.filterState[0][0], &plain.filterState[0][0] + 8);
+                    auto& [left, right] = mixes[c];
+                    FilterPlainly(plain, c % 3, mixer.pool->engineTable, left.data(), right.data(), frames);
+                    states.push_back(StateOf(plain));
                 }
             }
             FilterVoices(mixer.channels, *mixer.pool, frames);
@@ -95,9 +97,7 @@ TEST(ChannelFilter, VectorsGiveTheBitsOfThePlainForm)
                 ASSERT_EQ(std::vector<float>(left, left + kMaxRun), mixes[c][0]) << voices << " voices, " << frames;
                 ASSERT_EQ(std::vector<float>(right, right + kMaxRun), mixes[c][1]) << voices << " voices, " << frames;
                 for (auto& voice : mixer.channels[c]->voices)
-                    if (voice->active)
-                        ASSERT_EQ(std::vector<float>(&voice->filterState[0][0], &voice->filterState[0][0] + 8),
-                                  *state++);
+                    if (voice->active) ASSERT_EQ(StateOf(*voice), *state++);
             }
         }
     }

@@ -3,7 +3,6 @@
 
 #include <vector>
 
-#include "engine/VoiceFilter.h"
 #include "voices/VoiceRig.h"
 
 using namespace korvane;
@@ -44,10 +43,10 @@ TEST(Notes, TakeTheLastFreeVoiceThenTheOldestOne)
 
 TEST(Notes, AreTransposedInWholeSemitones)
 {
-    const struct {
-        float pitch, octave;
-        int semitones;
-    } cases[] = {{0.5f, 0.5f, 0}, {1, 0.5f, 24}, {0, 0.5f, -24}, {0.49f, 0.74f, 0}, {0.54f, 1, 25}, {0.45f, 0, -26}};
+    // clang-format off
+    const struct { float pitch, octave; int semitones; } cases[] = {
+        {0.5f, 0.5f, 0}, {1, 0.5f, 24}, {0, 0.5f, -24}, {0.49f, 0.74f, 0}, {0.54f, 1, 25}, {0.45f, 0, -26}};
+    // clang-format on
     for (const auto& c : cases) {
         SynthRig rig;
         rig.Set({{slot::Pitch, c.pitch}, {slot::Octave, c.octave}});
@@ -99,11 +98,8 @@ TEST(Notes, AreReleasedByKeyAndByOrigin)
 TEST(Notes, FollowTheirEnvelopesFrameByFrame)
 {
     SynthRig rig;
-    rig.Set({{slot::AmpAttack, 0.05f},
-             {slot::AmpDecay, 0.3f},
-             {slot::AmpSustain, 0.4f},
-             {slot::EnvelopeAttack, 0.2f},
-             {slot::EnvelopeDecay, 0.1f}});
+    rig.Set({{slot::AmpAttack, 0.05f}, {slot::AmpDecay, 0.3f}, {slot::AmpSustain, 0.4f}});
+    rig.Set({{slot::EnvelopeAttack, 0.2f}, {slot::EnvelopeDecay, 0.1f}});
     rig.channel.NoteOn(50, 0, 1);
     const auto rateOf = [](double seconds) { return 8.82 / ((seconds + 0.001) * VoiceRig::kRate); };
     double amp = 0, ampTarget = 5, ampRate = rateOf(std::pow(0.05, 3) * 50);
@@ -144,20 +140,18 @@ TEST(Notes, GlideFromTheNoteBefore)
 
 TEST(Notes, GainFollowsLevelVelocityAndMute)
 {
-    const struct {
-        const char* what;
-        float tempo, velocity, level, sensitivity;
-        bool muted;
-        float start, target;
-    } cases[] = {
-        {"full velocity", 0, 1, 0.5f, 1, false, 0.25f, 200},
-        {"soft", 0, 0.25f, 0.5f, 1, false, 0.25f, 50},
-        {"soft but not sensitive", 0, 0.25f, 0.5f, 0, false, 0.25f, 200},
+    // clang-format off
+    struct Case { const char* what; float tempo, velocity, level, sensitivity; bool muted; float start, target; };
+    const Case cases[] = {
+        {"full velocity",                      0, 1,     0.5f, 1, false, 0.25f, 200},
+        {"soft",                               0, 0.25f, 0.5f, 1, false, 0.25f, 50},
+        {"soft but not sensitive",             0, 0.25f, 0.5f, 0, false, 0.25f, 200},
         {"a sequenced note has no velocity", 120, 0.25f, 0.5f, 1, false, 0.25f, 200},
-        {"loudest", 0, 1, 1, 1, false, 1, 3556.559f},
-        {"muted live", 0, 1, 0.5f, 1, true, 0.25f, 200},
-        {"muted sequenced", 120, 1, 0.5f, 1, true, 0, 0},
+        {"loudest",                            0, 1,     1,    1, false, 1,     3556.559f},
+        {"muted live",                         0, 1,     0.5f, 1, true,  0.25f, 200},
+        {"muted sequenced",                  120, 1,     0.5f, 1, true,  0,     0},
     };
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         SynthRig rig;
@@ -177,11 +171,8 @@ TEST(Modulation, SourcesReachTheirTarget)
     rig.channel.velocityIn = 0.5f;
     rig.channel.modWheelIn = 1.0f;
     for (int i = 0; i < kChannelSlots; ++i) rig.channel.params[i] = 0.25f;
-    rig.Set({{slot::VelocityAmount, 0.6f},
-             {slot::WheelAmount, 0.1f},
-             {slot::VelocityDestination, 0},
-             {slot::WheelDestination, 0},
-             {slot::PressureDestination, 0}});
+    rig.Set({{slot::VelocityAmount, 0.6f}, {slot::WheelAmount, 0.1f}});
+    rig.Set({{slot::VelocityDestination, 0}, {slot::WheelDestination, 0}, {slot::PressureDestination, 0}});
     for (int code = 0; code < static_cast<int>(std::size(targets)); ++code) {
         rig.Set({{slot::VelocityDestination, static_cast<float>(code)}});
         for (int i = 0; i < slot::VelocityAmount; ++i)
@@ -195,13 +186,13 @@ TEST(Modulation, SourcesReachTheirTarget)
 
 TEST(Modulation, LfoRates)
 {
-    const struct {
-        float rate, sync, tempo, hertz;
-    } cases[] = {
-        {0, 0, 120, 25.01f},        {1, 0, 120, 0.01f},  {0.5f, 0.49f, 120, 6.26f}, {0.5f, 1, 120, 1 / 1.5f},
-        {0.5f, 0.5f, 120, 2.6667f}, {0, 0.5f, 60, 8.0f}, {1, 1, 60, 1 / 32.0f},     {-3, 0.5f, 60, 8.0f},
-        {0.12f, 0.5f, 60, 4.0f},    {0.5f, 1, 0, 0},     {0.5f, 1, -5, 0},
+    // clang-format off
+    const struct { float rate, sync, tempo, hertz; } cases[] = {
+        {0,     0,    120, 25.01f},   {1,    0,    120, 0.01f}, {0.5f, 0.49f, 120, 6.26f},     {0.5f, 1, 120, 1 / 1.5f},
+        {0.5f,  0.5f, 120, 2.6667f},  {0,    0.5f,  60, 8.0f},  {1,    1,      60, 1 / 32.0f}, {-3, 0.5f, 60, 8.0f},
+        {0.12f, 0.5f,  60, 4.0f},     {0.5f, 1,      0, 0},     {0.5f, 1,      -5, 0},
     };
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_NEAR(LfoFrequency(c.rate, c.sync, c.tempo), c.hertz, 1e-4f * c.hertz) << c.rate << " " << c.sync;
 }
@@ -216,16 +207,10 @@ TEST(Modulation, EnvelopesAndLfosReachTheirDestinations)
                 SCOPED_TRACE(testing::Message() << "shape " << shape << ", destination " << destination);
                 SynthRig rig;
                 const float third = static_cast<float>(destination) / 3.0f, s = kShapes[shape];
-                rig.Set({{slot::FilterCutoff, 0.25f},
-                         {slot::LfoAmount + 1, 0.5f},
-                         {slot::LfoInvert + 1, invert},
-                         {slot::LfoShape + 1, static_cast<float>(shape) / 3.0f},
-                         {slot::LfoRate + 1, 1},
-                         {slot::LfoDestination + 1, third},
-                         {slot::EnvelopeAmount, 0.6f},
-                         {slot::EnvelopeDestination, third},
-                         {slot::LfoAmount, 0.4f},
-                         {slot::LfoShape, 1}});
+                rig.Set({{slot::LfoAmount + 1, 0.5f}, {slot::LfoInvert + 1, invert}, {slot::LfoRate + 1, 1}});
+                rig.Set({{slot::LfoShape + 1, static_cast<float>(shape) / 3.0f}, {slot::LfoDestination + 1, third}});
+                rig.Set({{slot::EnvelopeAmount, 0.6f}, {slot::EnvelopeDestination, third}});
+                rig.Set({{slot::FilterCutoff, 0.25f}, {slot::LfoAmount, 0.4f}, {slot::LfoShape, 1}});
                 rig.channel.NoteOn(57, 0, 1);
                 rig.Render(500);
                 rig.channel.lfo1.phase = rig.channel.lfo2.phase = 0.25f;

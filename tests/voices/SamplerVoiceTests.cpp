@@ -2,7 +2,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <limits>
 #include <vector>
 
 #include "engine/LayerFilters.h"
@@ -71,35 +70,27 @@ float Wobble(int c, int i) { return std::sin(0.02f * static_cast<float>(i + 40 *
 
 TEST(SamplerVoice, PlaysALayerAsItIsSet)
 {
-    const struct {
-        const char* what;
-        int channels;
-        std::vector<VoiceRig::Value> values;
-        PlainLayer plain;
-    } cases[] = {
-        {"as it is", 1, {}, {}},
-        {"stereo", 2, {}, {}},
-        {"four octaves up", 1, {{slot::LayerPitch, 1.0f}}, {.increment = 16}},
+    // clang-format off
+    struct Case { const char* what; int channels; std::vector<VoiceRig::Value> values; PlainLayer plain; };
+    const Case cases[] = {
+        {"as it is",         1, {}, {}},
+        {"stereo",           2, {}, {}},
+        {"four octaves up",  1, {{slot::LayerPitch, 1.0f}}, {.increment = 16}},
         {"two octaves down", 2, {{slot::LayerPitch, 0.0f}}, {.increment = 0.25}},
         {"channel up in whole semitones", 1, {{slot::Pitch, 0.5f + 7.9f / 48}}, {.increment = 1.4983070769}},
-        {"from the middle", 1, {{slot::LayerStart, 0.5f}}, {.start = 500}},
-        {"backwards", 2, {{slot::LayerReverse, 1.0f}, {slot::LayerStart, 0.25f}}, {.start = 250, .reverse = true}},
-        {"backwards between frames",
-         1,
-         {{slot::LayerReverse, 1.0f}, {slot::LayerPitch, 0.25f}},
-         {.increment = 0.7071067812, .reverse = true}},
-        {"late", 1, {{slot::LayerDelay, 0.25f}}, {.delay = 43}},
+        {"from the middle",  1, {{slot::LayerStart, 0.5f}}, {.start = 500}},
+        {"backwards",        2, {{slot::LayerReverse, 1.0f}, {slot::LayerStart, 0.25f}}, {.start = 250, .reverse = true}},
+        {"backwards between frames", 1, {{slot::LayerReverse, 1.0f}, {slot::LayerPitch, 0.25f}},
+                                        {.increment = 0.7071067812, .reverse = true}},
+        {"late",             1, {{slot::LayerDelay, 0.25f}}, {.delay = 43}},
         {"left, half level", 1, {{slot::LayerPan, 0}, {slot::LayerLevel, 0.25f}}, {.gainLeft = 0.25, .gainRight = 0}},
-        {"upside down", 1, {{slot::LayerInvert, 1.0f}}, {.gainLeft = -0.5, .gainRight = -0.5}},
-        {"filters",
-         2,
-         {{slot::LayerLoCut, 0.5f}, {slot::LayerHiCut, 0.5f}, {slot::LayerBandwidth, 0.5f}},
-         {.loCut = 512, .hiCut = 2272.44, .q = 2.99}},
-        {"attack, hold and decay",
-         1,
-         {{slot::LayerAttack, 0.05f}, {slot::LayerHold, 0.05f}, {slot::LayerDecay, 0.1f}},
-         {.hold = 110, .attackRate = 8.82 / (0.03225 * 44100), .decayRate = 8.82 / (0.006 * 44100)}},
+        {"upside down",      1, {{slot::LayerInvert, 1.0f}}, {.gainLeft = -0.5, .gainRight = -0.5}},
+        {"filters",          2, {{slot::LayerLoCut, 0.5f}, {slot::LayerHiCut, 0.5f}, {slot::LayerBandwidth, 0.5f}},
+                                {.loCut = 512, .hiCut = 2272.44, .q = 2.99}},
+        {"attack, hold and decay", 1, {{slot::LayerAttack, 0.05f}, {slot::LayerHold, 0.05f}, {slot::LayerDecay, 0.1f}},
+                                {.hold = 110, .attackRate = 8.82 / (0.03225 * 44100), .decayRate = 8.82 / (0.006 * 44100)}},
     };
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         VoiceRig rig(true);
@@ -147,22 +138,20 @@ TEST(SamplerVoice, FiltersAsOneSectionAfterTheOther)
 TEST(SamplerVoice, EndsWhenNoLayerCanPlay)
 {
     const float wild = 1e30f;
-    const struct {
-        const char* what;
-        int frames; // of the sample of layer 1; -1 none
-        std::vector<VoiceRig::Value> values;
-        bool plays;
-    } cases[] = {
-        {"a sample", 100, {}, true},
-        {"no sample", -1, {}, false},
-        {"a sample without frames", 0, {}, false},
-        {"bypassed", 100, {{slot::LayerBypass, 0.5f}}, false},
-        {"still waiting", 10, {{slot::LayerDelay, 1.0f}}, true},
-        {"starts at the end", 100, {{slot::LayerStart, 1.0f}}, false},
-        {"starts far beyond", 100, {{slot::LayerStart, wild}}, false},
-        {"runs far beyond at once", 100, {{slot::Pitch, wild}}, false},
+    // clang-format off
+    struct Case { const char* what; int frames; std::vector<VoiceRig::Value> values; bool plays; }; // -1: no sample
+    const Case cases[] = {
+        {"a sample",                    100, {}, true},
+        {"no sample",                    -1, {}, false},
+        {"a sample without frames",       0, {}, false},
+        {"bypassed",                    100, {{slot::LayerBypass, 0.5f}}, false},
+        {"still waiting",                10, {{slot::LayerDelay, 1.0f}},  true},
+        {"starts at the end",           100, {{slot::LayerStart, 1.0f}},  false},
+        {"starts far beyond",           100, {{slot::LayerStart, wild}},  false},
+        {"runs far beyond at once",     100, {{slot::Pitch, wild}},       false},
         {"goes backwards from the end", 100, {{slot::LayerReverse, 1.0f}, {slot::LayerPitch, 1.0f}}, true},
     };
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         VoiceRig rig(true);

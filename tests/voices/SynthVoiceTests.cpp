@@ -127,38 +127,23 @@ TEST(SynthVoice, TheLoopGivesTheBitsOfItsPlainForm)
 
 TEST(SynthVoice, SoundsAtItsPitchAndLevel)
 {
-    const struct {
-        const char* what;
-        int note;
-        std::vector<VoiceRig::Value> values;
-        double hertz, level;
-        float bend = 0;
-    } cases[] = {
-        {"note 57", 57, {}, 220, 1},
-        {"an octave and a fifth up", 76, {}, 659.2551, 1},
-        {"channel pitch", 57, {{slot::Pitch, 1}}, 880, 1},
+    // clang-format off
+    struct Case { const char* what; int note; std::vector<VoiceRig::Value> values; double hertz, level; float bend = 0; };
+    const Case cases[] = {
+        {"note 57",                       57, {}, 220, 1},
+        {"an octave and a fifth up",      76, {}, 659.2551, 1},
+        {"channel pitch",                 57, {{slot::Pitch, 1}}, 880, 1},
         {"oscillator 1 pitch and detune", 57, {{slot::Osc1Pitch, 1}, {slot::Osc1Detune, 1}}, 1760 * 1.0293022, 1},
-        {"oscillator 2 alone", 57, {{slot::MixOsc2, 1}, {slot::Osc2Pitch, 0.75f}}, 220 * 2.8284271, 1},
-        {"oscillator 3, a quarter",
-         57,
-         {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}},
-         27.5,
-         0.25},
-        {"oscillator 1, three quarters", 57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 1}}, 220, 0.75},
-        {"bent up two semitones", 57, {}, 246.94165, 1, 1.0f},
-        {"bent down an octave", 57, {{slot::BendRange, 1}}, 110, 1, -1.0f},
-        {"synced at twice the pitch", 57, {{slot::Modulation, 0.33333334f}}, 440, 1},
-        {"LFO an octave up",
-         57,
-         {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}},
-         440,
-         1},
-        {"envelope an octave up",
-         57,
-         {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}},
-         440,
-         1},
+        {"oscillator 2 alone",            57, {{slot::MixOsc2, 1}, {slot::Osc2Pitch, 0.75f}}, 220 * 2.8284271, 1},
+        {"oscillator 3, a quarter",       57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}}, 27.5, 0.25},
+        {"oscillator 1, three quarters",  57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 1}}, 220, 0.75},
+        {"bent up two semitones",         57, {}, 246.94165, 1, 1.0f},
+        {"bent down an octave",           57, {{slot::BendRange, 1}}, 110, 1, -1.0f},
+        {"synced at twice the pitch",     57, {{slot::Modulation, 0.33333334f}}, 440, 1},
+        {"LFO an octave up",              57, {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}}, 440, 1},
+        {"envelope an octave up",         57, {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}}, 440, 1},
     };
+    // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         VoiceRig rig(false);
@@ -184,11 +169,10 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
 
 TEST(SynthVoice, ReadsTheTableWithTheHarmonicsBelowHalfTheRate)
 {
-    const struct {
-        int note;
-        float modulation;
-        int table;
-    } cases[] = {{57, 0, 100}, {57, 1, 25}, {0, 0, 511}, {28, 0, 511}, {30, 0, 476}, {127, 0, 1}, {145, 0, 0}};
+    // clang-format off
+    const struct { int note; float modulation; int table; } cases[] = {
+        {57, 0, 100}, {57, 1, 25}, {0, 0, 511}, {28, 0, 511}, {30, 0, 476}, {127, 0, 1}, {145, 0, 0}};
+    // clang-format on
     for (const auto& c : cases) {
         VoiceRig rig(false);
         rig.GiveWave(0, TableNumber);
@@ -202,11 +186,10 @@ TEST(SynthVoice, ReadsTheTableWithTheHarmonicsBelowHalfTheRate)
 TEST(SynthVoice, SpreadsUnisonInPitchAndStereo)
 {
     VoiceRig rig(false);
+    rig.Set({{slot::UnisonDetune, 0.5f}, {slot::UnisonStereo, 0.25f}});
     for (int count : {1, 2, 5, 16}) {
         SCOPED_TRACE(count);
-        rig.Set({{slot::UnisonVoices, static_cast<float>(count - 1) / 15.0f + 0.001f},
-                 {slot::UnisonDetune, 0.5f},
-                 {slot::UnisonStereo, 0.25f}});
+        rig.Set({{slot::UnisonVoices, static_cast<float>(count - 1) / 15.0f + 0.001f}});
         SynthSettings settings;
         UnisonTuning tuning;
         SetUpSynth(rig.channel, settings);

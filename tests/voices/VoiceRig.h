@@ -25,12 +25,10 @@ struct VoiceRig {
              {slot::Osc2Pitch, 0.5f},      {slot::Osc2Detune, 0.5f},      {slot::Osc3Pitch, 0.5f},
              {slot::Osc3Detune, 0.5f},     {slot::VelocityAmount, 0.5f},  {slot::WheelAmount, 0.5f},
              {slot::PressureAmount, 0.5f}, {slot::BendRange, 0.16666667f}});
-        for (int l = 0; l < kLayers; ++l)
-            Set({{slot::LayerLevel + l, 0.5f},
-                 {slot::LayerPan + l, 0.5f},
-                 {slot::LayerPitch + l, 0.5f},
-                 {slot::LayerDecay + l, 1.0f},
-                 {slot::LayerHiCut + l, 1.0f}});
+        for (int l = 0; l < kLayers; ++l) {
+            Set({{slot::LayerLevel + l, 0.5f}, {slot::LayerPan + l, 0.5f}, {slot::LayerPitch + l, 0.5f}});
+            Set({{slot::LayerDecay + l, 1.0f}, {slot::LayerHiCut + l, 1.0f}});
+        }
         channel.Reset(kRate);
     }
 
