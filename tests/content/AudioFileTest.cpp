@@ -102,22 +102,18 @@ struct AudioFiles : testing::Test {
 TEST_F(AudioFiles, DecodeEveryAcceptedDepth)
 {
     const Bytes floats = Number(std::bit_cast<std::uint32_t>(0.3f), 4, false);
-    struct Case {
-        const char* what;
-        Bytes file;
-        int first; // index of the first frame
-        float value;
-    };
+    // clang-format off
+    struct Case { const char* what; Bytes file; int first; float value; }; // index of the first frame
     const Case cases[] = {
-        {"16 bits", Wav(Format(1, 1, 48000, 16) + Data("\x01\x80")), 0, -32767.0f / 32768.0f},
+        {"16 bits",          Wav(Format(1, 1, 48000, 16) + Data("\x01\x80")), 0, -32767.0f / 32768.0f},
         {"24 bits, highest", Wav(Format(1, 1, 48000, 24) + Data("\xff\xff\x7f")), 0, 1.0f},
-        {"24 bits, lowest", Wav(Format(1, 1, 48000, 24) + Data(Bytes("\0\0\x80", 3))), 0,
-         static_cast<float>(-8388608.0 / 8388607.0)},
-        {"32 bits", Wav(Format(1, 1, 48000, 32) + Data(Bytes("\0\0\0\xc0", 4))), 0, -0.5f},
-        {"floats", Wav(Format(3, 1, 48000, 32) + Data(floats)), 0, 0.3f},
+        {"24 bits, lowest",  Wav(Format(1, 1, 48000, 24) + Data(Bytes("\0\0\x80", 3))), 0, float(-8388608.0 / 8388607.0)},
+        {"32 bits",          Wav(Format(1, 1, 48000, 32) + Data(Bytes("\0\0\0\xc0", 4))), 0, -0.5f},
+        {"floats",           Wav(Format(3, 1, 48000, 32) + Data(floats)), 0, 0.3f},
         {"AIFF 16 bits", Aiff(Common(1, 1, 16, 0x400E, 0xBB800000u) + Sound("\x80\x01")), 1, -32767.0f / 32768.0f},
         {"AIFF 24 bits", Aiff(Common(1, 1, 24, 0x400E, 0xBB800000u) + Sound("\x7f\xff\xff", 6)), 1, 1.0f},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         ASSERT_TRUE(Load(c.file));
@@ -135,11 +131,12 @@ TEST_F(AudioFiles, DecodeEveryAcceptedDepth)
 
 TEST_F(AudioFiles, ReadRatesAndLoops)
 {
-    for (const auto& [exponent, mantissa, rate] : {std::tuple{0x400E, 0xAC440000u, 44100.0},
-                                                   {0x400D, 0xAC440000u, 22050.0},
-                                                   {0x400F, 0xBB800000u, 96000.0},
-                                                   {0x401F, 0xFFFFFFFFu, 4294967295.0},
-                                                   {0x4001, 0x80000000u, 4.0}}) {
+    // clang-format off
+    struct Rate { int exponent; std::uint32_t mantissa; double rate; };
+    const Rate rates[] = {{0x400E, 0xAC440000u, 44100.0}, {0x400D, 0xAC440000u, 22050.0}, {0x400F, 0xBB800000u, 96000.0},
+                          {0x401F, 0xFFFFFFFFu, 4294967295.0}, {0x4001, 0x80000000u, 4.0}};
+    // clang-format on
+    for (const auto& [exponent, mantissa, rate] : rates) {
         ASSERT_TRUE(Load(Aiff(Common(1, 1, 16, exponent, mantissa) + Sound("xx"))));
         EXPECT_EQ(sample.sampleRate, rate);
     }
@@ -147,21 +144,19 @@ TEST_F(AudioFiles, ReadRatesAndLoops)
     const Bytes marks =
         Chunk("MARK", Number(3, 2, true) + Marker(1, 2, "a") + Marker(2, 9, "bc") + Marker(1, 4, ""), true);
     const Bytes common = Common(1, 10, 16, 0x400E, 0xAC440000u);
-    struct Case {
-        const char* what;
-        Bytes file;
-        int start, end;
-    };
+    // clang-format off
+    struct Case { const char* what; Bytes file; int start, end; };
     const Case cases[] = {
-        {"none", Wav(format + Data(ten)), 0, 10},
+        {"none",             Wav(format + Data(ten)), 0, 10},
         {"before the sound", Wav(format + Loop(3, 7) + Data(ten)), 0, 10},
-        {"after it", Wav(format + Data(ten) + Loop(3, 7)), 3, 7},
-        {"behind the end", Wav(format + Data(ten) + Loop(10, 4000000000u)), 0, 10},
-        {"backward", Wav(format + Data(ten) + Loop(9, 5)), 5, 5},
-        {"AIFF", Aiff(common + marks + SustainLoop(1, 2) + Sound(ten)), 4, 9},
-        {"no such marker", Aiff(common + marks + SustainLoop(7, 8) + Sound(ten)), 0, 10},
-        {"no markers", Aiff(common + SustainLoop(1, 2) + Sound(ten)), 0, 10},
+        {"after it",         Wav(format + Data(ten) + Loop(3, 7)), 3, 7},
+        {"behind the end",   Wav(format + Data(ten) + Loop(10, 4000000000u)), 0, 10},
+        {"backward",         Wav(format + Data(ten) + Loop(9, 5)), 5, 5},
+        {"AIFF",             Aiff(common + marks + SustainLoop(1, 2) + Sound(ten)), 4, 9},
+        {"no such marker",   Aiff(common + marks + SustainLoop(7, 8) + Sound(ten)), 0, 10},
+        {"no markers",       Aiff(common + SustainLoop(1, 2) + Sound(ten)), 0, 10},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         ASSERT_TRUE(Load(c.file));
@@ -173,40 +168,39 @@ TEST_F(AudioFiles, ReadRatesAndLoops)
 TEST_F(AudioFiles, TakeOddFilesAndRefuseWrongOnes)
 {
     const Bytes format = Format(1, 1, 44100, 16), common = Common(1, 2, 16, 0x400E, 0xAC440000u);
-    struct Case {
-        const char* what;
-        Bytes file;
-        int frames; // -1 refused
-    };
+    constexpr int kRefused = -1;
+    // clang-format off
+    struct Case { const char* what; Bytes file; int frames; };
     const Case cases[] = {
-        {"no format: the defaults", Wav(Data("abcd")), 2},
-        {"no sound", Wav(format), 0},
-        {"empty sound", Wav(format + Data("")), 0},
-        {"odd chunk before", Wav(Chunk("LIST", "abc", false) + format + Data("abcd")), 2},
-        {"long format chunk", Wav(Chunk("fmt ", format.substr(8) + "xx", false) + Data("ab")), 1},
-        {"sound cut off", Wav(format + "data" + Number(8, 4, false) + "abcd"), 4},
-        {"nothing but a header", Wav(""), 0},
-        {"AIFF without sound", Aiff(common), 0},
-        {"AIFF of no frames", Aiff(Common(1, 0, 16, 0x400E, 0xAC440000u) + Sound("")), 0},
-        {"empty", "", -1},
-        {"other form", "RIFX" + Wav(format).substr(4), -1},
-        {"other type", "RIFF" + Number(4, 4, false) + "AVI ", -1},
-        {"short format", Wav(Chunk("fmt ", Bytes(14, '\1'), false)), -1},
-        {"tag 2", Wav(Format(2, 1, 44100, 16) + Data("ab")), -1},
-        {"8 bits", Wav(Format(1, 1, 44100, 8) + Data("ab")), -1},
-        {"floats of 16 bits", Wav(Format(3, 1, 44100, 16) + Data("ab")), -1},
-        {"3 channels", Wav(Format(1, 3, 44100, 16) + Data("abcdef")), -1},
-        {"no channel", Wav(Format(1, 0, 44100, 16, 2) + Data("ab")), -1},
-        {"block align", Wav(Format(1, 2, 44100, 16, 3) + Data("abc")), -1},
-        {"torn frame", Wav(format + Data("abc")), -1},
-        {"impossible length", Wav(format + "data" + Number(0x7FFFFFFE, 4, false) + "ab"), -1},
-        {"AIFC", Aiff(common + Sound("abcd"), "AIFC"), -1},
-        {"AIFF of 8 bits", Aiff(Common(1, 2, 8, 0x400E, 0xAC440000u) + Sound("ab")), -1},
-        {"AIFF of 3 channels", Aiff(Common(3, 1, 16, 0x400E, 0xAC440000u) + Sound("abcdef")), -1},
-        {"short COMM", Aiff(Chunk("COMM", Bytes(16, '\0'), true)), -1},
-        {"short INST", Aiff(common + Chunk("INST", Bytes(18, '\0'), true) + Sound("abcd")), -1},
-        {"less sound than announced", Aiff(common + Sound("abc")), -1},
+        {"no format: the defaults",  Wav(Data("abcd")), 2},
+        {"no sound",                 Wav(format), 0},
+        {"empty sound",              Wav(format + Data("")), 0},
+        {"odd chunk before",         Wav(Chunk("LIST", "abc", false) + format + Data("abcd")), 2},
+        {"long format chunk",        Wav(Chunk("fmt ", format.substr(8) + "xx", false) + Data("ab")), 1},
+        {"sound cut off",            Wav(format + "data" + Number(8, 4, false) + "abcd"), 4},
+        {"nothing but a header",     Wav(""), 0},
+        {"AIFF without sound",       Aiff(common), 0},
+        {"AIFF of no frames",        Aiff(Common(1, 0, 16, 0x400E, 0xAC440000u) + Sound("")), 0},
+        {"empty",                    "", kRefused},
+        {"other form",               "RIFX" + Wav(format).substr(4), kRefused},
+        {"other type",               "RIFF" + Number(4, 4, false) + "AVI ", kRefused},
+        {"short format",             Wav(Chunk("fmt ", Bytes(14, '\1'), false)), kRefused},
+        {"tag 2",                    Wav(Format(2, 1, 44100, 16) + Data("ab")), kRefused},
+        {"8 bits",                   Wav(Format(1, 1, 44100, 8) + Data("ab")), kRefused},
+        {"floats of 16 bits",        Wav(Format(3, 1, 44100, 16) + Data("ab")), kRefused},
+        {"3 channels",               Wav(Format(1, 3, 44100, 16) + Data("abcdef")), kRefused},
+        {"no channel",               Wav(Format(1, 0, 44100, 16, 2) + Data("ab")), kRefused},
+        {"block align",              Wav(Format(1, 2, 44100, 16, 3) + Data("abc")), kRefused},
+        {"torn frame",               Wav(format + Data("abc")), kRefused},
+        {"impossible length",        Wav(format + "data" + Number(0x7FFFFFFE, 4, false) + "ab"), kRefused},
+        {"AIFC",                     Aiff(common + Sound("abcd"), "AIFC"), kRefused},
+        {"AIFF of 8 bits",           Aiff(Common(1, 2, 8, 0x400E, 0xAC440000u) + Sound("ab")), kRefused},
+        {"AIFF of 3 channels",       Aiff(Common(3, 1, 16, 0x400E, 0xAC440000u) + Sound("abcdef")), kRefused},
+        {"short COMM",               Aiff(Chunk("COMM", Bytes(16, '\0'), true)), kRefused},
+        {"short INST",               Aiff(common + Chunk("INST", Bytes(18, '\0'), true) + Sound("abcd")), kRefused},
+        {"less sound than announced", Aiff(common + Sound("abc")), kRefused},
     };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         EXPECT_EQ(Load(c.file), c.frames >= 0);

@@ -88,22 +88,17 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
     Synth();
     Render();
     SampleSlot& slot = Synth().engine->Channel(0).sampleSlots[3];
-    struct Case {
-        const char* request;
-        const char *name, *path; // afterwards
-    };
-    for (const Case& c : {Case{"\\a.wav", "a", "Drum Samples/a.wav"},
-                          {"\\none.wav", "", ""},
-                          {"\\text.wav", "text", "Drum Samples/text.wav"},
-                          {"!", "", ""}}) {
+    // clang-format off
+    struct Case { const char *request, *name, *path; }; // name and path afterwards
+    const Case cases[] = {{"\\a.wav",    "a",    "Drum Samples/a.wav"},    {"\\none.wav", "", ""},
+                          {"\\text.wav", "text", "Drum Samples/text.wav"}, {"!",          "", ""}};
+    // clang-format on
+    for (const Case& c : cases) {
         SCOPED_TRACE(c.request);
         slot.request.Post(c.request);
         Render();
-        char text[1024];
-        slot.name.Get(text);
-        EXPECT_STREQ(text, c.name);
-        slot.path.Get(text);
-        EXPECT_EQ(text, *c.path ? Path(c.path) : "");
+        EXPECT_EQ(TextOf(slot.name), c.name);
+        EXPECT_EQ(TextOf(slot.path), *c.path ? Path(c.path) : "");
         EXPECT_EQ(slot.entry != nullptr, *c.name != '\0');
     }
 }
@@ -118,21 +113,19 @@ TEST_F(Pool, TurnsACycleIntoBandLimitedTables)
     FillWaveTables(cycle.data(), tables.data());
     std::vector<double> sum(kWaveTablePoints);
     double worst = 0.0;
-    for (int h = 1; h <= kWaveTables; ++h) {
+    const auto angle = [](std::size_t n, std::size_t h) {
+        return 2.0 * std::numbers::pi * static_cast<double>(n * h % kWaveTablePoints) / kWaveTablePoints;
+    };
+    for (std::size_t h = 1; h <= kWaveTables; ++h) {
         double re = 0.0, im = 0.0;
-        for (int n = 0; n < kWaveTablePoints; ++n) {
-            const double angle = 2.0 * std::numbers::pi * (n * h % kWaveTablePoints) / kWaveTablePoints;
-            re += static_cast<double>(cycle[static_cast<std::size_t>(n)]) * std::cos(angle) / kWaveTablePoints;
-            im -= static_cast<double>(cycle[static_cast<std::size_t>(n)]) * std::sin(angle) / kWaveTablePoints;
+        for (std::size_t n = 0; n < cycle.size(); ++n) {
+            re += static_cast<double>(cycle[n]) * std::cos(angle(n, h)) / kWaveTablePoints;
+            im -= static_cast<double>(cycle[n]) * std::sin(angle(n, h)) / kWaveTablePoints;
         }
-        for (int n = 0; n < kWaveTablePoints; ++n) {
-            auto& value = sum[static_cast<std::size_t>(n)];
-            value +=
-                std::hypot(re, im) *
-                std::cos(2.0 * std::numbers::pi * (n * h % kWaveTablePoints) / kWaveTablePoints + std::atan2(im, re));
-            worst = std::max(worst,
-                             std::fabs(value - static_cast<double>(
-                                                   tables[static_cast<std::size_t>((h - 1) * kWaveTablePoints + n)])));
+        const float* table = &tables[(h - 1) * kWaveTablePoints];
+        for (std::size_t n = 0; n < sum.size(); ++n) {
+            sum[n] += std::hypot(re, im) * std::cos(angle(n, h) + std::atan2(im, re));
+            worst = std::max(worst, std::fabs(sum[n] - static_cast<double>(table[n])));
         }
     }
     EXPECT_LT(worst, 1e-6);
@@ -164,10 +157,7 @@ TEST_F(Pool, LibrariesListWhatTheyKnow)
     EXPECT_STREQ(list.folderName, "<user>");
     EXPECT_EQ(list.CurrentPath(), Path("Synth Programs"));
     EXPECT_FALSE(list.NextEntry());
-    int a = 0;
-    char name[256];
-    list.folders.GetEntry(0, name);
-    if (std::string(name) != "A") a = 1;
+    const int a = Written([&list](char* name) { list.folders.GetEntry(0, name); }) == "A" ? 0 : 1;
     EXPECT_TRUE(list.SelectFolder(a));
     EXPECT_FALSE(list.SelectFolder(a));
     EXPECT_FALSE(list.SelectFolder(2));
