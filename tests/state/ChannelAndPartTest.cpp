@@ -9,26 +9,22 @@ namespace korvane {
 // A chunk is read front to back: what stands before the cut is taken, the rest is the reset channel's.
 TEST(ChannelChunk, EndsWhereItIsCut)
 {
-    struct Case {
-        const char* what;
-        int length;
-        bool accepted;
-        const char *firstPath, *lastPath;
-        float level, lastValue, workingLevel;
-        const char* programPath;
-    };
+    // clang-format off
+    struct Case { const char* what; int length; bool accepted; const char *firstPath, *lastPath;
+                  float level, lastValue, workingLevel; const char* programPath; };
     const Case cases[] = {
-        {"whole", 4948, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, "D:\\program"},
-        {"longer than it is", 5000, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, "D:\\program"},
-        {"cut program path", 4947, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, ""},
-        {"no program path", 4436, true, "D:\\0", "", 0.25f, 0.75f, 0.25f, ""},
-        {"cut last value", 4435, false, "D:\\0", "", 0.25f, 0.0f, 0.75f, ""},
-        {"no values", 3588, false, "D:\\0", "", 0.0f, 0.0f, 0.75f, ""},
-        {"cut last path", 3587, false, "D:\\0", "", 0.75f, 0.5f, 0.75f, ""},
-        {"tag only", 4, false, "", "", 0.75f, 0.5f, 0.75f, ""},
-        {"cut tag", 3, false, "old", "old", 0.125f, 0.125f, 0.125f, "old"},
-        {"negative length", -1, false, "old", "old", 0.125f, 0.125f, 0.125f, "old"},
+        {"whole",             4948, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  "D:\\program"},
+        {"longer than it is", 5000, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  "D:\\program"},
+        {"cut program path",  4947, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  ""},
+        {"no program path",   4436, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  ""},
+        {"cut last value",    4435, false, "D:\\0", "",    0.25f,  0.0f,   0.75f,  ""},
+        {"no values",         3588, false, "D:\\0", "",    0.0f,   0.0f,   0.75f,  ""},
+        {"cut last path",     3587, false, "D:\\0", "",    0.75f,  0.5f,   0.75f,  ""},
+        {"tag only",             4, false, "",      "",    0.75f,  0.5f,   0.75f,  ""},
+        {"cut tag",              3, false, "old",   "old", 0.125f, 0.125f, 0.125f, "old"},
+        {"negative length",     -1, false, "old",   "old", 0.125f, 0.125f, 0.125f, "old"},
     };
+    // clang-format on
     GrooveEngine engine;
     engine.ResetGroove();
     engine.storedParams[2][0] = 0.25f, engine.storedParams[2][211] = 0.75f;
@@ -81,29 +77,24 @@ TEST(PartImage, MovesOneChannelIntoAnotherOfItsKind)
 
 TEST(PartImage, TakesWhatItCanOfADamagedPart)
 {
-    struct Case {
-        const char* what;
-        int at, value; // an int32 written into the part; at 0 its tag
-        int length;
-        int channel;
-        bool accepted;
-        float noteLength;
-        int steps; // taken over; the others stay what they were
-    };
     constexpr int kWhole = 16 + 4948 + 4 + 128 * 6, kSampler = 0x50744433;
+    // clang-format off
+    // An int32 is written into the part, at 0 its tag; the steps that are not taken over stay what they were.
+    struct Case { const char* what; int at, value, length, channel; bool accepted; float noteLength; int steps; };
     const Case cases[] = {
-        {"whole", 0, kSampler, kWhole, 2, true, 0.75f, 128},
-        {"other kind", 0, kSampler, kWhole, 8, false, 0.125f, 0},
-        {"wrong tag", 0, 1, kWhole, 2, false, 0.125f, 0},
-        {"wrong channel tag", 8, 1, kWhole, 2, false, 0.125f, 0},
-        {"no sequence", 0, kSampler, 4956, 2, false, 0.25f, 0},
-        {"short sequence", 4956, 3, kWhole, 2, false, 0.25f, 0},
-        {"negative sequence", 4956, -1, kWhole, 2, false, 0.25f, 0},
-        {"wrong sequence tag", 4960, 1, kWhole, 2, false, 0.25f, 0},
-        {"sequence of ten steps", 4956, 4 + 60, kWhole, 2, false, 0.25f, 10},
-        {"cut after a step", 0, kSampler, 4964 + 6, 2, false, 0.25f, 1},
-        {"no note length", 0, kSampler, kWhole - 1, 2, false, 0.25f, 128},
+        {"whole",                    0, kSampler, kWhole,     2, true,  0.75f,  128},
+        {"other kind",               0, kSampler, kWhole,     8, false, 0.125f, 0},
+        {"wrong tag",                0, 1,        kWhole,     2, false, 0.125f, 0},
+        {"wrong channel tag",        8, 1,        kWhole,     2, false, 0.125f, 0},
+        {"no sequence",              0, kSampler, 4956,       2, false, 0.25f,  0},
+        {"short sequence",        4956, 3,        kWhole,     2, false, 0.25f,  0},
+        {"negative sequence",     4956, -1,       kWhole,     2, false, 0.25f,  0},
+        {"wrong sequence tag",    4960, 1,        kWhole,     2, false, 0.25f,  0},
+        {"sequence of ten steps", 4956, 4 + 60,   kWhole,     2, false, 0.25f,  10},
+        {"cut after a step",         0, kSampler, 4964 + 6,   2, false, 0.25f,  1},
+        {"no note length",           0, kSampler, kWhole - 1, 2, false, 0.25f,  128},
     };
+    // clang-format on
     GrooveEngine engine;
     engine.ResetGroove();
     engine.selectedChannel = 0;

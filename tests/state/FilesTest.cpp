@@ -1,11 +1,7 @@
 // Groove, part and program files and the host's chunks, as editor, host and MIDI use them.
 #include <gtest/gtest.h>
 
-#include <array>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <memory>
 
 #include "Images.h"
 #include "support/SynthRig.h"
@@ -41,9 +37,8 @@ TEST_F(Files, GroovesNameTheGroove)
     EXPECT_EQ(TextOf(Synth().grooveName), "one.a");
     EXPECT_TRUE(Saved(*Synth().engine) == Saved(engine));
     EXPECT_EQ(host.told, 196);
-    for (const char* refused : {"none.kvprj", "Brassmoor", "nowhere/x.kvprj"}) {
+    for (const char* refused : {"none.kvprj", "Brassmoor", "nowhere/x.kvprj"})
         EXPECT_FALSE(Synth().LoadGrooveFile(Path(refused).c_str())) << refused;
-    }
     EXPECT_FALSE(Synth().SaveGrooveFile(Path("nowhere/x.kvprj").c_str()));
     EXPECT_EQ(TextOf(Synth().grooveName), "one.a");
     EXPECT_EQ(host.told, 196);
@@ -95,16 +90,12 @@ TEST_F(Files, AProgramKeepsTheChannelsFourSettings)
     for (int n = 0; n < 12; ++n) engine.SetChannelParameter(n, 0.25f);
     ASSERT_TRUE(Synth().SaveProgramFile(Path("p.kvsynth").c_str()));
     EXPECT_EQ(TextOf(engine.Channel(8).programPath), Path("p.kvsynth"));
-    struct Case {
-        std::uintmax_t size; // of the file
-        bool accepted;
-        float pitch; // taken from the program or not
-        std::string path;
-    };
-    for (const Case& c : {Case{4948, true, 0.25f, Path("p.kvsynth")},
-                          {4436, true, 0.25f, Path("p.kvsynth")},
-                          {4435, false, 0.25f, ""},
-                          {4, false, 0.75f, "old"}}) {
+    // clang-format off
+    struct Case { std::uintmax_t size; bool accepted; float pitch; std::string path; }; // pitch and path afterwards
+    const Case cases[] = {{4948, true,  0.25f, Path("p.kvsynth")}, {4436, true,  0.25f, Path("p.kvsynth")},
+                          {4435, false, 0.25f, ""},                {4,    false, 0.75f, "old"}};
+    // clang-format on
+    for (const Case& c : cases) {
         SCOPED_TRACE(c.size);
         fs::resize_file(root / "p.kvsynth", c.size);
         engine.selectedChannel = 10;
@@ -130,19 +121,13 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
     loads();
     Send(0xC0, 0);
     EXPECT_EQ(loads(), 0) << "no folder is selected yet";
-    struct Case {
-        const char* what;
-        std::uint8_t status, data1, data2;
-        int loads;
-    };
+    // clang-format off
+    struct Case { const char* what; std::uint8_t status, data1, data2; int loads; };
     const Case cases[] = {
-        {"bank loads its first program", 0xB0, 32, 0, 1},
-        {"and again", 0xB0, 32, 0, 1},
-        {"program", 0xC0, 1, 0, 1},
-        {"same program", 0xC0, 1, 0, 0},
-        {"no program", 0xC0, 2, 0, 0},
-        {"no bank", 0xB0, 32, 9, 1},
+        {"bank loads its first program", 0xB0, 32, 0, 1}, {"and again",    0xB0, 32, 0, 1}, {"program", 0xC0, 1,  0, 1},
+        {"same program",                 0xC0, 1,  0, 0}, {"no program",   0xC0, 2,  0, 0}, {"no bank", 0xB0, 32, 9, 1},
     };
+    // clang-format on
     for (const Case& c : cases) {
         Send(c.status, c.data1, c.data2);
         EXPECT_EQ(loads(), c.loads) << c.what;

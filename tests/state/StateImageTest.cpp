@@ -10,13 +10,8 @@ namespace korvane {
 
 TEST(StateImage, EveryFieldHasItsPlace)
 {
-    struct Case {
-        const char* what;
-        std::function<void(GrooveEngine&)> set;
-        int offset;
-        Bytes bytes;
-    };
     // clang-format off
+    struct Case { const char* what; std::function<void(GrooveEngine&)> set; int offset; Bytes bytes; };
     const Case cases[] = {
         {"selected channel", [](auto& e) { e.selectedChannel = 12; },  4, {12}},
         {"selected bar",     [](auto& e) { e.selectedBar = 7; },       5, {7}},
@@ -72,15 +67,7 @@ TEST(StateImage, SavesWhatItLoads)
 TEST(StateImage, TakesWhatItCanOfADamagedImage)
 {
     constexpr int kThird = kPatternsAt + 2 * kEmptyPattern;
-    struct Case {
-        const char* what;
-        std::function<void(Bytes&)> damage;
-        bool accepted;
-        std::function<bool(GrooveEngine&)> holds;
-    };
-    const auto marked = [](GrooveEngine& e, int p) {
-        return e.patterns[static_cast<std::size_t>(p)]->steps[0][0] == 9u;
-    };
+    const auto marked = [](GrooveEngine& e, std::size_t p) { return e.patterns[p]->steps[0][0] == 9u; };
     const auto all = [&](GrooveEngine& e) { return marked(e, 0) && marked(e, 2) && marked(e, 7); };
     const auto allBut2 = [&](GrooveEngine& e) { return marked(e, 1) && !marked(e, 2) && marked(e, 3) && marked(e, 7); };
     const auto noPatterns = [&](GrooveEngine& e) { return !marked(e, 0) && e.storedParams[12][0] == 0.25f; };
@@ -92,6 +79,7 @@ TEST(StateImage, TakesWhatItCanOfADamagedImage)
         }
     };
     // clang-format off
+    struct Case { const char* what; std::function<void(Bytes&)> damage; bool accepted; std::function<bool(GrooveEngine&)> holds; };
     const Case cases[] = {
         {"as it is",               [](Bytes&) {}, true, all},
         {"wrong tag",              [](Bytes& b) { b[0] = 'x'; }, false,
@@ -153,19 +141,14 @@ TEST(StateImage, LoadsTheStepsUpToACut)
 
 TEST(StateImage, KeepsTheLocksThatActOfAListTooLong)
 {
-    struct Case {
-        const char* what;
-        int told, present, wild; // locks announced, there, and of these with an index that acts on nothing
-        int kept;
-    };
+    // clang-format off
+    // Locks announced, there, and of these with an index that acts on nothing.
+    struct Case { const char* what; int told, present, wild, kept; };
     const Case cases[] = {
-        {"full", 212, 212, 5, 212},
-        {"too long", 300, 300, 100, 200},
-        {"far too long", 32767, 400, 0, 212},
-        {"negative", -1, 0, 0, 0},
-        {"cut", 5, 2, 0, 5},
-        {"none", 0, 0, 0, 0},
+        {"full",     212, 212, 5, 212}, {"too long", 300, 300, 100, 200}, {"far too long", 32767, 400, 0, 212},
+        {"negative", -1,  0,   0, 0},   {"cut",      5,   2,   0,   5},   {"none",         0,     0,   0, 0},
     };
+    // clang-format on
     GrooveEngine engine;
     engine.ResetGroove();
     const Bytes empty = Saved(engine);
