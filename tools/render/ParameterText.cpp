@@ -149,9 +149,7 @@ bool InRange(double value) { return value >= 0.0 && value <= 1.0; }
 [[noreturn]] void Refuse(const ParameterInfo& parameter, const std::string& text)
 {
     std::vector<std::string> answers{"0 to 1"};
-    std::string unit = parameter.display == Display::Length ? std::string(" ") + kLengthUnit : "";
-    for (const Scale& scale : kScales)
-        if (scale.display == parameter.display && scale.shown == Unit::Unshown) unit = std::string(" ") + scale.unit;
+    const std::string unit = UnshownUnit(parameter.index);
     if (parameter.display == Display::Sync)
         for (const std::string& rate : SyncTexts()) answers.push_back(rate);
     else
@@ -161,6 +159,15 @@ bool InRange(double value) { return value >= 0.0 && value <= 1.0; }
 }
 
 } // namespace
+
+std::string UnshownUnit(int index)
+{
+    const Display display = kParameters.at(static_cast<std::size_t>(index)).display;
+    if (display == Display::Length) return std::string(" ") + kLengthUnit;
+    for (const Scale& scale : kScales)
+        if (scale.display == display && scale.shown == Unit::Unshown) return std::string(" ") + scale.unit;
+    return "";
+}
 
 float ParameterValue(int index, const std::string& text)
 {

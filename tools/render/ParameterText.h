@@ -11,4 +11,7 @@ namespace korvane::render {
 /// index  of the parameter
 float ParameterValue(int index, const std::string& text);
 
+/// What makes the text that the instrument shows unmistakable: a space and the unit that it leaves out, or nothing.
+std::string UnshownUnit(int index);
+
 } // namespace korvane::render

@@ -94,7 +94,7 @@ private:
         for (const auto& [name, text] : options.params) {
             const int index = host.FindParameter(name);
             host.SetParameter(index, ParameterValue(index, text));
-            std::printf("%s\n", host.ParameterText(index).c_str());
+            std::printf("%s%s\n", host.ParameterText(index).c_str(), UnshownUnit(index).c_str());
         }
         runFrames = Frames(transport ? options.bars.value_or(kBars) * 4 * 60.0 / TempoAt(0.0) : length);
         allFrames = runFrames + Frames(options.tailSeconds);
