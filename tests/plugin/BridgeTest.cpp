@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/vst2/AEffect.h"
+#include "shell/vst2/AudioEffectX.h"
 #include "support/ContentRoot.h"
 
 namespace korvane {
@@ -206,6 +206,17 @@ TEST_F(Bridge, AnswersItsRequests)
     ASSERT_EQ(calls.size(), 1u);
     EXPECT_EQ(calls[0].opcode, host_request::WantMidi);
     EXPECT_EQ(calls[0].value, 1);
+}
+
+TEST(AudioEffectX, TakesRateAndBlockSizeInOneRequest)
+{
+    struct Effect : AudioEffectX {
+        using AudioEffectX::AudioEffectX, AudioEffectX::blockSize, AudioEffectX::sampleRate;
+        void Process(float**, float**, std::int32_t) override {}
+    } effect(nullptr, 1, 154);
+    EXPECT_EQ(effect.Dispatch(request::SetBlockSizeAndSampleRate, 0, 64, nullptr, 22050.0f), 1);
+    EXPECT_EQ(effect.blockSize, 64);
+    EXPECT_EQ(effect.sampleRate, 22050.0f);
 }
 
 TEST_F(Bridge, FollowsTheHostsTime)
