@@ -258,6 +258,9 @@ TEST_F(RenderTest, WritesTheWholeHeader)
 
 TEST_F(RenderTest, WritesTheMixAndTheStems)
 {
+    const std::string silence = Write("silence.mid", kTwoTracks + Track(std::string("\0\xff\x2f\0", 4)) +
+                                                         Track(std::string("\0\xff\x2f\0", 4)));
+    EXPECT_EQ(Run("--midi " + silence + " --tail 0 --format 24 none.wav").status, 0) << "a file without a frame";
     const Answer answer = Run("--bars 1 --tail 0.5 --rate 48000 --format 24 --stems stems mix.wav");
     ASSERT_EQ(answer.status, 0) << answer.errors;
     EXPECT_NE(answer.output.find("Sampler 8"), std::string::npos);

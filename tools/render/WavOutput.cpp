@@ -24,7 +24,7 @@ bool CompleteFormat(const std::string& path)
     constexpr std::size_t kFormatSize = 16, kExtension = 36, kPad = 48, kPadSize = 52, kEnd = 56;
     std::array<char, kEnd + 2> head{};
     std::fstream file(path, std::ios::in | std::ios::out | std::ios::binary);
-    if (!file.read(head.data(), kEnd)) return false;
+    if (!file.read(head.data(), kEnd)) return file.eof();
     if (head[kFormatSize] != 16 || std::memcmp(&head[kPad], "PAD ", 4) != 0) return true;
     std::copy_backward(&head[kExtension], &head[kEnd], head.end());
     head[kExtension] = head[kExtension + 1] = 0;
