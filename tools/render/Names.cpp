@@ -23,8 +23,8 @@ bool BeginsWith(std::string_view text, std::string_view beginning)
 std::size_t Edits(std::string_view text, std::string_view name, bool anywhere)
 {
     const std::size_t width = name.size() + 1;
-    std::vector<std::size_t> before(width), above(width),
-        row(width); // of two letters ago, of the last one, of this one
+    std::vector<std::size_t> before(width), above(width); // the rows of two letters ago and of the last one
+    std::vector<std::size_t> row(width);
     if (!anywhere) std::iota(above.begin(), above.end(), 0u);
     const auto same = [&](std::size_t n, std::size_t k) { return Lower(text[n - 1]) == Lower(name[k - 1]); };
     for (std::size_t n = 1; n <= text.size(); ++n) {

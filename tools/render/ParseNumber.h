@@ -7,7 +7,7 @@
 
 namespace korvane::render {
 
-/// A number and what stands behind it, without the spaces around. None when the text does not begin with a number.
+/// A number and what stands behind it, without the spaces between. None when the text does not begin with a number.
 struct Quantity {
     double number;
     std::string_view unit;
