@@ -125,6 +125,9 @@ TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
     EXPECT_EQ(mistyped.errors, "there is no such groove\n");
     EXPECT_EQ(Run("play two words").status, 2);
     EXPECT_EQ(Run("play --help").status, 0);
+    fs::remove(house / "build/play.log");
+    fs::create_directory(house / "build/play.log");
+    EXPECT_TRUE(Has(Run("play").errors, "korvane: cannot write to " + (house / "build/play.log").string()));
 }
 
 // A server that only has its stand-in for a device would take the sound and nobody would hear it.
