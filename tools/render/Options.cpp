@@ -119,24 +119,25 @@ void TakeFiles(Options& options, const std::vector<std::string>& files)
 
 std::string HelpText()
 {
-    std::string text =
-        "korvane-render [OPTION]... [GROOVE] OUT.wav\n"
-        "Plays Korvane without a host and writes what it plays. GROOVE is a file, or a groove of the library by its\n"
-        "name or the beginning of it, in any case, with or without the number; without it the default groove "
-        "plays.\n\n";
+    std::string text = 1 + R"(
+korvane-render [OPTION]... [GROOVE] OUT.wav
+Plays Korvane without a host and writes what it plays. GROOVE is a file, or a groove of the library by its name or the
+beginning of it, in any case, with or without the number; without it the default groove plays.
+
+)";
     for (const Option& option : kOptions) {
         std::string left = std::string("  ") + option.name + (option.value ? std::string(" ") + option.value : "");
         left.resize(22, ' ');
         text += left + option.help + "\n";
     }
-    return text +
-           "\nA parameter's VALUE is a number from 0 to 1, or what the instrument shows, with its unit: \"-6 dB\", \"0 "
-           "st\",\n"
-           "1/4, LP, on. Most parameters act on the selected channel; \"CHANNEL 9: Synth 1=on\" selects another.\n"
-           "\nExamples:\n"
-           "  korvane-render --bars 16 --stems channels \"night drive\" mix.wav\n"
-           "  korvane-render --program \"Saw Bass\" --param \"Filter Type=HP\" --param \"CHN: Mix Level=-6 dB\" "
-           "note.wav\n";
+    return text + R"(
+A parameter's VALUE is a number from 0 to 1, or what the instrument shows, with its unit: "-6 dB", "0 st", 1/4, LP, on.
+Most parameters act on the selected channel; one of the thirteen set on, then off selects it: "CHANNEL 3: Sampler 3=on".
+
+Examples:
+  korvane-render --bars 16 --stems channels "night drive" mix.wav
+  korvane-render --program "Saw Bass" --param "Filter Type=HP" --param "CHN: Mix Level=-6 dB" note.wav
+)";
 }
 
 Options ParseOptions(int count, char** arguments)
