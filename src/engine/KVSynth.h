@@ -93,8 +93,8 @@ private:
     void RefreshEditor();
 
     Shared<bool> switchStates[param::HostCount]; // on/off of the last value written, per host parameter
-    Image sizedChunk;               // state at the last request for its size
-    Shared<bool> keyTrigger;        // a MIDI key drives a pad parameter
+    Image sizedChunk;                            // state at the last request for its size
+    Shared<bool> keyTrigger;                     // a MIDI key drives a pad parameter
 };
 
 } // namespace korvane

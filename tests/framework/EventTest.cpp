@@ -43,7 +43,7 @@ struct Listener : CSynthesizer {
     }
     void Say(const char* what, int a, int b)
     {
-        log.push_back(std::string(what) + " " + std::to_string(a) + (b ? " " + std::to_string(b) : ""));
+        log.push_back(std::string(what) + " " + std::to_string(a) + (b ? std::string(" ") + std::to_string(b) : ""));
     }
     void Send(std::uint8_t status, std::uint8_t data1, std::uint8_t data2 = 0, int frame = 0)
     {

@@ -1,4 +1,5 @@
 // Links from MIDI sources to parameters, pads, and the file in which links survive.
+#include <array>
 #include <gtest/gtest.h>
 
 #include "framework/ParameterTable.h"
@@ -95,7 +96,7 @@ TEST_F(MidiMapping, KeysPlayPadsAndNotes)
     Send(0x90, 71, 127), Send(0x90, 72, 127), Send(0x90, 47, 127);
     EXPECT_TRUE(engine.stepHeld[23]);
     EXPECT_EQ(Sounding(engine.Channel(8)), 4);
-    for (std::uint8_t key : {47, 48, 71, 72}) Send(0x80, key);
+    for (const std::uint8_t key : std::to_array<std::uint8_t>({47, 48, 71, 72})) Send(0x80, key);
     EXPECT_EQ(Sounding(engine.Channel(8)), 0);
     synth.SetParameter(param::Step1 + 2, 1.0f);
     EXPECT_EQ(engine.liveVelocity, 1.0f) << "pads of host and editor sound at full velocity";

@@ -1,11 +1,9 @@
 // Equaliser: gain of each band where it is centred.
 #include <gtest/gtest.h>
 
-#include "Signals.h"
+#include "fx/Signals.h"
 
-using namespace korvane;
-using namespace korvane::fxtest;
-
+namespace korvane {
 namespace {
 
 /// A unit of which only the equaliser works.
@@ -64,3 +62,4 @@ TEST(Equaliser, RingsAndEnds)
 }
 
 } // namespace
+} // namespace korvane

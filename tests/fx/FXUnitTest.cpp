@@ -7,11 +7,9 @@
 #include <limits>
 #include <numeric>
 
-#include "Signals.h"
+#include "fx/Signals.h"
 
-using namespace korvane;
-using namespace korvane::fxtest;
-
+namespace korvane {
 namespace {
 
 using Complex = std::complex<double>;
@@ -112,12 +110,13 @@ TEST(FXUnit, DecimatorHoldsForWholeFrames)
     for (const auto& [crush, period] : {std::pair{0.0f, 67}, {0.5f, 19}, {1.0f, 3}}) {
         Played unit(FxType::Decimator, crush, 1.0f);
         Sound sound(4000 + 30 * period);
-        for (int n = 0; n < sound.Frames(); ++n) sound.left[n] = n * 0.001f;
+        for (int n = 0; n < sound.Frames(); ++n) sound.left[n] = static_cast<float>(n) * 0.001f;
         unit.Run(sound);
         std::vector<int> jumps; // the lowpass spreads a jump over a few frames; its largest part tells
         for (int n = 4000; n < sound.Frames() - 1; ++n) {
             const auto step = [&](int at) { return std::fabs(sound.left[at] - sound.left[at - 1]); };
-            if (step(n) > 0.0005f * period && step(n) > step(n - 1) && step(n) >= step(n + 1)) jumps.push_back(n);
+            if (step(n) > 0.0005f * static_cast<float>(period) && step(n) > step(n - 1) && step(n) >= step(n + 1))
+                jumps.push_back(n);
         }
         ASSERT_GE(jumps.size(), 20u) << crush;
         for (std::size_t n = 1; n < jumps.size(); ++n) EXPECT_EQ(jumps[n] - jumps[n - 1], period) << crush;
@@ -247,7 +246,8 @@ TEST(FXUnit, PumpDropsAtEachPeriod)
     for (int period = 1; period < 5; ++period) {
         const auto from = sound.left.begin() + period * 12000 - 1000;
         const auto lowest = std::min_element(from, from + 12000);
-        EXPECT_NEAR(lowest - from, 1000 + 1070, 30) << period; // the smoothed drop meets the return
+        EXPECT_NEAR(static_cast<double>(lowest - from), 1000 + 1070, 30)
+            << period; // the smoothed drop meets the return
         EXPECT_LT(*lowest, 0.05f);
         EXPECT_GT(from[0], 0.99f);
     }
@@ -380,3 +380,4 @@ TEST(FXUnit, BlockLengthDoesNotMatter)
 }
 
 } // namespace
+} // namespace korvane

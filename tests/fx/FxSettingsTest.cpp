@@ -5,8 +5,7 @@
 
 #include "engine/FxSettings.h"
 
-using namespace korvane;
-
+namespace korvane {
 namespace {
 
 struct Rack {
@@ -98,3 +97,4 @@ TEST(SyncLfo, PutsThePhaseWhereTheSongIs)
 }
 
 } // namespace
+} // namespace korvane

@@ -5,12 +5,10 @@
 #include <string>
 #include <vector>
 
-#include "Signals.h"
 #include "engine/fxReverb.h"
+#include "fx/Signals.h"
 
-using namespace korvane;
-using namespace korvane::fxtest;
-
+namespace korvane {
 namespace {
 
 TEST(Reverb, StartsWithItsDefaultProgram)
@@ -273,3 +271,4 @@ TEST(Reverb, MetersPeaksAndClips)
 }
 
 } // namespace
+} // namespace korvane

@@ -8,7 +8,7 @@
 
 #include "engine/FXUnit.h"
 
-namespace korvane::fxtest {
+namespace korvane {
 
 constexpr float kRate = 48000.0f, kTempo = 120.0f;
 constexpr int kBlock = 128;
@@ -84,4 +84,4 @@ inline double Rms(const std::vector<float>& samples, int from, int to)
 
 inline double Decibels(double ratio) { return 20.0 * std::log10(ratio); }
 
-} // namespace korvane::fxtest
+} // namespace korvane

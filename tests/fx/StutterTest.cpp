@@ -1,13 +1,13 @@
 // Stutter: buttons into codes, codes into settings, the loop itself.
 #include <gtest/gtest.h>
 
-#include "Signals.h"
 #include "engine/FxSettings.h"
 #include "engine/StutterButtons.h"
+#include <array>
 
-using namespace korvane;
-using namespace korvane::fxtest;
+#include "fx/Signals.h"
 
+namespace korvane {
 namespace {
 
 // Digits press buttons 1 to 5, letters a to e release them.
@@ -53,7 +53,7 @@ TEST(SetStutter, SetsLengthAndDirection)
         EXPECT_EQ(unit.reverse, c.reverse) << c.code;
         EXPECT_EQ(unit.bypass, 0) << c.code;
     }
-    for (std::int8_t code : {0, 10, -128}) {
+    for (std::int8_t code : std::to_array<std::int8_t>({0, 10, -128})) {
         unit.bypass = 0;
         SetStutter(unit, code);
         EXPECT_EQ(unit.bypass, 1);
@@ -111,3 +111,4 @@ TEST(Stutter, StaysInsideItsRecording)
 }
 
 } // namespace
+} // namespace korvane

@@ -4,12 +4,10 @@
 #include <cmath>
 #include <limits>
 
-#include "Signals.h"
 #include "engine/MFXTapeDelay.h"
+#include "fx/Signals.h"
 
-using namespace korvane;
-using namespace korvane::fxtest;
-
+namespace korvane {
 namespace {
 
 // A frame comes back when the tape is where it was recorded: one loop and the frame in which it was written later.
@@ -104,3 +102,4 @@ TEST(TapeDelay, ClearForgetsEverything)
 }
 
 } // namespace
+} // namespace korvane

@@ -150,15 +150,15 @@ TEST_F(Bridge, AnswersWhileItIsMade)
         const std::intptr_t size = ask(request::GetChunk, 0, 0, &chunk);
         EXPECT_EQ(ask(request::SetChunk, 0, size, chunk), size);
         std::vector<float> sound(64, 9.0f);
-        std::array<float*, 28> outputs{};
-        outputs.fill(sound.data());
-        made->processReplacing(made, nullptr, outputs.data(), 64);
+        std::array<float*, 28> pointers{};
+        pointers.fill(sound.data());
+        made->processReplacing(made, nullptr, pointers.data(), 64);
         EXPECT_EQ(std::count(sound.begin(), sound.end(), 0.0f), 64) << "a switch is on: silence";
     };
     Open();
     ASSERT_TRUE(effect);
     for (const Call& call : calls)
-        if (call.opcode == host_request::Automate) EXPECT_EQ(call.effect, effect);
+        if (call.opcode == host_request::Automate) { EXPECT_EQ(call.effect, effect); }
 }
 
 TEST_F(Bridge, AnswersItsRequests)
@@ -275,7 +275,7 @@ TEST_F(Bridge, SurvivesItsHost)
         Render(frames);
         for (const auto& output : outputs) {
             EXPECT_EQ(output.back(), 9.0f) << "written behind the end of " << frames;
-            if (frames > 0) EXPECT_EQ(std::count(output.begin(), output.end(), 9.0f), 1);
+            if (frames > 0) { EXPECT_EQ(std::count(output.begin(), output.end(), 9.0f), 1); }
         }
     }
     effect->processReplacing(effect, nullptr, nullptr, 256);

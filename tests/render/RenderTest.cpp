@@ -251,7 +251,7 @@ TEST_F(RenderTest, WritesTheWholeHeader)
     std::string chunks;
     for (std::size_t at = 12; at + 8 <= bytes.size(); at += 8 + word(at + 4)) {
         chunks += bytes.substr(at, 4);
-        if (bytes.compare(at, 4, "fmt ") == 0) EXPECT_EQ(word(at + 4), 18u);
+        if (bytes.compare(at, 4, "fmt ") == 0) { EXPECT_EQ(word(at + 4), 18u); }
     }
     EXPECT_EQ(chunks, "fmt factPAD data");
 }

@@ -1,10 +1,11 @@
 // Channel chunks and part images.
 #include <gtest/gtest.h>
 
-#include "Images.h"
 #include "framework/ParameterTable.h"
+#include "state/Images.h"
 
 namespace korvane {
+namespace {
 
 // A chunk is read front to back: what stands before the cut is taken, the rest is the reset channel's.
 TEST(ChannelChunk, EndsWhereItIsCut)
@@ -119,4 +120,5 @@ TEST(PartImage, TakesWhatItCanOfADamagedPart)
     }
 }
 
+} // namespace
 } // namespace korvane

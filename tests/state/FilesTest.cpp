@@ -3,11 +3,10 @@
 
 #include <filesystem>
 
-#include "Images.h"
+#include "state/Images.h"
 #include "support/SynthRig.h"
 
 namespace korvane {
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -17,8 +16,6 @@ constexpr char kWaveText[] = "RIFF\46\0\0\0WAVEfmt \20\0\0\0\1\0\1\0\104\254\0\0
 const Bytes kWave(kWaveText, kWaveText + sizeof kWaveText);
 
 using Files = SynthTest;
-
-} // namespace
 
 TEST_F(Files, GroovesNameTheGroove)
 {
@@ -158,4 +155,5 @@ TEST_F(Files, ChunksNeverOutgrowTheSizeTheHostWasTold)
     EXPECT_TRUE(before == Saved(engine));
 }
 
+} // namespace
 } // namespace korvane

@@ -57,8 +57,9 @@ inline void FillGroove(GrooveEngine& engine, unsigned seed)
     for (auto& pattern : engine.patterns)
         for (int n = 0; n < 60; ++n) {
             const int c = below(13), step = below(128);
-            pattern->steps[c][step] = random();
-            for (int k = below(5); k > 0; --k) pattern->locks[c][step].Append(below(400) - 100, 0.001f * below(1000));
+            pattern->steps[c][step] = static_cast<std::uint32_t>(random());
+            for (int k = below(5); k > 0; --k)
+                pattern->locks[c][step].Append(below(400) - 100, 0.001f * static_cast<float>(below(1000)));
         }
 }
 

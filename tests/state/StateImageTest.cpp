@@ -4,9 +4,10 @@
 #include <cmath>
 #include <functional>
 
-#include "Images.h"
+#include "state/Images.h"
 
 namespace korvane {
+namespace {
 
 TEST(StateImage, EveryFieldHasItsPlace)
 {
@@ -187,4 +188,5 @@ TEST(StateImage, SurvivesFlippedBytes)
     }
 }
 
+} // namespace
 } // namespace korvane

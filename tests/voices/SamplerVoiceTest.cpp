@@ -8,8 +8,7 @@
 #include "engine/SamplerVoice.h"
 #include "voices/VoiceRig.h"
 
-using namespace korvane;
-
+namespace korvane {
 namespace {
 
 constexpr double kScale = 0.005, kPi = 3.14159265358979;
@@ -66,8 +65,6 @@ struct PlainLayer {
 
 float Wobble(int c, int i) { return std::sin(0.02f * static_cast<float>(i + 40 * c)); }
 
-} // namespace
-
 TEST(SamplerVoice, PlaysALayerAsItIsSet)
 {
     // clang-format off
@@ -120,7 +117,8 @@ TEST(SamplerVoice, FiltersAsOneSectionAfterTheOther)
             filters.b0[lane] = lane < 2 ? 0.7f : 0.2f;
             filters.a1[lane] = lane < 2 ? -1.2f : -0.9f;
             filters.a2[lane] = lane < 2 ? 0.45f : 0.3f;
-            sections[lane] = {filters.b0[lane], filters.a1[lane], filters.a2[lane], lane < 2 ? -2.0f : 2.0f};
+            sections[lane] = {
+                filters.b0[lane], filters.a1[lane], filters.a2[lane], lane < 2 ? -2.0f : 2.0f, 0.0f, 0.0f, 0.0f, 0.0f};
         }
         for (int run = 0; run < 3; ++run) {
             std::vector<float> stereo, expected;
@@ -168,3 +166,6 @@ TEST(SamplerVoice, EndsWhenNoLayerCanPlay)
         EXPECT_EQ(rig.Last().gain, -1.0f);
     }
 }
+
+} // namespace
+} // namespace korvane

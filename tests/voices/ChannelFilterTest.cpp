@@ -6,8 +6,7 @@
 #include "engine/VoiceFilter.h"
 #include "voices/VoiceRig.h"
 
-using namespace korvane;
-
+namespace korvane {
 namespace {
 
 struct Mixer {
@@ -64,8 +63,6 @@ void FilterPlainly(ChannelVoice& voice, int type, const CutoffPair* table, float
     }
 }
 
-} // namespace
-
 TEST(ChannelFilter, VectorsGiveTheBitsOfThePlainForm)
 {
     std::vector<int> lengths = {31, 32, 33, 128, 512};
@@ -97,8 +94,11 @@ TEST(ChannelFilter, VectorsGiveTheBitsOfThePlainForm)
                 ASSERT_EQ(std::vector<float>(left, left + kMaxRun), mixes[c][0]) << voices << " voices, " << frames;
                 ASSERT_EQ(std::vector<float>(right, right + kMaxRun), mixes[c][1]) << voices << " voices, " << frames;
                 for (auto& voice : mixer.channels[c]->voices)
-                    if (voice->active) ASSERT_EQ(StateOf(*voice), *state++);
+                    if (voice->active) { ASSERT_EQ(StateOf(*voice), *state++); }
             }
         }
     }
 }
+
+} // namespace
+} // namespace korvane

@@ -9,8 +9,7 @@
 #include "engine/SynthVoice.h"
 #include "voices/VoiceRig.h"
 
-using namespace korvane;
-
+namespace korvane {
 namespace {
 
 /// The loop as it reads: frame by frame, unison voice by unison voice, one draw after the other.
@@ -72,8 +71,6 @@ double Frequency(const std::vector<float>& signal, double hertz)
         std::arg(Line(&signal[half], half, hertz) / Line(&signal[0], half, hertz) * std::polar(1.0, -expected));
     return hertz * (1 + turn / expected);
 }
-
-} // namespace
 
 TEST(SynthVoice, TheLoopGivesTheBitsOfItsPlainForm)
 {
@@ -246,3 +243,6 @@ TEST(SynthVoice, StartsItsPhasesAsAsked)
         EXPECT_EQ(voice.phases[u].sync, voice.phases[u].osc1);
     }
 }
+
+} // namespace
+} // namespace korvane

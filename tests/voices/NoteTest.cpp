@@ -5,8 +5,7 @@
 
 #include "voices/VoiceRig.h"
 
-using namespace korvane;
-
+namespace korvane {
 namespace {
 
 float Constant(int, int) { return 0.5f; }
@@ -25,8 +24,6 @@ struct SynthRig : VoiceRig {
         return notes;
     }
 };
-
-} // namespace
 
 TEST(Notes, TakeTheLastFreeVoiceThenTheOldestOne)
 {
@@ -276,3 +273,6 @@ TEST(Modulation, RecoversFromWildParameters)
             }
     }
 }
+
+} // namespace
+} // namespace korvane
