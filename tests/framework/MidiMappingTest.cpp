@@ -1,6 +1,7 @@
 // Links from MIDI sources to parameters, pads, and the file in which links survive.
-#include <array>
 #include <gtest/gtest.h>
+
+#include <array>
 
 #include "framework/ParameterTable.h"
 #include "support/SynthRig.h"

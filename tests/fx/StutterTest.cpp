@@ -1,10 +1,10 @@
 // Stutter: buttons into codes, codes into settings, the loop itself.
 #include <gtest/gtest.h>
 
-#include "engine/FxSettings.h"
-#include "engine/StutterButtons.h"
 #include <array>
 
+#include "engine/FxSettings.h"
+#include "engine/StutterButtons.h"
 #include "fx/Signals.h"
 
 namespace korvane {
