@@ -9,8 +9,9 @@
 namespace korvane {
 
 /// One lock: while its step plays, channel parameter `param` is its stored value plus `offset`, clamped to 0..1.
-/// Indices outside 0..211 come only from images; they are kept and act on nothing.
-struct StepLock {
+/// Indices outside 0..211 come only from images; they are kept and act on nothing. Aligned so that every compiler
+/// reads and writes it with one instruction.
+struct alignas(8) StepLock {
     std::int32_t param;
     float offset;
 };

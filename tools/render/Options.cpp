@@ -119,8 +119,7 @@ void TakeFiles(Options& options, const std::vector<std::string>& files)
 
 std::string HelpText()
 {
-    std::string text = 1 + R"(
-korvane-render [OPTION]... [GROOVE] OUT.wav
+    std::string text = R"(korvane-render [OPTION]... [GROOVE] OUT.wav
 Plays Korvane without a host and writes what it plays. GROOVE is a file, or a groove of the library by its name or the
 beginning of it, in any case, with or without the number; without it the default groove plays.
 
