@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by play and test: the packages of a fresh Debian 12, and the build.
+# Sourced by play and test: the packages of a fresh Debian 12, and the build of a preset.
 root=$(dirname "$(dirname "$(realpath "${BASH_SOURCE[0]}")")")
 log=$root/build/$(basename "$0").log
 packages=(g++ cmake make pkg-config libsndfile1-dev)
@@ -55,11 +55,17 @@ prepare() {
   fi
 }
 
-configure() {
-  cmake -S "$root" -B "$root/build" -DCMAKE_BUILD_TYPE=Release -DKORVANE_WERROR="${KORVANE_WERROR:-OFF}" "$@"
+# Where a preset is built.
+folder() {
+  case $1 in release) echo "$root/build" ;; *) echo "$root/build-$1" ;; esac
 }
 
-# Builds the targets that are named.
+# Configures the preset that is named; further words go to cmake.
+configure() {
+  cmake -S "$root" --preset "$@" ${KORVANE_WERROR:+-DKORVANE_WERROR="$KORVANE_WERROR"}
+}
+
+# Builds of a preset the targets that are named.
 build() {
-  cmake --build "$root/build" -j "$(nproc)" --target "$@"
+  cmake --build "$(folder "$1")" -j "$(nproc)" --target "${@:2}"
 }
