@@ -51,6 +51,15 @@ Float4 Read(const float* table, Word4 phase)
     return values;
 }
 
+/// The first `count` of four numbers, the rest 0: what lies behind the run is nobody's.
+Float4 LoadUpTo(const float* from, int count)
+{
+    if (count >= kLanes) return Load<Float4>(from);
+    Float4 values{};
+    for (int lane = 0; lane < count; ++lane) values[lane] = from[lane];
+    return values;
+}
+
 Word4 PhasesOf(Float4 quarterCycles)
 {
     const Float4 steps = (quarterCycles + kPhaseBias) * kPhaseSteps;
@@ -97,7 +106,7 @@ void Render(const UnisonMix& mix, const UnisonTuning& tuning, const float* modAm
 
     for (int n = 0; n < frames; n += kLanes) {
         const int groupFrames = std::min(kLanes, frames - n);
-        const Float4 amount = Load<Float4>(modAmount + n);
+        const Float4 amount = LoadUpTo(modAmount + n, groupFrames);
         Float4 mixLeft{}, mixRight{};
         for (int u = 0; u < count; ++u) {
             Unison& voice = unison[u];

@@ -48,7 +48,7 @@ inline constexpr float kPhaseLimit = 2147483520.0f; // what int32 holds; only pa
 /// fraction of a table step is added to the phase of every read instead, so that the error turns into noise. Each
 /// unison voice draws four numbers per frame, frame after frame, unison voice after unison voice: for oscillator 2,
 /// oscillator 1, oscillator 3 and the noise.
-/// modAmount    of each frame
+/// modAmount    of each frame; nothing behind the last one is read
 /// phases       of the unison voices, moved on by the run
 /// left, right  kMaxRun floats, aligned to 64 bytes; up to the next multiple of 4 frames is overwritten
 void RenderUnison(const UnisonMix& mix, const UnisonTuning& tuning, const float* modAmount, UnisonPhases* phases,
