@@ -55,7 +55,7 @@ public:
 
     bool AnyVoiceActive() const;
 
-    Shared<float> params[kChannelSlots]; // working block, step locks applied, always finite; any thread writes
+    Shared<float> params[kChannelSlots]; // working block, step locks applied, -1000..1000; any thread writes
     bool isSampler = false;              // fixed before the first block
     std::array<SampleSlot, kSampleSlots> sampleSlots; // 0..2 oscillator waveforms, 3..6 layer samples
     SharedText<512> programPath;                      // last program file saved from or loaded into the channel

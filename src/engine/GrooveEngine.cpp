@@ -31,6 +31,14 @@ void Fill(Shared<T> (&values)[kCount], V value)
     for (auto& entry : values) entry = static_cast<T>(value);
 }
 
+/// What may render. Values far outside 0..1 come from images and hosts; powers of them must not overflow before the
+/// mixer, and what they ask for is beyond every end of its range at a thousand already.
+float Tame(float value)
+{
+    constexpr float kWildest = 1000.0f;
+    return std::isfinite(value) ? Clamp(value, -kWildest, kWildest) : 0.0f;
+}
+
 } // namespace
 
 GrooveEngine::GrooveEngine(const Shared<std::thread::id>* newBlockThread)
@@ -139,7 +147,7 @@ void GrooveEngine::RefreshChannel(int channel, bool withLocks)
         std::copy(std::begin(seen), std::end(seen), block);
         if (withLocks && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
         for (int i = 0; i < kChannelSlots; ++i)
-            Channel(channel).params[i] = std::isfinite(block[i]) ? block[i] : 0.0f; // wild values stay in `stored`
+            Channel(channel).params[i] = Tame(block[i]); // wild values stay in `stored`
         if (lastStep[channel] == step && !moved(seen)) break;
     }
     RefreshFxActive(channel);
