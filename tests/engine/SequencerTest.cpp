@@ -27,7 +27,7 @@ struct Sequencer : testing::Test {
     /// Renders until the next regular tick has been taken.
     void NextStep()
     {
-        while (engine.samplesToNextStep >= 1.0) Run(1);
+        Run(static_cast<int>(engine.samplesToNextStep));
         Run(1);
     }
     Shared<std::uint32_t>& Step(int channel, int step, int pattern = 0)

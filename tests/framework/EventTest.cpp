@@ -3,7 +3,7 @@
 
 #include <array>
 #include <atomic>
-#include <chrono>
+#include <functional>
 #include <string>
 #include <thread>
 #include <vector>
@@ -34,12 +34,10 @@ struct Listener : CSynthesizer {
     void ChannelPressureChanged() override { Say("pressure", static_cast<int>(channelPressure * 127.0 + 0.5), 0); }
     void ProgramChangeReceived(int program) override { Say("program", program, 0); }
     bool BankSelectReceived(int bank) override { return Say("bank", bank, 0), bank != 5; }
-    void ProcessMultiOut(float**, float** outputs, int frames) override
+    void ProcessMultiOut(float**, float**, int frames) override
     {
         Say("render", frames, 0);
-        if (outputs[0]) outputs[0][0] += 1.0f;
-        stalled = stall.load();
-        while (stall) std::this_thread::yield();
+        if (duringBlock) duringBlock();
     }
     void Say(const char* what, int a, int b)
     {
@@ -58,7 +56,7 @@ struct Listener : CSynthesizer {
 
     Log log;
     int controllerCalls = 0;
-    std::atomic<bool> stall{false}, stalled{false};
+    std::function<void()> duringBlock;
 };
 
 /// What the log holds when a block of one frame is rendered after `log`.
@@ -177,16 +175,24 @@ TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
     }
     EXPECT_EQ(synth.Play(2), (Log{"note 60 1", "render 2"}));
 
-    synth.stall = true;
-    std::thread audio([&] { synth.ProcessBlock(nullptr, outputs.data(), 64, true); });
-    while (!synth.stalled) std::this_thread::yield();
-    std::atomic<bool> switched{false};
-    std::thread host([&] { synth.SetProgram(3), switched = true; });
-    std::this_thread::sleep_for(std::chrono::milliseconds(30));
-    EXPECT_FALSE(switched);
-    synth.stall = false;
-    audio.join();
+    // A block within a block does nothing, except that it silences its outputs once a switch is waiting.
+    std::atomic<bool> rendering{false}, switched{false};
+    bool switchedTooEarly = false;
+    synth.duringBlock = [&] {
+        rendering = true;
+        for (buffer[0] = 1.0f; buffer[0] != 0.0f; std::this_thread::yield())
+            synth.ProcessBlock(nullptr, outputs.data(), 1, true);
+        for (int n = 0; n < 5000 && !switched; ++n) std::this_thread::yield();
+        switchedTooEarly = switched;
+    };
+    std::thread host([&] {
+        while (!rendering) std::this_thread::yield();
+        synth.SetProgram(3);
+        switched = true;
+    });
+    synth.Play(64);
     host.join();
+    EXPECT_FALSE(switchedTooEarly);
     EXPECT_TRUE(switched);
     EXPECT_EQ(synth.CurrentProgram(), 0);
 }

@@ -3,11 +3,12 @@
 
 #include <array>
 
-#include "framework/ParameterTable.h"
-#include "support/SynthRig.h"
+#include "support/Stage.h"
 
 namespace korvane {
 namespace {
+
+constexpr int kWheel = 128, kFirstKey = 129; // sources after the controllers
 
 class MidiMapping : public SynthTest {
 protected:
@@ -35,29 +36,29 @@ TEST_F(MidiMapping, LinksDriveParameters)
 
     Send(0xB0, 7, 10);
     EXPECT_EQ(SourceText(), "CC 7");
-    LinkTo(80);
+    LinkTo(Knob(slot::MixLevel));
     EXPECT_EQ(ParameterText(), "CHN: Mix Level");
     host.told = 0;
     Send(0xB0, 7, 127);
-    EXPECT_EQ(synth.GetParameter(80), 1.0f);
+    EXPECT_EQ(synth.GetParameter(Knob(slot::MixLevel)), 1.0f);
     EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
 
     Send(0xE0, 0, 0);
     EXPECT_EQ(SourceText(), "Pitch Wheel");
-    LinkTo(81);
+    LinkTo(Knob(slot::Panning));
     Send(0xE0, 0, 0);
-    EXPECT_EQ(synth.GetParameter(81), -1.0f);
+    EXPECT_EQ(synth.GetParameter(Knob(slot::Panning)), -1.0f);
     EXPECT_EQ(synth.engine->livePitchBend, -1.0f);
 
     Send(0x90, 60, 127);
     EXPECT_EQ(SourceText(), "Key 60 Velocity");
-    LinkTo(92);
+    LinkTo(Knob(slot::FilterCutoff));
     Send(0x80, 60, 0);
-    EXPECT_EQ(synth.GetParameter(92), 0.0f) << "a release writes 0";
+    EXPECT_EQ(synth.GetParameter(Knob(slot::FilterCutoff)), 0.0f) << "a release writes 0";
     Send(0x90, 60, 127);
-    EXPECT_EQ(synth.GetParameter(92), 1.0f);
+    EXPECT_EQ(synth.GetParameter(Knob(slot::FilterCutoff)), 1.0f);
     synth.Link(false);
-    EXPECT_EQ(synth.links[129 + 60], -1);
+    EXPECT_EQ(synth.links[kFirstKey + 60], -1);
 
     Send(0xB0, 1, 127);
     EXPECT_EQ(synth.engine->liveModWheel, 1.0f);
@@ -72,14 +73,14 @@ TEST_F(MidiMapping, PulsesFireTriggers)
     Send(0xE0, 1, 1);
     LinkTo(param::FilterTypeSwitch);
     synth.SetIgnoreValue(true);
-    EXPECT_EQ(synth.ignoreValue[128], 0) << "only controllers can be pulses";
+    EXPECT_EQ(synth.ignoreValue[kWheel], 0) << "only controllers can be pulses";
     synth.Link(false);
     Send(0xB0, 20, 0);
     LinkTo(param::FilterTypeSwitch);
     synth.SetIgnoreValue(true);
     for (const float expected : {0.5f, 1.0f, 0.0f}) {
         Send(0xB0, 20, 64);
-        EXPECT_EQ(synth.GetParameter(95), expected);
+        EXPECT_EQ(synth.GetParameter(Knob(slot::FilterType)), expected);
     }
     synth.Link(false);
     EXPECT_EQ(synth.ignoreValue[20], 0);
@@ -106,7 +107,7 @@ TEST_F(MidiMapping, KeysPlayPadsAndNotes)
 TEST_F(MidiMapping, LinksSurviveInTheirFile)
 {
     Send(0xB0, 7, 10);
-    LinkTo(80);
+    LinkTo(Knob(slot::MixLevel));
     Synth().SetIgnoreValue(true);
     Close();
     std::vector<std::uint8_t> file = ReadBytes(root / "linkmap");
@@ -116,7 +117,7 @@ TEST_F(MidiMapping, LinksSurviveInTheirFile)
     EXPECT_EQ(file[16], 0xFF);
     EXPECT_EQ(file[514 + 7], 1);
     Send(0xB0, 7, 127);
-    EXPECT_EQ(Synth().links[7], 80);
+    EXPECT_EQ(Synth().links[7], Knob(slot::MixLevel));
     EXPECT_EQ(Synth().ignoreValue[7], 1);
     Close();
     EXPECT_EQ(ReadBytes(root / "linkmap"), file);
