@@ -86,24 +86,6 @@ TEST_F(MidiMapping, PulsesFireTriggers)
     EXPECT_EQ(synth.ignoreValue[20], 0);
 }
 
-// Two octaves press the pads at the key's velocity; every other key plays the selected channel.
-TEST_F(MidiMapping, KeysPlayPadsAndNotes)
-{
-    KVSynth& synth = Synth();
-    GrooveEngine& engine = *synth.engine;
-    Send(0x90, 48, 100);
-    EXPECT_TRUE(engine.stepHeld[0]);
-    EXPECT_EQ(engine.liveVelocity, 100 / 127.0f);
-    EXPECT_EQ(synth.GetParameter(param::Step1), 100 / 127.0f);
-    Send(0x90, 71, 127), Send(0x90, 72, 127), Send(0x90, 47, 127);
-    EXPECT_TRUE(engine.stepHeld[23]);
-    EXPECT_EQ(Sounding(engine.Channel(8)), 4);
-    for (const std::uint8_t key : std::to_array<std::uint8_t>({47, 48, 71, 72})) Send(0x80, key);
-    EXPECT_EQ(Sounding(engine.Channel(8)), 0);
-    synth.SetParameter(param::Step1 + 2, 1.0f);
-    EXPECT_EQ(engine.liveVelocity, 1.0f) << "pads of host and editor sound at full velocity";
-}
-
 TEST_F(MidiMapping, LinksSurviveInTheirFile)
 {
     Send(0xB0, 7, 10);

@@ -95,9 +95,6 @@ TEST_F(Parameters, ActByTheirKind)
     EXPECT_TRUE(Engine().playing) << "a follower compares with the engine";
     synth.SetParameter(param::PlayBar, 1.0f), synth.SetParameter(param::PlayBar, 1.0f);
     EXPECT_FALSE(Engine().playBar) << "any write ends the bar loop";
-    synth.SetParameter(param::Enable1 + 3, 0.0f);
-    EXPECT_TRUE(Engine().muted[3]);
-    EXPECT_EQ(synth.GetParameter(param::Enable1 + 3), 0.0f);
 
     synth.SetParameter(param::EnvelopeNumber, 0.99f);
     EXPECT_EQ(synth.GetParameter(param::EnvelopeNumber), 0.0f);
