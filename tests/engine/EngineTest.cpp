@@ -42,12 +42,16 @@ TEST_F(EngineTest, EditedStepTakesLocks)
     engine.SetChannelParameter(slot::FilterCutoff, 0.3f);
     engine.editStep = 5;
     engine.selectedBar = 2;
+    engine.SetChannelParameter(slot::Panning, 1.0f);
     engine.SetChannelParameter(slot::FilterCutoff, 0.5f);
+    engine.SetChannelParameter(slot::FilterResonance, 0.25f);
     EXPECT_EQ(engine.storedParams[8][slot::FilterCutoff], 0.3f);
     EXPECT_FLOAT_EQ(engine.Pattern().locks[8][2 * 16 + 5].Offset(slot::FilterCutoff), 0.2f);
     EXPECT_FLOAT_EQ(engine.GetChannelParameter(slot::FilterCutoff), 0.5f);
     engine.SetChannelParameter(slot::FilterCutoff, 0.3f);
-    EXPECT_EQ(engine.Pattern().locks[8][2 * 16 + 5].Count(), 0);
+    EXPECT_EQ(engine.Pattern().locks[8][2 * 16 + 5].Count(), 2);
+    EXPECT_EQ(engine.GetChannelParameter(slot::Panning), 1.0f);
+    EXPECT_EQ(engine.GetChannelParameter(slot::FilterResonance), 0.25f);
 }
 
 // Wild values stay in the stored block; what renders is finite.

@@ -67,7 +67,7 @@ TEST_F(Live, KeysAndPedal)
         {"sustained",   kNoteOff,    47,      0,   kHalf},          {"pedal up",      kController, 64,      0,   0.0f},
         {"pad",         kNoteOn,     48,      64,  kHalf},          {"last pad",      kNoteOn,     71,      127, 1.0f + kHalf},
         {"pad let go",  kNoteOff,    48,      0,   1.0f},           {"last let go",   kNoteOff,    71,      0,   0.0f},
-        {"key again",   kNoteOn,     kAnyKey, 127, 1.0f},           {"all notes off", kController, 123,     0,   0.0f},
+        {"pad again",   kNoteOn,     71,      127, 1.0f},           {"all notes off", kController, 123,     0,   0.0f},
     };
     // clang-format on
     Queue(kNoteOn, kAnyKey, 127);

@@ -154,14 +154,15 @@ TEST_F(Sequencer, CopiesPastesAndClears)
 TEST_F(Sequencer, NudgesHeldSteps)
 {
     Select(1);
-    Step(1, 0) = 1u, Step(1, 1) = 2u, Step(1, 15) = 0x8000u, Locks(1, 1).Set(5, 0.5f);
-    engine.stepHeld[1] = engine.stepHeld[15] = true;
+    Step(1, 0) = 1u, Step(1, 1) = 2u, Step(1, 2) = 4u, Step(1, 15) = 0x8000u, Locks(1, 1).Set(5, 0.5f);
+    engine.stepHeld[1] = engine.stepHeld[2] = engine.stepHeld[15] = true;
     engine.Forward();
     EXPECT_EQ(Step(1, 2), 4u);
+    EXPECT_EQ(Step(1, 3), 8u);
     EXPECT_EQ(Locks(1, 2).Offset(5), 0.5f);
     EXPECT_EQ(Step(1, 1), 0u);
     EXPECT_EQ(Step(1, 15), 0x8000u) << "the bar's edge holds it";
-    engine.stepHeld[1] = engine.stepHeld[15] = false;
+    engine.stepHeld[1] = engine.stepHeld[2] = engine.stepHeld[15] = false;
     engine.stepHeld[0] = true;
     engine.Back();
     EXPECT_EQ(Step(1, 0), 1u);

@@ -156,6 +156,15 @@ TEST(Controllers, ReachTheirNotification)
     EXPECT_EQ(synth.controllers[20], 0.0);
 }
 
+TEST(Tempo, IsAtLeastOne)
+{
+    Listener synth;
+    for (const auto& [asked, tempo] : {std::pair{0.5, 1.0}, {240.0, 240.0}, {-5.0, 1.0}}) {
+        synth.SetTempo(asked);
+        EXPECT_EQ(synth.tempo, tempo);
+    }
+}
+
 // While a switch waits, blocks are skipped: silent in replacing mode, untouched else, and their events wait.
 TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
 {

@@ -41,7 +41,6 @@ TEST_F(MidiMapping, LinksDriveParameters)
     host.told = 0;
     Send(0xB0, 7, 127);
     EXPECT_EQ(synth.GetParameter(Knob(slot::MixLevel)), 1.0f);
-    EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
 
     Send(0xE0, 0, 0);
     EXPECT_EQ(SourceText(), "Pitch Wheel");
@@ -57,6 +56,8 @@ TEST_F(MidiMapping, LinksDriveParameters)
     EXPECT_EQ(synth.GetParameter(Knob(slot::FilterCutoff)), 0.0f) << "a release writes 0";
     Send(0x90, 60, 127);
     EXPECT_EQ(synth.GetParameter(Knob(slot::FilterCutoff)), 1.0f);
+    EXPECT_EQ(synth.engine->Channel(8).voiceCounter, 1u) << "once linked, it plays no pad";
+    EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
     synth.Link(false);
     EXPECT_EQ(synth.links[kFirstKey + 60], -1);
 

@@ -17,6 +17,13 @@ protected:
         return Written([&](char* text) { Synth().GetParameterDisplay(index, text); });
     }
     GrooveEngine& Engine() { return *Synth().engine; }
+    /// Envelope and LFO 2, layer 4, effect 5.
+    void ChooseLastPages()
+    {
+        for (const int page : {+param::EnvelopeNumber, +param::LfoNumber, +param::LayerNumber, param::Fx1 + 4})
+            Synth().SetParameter(page, 1.0f);
+        Synth().SetParameter(param::Fx1 + 4, 0.0f);
+    }
 };
 
 // Published names keep their spelling; what has none is "unknown".
@@ -113,23 +120,24 @@ TEST_F(Parameters, ActByTheirKind)
     EXPECT_EQ(synth.GetParameter(196), 0.0f);
 }
 
-// Hosts know the parameters by number: which setting a number writes is published.
+// Hosts know the parameters by number: which setting of the chosen page a number writes is published.
 TEST_F(Parameters, WriteTheirPublishedSetting)
 {
     // clang-format off
     struct Run { int first, last, setting, distance; };
     const Run runs[] = {
-        {70, 70, slot::FxGlue,     0}, {71, 71, slot::FxLfoRate,      0}, {72, 72, slot::FxLfoAmount, 0},
-        {74, 74, slot::FxLfoShape, 0}, {76, 76, slot::FxLfoSync,      0}, {77, 77, slot::FxX,         0},
-        {78, 78, slot::FxY,        0}, {79, 79, slot::FxBypassStutter, 0}, {80, 95, slot::MixLevel,   1},
-        {99, 99, slot::EnvelopeDestination, 0}, {100, 101, slot::EnvelopeAttack, 2},
-        {102, 103, slot::EnvelopeAmount,    2}, {105, 105, slot::LfoRate,        0}, {106, 106, slot::LfoAmount, 0},
-        {107, 107, slot::LfoRetrig,         0}, {108, 108, slot::LfoInvert,      0}, {110, 110, slot::LfoSync,   0},
-        {112, 112, slot::LfoDestination,    0}, {114, 114, slot::LfoShape,       0}, {115, 135, slot::MonoVoice, 1},
-        {136, 145, slot::LayerLevel,        4}, {146, 147, slot::LayerInvert,    4}, {148, 151, slot::LayerBypass, 1},
-        {182, 195, slot::VelocityAmount,    1},
+        {70, 70, slot::FxGlue + 4,     0}, {71, 71, slot::FxLfoRate + 4, 0}, {72, 72, slot::FxLfoAmount + 4, 0},
+        {74, 74, slot::FxLfoShape + 4, 0}, {76, 76, slot::FxLfoSync + 4, 0}, {77, 77, slot::FxX + 4,         0},
+        {78, 78, slot::FxY + 4,        0}, {79, 79, slot::FxBypassStutter, 0}, {80, 95, slot::MixLevel,      1},
+        {99, 99, slot::EnvelopeDestination + 1, 0}, {100, 101, slot::EnvelopeAttack + 1, 2},
+        {102, 103, slot::EnvelopeAmount + 1,    2}, {105, 105, slot::LfoRate + 1, 0}, {106, 106, slot::LfoAmount + 1, 0},
+        {107, 107, slot::LfoRetrig + 1,         0}, {108, 108, slot::LfoInvert + 1, 0}, {110, 110, slot::LfoSync + 1, 0},
+        {112, 112, slot::LfoDestination + 1,    0}, {114, 114, slot::LfoShape + 1, 0}, {115, 135, slot::MonoVoice,    1},
+        {136, 145, slot::LayerLevel + 3,        4}, {146, 147, slot::LayerInvert + 3, 4}, {148, 151, slot::LayerBypass, 1},
+        {182, 195, slot::VelocityAmount,        1},
     };
     // clang-format on
+    ChooseLastPages();
     std::ptrdiff_t written = 0;
     for (const Run& run : runs)
         for (int index = run.first; index <= run.last; ++index, ++written) {
@@ -159,8 +167,7 @@ TEST_F(Parameters, SwitchesTurnOneSetting)
         {param::FxLfoSyncSwitch,           slot::FxLfoSync + 4,           {1.0f, 0.0f}},
     };
     // clang-format on
-    for (const int page : {param::EnvelopeNumber + 0, param::LfoNumber + 0, param::Fx1 + 4})
-        Synth().SetParameter(page, 1.0f);
+    ChooseLastPages();
     for (const Case& c : cases)
         for (const float position : c.positions) {
             std::vector<float> expected(std::begin(Engine().storedParams[8]), std::end(Engine().storedParams[8]));
@@ -177,6 +184,9 @@ TEST_F(Parameters, AreReportedAtAProgramSwitch)
     const int cutoff = Knob(slot::FilterCutoff);
     Synth().SetParameter(cutoff, 0.25f);
     host.reports.clear();
+    EXPECT_FALSE(Synth().SetProgramName(1, "there is one"));
+    EXPECT_TRUE(Synth().SetProgramName(-5, "mine"));
+    EXPECT_EQ(Written([this](char* text) { Synth().GetProgramName(0, text); }), "mine");
     Synth().SetProgram(7);
     ASSERT_EQ(host.reports.size(), kParameters.size());
     for (std::size_t n = 0; n < host.reports.size(); ++n) EXPECT_EQ(host.reports[n].first, static_cast<int>(n));
