@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "engine/FxSettings.h"
+#include "framework/ParameterTable.h"
 
 namespace korvane {
 namespace {
@@ -13,7 +14,7 @@ struct Rack {
     {
         for (int k = 0; k < kEffects; ++k) {
             units[k] = std::make_unique<FXUnit>(static_cast<FxType>(k));
-            params[177 + k] = 0.5f;
+            params[slot::FxLfoAmount + k] = 0.5f;
         }
     }
     void Update() { UpdateFxSettings(params, active, units, stutter); }
@@ -27,7 +28,7 @@ struct Rack {
 TEST(FxSettings, TurnParametersIntoFields)
 {
     // clang-format off
-    struct Case { int k, index; float value; const char* field; float expected; float (*read)(const FXUnit&); };
+    struct Case { int k, base; float value; const char* field; float expected; float (*read)(const FXUnit&); };
     const auto x = [](const FXUnit& u) { return u.x; };
     const auto y = [](const FXUnit& u) { return u.y; };
     const auto beats = [](const FXUnit& u) { return u.lfoBeats; };
@@ -35,47 +36,49 @@ TEST(FxSettings, TurnParametersIntoFields)
     const auto shape = [](const FXUnit& u) { return static_cast<float>(u.lfoShape); };
     const auto bypass = [](const FXUnit& u) { return static_cast<float>(u.bypass); };
     const Case cases[] = {
-        {3, 120, 0.25f, "x", 0.25f, x}, {3, 120, 2.0f, "x", 1.0f, x}, {9, 136, -1.0f, "y", 0.0f, y},
-        {0, 137, 0.0f,  "beats", 0.125f, beats}, {0, 137, 0.5566667f, "beats", 1.0f, beats},
-        {0, 137, 0.5f,  "beats", 0.75f,  beats}, {0, 137, 1e30f,      "beats", 8.0f, beats},
-        {9, 146, 1.0f,  "beats", 8.0f,   beats},
-        {2, 179, 0.75f, "amount", 0.25f, amount}, {2, 179, 0.25f, "amount", -0.25f, amount},
-        {2, 179, 0.5f,  "amount", 0.0f,  amount},
-        {2, 159, 1.0f / 3.0f, "shape", 1.0f, shape}, {2, 159, 1.0f, "shape", 3.0f, shape},
-        {2, 159, -7.0f,       "shape", 0.0f, shape},
-        {5, 152, 0.1f,  "glued", 0.0f, bypass}, {5, 152, 0.0f, "released", 1.0f, bypass},
+        {3, slot::FxX,         0.25f,      "x",      0.25f,   x},      {3, slot::FxX,         2.0f,   "x",      1.0f,  x},
+        {9, slot::FxY,         0.75f,      "y",      0.75f,   y},      {9, slot::FxY,        -1.0f,   "y",      0.0f,  y},
+        {0, slot::FxLfoRate,   0.0f,       "beats",  0.125f,  beats},  {0, slot::FxLfoRate,   0.2f,   "beats",  0.25f, beats},
+        {0, slot::FxLfoRate,   0.3f,       "beats",  0.375f,  beats},  {0, slot::FxLfoRate,   0.4f,   "beats",  0.5f,  beats},
+        {0, slot::FxLfoRate,   0.5f,       "beats",  0.75f,   beats},  {0, slot::FxLfoRate,   0.557f, "beats",  1.0f,  beats},
+        {0, slot::FxLfoRate,   0.7f,       "beats",  2.0f,    beats},  {0, slot::FxLfoRate,   0.8f,   "beats",  4.0f,  beats},
+        {9, slot::FxLfoRate,   1.0f,       "beats",  8.0f,    beats},  {0, slot::FxLfoRate,   1e30f,  "beats",  8.0f,  beats},
+        {9, slot::FxLfoSync,   0.1f,       "beats",  0.5f,    beats},
+        {2, slot::FxLfoAmount, 0.75f,      "amount", 0.25f,   amount}, {2, slot::FxLfoAmount, 0.25f,  "amount", -0.25f, amount},
+        {2, slot::FxLfoAmount, 0.5f,       "amount", 0.0f,    amount}, {2, slot::FxLfoAmount, 9.0f,   "amount", 1.0f,  amount},
+        {2, slot::FxLfoShape,  0.334f,     "shape",  1.0f,    shape},  {2, slot::FxLfoShape,  0.99f,  "shape",  2.0f,  shape},
+        {2, slot::FxLfoShape,  7.0f,       "shape",  3.0f,    shape},  {2, slot::FxLfoShape, -7.0f,   "shape",  0.0f,  shape},
+        {5, slot::FxGlue,      0.1f,       "glued",  0.0f,    bypass}, {5, slot::FxGlue,      0.0f,  "released", 1.0f, bypass},
     };
     // clang-format on
     for (const Case& c : cases) {
         Rack rack;
-        rack.params[c.index] = c.value;
+        rack.params[c.base + c.k] = c.value;
         rack.Update();
         EXPECT_EQ(c.read(*rack.units[c.k]), c.expected) << c.field << " from " << c.value;
     }
     Rack rack;
     rack.active[4] = true;
-    rack.params[176] = 0.01f;
-    rack.params[146] = 1.0f;
     rack.Update();
-    EXPECT_EQ(rack.units[4]->bypass, 0);
-    EXPECT_EQ(rack.units[9]->lfoBeats, 32.0f);
+    for (int k = 0; k < kEffects; ++k) EXPECT_EQ(rack.units[k]->bypass, k != 4);
 }
 
 TEST(FxSettings, MarkChangedEqualiserBandsAndBypassTheStutter)
 {
     Rack rack;
     FXUnit& pump = *rack.units[9];
-    for (int n = 0; n < 5; ++n) rack.params[207 + n] = 0.5f;
+    for (int n = 0; n < 5; ++n) rack.params[slot::EqGain + n] = 0.5f;
     rack.Update();
     pump.eqChanged = {};
-    rack.params[206] = 1.0f;
-    rack.params[209] = 0.7f;
+    rack.params[slot::EqOn] = 1.0f;
+    rack.params[slot::EqGain + 2] = 0.7f;
     rack.stutter.bypass = 0;
     rack.Update();
+    EXPECT_EQ(pump.eqGains[2], 0.7f);
     EXPECT_EQ(pump.eqChanged, (std::array<std::uint8_t, 5>{0, 0, 1, 0, 0}));
     EXPECT_EQ(pump.eqOn, 1);
     EXPECT_EQ(rack.stutter.bypass, 0);
-    rack.params[187] = 1.0f;
+    rack.params[slot::FxBypassStutter] = 1.0f;
     rack.Update();
     EXPECT_EQ(rack.stutter.bypass, 1);
 }

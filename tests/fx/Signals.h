@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cmath>
+#include <complex>
 #include <cstdint>
 #include <numbers>
 #include <vector>
@@ -81,6 +82,25 @@ inline double Rms(const std::vector<float>& samples, int from, int to)
     for (int n = from; n < to; ++n) sum += static_cast<double>(samples[n]) * samples[n];
     return std::sqrt(sum / (to - from));
 }
+
+/// Amplitude and phase of the part of a signal at hz, phase 0 being a cosine at its first frame.
+inline std::complex<double> Line(const float* signal, int frames, double hz, double rate = kRate)
+{
+    constexpr double kTurn = 2.0 * std::numbers::pi;
+    std::complex<double> sum = 0.0;
+    for (int n = 0; n < frames; ++n)
+        sum += (1.0 - std::cos(kTurn * n / frames)) * signal[n] * std::polar(1.0, -kTurn * hz / rate * n);
+    return sum * 2.0 / static_cast<double>(frames);
+}
+
+/// Gain and turn of a sine.
+struct Response {
+    double decibels, degrees;
+    operator std::complex<double>() const
+    {
+        return std::polar(std::pow(10.0, decibels / 20.0), degrees / 180.0 * std::numbers::pi);
+    }
+};
 
 inline double Decibels(double ratio) { return 20.0 * std::log10(ratio); }
 

@@ -66,48 +66,61 @@ constexpr int kSlice = 6000;
 Sound Stuttered(const Sound& input, std::int8_t code, int offAt)
 {
     Played unit(FxType::Stutter);
+    Sound sound = input, before = Noise(9000, 0.1f);
+    std::int8_t earlier = -2;
+    SetStutter(unit, earlier);
+    unit.Run(before);
     SetStutter(unit, code);
     unit.lfoBeats = 0.25f;
-    Sound sound = input;
     unit.Run(sound, 0, offAt);
     unit.bypass = 1;
     unit.Run(sound, offAt);
     return sound;
 }
 
-// The first slice passes while it is recorded; then it repeats, behind a seam of 192 frames.
-TEST(Stutter, LoopsTheFirstSlice)
+// The first slice passes while it is recorded; then it repeats. The first 192 frames of a repeat come out of what
+// followed the slice when it was recorded.
+TEST(Stutter, LoopsTheFirstSliceBehindASeam)
 {
-    const Sound input = Noise(4 * kSlice);
-    const Sound forwards = Stuttered(input, -1, 4 * kSlice), backwards = Stuttered(input, -6, 4 * kSlice);
+    const Sound input = Noise(15 * kSlice);
+    const Sound forwards = Stuttered(input, -1, 15 * kSlice), backwards = Stuttered(input, -6, 15 * kSlice);
     for (int n = 0; n < kSlice - 1; ++n) ASSERT_EQ(forwards.left[n], input.left[n]);
-    for (int repeat = 2; repeat < 4; ++repeat) {
-        for (int n = 200; n < kSlice - 2; ++n) {
+    for (int repeat : {2, 3, 13}) // the recording is full after 12 slices
+        for (int n = 0; n < kSlice - 2; ++n) {
             const int at = repeat * kSlice + 1 + n; // the sum of 6000 steps stays just below 1
-            if (at >= input.Frames()) break;
-            ASSERT_NEAR(forwards.left[at], input.left[n], 1e-3f) << at;
-            ASSERT_NEAR(backwards.right[at], input.right[kSlice - n], 1e-3f) << at;
+            const float fresh = std::min(static_cast<float>(n) / 192.0f, 1.0f), old = 1.0f - fresh;
+            ASSERT_NEAR(forwards.left[at], fresh * input.left[n] + old * input.left[kSlice - 1 + n], 1e-3f) << at;
+            ASSERT_NEAR(backwards.right[at], fresh * input.right[kSlice - n] + old * input.right[kSlice - 1 + n], 1e-3f)
+                << at;
         }
+}
+
+// Released in its first slice, before it has anything to fade, it goes on recording for 202 frames.
+TEST(Stutter, HoldsOnAfterTheRelease)
+{
+    Played unit(FxType::Stutter);
+    Sound sound = Noise(12 * kBlock);
+    unit.Run(sound, 0, 8 * kBlock);
+    unit.bypass = 1;
+    for (int block = 8; block < 12; ++block) {
+        unit.Run(sound, block * kBlock, (block + 1) * kBlock);
+        EXPECT_EQ(unit.HasTail(), block < 10) << block;
     }
 }
 
-TEST(Stutter, ReturnsToTheInput)
+// The loop comes in and goes by 1 % of the way per frame; released, the unit works for 202 frames or until it has
+// faded.
+TEST(Stutter, FadesIntoTheLoopAndBackToTheInput)
 {
-    const Sound input = Noise(6 * kSlice);
+    Sound input(5 * kSlice, 0.5f);
+    std::fill(input.left.begin() + kSlice, input.left.end(), 0.0f);
     const Sound sound = Stuttered(input, -1, 3 * kSlice);
-    for (int n = 3 * kSlice + 1500; n < input.Frames(); ++n) ASSERT_EQ(sound.left[n], input.left[n]) << n;
-}
-
-// Slices longer than the recording, an input that outlasts it, a tempo that changes underneath.
-TEST(Stutter, StaysInsideItsRecording)
-{
-    Played unit(FxType::Stutter, 0.5f, 0.5f, 8000.0f);
-    std::int8_t code = -6;
-    SetStutter(unit, code);
-    Sound sound = Noise(60000);
-    for (int n = 0; n + 100 <= sound.Frames(); n += 100)
-        unit.Process(&sound.left[n], &sound.right[n], 100, n % 7000 < 3500 ? 10.0f : 1e7f);
-    EXPECT_LE(*std::max_element(sound.left.begin(), sound.left.end()), 0.51f);
+    constexpr int kBehindTheSeam = 2 * kSlice + 200, kOff = 3 * kSlice + 300;
+    EXPECT_NEAR(sound.left[kBehindTheSeam], 0.5f, 1e-4f);
+    for (int n = 0; n < 192; ++n)
+        ASSERT_NEAR(sound.left[kSlice + 1 + n], n / 192.0 * 0.5 * (1.0 - std::pow(0.99, n + 1)), 1e-3) << n;
+    for (int n = 200; n < 900; ++n) ASSERT_NEAR(sound.left[3 * kSlice + n], 0.5 * std::pow(0.99, n + 1), 1e-3) << n;
+    for (int n = kOff + 800; n < input.Frames(); ++n) ASSERT_EQ(sound.left[n], 0.0f) << n;
 }
 
 } // namespace
