@@ -1,65 +1,28 @@
-// Synth oscillators: the loop against its plain form, tuning, tables, unison, phases.
+// Synth oscillators: pitch, mix, modulation, tables, unison, phases, random numbers.
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <complex>
-#include <cstring>
 #include <vector>
 
 #include "engine/SynthVoice.h"
+#include "fx/Signals.h"
 #include "voices/VoiceRig.h"
 
 namespace korvane {
 namespace {
 
-/// The loop as it reads: frame by frame, unison voice by unison voice, one draw after the other.
-void RenderPlainly(const UnisonMix& mix, const UnisonTuning& tuning, const float* modAmount, UnisonPhases* phases,
-                   RandomGenerator& random, float* left, float* right, int frames)
+template <int number>
+float Harmonic(int, int i)
 {
-    const auto read = [&](int osc, std::uint32_t phase) {
-        return tuning.tables[osc][(phase + (random.Next() & 0x3fffffu)) >> 22];
-    };
-    for (int n = 0; n < frames; ++n) {
-        left[n] = right[n] = 0;
-        for (int u = 0; u < mix.unisonCount; ++u) {
-            UnisonPhases& p = phases[u];
-            const float m = modAmount[n];
-            float s2 = read(1, p.osc2 + mix.phaseOffset2);
-            if (mix.invert2) s2 = -s2;
-            std::uint32_t phase1 = p.osc1;
-            if (mix.modulation == OscillatorModulation::Phase)
-                phase1 +=
-                    static_cast<std::uint32_t>(static_cast<std::int64_t>((15.0f * m * s2 + 64.0f) * 4194303.0f) * 256);
-            float s1 = read(0, phase1);
-            if (mix.modulation == OscillatorModulation::Amplitude) s1 = s1 * (1.0f - 3.0f * m * s2);
-            if (mix.modulation == OscillatorModulation::Sync) {
-                const std::uint32_t before = p.sync;
-                p.sync += tuning.syncIncrements[u];
-                if (p.sync < before) p.osc1 = p.sync;
-            }
-            const float s3 = read(2, p.osc3);
-            const float w = static_cast<float>(random.Next()) / 4294967296.0f - 0.5f;
-            left[n] +=
-                s2 * mix.gainLeft[1][u] + s3 * mix.gainLeft[2][u] + w * mix.gainLeft[3][u] + s1 * mix.gainLeft[0][u];
-            right[n] += s2 * mix.gainRight[1][u] + s3 * mix.gainRight[2][u] + w * mix.gainRight[3][u] +
-                        s1 * mix.gainRight[0][u];
-            p.osc1 += tuning.increments[0][u];
-            p.osc2 += tuning.increments[1][u];
-            p.osc3 += tuning.increments[2][u];
-        }
-    }
+    return 0.5f * std::sin(6.2831853f * static_cast<float>(number * i) / 1024.0f);
 }
-
-float Sine(int, int i) { return 0.5f * std::sin(6.2831853f * static_cast<float>(i) / 1024.0f); }
+constexpr auto Sine = Harmonic<1>;
+float Half(int, int) { return 0.5f; }
 float TableNumber(int t, int) { return static_cast<float>(t); }
 
-std::complex<double> Line(const float* signal, int frames, double hertz)
+std::complex<double> LineOf(const std::vector<float>& signal, double hertz)
 {
-    std::complex<double> sum = 0;
-    for (int n = 0; n < frames; ++n)
-        sum += (1 - std::cos(6.283185307179586 * n / frames)) * signal[n] *
-               std::polar(1.0, -6.283185307179586 * hertz / VoiceRig::kRate * n);
-    return sum / (frames / 2.0);
+    return Line(signal.data(), static_cast<int>(signal.size()), hertz, VoiceRig::kRate);
 }
 
 /// Frequency of the sine near `hertz`, by the phase that its spectral line gains between two halves.
@@ -67,59 +30,39 @@ double Frequency(const std::vector<float>& signal, double hertz)
 {
     const int half = static_cast<int>(signal.size() / 2);
     const double expected = 6.283185307179586 * hertz / VoiceRig::kRate * half;
-    const double turn =
-        std::arg(Line(&signal[half], half, hertz) / Line(&signal[0], half, hertz) * std::polar(1.0, -expected));
+    const double turn = std::arg(Line(&signal[half], half, hertz, VoiceRig::kRate) /
+                                 Line(&signal[0], half, hertz, VoiceRig::kRate) * std::polar(1.0, -expected));
     return hertz * (1 + turn / expected);
 }
 
-TEST(SynthVoice, TheLoopGivesTheBitsOfItsPlainForm)
+// The generator is shared by the whole engine, so it matters which of the four numbers of a frame goes where:
+// oscillator 2, oscillator 1, oscillator 3, noise. Oscillators stand between two points of a table that counts its
+// points.
+TEST(SynthVoice, DrawsFourNumbersPerFrame)
 {
-    RandomGenerator random{12345};
-    const auto value = [&] { return static_cast<float>(random.Next()) * 0x1p-32f; };
-    std::vector<float> tables(3 * kWaveTablePoints);
-    for (float& point : tables) point = value() - 0.5f;
-    const auto compare = [&](int kind, int sources, int unison, int frames) {
-        UnisonMix mix;
-        UnisonTuning tuning;
-        mix.unisonCount = unison;
-        mix.modulation = static_cast<OscillatorModulation>(kind);
-        mix.phaseOffset2 = random.Next();
-        mix.invert2 = frames % 2 == 1;
-        UnisonPhases phases[kUnison], plainPhases[kUnison];
-        for (int u = 0; u < unison; ++u) {
-            phases[u] = {random.Next(), random.Next(), random.Next(), random.Next()};
-            for (int s = 0; s < kSources; ++s) {
-                mix.gainLeft[s][u] = s == 0 || (sources >> (s - 1)) & 1 ? value() : 0;
-                mix.gainRight[s][u] = s == 0 || (sources >> (s - 1)) & 1 ? value() : 0;
+    // clang-format off
+    const struct { const char* what; std::vector<VoiceRig::Value> mix; int draw; } cases[] = {
+        {"oscillator 1", {},                    1}, {"oscillator 2", {{slot::MixOsc2, 1}}, 0},
+        {"oscillator 3", {{slot::MixOsc3, 1}},  2}, {"noise",       {{slot::NoiseMix, 1}}, 3}};
+    // clang-format on
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        VoiceRig rig(false);
+        for (int osc = 0; osc < kOscillators; ++osc)
+            rig.GiveWave(osc, [](int, int i) { return static_cast<float>(i); });
+        rig.Start(c.mix, -400); // too low to move
+        rig.Last().phases[0] = {0x600000, 0, 0x600000, 0x600000};
+        RandomGenerator random = rig.random;
+        const Sound sound = rig.Play(50);
+        for (int n = 0; n < 50; ++n)
+            for (int draw = 0; draw < 4; ++draw) {
+                const std::uint32_t r = random.Next();
+                const bool next = (r & 0x3fffff) >= 0x200000;
+                const double source = c.draw == 3 ? r / 0x1p32 - 0.5 : 1.0 + next;
+                if (draw == c.draw) { ASSERT_NEAR(sound.left[n] / 0.005, source, 1e-5) << n; }
             }
-            for (auto& increments : tuning.increments) increments[u] = random.Next() >> (1 + u % 8);
-            tuning.syncIncrements[u] = random.Next() >> (1 + u % 8);
-        }
-        for (int osc = 0; osc < kOscillators; ++osc) tuning.tables[osc] = &tables[osc * kWaveTablePoints];
-        alignas(64) float amount[kMaxRun], out[2][kMaxRun], plain[2][kMaxRun];
-        for (float& m : amount) m = 4 * value() - 2;
-        std::memcpy(plainPhases, phases, sizeof phases);
-        RandomGenerator drawn = random, plainDrawn = random;
-        RenderUnison(mix, tuning, amount, phases, drawn, out[0], out[1], frames);
-        RenderPlainly(mix, tuning, amount, plainPhases, plainDrawn, plain[0], plain[1], frames);
-        for (int side = 0; side < 2; ++side)
-            for (int n = 0; n < frames; ++n) ASSERT_EQ(out[side][n], plain[side][n]) << "frame " << n;
-        for (int u = 0; u < unison; ++u) {
-            ASSERT_EQ(phases[u].sync, plainPhases[u].sync);
-            ASSERT_EQ(phases[u].osc1, plainPhases[u].osc1);
-            ASSERT_EQ(phases[u].osc2, plainPhases[u].osc2);
-            ASSERT_EQ(phases[u].osc3, plainPhases[u].osc3);
-        }
-        ASSERT_EQ(drawn.state, plainDrawn.state);
-    };
-    for (int kind = 0; kind < 3; ++kind)
-        for (int sources = 0; sources < 8; ++sources)
-            for (int unison : {1, 2, 5, 16})
-                for (int frames : {0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 16, 17, 128}) {
-                    compare(kind, sources, unison, frames);
-                    ASSERT_FALSE(HasFatalFailure())
-                        << "kind " << kind << ", sources " << sources << ", unison " << unison << ", frames " << frames;
-                }
+        EXPECT_EQ(rig.random.state, random.state);
+    }
 }
 
 TEST(SynthVoice, SoundsAtItsPitchAndLevel)
@@ -133,10 +76,13 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
         {"oscillator 1 pitch and detune", 57, {{slot::Osc1Pitch, 1}, {slot::Osc1Detune, 1}}, 1760 * 1.0293022, 1},
         {"oscillator 2 alone",            57, {{slot::MixOsc2, 1}, {slot::Osc2Pitch, 0.75f}}, 220 * 2.8284271, 1},
         {"oscillator 3, a quarter",       57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}}, 27.5, 0.25},
-        {"oscillator 1, three quarters",  57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 1}}, 220, 0.75},
         {"bent up two semitones",         57, {}, 246.94165, 1, 1.0f},
         {"bent down an octave",           57, {{slot::BendRange, 1}}, 110, 1, -1.0f},
+        {"bent up five semitones",        57, {{slot::BendRange, 0.45f}}, 293.66477, 1, 1.0f},
+        {"never beyond half the rate",    57, {}, 22045.59, 1, 100.0f},
         {"synced at twice the pitch",     57, {{slot::Modulation, 0.33333334f}}, 440, 1},
+        {"synced at three times",         57, {{slot::Modulation, 0.66666667f}}, 660, 1},
+        {"synced by an LFO",              57, {{slot::LfoDestination, 0.34f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 0.57735027f}}, 440, 1},
         {"LFO an octave up",              57, {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}}, 440, 1},
         {"envelope an octave up",         57, {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}}, 440, 1},
     };
@@ -145,10 +91,8 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
         SCOPED_TRACE(c.what);
         VoiceRig rig(false);
         for (int osc = 0; osc < kOscillators; ++osc) rig.GiveWave(osc, Sine);
-        rig.Set(c.values);
         rig.channel.pitchBendIn = c.bend;
-        rig.channel.NoteOn(c.note, 0, 1);
-        rig.Render(200);
+        rig.Start(c.values, c.note);
         ChannelVoice& voice = rig.Last();
         std::vector<float> out;
         for (int n = 0; n < 16384; n += 128) {
@@ -159,8 +103,7 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
         }
         const double hertz = Frequency(out, c.hertz);
         EXPECT_NEAR(1200 * std::log2(hertz / c.hertz), 0, 1);
-        const double level = std::abs(Line(&out[0], 16384, hertz)) / (0.5 * 0.005 * c.level);
-        EXPECT_NEAR(20 * std::log10(level), 0, 0.1);
+        EXPECT_NEAR(Decibels(std::abs(LineOf(out, hertz)) / (0.5 * 0.005 * c.level)), 0, 0.1);
     }
 }
 
@@ -173,75 +116,139 @@ TEST(SynthVoice, ReadsTheTableWithTheHarmonicsBelowHalfTheRate)
     for (const auto& c : cases) {
         VoiceRig rig(false);
         rig.GiveWave(0, TableNumber);
-        rig.Set({{slot::Modulation, c.modulation}});
-        rig.channel.NoteOn(c.note, 0, 1);
-        rig.Render(200);
+        rig.Start({{slot::Modulation, c.modulation}}, c.note);
         EXPECT_NEAR(rig.Last().left[0] / 0.005f, c.table, 0.01f) << "note " << c.note;
     }
 }
 
+// Each oscillator plays a harmonic of its own; the noise is what they leave.
+TEST(SynthVoice, MixesItsSources)
+{
+    // clang-format off
+    const struct { const char* what; float mix2, mix3, noise; double levels[kSources]; } cases[] = {
+        {"oscillator 1 alone",      0,    0,    0,    {1,      0,      0,    0}},
+        {"a quarter of 2",          0.5f, 0,    0,    {0.75,   0.25,   0,    0}},
+        {"2 alone",                 1,    0,    0,    {0,      1,      0,    0}},
+        {"a quarter of 3",          0,    0.5f, 0,    {0.75,   0,      0.25, 0}},
+        {"3 before 2",              1,    0.6f, 0,    {0,      0.64,   0.36, 0}},
+        {"a quarter of noise",      0,    0,    0.5f, {0.75,   0,      0,    0.25}},
+        {"noise alone",             1,    1,    1,    {0,      0,      0,    1}},
+        {"everything",              0.6f, 0.5f, 0.4f, {0.4032, 0.2268, 0.21, 0.16}},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        VoiceRig rig(false);
+        rig.GiveWave(0, Harmonic<1>);
+        rig.GiveWave(1, Harmonic<2>);
+        rig.GiveWave(2, Harmonic<3>);
+        rig.Start({{slot::MixOsc2, c.mix2}, {slot::MixOsc3, c.mix3}, {slot::NoiseMix, c.noise}}, 57);
+        const Sound sound = rig.Play(16384);
+        double rest = std::pow(Rms(sound.left, 0, 16384), 2);
+        for (int osc = 0; osc < kOscillators; ++osc) {
+            const double line = std::abs(LineOf(sound.left, 220 * (osc + 1)));
+            EXPECT_NEAR(line / (0.5 * 0.005), c.levels[osc], 0.012) << "oscillator " << osc + 1;
+            rest -= line * line / 2;
+        }
+        EXPECT_NEAR(std::sqrt(std::max(0.0, rest)) / (0.005 * std::sqrt(1.0 / 12.0)), c.levels[3], 0.015);
+    }
+}
+
+// Oscillator 1 under an oscillator 2 that stands at 0.5, or oscillator 2 alone, against oscillator 1 by itself.
+TEST(SynthVoice, ModulatesOscillator1)
+{
+    constexpr float kThird = 0.34f; // destination: the modulation amount; LFO shape: triangle
+    // clang-format off
+    const struct { const char* what; float (*wave)(int, int); std::vector<VoiceRig::Value> values; double gain, degrees; } cases[] = {
+        {"phase",                Half, {{slot::ModKind, 1}, {slot::Modulation, 0.2f}}, 1, 27},
+        {"more phase",           Half, {{slot::ModKind, 1}, {slot::Modulation, 0.4f}}, 1, 108},
+        {"phase, inverted",      Half, {{slot::ModKind, 1}, {slot::Modulation, 0.2f}, {slot::Osc2Invert, 1}}, 1, -27},
+        {"amplitude",            Half, {{slot::ModKind, 2}, {slot::Modulation, 0.2f}}, 0.94, 0},
+        {"more amplitude",       Half, {{slot::ModKind, 2}, {slot::Modulation, 0.5f}}, 0.625, 0},
+        {"amplitude, inverted",  Half, {{slot::ModKind, 2}, {slot::Modulation, 0.5f}, {slot::Osc2Invert, 1}}, 1.375, 0},
+        {"LFO 1 adds to it",     Half, {{slot::ModKind, 2}, {slot::LfoDestination, kThird}, {slot::LfoShape, 1}, {slot::LfoAmount, 0.4f}}, 0.76, 0},
+        {"LFO 2 takes from it",  Half, {{slot::ModKind, 2}, {slot::LfoDestination + 1, kThird}, {slot::LfoShape + 1, 1}, {slot::LfoAmount + 1, 0.4f},
+                                        {slot::LfoInvert + 1, 1}}, 1.24, 0},
+        {"envelope 1 adds",      Half, {{slot::ModKind, 2}, {slot::EnvelopeDestination, kThird}, {slot::EnvelopeAmount, 0.4f}}, 0.76, 0},
+        {"envelope 2 takes",     Half, {{slot::ModKind, 2}, {slot::EnvelopeDestination + 1, kThird}, {slot::EnvelopeAmount + 1, 0.4f},
+                                        {slot::EnvelopeInvert + 1, 1}}, 1.24, 0},
+        {"oscillator 2 alone",   Sine, {{slot::MixOsc2, 1}}, 1, 0},
+        {"half its offset",      Sine, {{slot::MixOsc2, 1}, {slot::PhaseOffsetOsc2, 0.5f}}, 1, 90},
+        {"a quarter of it",      Sine, {{slot::MixOsc2, 1}, {slot::PhaseOffsetOsc2, 0.25f}}, 1, 45},
+        {"inverted",             Sine, {{slot::MixOsc2, 1}, {slot::Osc2Invert, 1}}, 1, 180},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        const auto line = [&](bool modulated) {
+            VoiceRig rig(false);
+            rig.GiveWave(0, Sine);
+            rig.GiveWave(1, c.wave);
+            rig.Set({{slot::UnisonRetrig, 1}, {slot::LfoRate, 1}, {slot::LfoRate + 1, 1}, {slot::ModKind, 1}});
+            rig.Start(modulated ? c.values : std::vector<VoiceRig::Value>{}, 57, 2000);
+            return LineOf(rig.Play(4096).left, 220);
+        };
+        const auto response = line(true) / line(false);
+        EXPECT_NEAR(std::abs(response - std::polar(c.gain, c.degrees / 180 * std::numbers::pi)), 0, 0.01) << response;
+    }
+}
+
+// Unison voices spread evenly over 4 % of an octave, to the sides in turn; an odd one out stays in the middle.
 TEST(SynthVoice, SpreadsUnisonInPitchAndStereo)
 {
-    VoiceRig rig(false);
-    rig.Set({{slot::UnisonDetune, 0.5f}, {slot::UnisonStereo, 0.25f}});
-    for (int count : {1, 2, 5, 16}) {
-        SCOPED_TRACE(count);
-        rig.Set({{slot::UnisonVoices, static_cast<float>(count - 1) / 15.0f + 0.001f}});
-        SynthSettings settings;
-        UnisonTuning tuning;
-        SetUpSynth(rig.channel, settings);
-        ASSERT_EQ(settings.mix.unisonCount, count);
-        rig.Last().pitchNote = 57;
-        rig.channel.pitchBendIn = 0;
-        TuneOscillators(rig.channel, rig.Last(), settings, tuning);
-        for (int u = 0; u < count; ++u) {
-            const double octaves = count == 1 ? 0 : (u / (count - 1.0) - 0.5) * 0.04;
-            const double hertz = tuning.increments[0][u] * 44100.0 / 0x1p32;
-            EXPECT_NEAR(1200 * (std::log2(hertz / 220) - octaves), 0, 0.01) << u;
-            const float sign = count % 2 == 1 && u == 0 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
-            const float norm = 0.005f / (1 + 0.15f * static_cast<float>(count - 1));
-            EXPECT_NEAR(settings.mix.gainLeft[0][u], norm * std::min(1.0f, 1 - 0.25f * sign), 1e-8f);
-            EXPECT_NEAR(settings.mix.gainRight[0][u], norm * std::min(1.0f, 1 + 0.25f * sign), 1e-8f);
+    struct Stacked {
+        double octaves, left, right;
+    };
+    // clang-format off
+    const struct { float voices, detune, stereo; double norm; std::vector<Stacked> stack; } cases[] = {
+        {0,        0.5f, 0.25f, 1,    {{ 0.0,  1, 1}}},
+        {1.1f/15,  0.5f, 0.25f, 1.15, {{-0.02, 0.75, 1}, { 0.02, 1,   0.75}}},
+        {1.1f/15,  0.7f, 1,     1.15, {{-0.0392, 0,  1}, {0.0392, 1,  0}}},
+        {2.1f/15,  0.5f, 0.25f, 1.3,  {{-0.02, 1,    1}, { 0.0,  1,   0.75}, {0.02, 0.75, 1}}},
+        {4.1f/15,  0.7f, 0.5f,  1.6,  {{-0.0392, 1, 1}, {-0.0196, 1, 0.5}, {0, 0.5, 1}, {0.0196, 1, 0.5}, {0.0392, 0.5, 1}}},
+        {1,        0,    0,     3.25, {{0.0, 16, 16}}},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.stack.size() << " lines, detune " << c.detune);
+        VoiceRig rig(false);
+        rig.GiveWave(0, Sine);
+        rig.Set({{slot::UnisonVoices, c.voices}, {slot::UnisonDetune, c.detune}, {slot::UnisonStereo, c.stereo}});
+        rig.Start({{slot::UnisonRetrig, 1}}, 93);
+        const Sound sound = rig.Play(16384);
+        for (const Stacked& u : c.stack) {
+            const double hertz = 1760 * std::exp2(u.octaves), full = 0.5 * 0.005 / c.norm;
+            EXPECT_NEAR(std::abs(LineOf(sound.left, hertz)) / full, u.left, 0.02) << u.octaves;
+            EXPECT_NEAR(std::abs(LineOf(sound.right, hertz)) / full, u.right, 0.02) << u.octaves;
         }
-        rig.channel.pitchBendIn = 100; // far beyond half the rate
-        TuneOscillators(rig.channel, rig.Last(), settings, tuning);
-        EXPECT_NEAR(tuning.increments[0][0], 0.4999 * 0x1p32, 300);
     }
 }
 
 TEST(SynthVoice, StartsItsPhasesAsAsked)
 {
     VoiceRig rig(false);
-    rig.Set({{slot::UnisonVoices, 0.1f}}); // two unison voices
-    ChannelVoice& voice = rig.Last();
-    const UnisonPhases before = voice.phases[0];
-    rig.channel.NoteOn(57, 0, 1);
-    EXPECT_EQ(voice.phases[0].osc1, before.osc1); // runs on
-    EXPECT_FALSE(voice.restartPhases);
-
-    SynthSettings settings;
-    UnisonTuning tuning;
-    rig.Set({{slot::PhaseRetrigOsc2, 1}});
-    StartOscillators(rig.channel, voice);
+    const UnisonPhases *phases = rig.Voice(0).phases, before = phases[0];
+    const auto start = [&rig](const std::vector<VoiceRig::Value>& values) {
+        rig.Start(values, 57, 0);
+        rig.channel.Render(0, VoiceRig::kTempo);
+    };
+    const auto near = [](std::uint32_t phase, double cycles) {
+        EXPECT_NEAR(std::remainder(phase / 0x1p32 - cycles, 1.0), 0, 1e-4);
+    };
+    start({{slot::UnisonVoices, 0.1f}, {slot::MonoVoice, 1}, {slot::Osc2Pitch, 0.75f}}); // two unison voices
+    EXPECT_EQ(phases[0].osc1, before.osc1);                                              // runs on
     RandomGenerator random = rig.random;
-    SetUpSynth(rig.channel, settings);
-    TuneOscillators(rig.channel, voice, settings, tuning);
+    start({{slot::PhaseRetrigOsc2, 1}});
     for (int u = 0; u < 2; ++u) {
         const std::uint32_t frames = (random.Next() + 1) % 512;
-        EXPECT_EQ(voice.phases[u].osc1, tuning.increments[0][u] * frames);
-        EXPECT_EQ(voice.phases[u].osc2, tuning.increments[1][u] * frames);
+        near(phases[u].osc1, frames * 220.0 / 44100);
+        near(phases[u].osc2, frames * 622.25397 / 44100);
     }
-    EXPECT_EQ(voice.phases[0].sync, before.sync);
+    EXPECT_EQ(phases[0].sync, before.sync);
     EXPECT_EQ(rig.random.state, random.state);
-    EXPECT_FALSE(voice.restartPhases);
-
-    rig.Set({{slot::UnisonRetrig, 1}, {slot::UnisonPhase, 0.3f}});
-    StartOscillators(rig.channel, voice);
-    for (int u = 0; u < kUnison; ++u) {
-        const std::uint32_t expected = static_cast<std::uint32_t>(std::fmod(u * 0.3, 1.0) * 0x1p32);
-        EXPECT_NEAR(static_cast<std::int32_t>(voice.phases[u].osc3 - expected), 0, 100000) << u;
-        EXPECT_EQ(voice.phases[u].sync, voice.phases[u].osc1);
-    }
+    start({{slot::UnisonRetrig, 1}, {slot::UnisonPhase, 0.3f}});
+    for (int u = 0; u < kUnison; ++u)
+        for (const auto phase : {phases[u].osc1, phases[u].sync, phases[u].osc2, phases[u].osc3}) near(phase, u * 0.3);
 }
 
 } // namespace

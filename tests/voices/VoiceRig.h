@@ -1,6 +1,7 @@
 // One channel with samples and waveforms made by hand.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <functional>
 #include <memory>
@@ -9,8 +10,12 @@
 #include "content/SamplePool.h"
 #include "engine/GrooveChannel.h"
 #include "framework/ParameterTable.h"
+#include "fx/Signals.h"
 
 namespace korvane {
+
+/// A sample that has something in every frame, a little later on the right.
+inline float Wobble(int c, int i) { return std::sin(0.02f * static_cast<float>(i + 40 * c)); }
 
 struct VoiceRig {
     static constexpr float kRate = 44100.0f, kTempo = 120.0f;
@@ -77,6 +82,28 @@ struct VoiceRig {
     void Render(int frames, int run = 100)
     {
         for (; frames > 0; frames -= run) channel.Render(frames < run ? frames : run, kTempo);
+    }
+
+    /// Plays a live note with these values and lets it settle.
+    void Start(const std::vector<Value>& values, int note, int frames = 200)
+    {
+        Set(values);
+        channel.NoteOn(note, 0, 1);
+        Render(frames);
+    }
+
+    /// What the first note's voice gives over the next frames; nothing once it has ended.
+    Sound Play(int frames)
+    {
+        Sound sound(frames);
+        for (int from = 0; from < frames; from += kBlock) {
+            const int run = std::min(kBlock, frames - from);
+            channel.Render(run, kTempo);
+            if (!Last().active) break;
+            std::copy_n(Last().left, run, &sound.left[from]);
+            std::copy_n(Last().right, run, &sound.right[from]);
+        }
+        return sound;
     }
 
     std::unique_ptr<SamplePool> pool = std::make_unique<SamplePool>();
