@@ -13,10 +13,15 @@
 
 namespace korvane {
 
-inline void WriteBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes)
+inline void WriteText(const std::filesystem::path& path, const std::string& bytes)
 {
     std::filesystem::create_directories(path.parent_path());
-    std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(bytes.data()), std::ssize(bytes));
+    std::ofstream(path, std::ios::binary).write(bytes.data(), std::ssize(bytes));
+}
+
+inline void WriteBytes(const std::filesystem::path& path, const std::vector<std::uint8_t>& bytes)
+{
+    WriteText(path, {bytes.begin(), bytes.end()});
 }
 
 inline std::vector<std::uint8_t> ReadBytes(const std::filesystem::path& path)
@@ -30,8 +35,7 @@ struct ContentRoot {
     ContentRoot()
     {
         std::filesystem::remove_all(path);
-        const std::string setting = "rootFolder=" + path.string();
-        WriteBytes(path / "Brassmoor/Korvane.conf", {setting.begin(), setting.end()});
+        WriteText(path / "Brassmoor/Korvane.conf", "rootFolder=" + path.string());
         setenv("XDG_CONFIG_HOME", path.c_str(), 1);
     }
     ~ContentRoot() { std::filesystem::remove_all(path); }
