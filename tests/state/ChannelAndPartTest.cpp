@@ -1,7 +1,4 @@
 // Channel chunks and part images.
-#include <gtest/gtest.h>
-
-#include "framework/ParameterTable.h"
 #include "state/Images.h"
 
 namespace korvane {
@@ -10,46 +7,53 @@ namespace {
 // A chunk is read front to back: what stands before the cut is taken, the rest is the reset channel's.
 TEST(ChannelChunk, EndsWhereItIsCut)
 {
+    constexpr int kLast = slot::Count - 1, kParams = 4 + 7 * 512;
     // clang-format off
-    struct Case { const char* what; int length; bool accepted; const char *firstPath, *lastPath;
-                  float level, lastValue, workingLevel; const char* programPath; };
+    struct Case { const char* what; int length; bool accepted; std::string firstPath, lastPath, request;
+                  float level, lastValue, workingLevel; std::string programPath; };
     const Case cases[] = {
-        {"whole",             4948, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  "D:\\program"},
-        {"longer than it is", 5000, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  "D:\\program"},
-        {"cut program path",  4947, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  ""},
-        {"no program path",   4436, true,  "D:\\0", "",    0.25f,  0.75f,  0.25f,  ""},
-        {"cut last value",    4435, false, "D:\\0", "",    0.25f,  0.0f,   0.75f,  ""},
-        {"no values",         3588, false, "D:\\0", "",    0.0f,   0.0f,   0.75f,  ""},
-        {"cut last path",     3587, false, "D:\\0", "",    0.75f,  0.5f,   0.75f,  ""},
-        {"tag only",             4, false, "",      "",    0.75f,  0.5f,   0.75f,  ""},
-        {"cut tag",              3, false, "old",   "old", 0.125f, 0.125f, 0.125f, "old"},
-        {"negative length",     -1, false, "old",   "old", 0.125f, 0.125f, 0.125f, "old"},
+        {"whole",             kChannelChunk,     true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  "D:\\p"},
+        {"longer than it is", 5000,              true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  "D:\\p"},
+        {"cut program path",  kChannelChunk - 1, true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  ""},
+        {"no program path",   kShortChunk,       true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  ""},
+        {"cut last value",    kShortChunk - 1,   false, "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.0f,   0.75f,  ""},
+        {"no values",         kParams,           false, "D:\\0", "D:\\6", "D:\\0", 0.0f,   0.0f,   0.75f,  ""},
+        {"cut last path",     kParams - 1,       false, "D:\\0", "",      "D:\\0", 0.75f,  0.5f,   0.75f,  ""},
+        {"tag only",          4,                 false, "",      "",      "",      0.75f,  0.5f,   0.75f,  ""},
+        {"cut tag",           3,                 false, "old",   "old",   "old",   0.125f, 0.125f, 0.125f, "old"},
+        {"negative length",   -1,                false, "old",   "old",   "old",   0.125f, 0.125f, 0.125f, "old"},
     };
     // clang-format on
     GrooveEngine engine;
     engine.ResetGroove();
-    engine.storedParams[2][0] = 0.25f, engine.storedParams[2][211] = 0.75f;
-    engine.Channel(2).sampleSlots[0].path.Set("D:\\0");
-    engine.Channel(2).programPath.Set("D:\\program");
+    engine.storedParams[2][slot::MixLevel] = 0.25f, engine.storedParams[2][kLast] = 0.75f;
+    GrooveChannel &source = engine.Channel(2), &channel = engine.Channel(11);
+    source.sampleSlots[0].path.Set("D:\\0"), source.sampleSlots[6].path.Set("D:\\6"), source.programPath.Set("D:\\p");
     Bytes chunk(5000);
-    ASSERT_EQ(engine.SaveChannelChunk(chunk.data(), 2), 4948);
+    ASSERT_EQ(engine.SaveChannelChunk(chunk.data(), 2), kChannelChunk);
     chunk[4 + 511] = 'x'; // the first path's field, filled to its end
-    GrooveChannel& channel = engine.Channel(11);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         for (auto& value : engine.storedParams[11]) value = 0.125f;
         engine.RefreshChannel(11);
-        for (auto& slot : channel.sampleSlots) slot.path.Set("old");
+        for (auto& sampleSlot : channel.sampleSlots) sampleSlot.path.Set("old"), sampleSlot.request.Post("old");
         channel.programPath.Set("old");
         EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.length, 11), c.accepted);
         EXPECT_EQ(TextOf(channel.sampleSlots[0].path), c.firstPath);
         EXPECT_EQ(TextOf(channel.sampleSlots[6].path), c.lastPath);
-        EXPECT_EQ(engine.storedParams[11][0], c.level);
-        EXPECT_EQ(engine.storedParams[11][211], c.lastValue);
-        EXPECT_EQ(channel.params[0], c.workingLevel);
+        const auto request = [&channel](int n) {
+            char path[LoadRequest::kPathBytes] = "";
+            channel.sampleSlots[n].request.Take(path);
+            return std::string(path);
+        };
+        EXPECT_EQ(request(0), c.request);
+        if (c.accepted) { EXPECT_EQ(request(1), "!") << "an empty path clears the slot"; }
+        EXPECT_EQ(engine.storedParams[11][slot::MixLevel], c.level);
+        EXPECT_EQ(engine.storedParams[11][kLast], c.lastValue);
+        EXPECT_EQ(channel.params[slot::MixLevel], c.workingLevel);
         EXPECT_EQ(TextOf(channel.programPath), c.programPath);
     }
-    EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), 4948, 13));
+    EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, 13));
 }
 
 TEST(PartImage, MovesOneChannelIntoAnotherOfItsKind)
@@ -58,16 +62,11 @@ TEST(PartImage, MovesOneChannelIntoAnotherOfItsKind)
     FillGroove(engine, 3);
     engine.currentPattern = 4;
     engine.selectedChannel = 9;
-    engine.Pattern().ClearChannel(9);
-    engine.Pattern().steps[9][127] = 5u;
-    for (int n = 0; n < 3; ++n) engine.Pattern().locks[9][127].Append(n, 0.5f);
     const Bytes part = SavedPart(engine);
-    ASSERT_EQ(part.size(), 16u + 4948u + 4u + 128u * 6u + 18u);
     EXPECT_EQ(std::string(part.begin(), part.begin() + 4), "3StP");
-
     engine.selectedChannel = 11;
     Bytes expected = Saved(engine);
-    std::copy_n(part.begin() + 8, 4948, expected.begin() + kHeader + 11 * kFramedChannel + 4);
+    std::copy_n(part.begin() + 8, kChannelChunk, expected.begin() + kHeader + 11 * kFramedChannel + 4);
     ASSERT_TRUE(engine.LoadPart(part.data(), static_cast<int>(part.size())));
     EXPECT_TRUE(SavedPart(engine) == part);
     const Bytes saved = Saved(engine);
@@ -78,22 +77,19 @@ TEST(PartImage, MovesOneChannelIntoAnotherOfItsKind)
 
 TEST(PartImage, TakesWhatItCanOfADamagedPart)
 {
-    constexpr int kWhole = 16 + 4948 + 4 + 128 * 6, kSampler = 0x50744433;
+    constexpr int kSequence = 8 + kChannelChunk, kSteps0 = kSequence + 8, kWhole = kSteps0 + 128 * kRecord + 4;
+    constexpr int kSampler = 0x50744433; // "3DtP"
     // clang-format off
     // An int32 is written into the part, at 0 its tag; the steps that are not taken over stay what they were.
     struct Case { const char* what; int at, value, length, channel; bool accepted; float noteLength; int steps; };
     const Case cases[] = {
-        {"whole",                    0, kSampler, kWhole,     2, true,  0.75f,  128},
-        {"other kind",               0, kSampler, kWhole,     8, false, 0.125f, 0},
-        {"wrong tag",                0, 1,        kWhole,     2, false, 0.125f, 0},
-        {"wrong channel tag",        8, 1,        kWhole,     2, false, 0.125f, 0},
-        {"no sequence",              0, kSampler, 4956,       2, false, 0.25f,  0},
-        {"short sequence",        4956, 3,        kWhole,     2, false, 0.25f,  0},
-        {"negative sequence",     4956, -1,       kWhole,     2, false, 0.25f,  0},
-        {"wrong sequence tag",    4960, 1,        kWhole,     2, false, 0.25f,  0},
-        {"sequence of ten steps", 4956, 4 + 60,   kWhole,     2, false, 0.25f,  10},
-        {"cut after a step",         0, kSampler, 4964 + 6,   2, false, 0.25f,  1},
-        {"no note length",           0, kSampler, kWhole - 1, 2, false, 0.25f,  128},
+        {"whole",             0,             kSampler, kWhole,    7, true,  0.75f,  128}, {"other kind", 0, kSampler, kWhole, 8, false, 0.125f, 0},
+        {"wrong channel tag", 8,             1,        kWhole,    2, false, 0.125f, 0},   {"wrong tag",  0, 1,        kWhole, 2, false, 0.125f, 0},
+        {"no sequence",       0,             kSampler, kSequence, 2, false, 0.25f,  0},   {"negative one", kSequence, -1, kWhole, 2, false, 0.25f, 0},
+        {"wrong sequence tag", kSequence + 4, 1,       kWhole,    2, false, 0.25f,  0},   {"short sequence", kSequence, 3, kWhole, 2, false, 0.25f, 0},
+        {"sequence of ten steps", kSequence, 4 + 10 * kRecord, kWhole,            2, false, 0.25f, 10},
+        {"cut after a step",      0,         kSampler,         kSteps0 + kRecord, 2, false, 0.25f, 1},
+        {"no note length",        0,         kSampler,         kWhole - 1,        2, false, 0.25f, 128},
     };
     // clang-format on
     GrooveEngine engine;
@@ -110,13 +106,12 @@ TEST(PartImage, TakesWhatItCanOfADamagedPart)
         Put(image, c.at, c.value);
         engine.selectedChannel = c.channel;
         engine.storedParams[c.channel][slot::NoteLength] = 0.125f;
-        for (auto& word : engine.Pattern().steps[c.channel]) word = 3u;
+        auto& steps = engine.Pattern().steps[c.channel];
+        for (auto& word : steps) word = 3u;
         EXPECT_EQ(engine.LoadPart(image.data(), c.length), c.accepted);
         EXPECT_EQ(engine.storedParams[c.channel][slot::NoteLength], c.noteLength);
         if (c.accepted) { EXPECT_EQ(engine.Channel(c.channel).params[slot::NoteLength], c.noteLength); }
-        int taken = 0;
-        for (const auto& word : engine.Pattern().steps[c.channel]) taken += word == 9u;
-        EXPECT_EQ(taken, c.steps);
+        EXPECT_EQ(std::count(std::begin(steps), std::end(steps), 9u), c.steps);
     }
 }
 

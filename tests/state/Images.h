@@ -1,21 +1,25 @@
 // Grooves and images for the tests of this folder.
 #pragma once
 
-#include <cstdint>
+#include <gtest/gtest.h>
+
+#include <cmath>
 #include <cstring>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "engine/GrooveEngine.h"
+#include "framework/ParameterTable.h"
 #include "support/Written.h"
 
 namespace korvane {
 
 using Bytes = std::vector<std::uint8_t>;
 
-constexpr int kHeader = 95, kFramedChannel = 4 + 4948, kPatternsAt = kHeader + 13 * kFramedChannel;
-constexpr int kEmptyPattern = 4 + 4 + 1664 * 6, kEmptyGroove = kPatternsAt + 8 * kEmptyPattern;
+constexpr int kHeader = 95, kChannelChunk = 4948, kShortChunk = 4436; // without the program path
+constexpr int kFramedChannel = 4 + kChannelChunk, kPatternsAt = kHeader + 13 * kFramedChannel;
+constexpr int kRecord = 6, kEmptyPattern = 4 + 4 + 1664 * kRecord, kEmptyGroove = kPatternsAt + 8 * kEmptyPattern;
 
 inline Bytes Saved(const GrooveEngine& engine, decltype(&GrooveEngine::SaveState) save = &GrooveEngine::SaveState)
 {

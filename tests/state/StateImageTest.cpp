@@ -1,7 +1,4 @@
 // The groove image: every byte's place, and what becomes of images that are not as they should be.
-#include <gtest/gtest.h>
-
-#include <cmath>
 #include <functional>
 
 #include "state/Images.h"
@@ -11,101 +8,67 @@ namespace {
 
 TEST(StateImage, EveryFieldHasItsPlace)
 {
+    using E = const GrooveEngine&;
+    constexpr int kStep = kPatternsAt + 7 * kEmptyPattern + 8 + (12 * 128 + 17) * kRecord; // pattern 8, bar 2, step 2
     // clang-format off
-    struct Case { const char* what; std::function<void(GrooveEngine&)> set; int offset; Bytes bytes; };
+    struct Case { const char* what; int at; Bytes bytes; std::function<bool(E)> holds; };
     const Case cases[] = {
-        {"selected channel", [](auto& e) { e.selectedChannel = 12; },  4, {12}},
-        {"selected bar",     [](auto& e) { e.selectedBar = 7; },       5, {7}},
-        {"pattern",          [](auto& e) { e.currentPattern = 6; },    6, {6}},
-        {"effect",           [](auto& e) { e.selectedFx = 9; },        7, {9}},
-        {"envelope",         [](auto& e) { e.envelopeNumber = 1; },    8, {1}},
-        {"LFO",              [](auto& e) { e.lfoNumber = 1; },         9, {1}},
-        {"last mute",        [](auto& e) { e.muted[12] = true; },     22, {1}},
-        {"first play once",  [](auto& e) { e.playOnce[0] = true; },   23, {1}},
-        {"shuffle",          [](auto& e) { e.shuffleAmount = 0.5f; }, 31, {0, 0, 0, 0x3f}},
-        {"last EXT record",  [](auto& e) { e.extControls[4].value = 1.0f; e.extControls[4].channel = 12;
-                                           e.extControls[4].param = 211; },
-                                           83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}},
-        {"last slot's path", [](auto& e) { e.Channel(0).sampleSlots[6].path.Set("C:\\k"); },
-                                           kHeader + 4 + 4 + 6 * 512, {'C', ':', '\\', 'k', 0}},
-        {"note length",      [](auto& e) { e.storedParams[1][3] = -2.0f; },
-                                           kHeader + kFramedChannel + 4 + 3588 + 12, {0, 0, 0, 0xc0}},
-        {"program path",     [](auto& e) { e.Channel(12).programPath.Set("D:\\p"); },
-                                           kPatternsAt - 512, {'D', ':', '\\', 'p', 0}},
-        {"bar 2 step 2",     [](auto& e) { e.patterns[7]->steps[12][17] = 0x81020304u; },
-                                           kPatternsAt + 7 * kEmptyPattern + 8 + (12 * 128 + 17) * 6, {4, 3, 2, 0x81}},
+        {"selected channel", 4,  {12}, [](E e) { return e.selectedChannel == 12; }}, {"bar",     5, {7}, [](E e) { return e.selectedBar == 7; }},
+        {"pattern",          6,  {6},  [](E e) { return e.currentPattern == 6; }},   {"effect",  7, {9}, [](E e) { return e.selectedFx == 9; }},
+        {"envelope",         8,  {1},  [](E e) { return e.envelopeNumber == 1; }},   {"LFO",     9, {1}, [](E e) { return e.lfoNumber == 1; }},
+        {"last mute",        22, {1},  [](E e) { return e.muted[12] && !e.muted[11]; }},
+        {"first play once",  23, {1},  [](E e) { return e.playOnce[0] && !e.playOnce[1]; }},
+        {"shuffle",          31, {0, 0, 0, 0x3f}, [](E e) { return e.shuffleAmount == 0.5f; }},
+        {"last EXT record",  83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [](E e) {
+            return e.extControls[4].value == 1.0f && e.extControls[4].channel == 12 && e.extControls[4].param == 211; }},
+        {"last slot's path", kHeader + 8 + 6 * 512, {'C', ':', '\\', 'k'}, [](E e) { return TextOf(e.Channel(0).sampleSlots[6].path) == "C:\\k"; }},
+        {"note length",      kHeader + kFramedChannel + 8 + 7 * 512 + 12, {0, 0, 0, 0xc0}, [](E e) { return e.storedParams[1][slot::NoteLength] == -2.0f; }},
+        {"program path",     kPatternsAt - 512, {'D', ':', '\\', 'p'}, [](E e) { return TextOf(e.Channel(12).programPath) == "D:\\p"; }},
+        {"step",             kStep, {4, 3, 2, 0x81}, [](E e) { return e.patterns[7]->steps[12][17] == 0x81020304u; }},
     };
     // clang-format on
     GrooveEngine engine;
+    engine.ResetGroove();
+    const Bytes empty = Saved(engine);
+    ASSERT_EQ(empty.size(), 144407u);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        engine.ResetGroove();
-        for (auto& control : engine.extControls) control.value = 0.0f, control.channel = 0;
-        Bytes expected = Saved(engine);
-        ASSERT_EQ(expected.size(), 144407u);
-        std::copy(c.bytes.begin(), c.bytes.end(), expected.begin() + c.offset);
-        c.set(engine);
-        EXPECT_TRUE(Saved(engine) == expected);
-        EXPECT_TRUE(Load(engine, expected));
-        EXPECT_TRUE(Saved(engine) == expected);
-        engine.Channel(12).programPath.Set("");
-    }
-}
-
-TEST(StateImage, SavesWhatItLoads)
-{
-    GrooveEngine engine, other;
-    for (unsigned seed = 1; seed < 6; ++seed) {
-        FillGroove(engine, seed);
-        const Bytes image = Saved(engine);
-        ASSERT_TRUE(Load(other, image));
-        EXPECT_TRUE(Saved(other) == image) << seed;
-        for (int c = 0; c < kChannels; ++c)
-            for (const float value : other.Channel(c).params) ASSERT_TRUE(std::isfinite(value));
+        Bytes image = empty;
+        std::copy(c.bytes.begin(), c.bytes.end(), image.begin() + c.at);
+        EXPECT_FALSE(c.holds(engine));
+        EXPECT_TRUE(Load(engine, image));
+        EXPECT_TRUE(c.holds(engine));
+        EXPECT_TRUE(Saved(engine) == image);
+        ASSERT_TRUE(Load(engine, empty));
     }
 }
 
 TEST(StateImage, TakesWhatItCanOfADamagedImage)
 {
-    constexpr int kThird = kPatternsAt + 2 * kEmptyPattern;
-    const auto marked = [](GrooveEngine& e, std::size_t p) { return e.patterns[p]->steps[0][0] == 9u; };
-    const auto all = [&](GrooveEngine& e) { return marked(e, 0) && marked(e, 2) && marked(e, 7); };
-    const auto allBut2 = [&](GrooveEngine& e) { return marked(e, 1) && !marked(e, 2) && marked(e, 3) && marked(e, 7); };
-    const auto noPatterns = [&](GrooveEngine& e) { return !marked(e, 0) && e.storedParams[12][0] == 0.25f; };
-    const auto cutPaths = [](Bytes& b) {
-        for (int c = 12; c >= 0; --c) {
-            const int at = kHeader + c * kFramedChannel;
-            Put(b, at, 4436);
-            b.erase(b.begin() + at + 4 + 4436, b.begin() + at + kFramedChannel);
-        }
+    constexpr int kThird = kPatternsAt + 2 * kEmptyPattern, kLastChannel = kPatternsAt - kFramedChannel;
+    /// Puts a value in, and takes `count` bytes out elsewhere; brings in as many below 0.
+    const auto put = [](int at, auto value, int cut = 0, int count = 0) {
+        return [=](Bytes& image) {
+            Put(image, at, value);
+            if (count > 0) image.erase(image.begin() + cut, image.begin() + cut + count);
+            if (count < 0) image.insert(image.begin() + cut, -count, 1);
+        };
     };
     // clang-format off
-    struct Case { const char* what; std::function<void(Bytes&)> damage; bool accepted; std::function<bool(GrooveEngine&)> holds; };
+    // Afterwards: the first step of each pattern, the levels of the first and the last channel (they were 0.5 and 0.25).
+    struct Case { const char* what; std::function<void(Bytes&)> damage; bool accepted; std::string steps; float first, last; };
     const Case cases[] = {
-        {"as it is",               [](Bytes&) {}, true, all},
-        {"wrong tag",              [](Bytes& b) { b[0] = 'x'; }, false,
-                                   [](auto& e) { return e.storedParams[0][0] == 0.125f; }},
-        {"selections out of range", [](Bytes& b) { b[4] = 13; b[5] = 8; b[6] = 0xff; b[7] = 127; b[8] = 2; b[9] = 0x80; },
-                                   true, [](auto& e) { return e.selectedChannel == 12 && e.selectedBar == 7 &&
-                                         e.currentPattern == 0 && e.selectedFx == 9 && e.envelopeNumber == 1 &&
-                                         e.lfoNumber == 0; }},
-        {"EXT of no parameter",    [](Bytes& b) { Put(b, 43, 300); }, true,
-                                   [](auto& e) { e.SetExtControl(0, 0.5f); return e.extControls[0].param == 300; }},
-        {"EXT of no channel",      [](Bytes& b) { Put(b, 39, 13); Put(b, 43, 5); }, true,
-                                   [](auto& e) { e.SetExtControl(0, 0.5f); return e.extControls[0].channel == 13; }},
-        {"no program paths",       cutPaths, true, [&](auto& e) { return all(e) && e.Channel(12).programPath.Empty(); }},
-        {"longer channel chunk",   [](Bytes& b) { Put(b, kHeader, 4957); b.insert(b.begin() + kHeader + kFramedChannel, 9, 1); },
-                                   true, all},
-        {"negative channel chunk", [](Bytes& b) { Put(b, kHeader, -4948); }, false, [&](auto& e) { return !marked(e, 0); }},
-        {"endless channel chunk",  [](Bytes& b) { Put(b, kPatternsAt - kFramedChannel, INT32_MAX); }, false, noPatterns},
-        {"wrong channel tag",      [](Bytes& b) { b[kHeader + 4] = 'x'; }, false,
-                                   [](auto& e) { return e.storedParams[0][0] == 0.75f; }},
-        {"wrong pattern tag",      [](Bytes& b) { b[kThird + 4] = 'x'; }, true, allBut2},
-        {"pattern of three bytes", [](Bytes& b) { Put(b, kThird, 3); b.erase(b.begin() + kThird + 7, b.begin() + kThird + kEmptyPattern); },
-                                   true, allBut2},
-        {"negative pattern",       [](Bytes& b) { Put(b, kPatternsAt, INT32_MIN); }, false, noPatterns},
-        {"endless pattern",        [](Bytes& b) { Put(b, kThird, INT32_MAX); }, false,
-                                   [&](auto& e) { return marked(e, 2) && !marked(e, 3); }},
+        {"as it is",               put(0, '3'),                          true,  "99999999", 0.5f,   0.25f},
+        {"wrong tag",              put(0, 'x'),                          false, "........", 0.125f, 0.75f},
+        {"no program path",        put(kLastChannel, kShortChunk, kPatternsAt - 512, 512), true,  "99999999", 0.5f,   0.25f},
+        {"longer channel chunk",   put(kHeader, kChannelChunk + 9, kHeader + kFramedChannel, -9), true,  "99999999", 0.5f,   0.25f},
+        {"negative channel chunk", put(kHeader, -kChannelChunk),         false, "........", 0.75f,  0.75f},
+        {"endless channel chunk",  put(kLastChannel, INT32_MAX),         false, "........", 0.5f,   0.25f},
+        {"wrong channel tag",      put(kHeader + 4, 'x'),                false, "........", 0.75f,  0.75f},
+        {"wrong pattern tag",      put(kThird + 4, 'x'),                 true,  "99.99999", 0.5f,   0.25f},
+        {"pattern of three bytes", put(kThird, 3, kThird + 7, kEmptyPattern - 7), true,  "99.99999", 0.5f,   0.25f},
+        {"negative pattern",       put(kPatternsAt, INT32_MIN),          false, "........", 0.5f,   0.25f},
+        {"endless pattern",        put(kThird, INT32_MAX),               false, "999.....", 0.5f,   0.25f},
     };
     // clang-format on
     GrooveEngine engine;
@@ -113,15 +76,37 @@ TEST(StateImage, TakesWhatItCanOfADamagedImage)
         SCOPED_TRACE(c.what);
         engine.ResetGroove();
         for (auto& pattern : engine.patterns) pattern->steps[0][0] = 9u;
-        engine.storedParams[12][0] = 0.25f;
+        engine.storedParams[0][slot::MixLevel] = 0.5f, engine.storedParams[12][slot::MixLevel] = 0.25f;
         Bytes image = Saved(engine);
         c.damage(image);
         engine.ResetGroove();
-        engine.Channel(12).programPath.Set("");
-        engine.storedParams[0][0] = 0.125f;
+        engine.storedParams[0][slot::MixLevel] = 0.125f;
         EXPECT_EQ(Load(engine, image), c.accepted);
-        EXPECT_TRUE(c.holds(engine));
+        std::string steps;
+        for (const auto& pattern : engine.patterns) steps += pattern->steps[0][0] == 9u ? '9' : '.';
+        EXPECT_EQ(steps, c.steps);
+        EXPECT_EQ(engine.storedParams[0][slot::MixLevel], c.first);
+        EXPECT_EQ(engine.storedParams[12][slot::MixLevel], c.last);
     }
+}
+
+// Selections are brought into range; an assignment that leads nowhere stands and does nothing.
+TEST(StateImage, TakesWildSelections)
+{
+    GrooveEngine engine;
+    engine.ResetGroove();
+    Bytes image = Saved(engine);
+    const Bytes wild = {13, 8, 0xff, 127, 2, 0x80};
+    std::copy(wild.begin(), wild.end(), image.begin() + 4);
+    Put(image, 39, 13), Put(image, 43, static_cast<int>(slot::AmpDecay)); // EXT 1: no such channel
+    Put(image, 51, 3), Put(image, 55, 300);                               // EXT 2: no such parameter
+    ASSERT_TRUE(Load(engine, image));
+    const std::vector<int> found = {engine.selectedChannel, engine.selectedBar,    engine.currentPattern,
+                                    engine.selectedFx,      engine.envelopeNumber, engine.lfoNumber};
+    EXPECT_EQ(found, (std::vector<int>{12, 7, 0, 9, 1, 0}));
+    for (const int n : {0, 1}) engine.SetExtControl(n, 0.5f);
+    EXPECT_EQ(engine.extControls[0].channel, 13);
+    EXPECT_EQ(engine.extControls[1].param, 300);
 }
 
 TEST(StateImage, LoadsTheStepsUpToACut)
@@ -170,21 +155,23 @@ TEST(StateImage, KeepsTheLocksThatActOfAListTooLong)
     }
 }
 
-// Whatever the bytes are, the engine stays one that saves and loads back what it saved.
-TEST(StateImage, SurvivesFlippedBytes)
+// What is saved and loaded is saved again to the byte; whatever the bytes are, it stays so.
+TEST(StateImage, SavesWhatItLoads)
 {
     GrooveEngine engine, other;
-    FillGroove(engine, 7);
-    const Bytes image = Saved(engine);
     std::mt19937 random(1);
-    for (int round = 0; round < 300; ++round) {
-        Bytes wild = image;
+    for (unsigned round = 0; round < 300; ++round) {
+        FillGroove(engine, 1 + round / 60);
+        Bytes image = Saved(engine);
+        ASSERT_TRUE(Load(other, image));
+        ASSERT_TRUE(Saved(other) == image);
+        for (const float value : other.Channel(round % kChannels).params) ASSERT_TRUE(std::isfinite(value));
         for (int flips = 1 + static_cast<int>(random() % 8); flips > 0; --flips)
-            wild[random() % (round % 2 ? wild.size() : kHeader + 4)] = static_cast<std::uint8_t>(random());
-        Load(engine, wild);
-        const Bytes saved = Saved(engine);
-        ASSERT_TRUE(Load(other, saved)) << round;
-        ASSERT_TRUE(Saved(other) == saved) << round;
+            image[random() % (round % 2 ? image.size() : kHeader + 4)] = static_cast<std::uint8_t>(random());
+        Load(engine, image);
+        image = Saved(engine);
+        ASSERT_TRUE(Load(other, image)) << round;
+        ASSERT_TRUE(Saved(other) == image) << round;
     }
 }
 
