@@ -9,57 +9,47 @@
 #include <cstring>
 #include <limits>
 #include <map>
-#include <string>
-#include <vector>
 
 #include "shell/vst2/AudioEffectX.h"
 #include "support/ContentRoot.h"
+#include "support/Parameters.h"
 
 namespace korvane {
 namespace {
 
-struct Call {
-    AEffect* effect;
-    std::int32_t opcode, index;
-    std::intptr_t value;
-    float option;
-};
+// clang-format off
+struct Call { AEffect* effect; std::int32_t opcode, index; std::intptr_t value; float option; };
+// clang-format on
 std::vector<Call> calls;
-std::int32_t hostVersion = 2400;
-VstTimeInfo times[2]; // answers to the requests for tempo and for position
-bool givesTime = true;
 
-void (*whenAutomated)(AEffect*, int index) = nullptr; // what the host does with a report
+struct {
+    std::int32_t version = 2400;
+    bool givesTime = true;
+    VstTimeInfo tempo{}, position{};                                   // answers to the requests for them
+    void (*whenAutomated)(AEffect*, int index) = [](AEffect*, int) {}; // what the host does with a report
+} host;
 
 std::intptr_t HostCallback(AEffect* effect, std::int32_t opcode, std::int32_t index, std::intptr_t value, void*,
                            float option)
 {
     calls.push_back({effect, opcode, index, value, option});
-    if (opcode == host_request::Automate && whenAutomated) whenAutomated(effect, index);
-    if (opcode == host_request::Version) return hostVersion;
-    if (opcode != host_request::GetTime || !givesTime) return 0;
-    return reinterpret_cast<std::intptr_t>(&times[value == 1024 ? 0 : 1]);
+    if (opcode == host_request::Automate) host.whenAutomated(effect, index);
+    if (opcode == host_request::Version) return host.version;
+    if (opcode != host_request::GetTime || !host.givesTime) return 0;
+    return reinterpret_cast<std::intptr_t>(value == time_flag::TempoValid ? &host.tempo : &host.position);
 }
-
-using Entry = AEffect* (*)(AudioMasterCallback);
 
 class Bridge : public testing::Test {
 protected:
-    Bridge()
-    {
-        module = dlopen(KORVANE_BUNDLE "/korvane.so", RTLD_NOW);
-        EXPECT_TRUE(module) << dlerror();
-        hostVersion = 2400, givesTime = true, whenAutomated = nullptr;
-        times[0] = times[1] = VstTimeInfo{};
-        calls.clear();
-    }
+    Bridge() { host = {}, calls.clear(); }
     ~Bridge() override
     {
         if (effect) Ask(request::Close);
         dlclose(module);
     }
-    void Open() { effect = Find("VSTPluginMain")(HostCallback); }
+    using Entry = AEffect* (*)(AudioMasterCallback);
     Entry Find(const char* name) { return reinterpret_cast<Entry>(dlsym(module, name)); }
+    void Open() { effect = Find("VSTPluginMain")(HostCallback); }
     std::intptr_t Ask(std::int32_t opcode, std::int32_t index = 0, std::intptr_t value = 0, void* pointer = nullptr,
                       float option = 0.0f)
     {
@@ -67,63 +57,51 @@ protected:
         if (opcode == request::Close) effect = nullptr;
         return answer;
     }
-    std::string Text(std::int32_t opcode, std::int32_t index = 0)
-    {
-        char text[256] = "untouched";
-        Ask(opcode, index, 0, text);
-        return text;
-    }
-    /// A replacing block into buffers that held 9.
-    void Render(int frames)
+    /// A block into buffers that held 9.
+    void Render(int frames, bool replacing = true)
     {
         float* pointers[28];
         for (std::size_t n = 0; n < outputs.size(); ++n) {
             outputs[n].assign(static_cast<std::size_t>(std::max(frames, 0)) + 1, 9.0f);
             pointers[n] = outputs[n].data();
         }
-        effect->processReplacing(effect, nullptr, pointers, frames);
+        (replacing ? effect->processReplacing : effect->process)(effect, nullptr, pointers, frames);
     }
-    bool Playing() { return effect->getParameter(effect, 1) == 1.0f; }
+    float Get(int index) { return effect->getParameter(effect, index); }
 
     const ContentRoot root; // empty: nothing of this machine's settings and files
-    void* module = nullptr;
+    void* module = dlopen(KORVANE_BUNDLE "/korvane.so", RTLD_NOW);
     AEffect* effect = nullptr;
     std::array<std::vector<float>, 28> outputs;
 };
 
 TEST_F(Bridge, IsMadeInOrder)
 {
-    const unsigned before = _mm_getcsr();
+    _MM_SET_FLUSH_ZERO_MODE(_MM_FLUSH_ZERO_OFF);
     EXPECT_EQ(Find("VSTPluginMain")(nullptr), nullptr);
-    hostVersion = 0;
+    host.version = 0;
     EXPECT_EQ(Find("VSTPluginMain")(HostCallback), nullptr);
     EXPECT_EQ(calls.size(), 1u);
-    hostVersion = 2400, calls.clear();
+    host.version = 2400, calls.clear();
     Open();
     ASSERT_TRUE(effect);
-    EXPECT_EQ(_mm_getcsr() & 0x8000u, before & 0x8000u);
-    ASSERT_EQ(calls.size(), 3u + 154u) << "version, vendor, product, and the values of the program";
-    for (const auto& [n, opcode] : {std::pair{0, 1}, {1, 32}, {2, 33}}) EXPECT_EQ(calls[n].opcode, opcode);
-    for (int n = 0; n < 154; ++n) {
-        EXPECT_EQ(calls[3 + n].opcode, host_request::Automate);
-        EXPECT_EQ(calls[3 + n].index, n);
-        EXPECT_EQ(calls[3 + n].option, effect->getParameter(effect, n));
-    }
-    EXPECT_EQ(std::memcmp(&effect->magic, "PtsV", 4), 0);
-    EXPECT_EQ(std::memcmp(&effect->uniqueId, "HSvK", 4), 0);
-    EXPECT_EQ(effect->numPrograms, 1);
-    EXPECT_EQ(effect->numParams, 154);
-    EXPECT_EQ(effect->numInputs, 2);
-    EXPECT_EQ(effect->numOutputs, 28);
+    EXPECT_EQ(_MM_GET_FLUSH_ZERO_MODE(), 0u + _MM_FLUSH_ZERO_OFF) << "the host's own";
+    std::vector<int> expected = {host_request::Version, host_request::VendorString, host_request::ProductString};
+    expected.resize(3 + 154, host_request::Automate);
+    std::vector<int> found;
+    for (const Call& call : calls) found.push_back(call.opcode);
+    EXPECT_EQ(found, expected);
+    for (int n = 0; n < 154; ++n) EXPECT_TRUE(calls[3 + n].index == n && calls[3 + n].option == Get(n)) << n;
+    const std::vector<int> record = {effect->magic,     effect->uniqueId,   effect->numPrograms, effect->numParams,
+                                     effect->numInputs, effect->numOutputs, effect->version,     effect->initialDelay};
+    EXPECT_EQ(record, (std::vector<int>{0x56737450, 0x4B765348, 1, 154, 2, 28, 1, 0})) << "PtsV, HSvK";
     EXPECT_EQ(effect->flags & ~effect_flag::HasEditor, 0x130);
-    EXPECT_EQ(effect->initialDelay, 0);
     EXPECT_EQ(effect->ioRatio, 1.0f);
-    EXPECT_EQ(effect->version, 1);
 
     AEffect* const first = effect;
     effect = Find("main")(HostCallback);
-    EXPECT_TRUE(_mm_getcsr() & 0x8000u);
-    _mm_setcsr(before);
+    EXPECT_EQ(_MM_GET_FLUSH_ZERO_MODE(), 0u + _MM_FLUSH_ZERO_ON);
+    _MM_SET_FLUSH_ZERO_MODE(_MM_FLUSH_ZERO_OFF);
     EXPECT_EQ(Ask(request::Close), 1);
     effect = first;
 }
@@ -132,23 +110,14 @@ TEST_F(Bridge, IsMadeInOrder)
 // and a host that acts on them at once is answered.
 TEST_F(Bridge, AnswersWhileItIsMade)
 {
-    whenAutomated = [](AEffect* made, int index) {
-        const auto ask = [made](std::int32_t opcode, int n, std::intptr_t value, void* pointer) {
-            return made->dispatcher(made, opcode, n, value, pointer, 0.0f);
-        };
-        EXPECT_EQ(made->uniqueId, FourBytes("HSvK"));
-        EXPECT_EQ(made->numOutputs, 28);
-        EXPECT_EQ(made->flags & effect_flag::IsSynth, effect_flag::IsSynth);
+    host.whenAutomated = [](AEffect* made, int index) {
+        EXPECT_TRUE(made->uniqueId == FourBytes("HSvK") && made->numOutputs == 28);
         EXPECT_TRUE(made->user == nullptr && made->reserved1 == 0 && made->reserved2 == 0) << "the host's own fields";
         EXPECT_EQ(made->getParameter(made, index), calls.back().option);
-        EXPECT_EQ(ask(request::CanBeAutomated, index, 0, nullptr), 1);
-        if (index != 80) return;
-        char text[256] = "";
-        ask(request::GetParameterDisplay, index, 0, text);
-        EXPECT_STREQ(text, "0.0 dB");
+        if (index != ParamOf(slot::MixLevel)) return;
         void* chunk = nullptr;
-        const std::intptr_t size = ask(request::GetChunk, 0, 0, &chunk);
-        EXPECT_EQ(ask(request::SetChunk, 0, size, chunk), size);
+        const std::intptr_t size = made->dispatcher(made, request::GetChunk, 0, 0, &chunk, 0.0f);
+        EXPECT_EQ(made->dispatcher(made, request::SetChunk, 0, size, chunk, 0.0f), size);
         std::vector<float> sound(64, 9.0f);
         std::array<float*, 28> pointers{};
         pointers.fill(sound.data());
@@ -156,7 +125,6 @@ TEST_F(Bridge, AnswersWhileItIsMade)
         EXPECT_EQ(std::count(sound.begin(), sound.end(), 0.0f), 64) << "a switch is on: silence";
     };
     Open();
-    ASSERT_TRUE(effect);
     for (const Call& call : calls)
         if (call.opcode == host_request::Automate) { EXPECT_EQ(call.effect, effect); }
 }
@@ -164,59 +132,58 @@ TEST_F(Bridge, AnswersWhileItIsMade)
 TEST_F(Bridge, AnswersItsRequests)
 {
     Open();
+    // Requests that nothing acts on get 0, but where that would tell the host something untrue.
     // clang-format off
-    constexpr std::pair<int, int> kAnswers[] = {{0, 0}, {3, 0}, {11, 0}, {13, 0}, {14, 0}, {15, 0}, {35, 2}, {58, 2400}, {25, 1},
-                                                {29, 1}, {51, 0}, {45, 0}, {23, 0}, {24, 0}, {34, 0}, {9, 0}, {99, 0}, {-7, 0}};
+    std::map<int, std::intptr_t> answers = {
+        {request::GetProgram, 1}, {request::Identify, FourBytes("fEvN")}, {request::ProcessEvents, 1}, {request::ProgramCategories, 1},
+        {request::ProgramNameByIndex, 1}, {request::ConnectInput, 1}, {request::ConnectOutput, 1}, {request::PlugCategory, 2},
+        {request::SetBlockSizeAndSampleRate, 1}, {request::KeysRequired, 1}, {request::InterfaceVersion, 2400}, {request::CurrentMidiProgram, -1}};
     // clang-format on
-    for (const auto& [opcode, answer] : kAnswers) EXPECT_EQ(Ask(opcode), answer) << opcode;
-    std::map<int, int> others; // requests that nothing acts on: 0, but where that would tell the host something untrue
-    for (const int opcode : {9,  16, 17, 18, 19, 20, 21, 27, 30, 33, 36, 37, 38, 39, 40, 41, 42, 44, 46, 49, 50, 52, 53,
-                             54, 55, 56, 59, 60, 61, 62, 64, 65, 66, 67, 68, 69, 70, 71, 72, 74, 75, 76, 77, 78, 79})
-        others[opcode] = 0;
-    others[28] = others[31] = others[32] = others[43] = others[57] = 1;
-    others[63] = -1;
-    others[73] = 44100;
-    for (const auto& [opcode, answer] : others) EXPECT_EQ(Ask(opcode, 0, 44100), answer) << opcode;
-    for (const auto& [index, answer] : {std::pair{0, 1}, {80, 1}, {153, 1}, {154, 0}, {195, 0}, {-1, 0}})
+    for (int opcode = -7; opcode < 100; ++opcode) {
+        if (opcode == request::Close || opcode == request::CanBeAutomated) continue;
+        EXPECT_EQ(Ask(opcode, 0, opcode == request::SetProgram), answers[opcode]) << opcode;
+    }
+    EXPECT_EQ(Ask(request::TotalFrames, 0, 44100), 44100);
+    Ask(request::SetProgram);
+    for (const auto& [index, answer] : {std::pair{-1, 0}, {0, 1}, {153, 1}, {154, 0}})
         EXPECT_EQ(Ask(request::CanBeAutomated, index), answer) << index;
-    EXPECT_EQ(Text(request::EffectName), "Korvane");
-    EXPECT_EQ(Text(request::VendorString), "Brassmoor");
-    EXPECT_EQ(Text(request::ProductString), "Korvane 1.0.2");
-    EXPECT_EQ(Text(request::GetProgramName), "<noname>");
+    for (const char* ability : {"receiveVstEvents", "receiveVstMidiEvent", "receiveVstTimeInfo"})
+        EXPECT_EQ(Ask(request::CanDo, 0, 0, const_cast<char*>(ability)), 1) << ability;
+    EXPECT_EQ(Ask(request::CanDo, 0, 0, const_cast<char*>("sendVstMidiEvent")), -1);
+    const auto text = [this](std::int32_t opcode, int index) {
+        char buffer[256] = "untouched";
+        Ask(opcode, index, 0, buffer);
+        return std::string(buffer);
+    };
+    EXPECT_EQ(text(request::GetProgramName, 0), "<noname>");
     Ask(request::SetProgramName, 0, 0, const_cast<char*>("Night"));
-    EXPECT_EQ(Text(request::ProgramNameByIndex, 0), "Night");
-    EXPECT_EQ(Text(request::ProgramNameByIndex, 1), "untouched");
-    EXPECT_EQ(Text(request::GetParameterName, 0), "Shuffle Amuont");
-    EXPECT_EQ(Text(request::GetParameterDisplay, 80), "0.0 dB");
-    EXPECT_EQ(Text(request::GetParameterLabel, 80), "");
     // clang-format off
-    for (const auto& [text, answer] : {std::pair{"receiveVstEvents", 1}, {"receiveVstMidiEvent", 1}, {"receiveVstTimeInfo", 1},
-                                       {"sendVstMidiEvent", -1}, {"", -1}})
-        // clang-format on
-        EXPECT_EQ(Ask(request::CanDo, 0, 0, const_cast<char*>(text)), answer) << text;
-    const auto identity = static_cast<std::int32_t>(Ask(request::Identify));
-    EXPECT_EQ(std::memcmp(&identity, "fEvN", 4), 0);
+    struct Text { std::int32_t opcode; int index; const char* expected; };
+    const Text texts[] = {
+        {request::EffectName,          0, "Korvane"},       {request::VendorString,        0, "Brassmoor"},
+        {request::ProductString,       0, "Korvane 1.0.2"}, {request::GetProgramName,      0, "Night"},
+        {request::ProgramNameByIndex,  0, "Night"},         {request::ProgramNameByIndex,  1, "untouched"},
+        {request::GetParameterName,    0, "Shuffle Amuont"}, {request::GetParameterName, 179, "unknown"},
+        {request::GetParameterDisplay, ParamOf(slot::MixLevel), "0.0 dB"},
+        {request::GetParameterLabel,   ParamOf(slot::MixLevel), ""},
+    };
+    constexpr const char* kPairs[] = {"Master",    "Sampler 1", "Sampler 2", "Sampler 3", "Sampler 4", "Sampler 5", "Sampler 6",
+                                      "Sampler 7", "Sampler 8", "Synth 1",   "Synth 2",   "Synth 3",   "Synth 4",   "Synth 5"};
+    // clang-format on
+    for (const auto& [opcode, index, expected] : texts) EXPECT_EQ(text(opcode, index), expected) << opcode;
     VstPinProperties pin{};
-    EXPECT_EQ(Ask(request::OutputProperties, 3, 0, &pin), 1);
-    EXPECT_STREQ(pin.label, "Sampler 1");
-    EXPECT_EQ(pin.flags, 3);
-    for (const int index : {-1, 28}) EXPECT_EQ(Ask(request::OutputProperties, index, 0, &pin), 0);
+    for (int output = -1; output <= 28; ++output) {
+        const bool exists = output >= 0 && output < 28;
+        EXPECT_EQ(Ask(request::OutputProperties, output, 0, &pin), exists) << output;
+        EXPECT_EQ(pin.flags, output < 0 ? 0 : 3);
+        if (exists) { EXPECT_STREQ(pin.label, kPairs[output / 2]); }
+    }
     calls.clear();
-    Ask(request::MainsChanged, 0, 1), Ask(request::MainsChanged, 0, 0);
-    ASSERT_EQ(calls.size(), 1u);
-    EXPECT_EQ(calls[0].opcode, host_request::WantMidi);
-    EXPECT_EQ(calls[0].value, 1);
-}
-
-TEST(AudioEffectX, TakesRateAndBlockSizeInOneRequest)
-{
-    struct Effect : AudioEffectX {
-        using AudioEffectX::AudioEffectX, AudioEffectX::blockSize, AudioEffectX::sampleRate;
-        void Process(float**, float**, std::int32_t) override {}
-    } effect(nullptr, 1, 154);
-    EXPECT_EQ(effect.Dispatch(request::SetBlockSizeAndSampleRate, 0, 64, nullptr, 22050.0f), 1);
-    EXPECT_EQ(effect.blockSize, 64);
-    EXPECT_EQ(effect.sampleRate, 22050.0f);
+    for (const bool on : {true, false}) {
+        Ask(request::MainsChanged, 0, on);
+        ASSERT_EQ(calls.size(), 1u) << "asked when power goes on";
+    }
+    EXPECT_TRUE(calls[0].opcode == host_request::WantMidi && calls[0].value == 1);
 }
 
 TEST_F(Bridge, FollowsTheHostsTime)
@@ -225,43 +192,69 @@ TEST_F(Bridge, FollowsTheHostsTime)
     calls.clear();
     Render(64);
     ASSERT_EQ(calls.size(), 2u);
-    EXPECT_EQ(calls[0].value, 1024);
-    EXPECT_EQ(calls[1].value, 512);
-    struct Case {
-        const char* what;
-        int tempoFlags, positionFlags;
-        bool playing;
-    };
+    EXPECT_TRUE(calls[0].value == time_flag::TempoValid && calls[1].value == time_flag::PpqPositionValid);
+    // clang-format off
+    struct Case { const char* what; int tempoFlags, positionFlags; bool playing; };
     const Case cases[] = {
-        {"playing, nothing changed", 2, 0, false},
-        {"changed", 3, 0, true},
-        {"the second answer says nothing", 0, 3, true},
-        {"stopped, nothing changed", 0, 0, true},
-        {"changed", 1, 0, false},
+        {"playing, nothing changed",       time_flag::TransportPlaying,       0, false},
+        {"changed",                        time_flag::TransportPlaying | 1,   0, true},
+        {"the second answer says nothing", 0, time_flag::TransportChanged,       true},
+        {"stopped, nothing changed",       0,                                 0, true},
+        {"changed",                        time_flag::TransportChanged,       0, false},
     };
+    // clang-format on
+    for (const Case& c : cases) {
+        host.tempo.flags = c.tempoFlags, host.position.flags = c.positionFlags;
+        Render(64);
+        EXPECT_EQ(Get(param::Play), c.playing) << c.what;
+    }
+    host.givesTime = false;
+    Render(64);
+    EXPECT_FALSE(Get(param::Play));
+}
+
+// MIDI of every channel at its frame, and nothing else. A block that adds leaves what a silent channel's outputs held.
+TEST_F(Bridge, PlaysTheHostsEvents)
+{
+    // clang-format off
+    struct Case { const char* what; std::int32_t type; std::uint8_t status; bool replacing; int silentFrames; float silence; };
+    const Case cases[] = {
+        {"note",               VstMidiEvent::kType, 0x90, true,  100, 0.0f},
+        {"on another channel", VstMidiEvent::kType, 0x9C, true,  100, 0.0f},
+        {"added",              VstMidiEvent::kType, 0x90, false, 100, 9.0f},
+        {"not MIDI",           6,                   0x90, true,  300, 0.0f},
+    };
+    // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        times[0].flags = c.tempoFlags, times[1].flags = c.positionFlags;
-        Render(64);
-        EXPECT_EQ(Playing(), c.playing);
+        Open();
+        effect->setParameter(effect, ParamOf(slot::NoiseMix), 1.0f); // a sound that needs no file
+        VstMidiEvent note{c.type, sizeof note, 100, 0, 0, 0, {c.status, 36, 100, 0}, 0, 0, 0, 0};
+        VstEvents events{1, 0, {reinterpret_cast<VstEvent*>(&note), nullptr}};
+        Render(300);
+        Ask(request::ProcessEvents, 0, 0, &events);
+        Render(300, c.replacing);
+        const auto first = std::find_if(outputs[0].begin(), outputs[0].end(), [](float x) { return x != 0.0f; });
+        EXPECT_EQ(first - outputs[0].begin(), c.silentFrames);
+        EXPECT_EQ(outputs[2][0], c.silence);
+        Ask(request::Close);
     }
-    givesTime = false;
-    Render(64);
-    EXPECT_FALSE(Playing());
 }
 
 TEST_F(Bridge, KeepsAChunkUntilTheNext)
 {
     Open();
+    constexpr int kLevel = ParamOf(slot::MixLevel);
     void* first = nullptr;
     const std::intptr_t size = Ask(request::GetChunk, 0, 0, &first);
     ASSERT_EQ(size, 144407) << "no content: the empty groove";
     const std::vector<char> bytes(static_cast<char*>(first), static_cast<char*>(first) + size);
     EXPECT_EQ(Ask(request::SetChunk, 1, size, first), size) << "from its own buffer";
-    effect->setParameter(effect, 80, 0.25f);
-    for (const std::intptr_t wrong : {0, 3, -1}) EXPECT_EQ(Ask(request::SetChunk, 0, wrong, first), 0);
-    EXPECT_EQ(Ask(request::SetChunk, 0, std::intptr_t{1} << 40, first), 0);
-    EXPECT_EQ(effect->getParameter(effect, 80), 0.25f) << "a refused chunk changes nothing";
+    effect->setParameter(effect, kLevel, 0.25f);
+    for (const std::intptr_t wrong :
+         {std::intptr_t{0}, std::intptr_t{3}, std::intptr_t{-1}, (std::intptr_t{1} << 40) + size})
+        EXPECT_EQ(Ask(request::SetChunk, 0, wrong, first), 0);
+    EXPECT_EQ(Get(kLevel), 0.25f) << "a refused chunk changes nothing";
     void* second = nullptr;
     EXPECT_EQ(Ask(request::GetChunk, 1, 0, &second), size);
     EXPECT_NE(std::memcmp(second, bytes.data(), bytes.size()), 0);
@@ -275,11 +268,10 @@ TEST_F(Bridge, SurvivesItsHost)
         Render(frames);
         for (const auto& output : outputs) {
             EXPECT_EQ(output.back(), 9.0f) << "written behind the end of " << frames;
-            if (frames > 0) { EXPECT_EQ(std::count(output.begin(), output.end(), 9.0f), 1); }
+            EXPECT_EQ(std::count(output.begin(), output.end(), 9.0f), 1);
         }
     }
-    effect->processReplacing(effect, nullptr, nullptr, 256);
-    effect->process(effect, nullptr, nullptr, 256);
+    for (const auto& process : {effect->processReplacing, effect->process}) process(effect, nullptr, nullptr, 256);
     effect->processDoubleReplacing(effect, nullptr, nullptr, 256);
     constexpr float kNan = std::numeric_limits<float>::quiet_NaN();
     for (int opcode = 0; opcode < 80; ++opcode) {
@@ -289,14 +281,24 @@ TEST_F(Bridge, SurvivesItsHost)
         Ask(opcode, INT32_MIN, INTPTR_MAX, nullptr, INFINITY);
     }
     for (const int index : {-1, 154, 196, INT32_MAX, INT32_MIN}) effect->setParameter(effect, index, kNan);
-    VstEvents events{};
-    for (const int count : {0, -4, 2}) {
+    for (VstEvents events{}; const int count : {0, -4, 2}) {
         events.numEvents = count;
         Ask(request::ProcessEvents, 0, 0, &events);
     }
     Render(256);
     for (const auto& output : outputs)
-        for (int n = 0; n < 256; ++n) ASSERT_TRUE(std::isfinite(output[static_cast<std::size_t>(n)]));
+        for (const float x : output) ASSERT_TRUE(std::isfinite(x));
+}
+
+TEST(AudioEffectX, TakesRateAndBlockSizeInOneRequest)
+{
+    struct Effect : AudioEffectX {
+        using AudioEffectX::AudioEffectX, AudioEffectX::blockSize, AudioEffectX::sampleRate;
+        void Process(float**, float**, std::int32_t) override {}
+    } effect(nullptr, 1, 154);
+    EXPECT_EQ(effect.Dispatch(request::SetBlockSizeAndSampleRate, 0, 64, nullptr, 22050.0f), 1);
+    EXPECT_EQ(effect.blockSize, 64);
+    EXPECT_EQ(effect.sampleRate, 22050.0f);
 }
 
 } // namespace
