@@ -1,10 +1,7 @@
 // play and test, with a stand-in for every command they call: what they install, show and play.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-#include <string>
+#include "support/ContentRoot.h"
 
 namespace korvane {
 namespace {
@@ -34,17 +31,16 @@ struct CommandsTest : testing::Test {
 
     void Script(const fs::path& file, const std::string& body) const
     {
-        std::ofstream(file) << "#!/bin/sh\necho " << file.filename().string() << " \"$@\" >>'"
-                            << (folder / "calls").string() << "'\n"
-                            << body << "\n";
+        const std::string name = file.filename().string(), log = (folder / "calls").string();
+        WriteText(file, "#!/bin/sh\necho " + name + " \"$@\" >>'" + log + "'\n" + body + "\n");
         fs::permissions(file, fs::perms::owner_all);
     }
     void Stand(const char* name, const std::string& body) const { Script(bin / name, body); }
 
     static std::string Text(const fs::path& path)
     {
-        std::ifstream file(path);
-        return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+        const std::vector<std::uint8_t> bytes = ReadBytes(path);
+        return {bytes.begin(), bytes.end()};
     }
     struct Answer {
         int status;
@@ -54,9 +50,8 @@ struct CommandsTest : testing::Test {
     Answer Run(const std::string& command) const
     {
         fs::remove(folder / "calls");
-        const int status = std::system(("cd '" + elsewhere.string() + "' && env -i PATH='" + bin.string() +
-                                        "' ../house/" + command + " >../out 2>../err </dev/null")
-                                           .c_str());
+        const std::string from = "cd '" + elsewhere.string() + "' && env -i PATH='" + bin.string() + "' ../house/";
+        const int status = std::system((from + command + " >../out 2>../err </dev/null").c_str());
         return {WEXITSTATUS(status), Text(folder / "out"), Text(folder / "err"), Text(folder / "calls")};
     }
 };
@@ -93,8 +88,7 @@ TEST_F(CommandsTest, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
     Stand("dpkg-query", "echo install ok installed");
     for (const char* command : {"play", "test"}) {
         const Answer answer = Run(command);
-        EXPECT_EQ(answer.errors, "");
-        EXPECT_FALSE(Has(answer.calls, "apt-get")) << "nothing is missing";
+        EXPECT_TRUE(answer.errors.empty() && !Has(answer.calls, "apt-get")) << "nothing is missing";
         EXPECT_EQ(Has(answer.calls, "KORVANE_TESTS=ON"), Has(answer.calls, "ctest"));
     }
     Stand("ctest", "exit 8");
@@ -133,10 +127,8 @@ TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
 // A server that only has its stand-in for a device would take the sound and nobody would hear it.
 TEST_F(CommandsTest, PlaysWithTheFirstPlayerThatHasADevice)
 {
-    struct Case {
-        const char *what, *pipewire, *pulse, *cards, *failing, *played;
-    };
     // clang-format off
+    struct Case { const char *what, *pipewire, *pulse, *cards, *failing, *played; };
     const Case cases[] = {
         {"a dummy is none",     "auto_null", "speaker",   "card 0: x", "",        "paplay"},
         {"no server",           "",          "",          "card 0: x", "",        "aplay"},
@@ -153,8 +145,7 @@ TEST_F(CommandsTest, PlaysWithTheFirstPlayerThatHasADevice)
         for (const std::string player : {"pw-play", "paplay"})
             Stand(player.c_str(), player == c.failing ? "exit 1" : "");
         const Answer answer = Run("play");
-        EXPECT_EQ(answer.status, 0);
-        EXPECT_EQ(answer.errors, "");
+        EXPECT_TRUE(answer.status == 0 && answer.errors.empty());
         const std::string sound = (house / "korvane.wav").string();
         for (const std::string player : {"pw-play", "paplay", "aplay"})
             EXPECT_EQ(Has(answer.calls, "\n" + player + " " + sound), player == c.played || player == c.failing)
