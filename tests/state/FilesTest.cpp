@@ -41,8 +41,8 @@ TEST_F(Files, GroovesNameTheGroove)
 // path they were found, harms nothing.
 TEST_F(Files, SamplesTravelWithTheirGroove)
 {
-    const std::string wave = riff::WavOf({0.5f}), kick = wave + std::string(200000, '@'); // more than a copy's block
-    WriteText(root / "F/Samples/kick.wav", kick);
+    const std::string wave = riff::WavOf({0.5f}) + std::string(200000, '@'); // more than a copy's block
+    WriteText(root / "F/Samples/kick.wav", wave);
     WriteText(root / "Synth Waves/Saw.wav", wave);
     const auto holds = [this](const char* name, const std::string& text) {
         return ReadBytes(root / name) == Bytes(text.begin(), text.end());
@@ -52,7 +52,7 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     Render();
     ASSERT_EQ(TextOf(slot.path), Path("F/Samples/kick.wav"));
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("F/g.kvprj").c_str()));
-    EXPECT_TRUE(holds("F/Samples/kick.wav", kick));
+    EXPECT_TRUE(holds("F/Samples/kick.wav", wave));
     EXPECT_TRUE(holds("F/Waveforms/Saw.wav", wave));
     EXPECT_FALSE(fs::exists(root / "F/Samples/Saw.wav"));
     fs::rename(root / "F", root / "G");
@@ -61,7 +61,7 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     Render();
     EXPECT_EQ(TextOf(slot.path), Path("G/Samples/") + "\\kick.wav");
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("G/g.kvprj").c_str()));
-    EXPECT_TRUE(holds("G/Samples/kick.wav", kick));
+    EXPECT_TRUE(holds("G/Samples/kick.wav", wave));
     const Bytes image = Saved(*Synth().engine);
     EXPECT_EQ(Synth().SetBankChunk(image.data(), static_cast<int>(image.size())), static_cast<int>(image.size()));
     EXPECT_TRUE(Synth().engine->samplePool->grooveSampleFolder.Empty());
