@@ -60,8 +60,9 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     EXPECT_EQ(TextOf(slot.path), Path("F/Samples/kick.wav"));
     Render();
     EXPECT_EQ(TextOf(slot.path), Path("G/Samples/") + "\\kick.wav");
+    WriteText(root / "G/Waveforms/Saw.wav", "old");
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("G/g.kvprj").c_str()));
-    EXPECT_TRUE(holds("G/Samples/kick.wav", wave));
+    EXPECT_TRUE(holds("G/Samples/kick.wav", wave) && holds("G/Waveforms/Saw.wav", wave));
     const Bytes image = Saved(*Synth().engine);
     EXPECT_EQ(Synth().SetBankChunk(image.data(), static_cast<int>(image.size())), static_cast<int>(image.size()));
     EXPECT_TRUE(Synth().engine->samplePool->grooveSampleFolder.Empty());
