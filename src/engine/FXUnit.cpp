@@ -44,10 +44,12 @@ double FillShape(float* lfo, int frames, float amount, double phase, double incr
     return phase;
 }
 
-bool AllFinite(const float* samples, int frames)
+/// Numbers, and small enough that the mixer's gain and sum keep them so.
+bool AllSound(const float* samples, int frames)
 {
+    constexpr float kOverflow = 1.0e25f;
     int bad = 0;
-    for (int n = 0; n < frames; ++n) bad |= samples[n] - samples[n] != 0.0f;
+    for (int n = 0; n < frames; ++n) bad |= !(std::fabs(samples[n]) < kOverflow);
     return bad == 0;
 }
 
@@ -132,7 +134,8 @@ void FXUnit::Process(float* left, float* right, int frames, float tempo)
     case FxType::Pump: PumpAndEqualise(block); break;
     case FxType::Stutter: Stutter(block); break;
     }
-    if (audible && !(AllFinite(block.left, block.frames) && AllFinite(block.right, block.frames))) Silence(block);
+    if ((audible || eqOn) && !(AllSound(block.left, block.frames) && AllSound(block.right, block.frames)))
+        Silence(block);
     mix = Flushed(mix);
 }
 
