@@ -1,6 +1,8 @@
 // The step sequencer and its buttons.
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "support/Stage.h"
 
 namespace korvane {
@@ -8,21 +10,21 @@ namespace {
 
 class Sequencer : public StageTest {
 protected:
-    /// Renders until the next regular tick has been taken.
-    void NextStep() { Play(static_cast<int>(engine.samplesToNextStep) + 1); }
-    Shared<std::uint32_t>& Step(int channel, int step, int pattern = 0)
+    using Steps = std::map<int, std::uint32_t>; // words that are not empty, by position
+
+    Steps Notes(int channel, std::size_t pattern = 0)
     {
-        return engine.patterns[static_cast<std::size_t>(pattern)]->steps[channel][step];
+        Steps notes;
+        for (int step = 0; step < kSteps; ++step)
+            if (const std::uint32_t word = engine.patterns[pattern]->steps[channel][step]; word != 0)
+                notes[step] = word;
+        return notes;
+    }
+    void Put(int channel, const Steps& notes)
+    {
+        for (const auto& [step, word] : notes) engine.patterns[0]->steps[channel][step] = word;
     }
     StepLockList& Locks(int channel, int step) { return engine.patterns[0]->locks[channel][step]; }
-    void Click(int button) { engine.StepButton(button), engine.StepButtonRelease(button); }
-    int Sounding(int channel) const { return korvane::Sounding(engine.Channel(channel)); }
-    std::vector<int> Steps(int count)
-    {
-        std::vector<int> steps;
-        for (; count > 0; --count) NextStep(), steps.push_back(engine.patternStep);
-        return steps;
-    }
 
     GrooveEngine& engine = Engine();
 };
@@ -31,7 +33,7 @@ TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
 {
     for (const auto& [step, length] :
          {std::pair{0, 16}, {15, 16}, {16, 32}, {40, 64}, {63, 64}, {64, 128}, {127, 128}}) {
-        Step(12, step) = 1u;
+        Put(12, {{step, 1u}});
         engine.Pattern().UpdateLength();
         EXPECT_EQ(engine.Pattern().length, length);
     }
@@ -39,183 +41,140 @@ TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
     EXPECT_EQ(engine.Pattern().length, 16);
 }
 
-// A chord stops the chord before; locks of no parameter are nobody's.
-TEST_F(Sequencer, PlaysChords)
-{
-    Step(9, 0) = 0x91u, Step(9, 1) = 0x800000u;
-    Locks(9, 0).Append(-4, 0.5f), Locks(9, 0).Append(400, 0.5f);
-    engine.TogglePlay();
-    NextStep();
-    EXPECT_EQ(Sounding(9), 3);
-    NextStep();
-    EXPECT_EQ(Sounding(9), 1);
-}
-
 TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
 {
-    Step(0, 17) = 2u;   // pattern 0 has two bars
-    Step(0, 0, 3) = 1u; // pattern 3 one
-    engine.TogglePlay();
-    EXPECT_EQ(Steps(3), (std::vector<int>{0, 1, 2}));
-    engine.selectedBar = 1, engine.playBar = true;
-    EXPECT_EQ(Steps(2), (std::vector<int>{19, 20}));
-    engine.playBar = false;
-    engine.playOnce[3] = true;
-    engine.SelectPattern(3);
-    EXPECT_EQ(engine.nextPattern, 0);
-    EXPECT_EQ(Steps(11).back(), 15);
-    EXPECT_EQ(engine.currentPattern, 3);
-    EXPECT_EQ(Steps(1).front(), 16) << "back in pattern 0, where the song stands";
-    EXPECT_EQ(engine.currentPattern, 0);
-    EXPECT_EQ(Steps(15).back(), 31);
-    engine.SelectPattern(3); // on its last step: one more tick before it may return
-    EXPECT_EQ(engine.patternRepeats, 1);
-    Steps(1);
-    EXPECT_EQ(engine.currentPattern, 3);
-    Steps(15);
-    EXPECT_EQ(engine.currentPattern, 3);
-    Steps(1);
-    EXPECT_EQ(engine.currentPattern, 0);
+    const Writes second{{param::Pattern1 + 1, 1.0f}, {param::Pattern1 + 1, 0.0f}, {param::PlayOnce, 1.0f}};
+    // clang-format off
+    struct Case { const char* what; Writes writes; int steps, position, pattern; };
+    const Case cases[] = {
+        {"start",               {{param::Play, 1.0f}},    3, 2,  0}, {"bar 2",           {{param::PlayBar, 1.0f}}, 2,  20, 0},
+        {"a pattern once",      {{param::PlayBar, 0.0f}}, 1, 5,  0}, {"of one bar",      second,                   10, 15, 1},
+        {"where the song stands", {},                     1, 16, 0}, {"the last step",   {},                       15, 31, 0},
+        {"too late for its end", second,                  1, 0,  1}, {"so to the next",  {},                       15, 15, 1},
+        {"and back",            {},                       1, 16, 0},
+    };
+    // clang-format on
+    Put(0, {{17, 2u}});
+    engine.selectedBar = 1;
+    for (const Case& c : cases) {
+        Set(c.writes);
+        Play(c.steps * kStep);
+        EXPECT_EQ(std::pair(+engine.patternStep, +engine.currentPattern), std::pair(c.position, c.pattern)) << c.what;
+    }
 }
 
 // Edit mode: a sampler's steps go on, edited, off; a synth's step takes a chord; bars are marked.
 TEST_F(Sequencer, EditsSteps)
 {
+    constexpr int kStep1 = param::Step1, kBar3 = kStep1 + 18;
+    // clang-format off
+    struct Case { const char* what; std::vector<int> presses; int edited, bar, mark; Steps notes; };
+    const Case cases[] = {
+        {"on",         {kStep1 + 5},             -1, 0, -1, {{5, 0x20u}}}, {"edited",      {kStep1 + 5},          5,  0, -1, {{5, 0x20u}}},
+        {"off",        {kStep1 + 5},             -1, 0, -1, {}},           {"a bar",       {kBar3},               -1, 2, 2,  {}},
+        {"its mark",   {kBar3},                  -1, 2, -1, {}},           {"of a synth",  {param::Channel1 + 8, kStep1 + 3}, 3, 2, -1, {}},
+        {"a chord",    {kStep1, kStep1 + 7, kStep1 + 23, kStep1 + 7}, 3, 2, -1, {{35, 0x800001u}}},
+        {"next step",  {param::Forward},         4,  2, -1, {{35, 0x800001u}}},
+        {"bar before", std::vector(5, +param::Back), 15, 1, -1, {{35, 0x800001u}}},
+        {"next bar",   {param::Forward},         0,  2, -1, {{35, 0x800001u}}},
+    };
+    // clang-format on
     Select(0);
-    engine.ToggleEdit();
-    Click(5);
-    EXPECT_EQ(Step(0, 5), 0x20u);
+    Set(param::Edit, 1.0f);
+    for (const Case& c : cases) {
+        for (const int button : c.presses) Press(button);
+        EXPECT_EQ((std::vector<int>{engine.editStep, engine.selectedBar, engine.selectedBarMark}),
+                  (std::vector<int>{c.edited, c.bar, c.mark}))
+            << c.what;
+        EXPECT_EQ(Notes(engine.selectedChannel), c.notes) << c.what;
+    }
+    Set(param::Edit, 0.0f);
     EXPECT_EQ(engine.editStep, -1);
-    Click(5);
-    EXPECT_EQ(engine.editStep, 5);
-    Locks(0, 5).Set(12, 0.5f);
-    Click(5);
-    EXPECT_EQ(Step(0, 5), 0u);
-    EXPECT_EQ(Locks(0, 5).Count(), 0);
-    EXPECT_EQ(engine.editStep, -1);
-    Click(18);
-    EXPECT_EQ(engine.selectedBar, 2);
-    EXPECT_EQ(engine.selectedBarMark, 2);
-    Click(18);
-    EXPECT_EQ(engine.selectedBarMark, -1);
-    EXPECT_EQ(engine.selectedBar, 2);
+}
 
-    Select(8);
-    EXPECT_TRUE(engine.channelMarked[8]);
-    Click(3);
-    EXPECT_EQ(engine.editStep, 3);
-    EXPECT_FALSE(engine.channelMarked[8]);
-    Click(0), Click(7), Click(23), Click(7);
-    EXPECT_EQ(Step(8, 2 * 16 + 3), 0x800001u);
-    engine.Forward();
-    EXPECT_EQ(engine.editStep, 4);
-    engine.editStep = 15;
-    engine.Forward();
-    EXPECT_EQ(engine.editStep, 0);
-    EXPECT_EQ(engine.selectedBar, 3);
-    engine.Back();
-    EXPECT_EQ(engine.editStep, 15);
-    EXPECT_EQ(engine.selectedBar, 2);
-    engine.ToggleEdit();
-    EXPECT_EQ(engine.editStep, -1);
+// While a step is edited, knobs write its locks and show stored value plus lock; they hold until the next step's note.
+TEST_F(Sequencer, EditedStepTakesLocks)
+{
+    constexpr int kPan = ParamOf(slot::Panning), kLevel = ParamOf(slot::MixLevel),
+                  kCutoff = ParamOf(slot::FilterCutoff);
+    Put(8, {{17, 1u}, {19, 1u}});
+    engine.editStep = 1, engine.selectedBar = 1;
+    Set({{kLevel, 0.5f}, {kPan, 0.25f}, {kCutoff, 0.5f}, {kPan, 1.0f}});
+    EXPECT_FLOAT_EQ(Synth().GetParameter(kPan), 1.0f);
+    Set(kCutoff, 1.0f); // as stored: no lock
+    EXPECT_EQ(Locks(8, 17).Count(), 2);
+    EXPECT_FLOAT_EQ(Locks(8, 17).Offset(slot::MixLevel), -0.25f);
+    engine.editStep = -1;
+    EXPECT_EQ(Synth().GetParameter(kPan), 0.5f);
+    Synth().SetPlaying(true);
+    Play(19 * kStep);
+    EXPECT_LT(Left(8).back(), 0.001f * Right(8).back());
+    const float locked = Right(8).back();
+    Play(kStep);
+    EXPECT_NEAR(Left(8).back(), 5.0f * locked, 0.01f * locked);
+    EXPECT_EQ(Right(8).back(), Left(8).back());
 }
 
 TEST_F(Sequencer, CopiesPastesAndClears)
 {
-    Step(8, 1) = 5u, Locks(8, 1).Set(3, 0.25f), Step(0, 1) = 2u, Step(2, 20) = 16u;
+    Put(8, {{1, 5u}}), Put(0, {{1, 2u}}), Put(2, {{20, 16u}});
+    Locks(8, 1).Set(slot::NoteLength, 0.25f);
     engine.ToggleEdit();
     engine.editStep = 1;
     engine.Copy();
     engine.selectedBar = 4, engine.editStep = 7;
     engine.channelMarked[0] = engine.channelMarked[3] = true;
     engine.Paste();
-    EXPECT_EQ(Step(8, 71), 5u);
-    EXPECT_EQ(Locks(8, 71).Offset(3), 0.25f);
-    EXPECT_EQ(Step(0, 71), 128u) << "a sampler's step has its own bit";
-    EXPECT_EQ(Step(3, 71), 128u) << "on even when the copied one was not";
-    EXPECT_EQ(engine.editStep, -1);
+    EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}}));
+    EXPECT_EQ(Locks(8, 71).Offset(slot::NoteLength), 0.25f);
+    EXPECT_EQ(Notes(0), (Steps{{1, 2u}, {71, 128u}})) << "a sampler's step has its own bit";
+    EXPECT_EQ(Notes(3), (Steps{{71, 128u}})) << "on even when the copied one was not";
     engine.SelectPattern(5);
     engine.Paste();
-    EXPECT_EQ(Step(2, 20, 5), 16u);
-    EXPECT_EQ(engine.selectedPatternMark, -1);
-    engine.selectedBar = 0, engine.Copy();
-    Click(16 + 6);
+    EXPECT_EQ(Notes(2, 5), Notes(2));
+    engine.selectedBar = 0;
+    engine.Copy();
+    Press(param::Step1 + 16 + 6);
     engine.Paste();
-    EXPECT_EQ(Step(8, 97), 5u);
+    EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}, {97, 5u}}));
     engine.Clear();
-    EXPECT_EQ(Step(8, 97), 0u);
-    EXPECT_EQ(Step(8, 71), 5u);
+    EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}}));
     engine.channelMarked[8] = true;
     engine.Clear();
-    EXPECT_EQ(Step(8, 71) + Step(8, 1), 0u);
-    EXPECT_EQ(Step(0, 1), 2u);
+    EXPECT_EQ(Notes(8), Steps{});
+    EXPECT_EQ(Notes(0), (Steps{{1, 2u}, {71, 128u}}));
 }
 
 TEST_F(Sequencer, NudgesHeldSteps)
 {
     Select(1);
-    Step(1, 0) = 1u, Step(1, 1) = 2u, Step(1, 2) = 4u, Step(1, 15) = 0x8000u, Locks(1, 1).Set(5, 0.5f);
-    engine.stepHeld[1] = engine.stepHeld[2] = engine.stepHeld[15] = true;
+    Put(1, {{0, 1u}, {1, 2u}, {2, 4u}, {15, 0x8000u}});
+    Locks(1, 1).Set(slot::NoteLength, 0.5f);
+    for (const int held : {1, 2, 15}) engine.stepHeld[held] = true;
     engine.Forward();
-    EXPECT_EQ(Step(1, 2), 4u);
-    EXPECT_EQ(Step(1, 3), 8u);
-    EXPECT_EQ(Locks(1, 2).Offset(5), 0.5f);
-    EXPECT_EQ(Step(1, 1), 0u);
-    EXPECT_EQ(Step(1, 15), 0x8000u) << "the bar's edge holds it";
-    engine.stepHeld[1] = engine.stepHeld[2] = engine.stepHeld[15] = false;
-    engine.stepHeld[0] = true;
+    const Steps nudged{{0, 1u}, {2, 4u}, {3, 8u}, {15, 0x8000u}}; // the bar's edge holds the last
+    EXPECT_EQ(Notes(1), nudged);
+    EXPECT_EQ(Locks(1, 2).Offset(slot::NoteLength), 0.5f);
+    for (const int held : {0, 1, 2, 15}) engine.stepHeld[held] = held == 0;
     engine.Back();
-    EXPECT_EQ(Step(1, 0), 1u);
+    EXPECT_EQ(Notes(1), nudged);
     engine.stepHeld[0] = false;
     engine.Forward();
     EXPECT_EQ(engine.selectedBar, 1) << "nothing held: the bar moves";
 }
 
-TEST_F(Sequencer, ChannelButtonsSelectHoldAndMute)
+// Pad and stutter take the selected channel and every held one, the pad with the effect that was pressed first.
+TEST_F(Sequencer, ButtonsReachSelectedAndHeldChannels)
 {
-    Select(3);
-    EXPECT_EQ(engine.selectedChannel, 3);
-    engine.SetMuteModifier(true), engine.SetMuteModifier(false);
-    EXPECT_TRUE(engine.muted[3]) << "the modifier alone mutes the selected channel";
-    engine.ChannelPress(5);
-    engine.SetMuteModifier(true), engine.SetMuteModifier(false);
-    EXPECT_TRUE(engine.muted[5]);
-    EXPECT_TRUE(engine.muted[3]);
-    engine.ChannelRelease(5);
-    EXPECT_EQ(engine.selectedChannel, 3) << "it was held to be muted";
     Select(5);
-    EXPECT_EQ(engine.selectedChannel, 5);
-    engine.SetFxButton(4, true);
-    EXPECT_EQ(engine.selectedFx, 4);
-    engine.SetFxButton(2, true);
-    EXPECT_EQ(engine.selectedFx, 4);
-    engine.SetFxButton(4, false), engine.SetFxButton(2, false);
-    engine.SetFxPad(true);
-    engine.ChannelPress(7);
-    for (const int c : {5, 7}) EXPECT_TRUE(engine.Channel(c).fxActive[4]) << "selected or held";
-    EXPECT_FALSE(engine.Channel(3).fxActive[4]);
-    engine.SetStutterButton(2, true);
-    for (const auto& [c, code] : {std::pair{5, -3}, {7, -3}, {3, 0}}) EXPECT_EQ(engine.stutterCode[c], code) << c;
-    engine.ChannelRelease(7);
-    for (const auto& [c, code] : {std::pair{5, 0}, {7, -3}})
-        EXPECT_EQ(engine.stutterCode[c], code) << "selected: " << c;
-}
-
-// A press in the second half of a step belongs to the next one and is not played twice.
-TEST_F(Sequencer, RecordsWhatIsPlayed)
-{
-    engine.TogglePlay();
-    engine.ToggleRecord();
-    Play(100);
-    engine.StepButton(7);
-    Play(4 * kStep);
-    engine.StepButtonRelease(7);
-    EXPECT_NEAR(Locks(8, 0).Offset(slot::NoteLength), 0.375f - 0.44444445f, 1e-3f) << "one beat";
-    Play(4000);
-    engine.StepButton(2);
-    NextStep();
-    EXPECT_EQ(Step(8, 5), 4u);
-    EXPECT_EQ(Sounding(8), 1);
+    Set({{param::Fx1 + 4, 1.0f}, {param::Fx1 + 2, 1.0f}, {param::Fx1 + 4, 0.0f}, {param::Fx1 + 2, 0.0f}});
+    Set({{param::FxActivate, 1.0f}, {param::Channel1 + 7, 1.0f}, {param::Stutter1_2, 1.0f}});
+    for (int c = 0; c < kChannels; ++c) {
+        EXPECT_EQ(engine.Channel(c).fxActive[4], c == 5 || c == 7) << c;
+        EXPECT_EQ(engine.stutterCode[c], c == 5 || c == 7 ? -3 : 0) << c;
+    }
+    Set(param::Channel1 + 7, 0.0f); // selects it
+    EXPECT_EQ(std::pair(+engine.stutterCode[5], +engine.stutterCode[7]), std::pair(0, -3));
 }
 
 } // namespace

@@ -1,24 +1,18 @@
 // Links from MIDI sources to parameters, pads, and the file in which links survive.
 #include <gtest/gtest.h>
 
-#include <array>
-
-#include "support/Stage.h"
+#include "support/Parameters.h"
+#include "support/SynthRig.h"
 
 namespace korvane {
 namespace {
 
-constexpr int kWheel = 128, kFirstKey = 129; // sources after the controllers
-
 class MidiMapping : public SynthTest {
 protected:
-    std::string SourceText()
+    std::string LastMoved()
     {
-        return Written([this](char* text) { Synth().GetLastSourceText(text); });
-    }
-    std::string ParameterText()
-    {
-        return Written([this](char* text) { Synth().GetLastParameterText(text); });
+        return Written([this](char* text) { Synth().GetLastSourceText(text); }) + ", " +
+               Written([this](char* text) { Synth().GetLastParameterText(text); });
     }
     void LinkTo(int parameter)
     {
@@ -27,97 +21,84 @@ protected:
     }
 };
 
+// A source that was moved drives the parameter that was turned next.
 TEST_F(MidiMapping, LinksDriveParameters)
 {
+    constexpr int kLevel = ParamOf(slot::MixLevel);
+    // clang-format off
+    struct Case { std::uint8_t status, data1, data2; const char* texts; int parameter; float low, high; };
+    const Case cases[] = {
+        {0xB0, 7,   10,  "CC 7, CHN: Mix Level",            kLevel,                      0.0f,  1.0f},
+        {0xE0, 64,  64,  "Pitch Wheel, CHN: Panning",     ParamOf(slot::Panning),      -1.0f, 1.0f},
+        {0x90, 60,  127, "Key 60 Velocity, Filter Cutoff", ParamOf(slot::FilterCutoff), 0.0f,  1.0f}, // a release writes 0
+    };
+    // clang-format on
     KVSynth& synth = Synth();
     synth.Link(true);
-    EXPECT_EQ(SourceText(), "---");
-    EXPECT_EQ(ParameterText(), "---");
-
-    Send(0xB0, 7, 10);
-    EXPECT_EQ(SourceText(), "CC 7");
-    LinkTo(Knob(slot::MixLevel));
-    EXPECT_EQ(ParameterText(), "CHN: Mix Level");
-    host.told = 0;
-    Send(0xB0, 7, 127);
-    EXPECT_EQ(synth.GetParameter(Knob(slot::MixLevel)), 1.0f);
-
-    Send(0xE0, 0, 0);
-    EXPECT_EQ(SourceText(), "Pitch Wheel");
-    LinkTo(Knob(slot::Panning));
-    Send(0xE0, 0, 0);
-    EXPECT_EQ(synth.GetParameter(Knob(slot::Panning)), -1.0f);
-    EXPECT_EQ(synth.engine->livePitchBend, -1.0f);
-
-    Send(0x90, 60, 127);
-    EXPECT_EQ(SourceText(), "Key 60 Velocity");
-    LinkTo(Knob(slot::FilterCutoff));
-    Send(0x80, 60, 0);
-    EXPECT_EQ(synth.GetParameter(Knob(slot::FilterCutoff)), 0.0f) << "a release writes 0";
-    Send(0x90, 60, 127);
-    EXPECT_EQ(synth.GetParameter(Knob(slot::FilterCutoff)), 1.0f);
-    EXPECT_EQ(synth.engine->Channel(8).voiceCounter, 1u) << "once linked, it plays no pad";
-    EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
+    EXPECT_EQ(LastMoved(), "---, ---");
+    for (const Case& c : cases) {
+        Send(c.status, c.data1, c.data2);
+        LinkTo(c.parameter);
+        EXPECT_EQ(LastMoved(), c.texts);
+        host.told = 0;
+        for (const bool high : {false, true, false, true}) {
+            const std::uint8_t value = high ? 127 : 0;
+            Send(c.status, c.status == 0xE0 ? value : c.data1, value);
+            EXPECT_EQ(synth.GetParameter(c.parameter), high ? c.high : c.low) << c.texts;
+        }
+        EXPECT_EQ(host.told, 0) << "hosts do not hear of links";
+    }
+    EXPECT_EQ(synth.engine->livePitchBend, 1.0f);
+    EXPECT_EQ(synth.engine->Channel(8).voiceCounter, 1u) << "once linked, a key plays no pad";
     synth.Link(false);
-    EXPECT_EQ(synth.links[kFirstKey + 60], -1);
-
-    Send(0xB0, 1, 127);
-    EXPECT_EQ(synth.engine->liveModWheel, 1.0f);
-    Send(0xD0, 127);
-    EXPECT_EQ(synth.engine->livePressure, 1.0f);
+    Send(0x80, 60);
+    EXPECT_EQ(synth.GetParameter(ParamOf(slot::FilterCutoff)), 1.0f);
 }
 
-// A link that ignores its controller's value fires once per message.
+// A link that ignores its controller's value fires once per message; only controllers can be such pulses.
 TEST_F(MidiMapping, PulsesFireTriggers)
 {
-    KVSynth& synth = Synth();
-    Send(0xE0, 1, 1);
-    LinkTo(param::FilterTypeSwitch);
-    synth.SetIgnoreValue(true);
-    EXPECT_EQ(synth.ignoreValue[kWheel], 0) << "only controllers can be pulses";
-    synth.Link(false);
-    Send(0xB0, 20, 0);
-    LinkTo(param::FilterTypeSwitch);
-    synth.SetIgnoreValue(true);
-    for (const float expected : {0.5f, 1.0f, 0.0f}) {
-        Send(0xB0, 20, 64);
-        EXPECT_EQ(synth.GetParameter(Knob(slot::FilterType)), expected);
+    // clang-format off
+    struct Case { std::uint8_t status; bool ignoreValue; std::vector<float> positions; };
+    const Case cases[] = {{0xB0, true, {0.5f, 1.0f, 0.0f}}, {0xB0, false, {0.5f, 0.5f}}, {0xE0, true, {0.5f, 0.5f}}};
+    // clang-format on
+    for (const Case& c : cases) {
+        Send(c.status, 20, 0);
+        LinkTo(param::FilterTypeSwitch);
+        Synth().SetIgnoreValue(c.ignoreValue);
+        for (const float position : c.positions) {
+            Send(c.status, 20, 64);
+            EXPECT_EQ(Synth().GetParameter(ParamOf(slot::FilterType)), position);
+        }
+        Synth().Link(false);
     }
-    synth.Link(false);
-    EXPECT_EQ(synth.ignoreValue[20], 0);
 }
 
 TEST_F(MidiMapping, LinksSurviveInTheirFile)
 {
     Send(0xB0, 7, 10);
-    LinkTo(Knob(slot::MixLevel));
+    LinkTo(ParamOf(slot::MixLevel));
     Synth().SetIgnoreValue(true);
     Close();
-    std::vector<std::uint8_t> file = ReadBytes(root / "linkmap");
-    ASSERT_EQ(file.size(), 771u);
-    EXPECT_EQ(file[14], 0x50);
-    EXPECT_EQ(file[15], 0x00);
-    EXPECT_EQ(file[16], 0xFF);
-    EXPECT_EQ(file[514 + 7], 1);
-    Send(0xB0, 7, 127);
-    EXPECT_EQ(Synth().links[7], Knob(slot::MixLevel));
-    EXPECT_EQ(Synth().ignoreValue[7], 1);
+    const std::vector<std::uint8_t> file = ReadBytes(root / "linkmap");
+    std::vector<std::uint8_t> expected(771, 0xFF); // 257 links of two bytes, then a flag of each
+    std::fill_n(expected.begin() + 514, 257, std::uint8_t{0});
+    expected[14] = ParamOf(slot::MixLevel), expected[15] = 0, expected[514 + 7] = 1;
+    EXPECT_EQ(file, expected);
+    Synth();
     Close();
     EXPECT_EQ(ReadBytes(root / "linkmap"), file);
 
     // Any size, any content: what is there is taken, what points nowhere moves nothing.
     for (std::size_t size : {0, 1, 15, 16, 514, 520, 771, 5000}) {
-        SCOPED_TRACE(size);
-        std::vector<std::uint8_t> wild(size, 0x7E);
-        WriteBytes(root / "linkmap", wild);
-        EXPECT_EQ(Synth().links[7], size < 16 ? -1 : 0x7E7E);
-        EXPECT_EQ(Synth().ignoreValue[200], size < 771 ? 0 : 0x7E);
+        WriteBytes(root / "linkmap", std::vector<std::uint8_t>(size, 0x7E));
+        EXPECT_EQ(Synth().links[7], size < 16 ? -1 : 0x7E7E) << size;
+        EXPECT_EQ(Synth().ignoreValue[200], size < 771 ? 0 : 0x7E) << size;
         for (std::uint8_t n = 0; n < 128; ++n) Send(0xB0, n, n), Send(0x90, n, 100), Send(0xE0, n, n);
         Close();
     }
     std::filesystem::remove(root / "linkmap");
     std::filesystem::create_directory(root / "linkmap"); // cannot be written: no error
-    Close();
     Synth();
     Close();
 }

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
-#include <set>
 
-#include "support/Stage.h"
+#include "support/Parameters.h"
+#include "support/SynthRig.h"
 
 namespace korvane {
 namespace {
@@ -17,6 +17,7 @@ protected:
         return Written([&](char* text) { Synth().GetParameterDisplay(index, text); });
     }
     GrooveEngine& Engine() { return *Synth().engine; }
+    std::vector<float> Settings() { return {std::begin(Engine().storedParams[8]), std::end(Engine().storedParams[8])}; }
     /// Envelope and LFO 2, layer 4, effect 5.
     void ChooseLastPages()
     {
@@ -39,9 +40,6 @@ TEST_F(Parameters, HaveTheirPublishedNames)
         EXPECT_EQ(Written([&, n = index](char* text) { Synth().GetParameterName(n, text); }), name) << index;
         EXPECT_EQ(Written([&, n = index](char* text) { Synth().GetParameterLabel(n, text); }), "");
     }
-    std::set<std::string> distinct;
-    for (const ParameterInfo& row : kParameters) distinct.insert(row.name);
-    EXPECT_EQ(distinct.size(), 178u) << "176 of the 178 named rows are unique, and two rows of them have no name";
 }
 
 TEST_F(Parameters, ShowTheirValue)
@@ -49,23 +47,19 @@ TEST_F(Parameters, ShowTheirValue)
     // clang-format off
     struct Case { int setting; float value; const char* text; };
     const Case cases[] = {
-        {slot::MixLevel,     0.75f,       "0.0 dB"},  {slot::MixLevel,       0.0f,   "-60.0 dB"},
-        {slot::Panning,      0.25f,       "-50.0"},   {slot::Pitch,          0.0f,   "-24"},
-        {slot::Pitch,        0.5f,        "0"},       {slot::Pitch,          0.49f,  "0"},
-        {slot::NoteLength,   1.0f / 3.0f, "0.79"},    {slot::NoteLength,     0.0f,   "0.13"},
-        {slot::NoteLength,   1.0f,        "32.00"},   {slot::AmpLevel,       1.0f,   "25.0 dB"},
-        {slot::FxLfoRate,    0.5f,        "3/4"},     {slot::FxLfoRate,      1.0f,   "8/1"},
-        {slot::FxLfoRate,    -1.0f,       "1/8"},     {slot::LfoRate,        0.89f,  "8/1"},
-        {slot::UnisonVoices, 0.99f,       "15"},      {slot::UnisonVoices,   1.0f,   "16"},
-        {slot::Osc1Pitch,    0.0f,        "-36"},     {slot::Osc1Detune,     0.996f, "49"},
-        {slot::AmpDecay,     0.123f,      "12.3 %"},  {slot::VelocityAmount, 0.25f,  "-50.0 %"},
-        {slot::BendRange,    1.0f / 6.0f, "2 smt"},   {slot::EqGain,         0.0f,   "-12.00 dB"},
-        {slot::EqGain + 4,   1.0f,        "12.00 dB"},
+        {slot::MixLevel, 0.75f, "0.0 dB"}, {slot::MixLevel, 0.0f, "-60.0 dB"}, {slot::Panning, 0.25f, "-50.0"},
+        {slot::Pitch, 0.0f, "-24"}, {slot::Pitch, 0.5f, "0"}, {slot::Pitch, 0.49f, "0"},
+        {slot::NoteLength, 1.0f / 3.0f, "0.79"}, {slot::NoteLength, 0.0f, "0.13"}, {slot::NoteLength, 1.0f, "32.00"},
+        {slot::AmpLevel, 1.0f, "25.0 dB"}, {slot::FxLfoRate, 0.5f, "3/4"}, {slot::FxLfoRate, 1.0f, "8/1"},
+        {slot::FxLfoRate, -1.0f, "1/8"}, {slot::LfoRate, 0.89f, "8/1"}, {slot::UnisonVoices, 0.99f, "15"},
+        {slot::UnisonVoices, 1.0f, "16"}, {slot::Osc1Pitch, 0.0f, "-36"}, {slot::Osc1Detune, 0.996f, "49"},
+        {slot::AmpDecay, 0.123f, "12.3 %"}, {slot::VelocityAmount, 0.25f, "-50.0 %"}, {slot::BendRange, 1.0f / 6.0f, "2 smt"},
+        {slot::EqGain, 0.0f, "-12.00 dB"}, {slot::EqGain + 4, 1.0f, "12.00 dB"},
     };
     // clang-format on
     for (const Case& c : cases) {
-        Synth().SetParameter(Knob(c.setting), c.value);
-        EXPECT_EQ(Display(Knob(c.setting)), c.text) << c.setting << " at " << c.value;
+        Synth().SetParameter(ParamOf(c.setting), c.value);
+        EXPECT_EQ(Display(ParamOf(c.setting)), c.text) << c.setting << " at " << c.value;
     }
     EXPECT_EQ(Display(-1), "0.0 %");
     EXPECT_EQ(Display(196), "0.0 %");
@@ -75,49 +69,52 @@ TEST_F(Parameters, ShowTheirValue)
 TEST_F(Parameters, HaveTwoColumnsOfDefaults)
 {
     const std::tuple<int, float, float> rows[] = {
-        {slot::FxLfoRate, 0.5f, 0.5566667f}, {slot::NoteLength, 1.0f / 3.0f, 0.44444445f},
-        {slot::LfoRate, 0.5f, 0.0f},         {slot::MixOsc2, 1.0f, 0.0f},
-        {slot::MixLevel, 0.75f, 0.75f},      {slot::VelocitySensitivity, 0.0f, 1.0f}};
+        {slot::FxLfoRate, 0.5f, 0.5566667f}, {slot::NoteLength, 1.0f / 3.0f, 0.44444445f}, {slot::LfoRate, 0.5f, 0.0f},
+        {slot::MixLevel, 0.75f, 0.75f},      {slot::VelocitySensitivity, 0.0f, 1.0f},      {slot::MixOsc2, 1.0f, 0.0f}};
     for (const auto& [setting, reset, fresh] : rows) {
-        EXPECT_EQ(Synth().GetParameterDefault(Knob(setting)), reset) << setting;
-        EXPECT_EQ(Synth().GetParameter(Knob(setting)), fresh) << setting;
+        EXPECT_EQ(Synth().GetParameterDefault(ParamOf(setting)), reset) << setting;
+        EXPECT_EQ(Synth().GetParameter(ParamOf(setting)), fresh) << setting;
     }
     Synth().SetParameter(param::Channel1, 1.0f), Synth().SetParameter(param::Channel1, 0.0f);
-    EXPECT_EQ(Synth().GetParameter(Knob(slot::FilterCutoff)), 0.0f) << "samplers start with the high-pass at 0";
-    EXPECT_EQ(Synth().GetParameter(Knob(slot::FilterType)), 1.0f);
+    EXPECT_EQ(Synth().GetParameter(ParamOf(slot::FilterCutoff)), 0.0f) << "samplers start with the high-pass at 0";
+    EXPECT_EQ(Synth().GetParameter(ParamOf(slot::FilterType)), 1.0f);
 }
 
 TEST_F(Parameters, ActByTheirKind)
 {
-    KVSynth& synth = Synth();
-    synth.SetParameter(param::Pattern1 + 2, 1.0f);
-    EXPECT_EQ(Engine().currentPattern, 2);
-    Engine().currentPattern = 0;
-    synth.SetParameter(param::Pattern1 + 2, 1.0f);
-    EXPECT_EQ(Engine().currentPattern, 0) << "a trigger waits for its edge";
-    synth.SetParameter(param::Pattern1 + 2, 0.0f), synth.SetParameter(param::Pattern1 + 2, 0.5f);
-    EXPECT_EQ(Engine().currentPattern, 2);
+    constexpr int kSwitch = param::FilterTypeSwitch, kType = ParamOf(slot::FilterType);
+    // clang-format off
+    struct Case { const char* what; std::vector<std::pair<int, float>> writes; int read; float value; };
+    const Case cases[] = {
+        {"a trigger acts on its edge", {{kSwitch, 1.0f}, {kSwitch, 1.0f}},               kType,                 0.5f},
+        {"and on the next one",        {{kSwitch, 0.0f}, {kSwitch, 0.5f}},               kType,                 1.0f},
+        {"followers ask the engine",   {{param::Play, 1.0f}, {param::Play, 0.3f}},       param::Play,           1.0f},
+        {"any write ends a bar loop",  {{param::PlayBar, 1.0f}, {param::PlayBar, 1.0f}}, param::PlayBar,        0.0f},
+        {"pages are whole",            {{param::EnvelopeNumber, 0.99f}},                 param::EnvelopeNumber, 0.0f},
+        {"layers come in thirds",      {{param::LayerNumber, 0.5f}},                     param::LayerNumber,    1.0f / 3.0f},
+        {"beyond the last layer",      {{param::LayerNumber, 9.0f}},                     param::LayerNumber,    1.0f},
+        {"steps know no edge",         {{param::Step1, 1.0f}, {param::Step1, 0.25f}},    param::Step1,          0.25f},
+        {"what has no name is stored", {{67, 1.0f}, {153, 1.0f}, {154, 1.0f}, {179, 1.0f}, {181, 1.0f}}, 67,    1.0f},
+        {"what is not there is 0",     {{-1, 1.0f}, {196, 1.0f}, {1 << 30, 1.0f}},       196,                   0.0f},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        for (const auto& [index, value] : c.writes) Synth().SetParameter(index, value);
+        EXPECT_EQ(Synth().GetParameter(c.read), c.value) << c.what;
+    }
+}
 
-    synth.SetParameter(param::Play, 1.0f), synth.SetParameter(param::Play, 0.3f);
-    EXPECT_TRUE(Engine().playing) << "a follower compares with the engine";
-    synth.SetParameter(param::PlayBar, 1.0f), synth.SetParameter(param::PlayBar, 1.0f);
-    EXPECT_FALSE(Engine().playBar) << "any write ends the bar loop";
-
-    synth.SetParameter(param::EnvelopeNumber, 0.99f);
-    EXPECT_EQ(synth.GetParameter(param::EnvelopeNumber), 0.0f);
-    synth.SetParameter(param::LayerNumber, 0.5f);
-    EXPECT_EQ(synth.GetParameter(param::LayerNumber), 1.0f / 3.0f);
-    synth.SetParameter(param::LayerNumber, 9.0f);
-    EXPECT_EQ(Engine().layerNumber, 3);
-    synth.SetParameter(Knob(slot::LayerLevel), 0.125f);
-    EXPECT_EQ(Engine().storedParams[8][slot::LayerLevel + 3], 0.125f);
-
-    synth.SetParameter(param::Step1, 1.0f), synth.SetParameter(param::Step1, 0.25f);
-    EXPECT_TRUE(Engine().stepHeld[0]) << "steps know no edge";
-    EXPECT_EQ(synth.GetParameter(param::Step1), 0.25f);
-    for (int index : {-1, 67, 153, 154, 179, 180, 181, 196, 1 << 30}) synth.SetParameter(index, 1.0f);
-    EXPECT_EQ(synth.GetParameter(67), 1.0f);
-    EXPECT_EQ(synth.GetParameter(196), 0.0f);
+// A knob turns its setting of the selected and of every held channel, one of an effect that of every held effect.
+TEST_F(Parameters, ReachWhatIsHeld)
+{
+    for (const int held : {param::Channel1 + 2, param::Fx1 + 1, param::Fx1 + 4}) Synth().SetParameter(held, 1.0f);
+    Synth().SetParameter(ParamOf(slot::FxX), 0.9f);
+    for (int c = 0; c < kChannels; ++c)
+        for (int k = 0; k < kEffects; ++k) {
+            const bool reached = (c == 2 || c == 8) && (k == 1 || k == 4);
+            EXPECT_EQ(Engine().storedParams[c][slot::FxX + k], reached ? 0.9f : 0.5f) << c << ", " << k;
+            EXPECT_EQ(Engine().Channel(c).fxActive[k], reached) << c << ", " << k;
+        }
 }
 
 // Hosts know the parameters by number: which setting of the chosen page a number writes is published.
@@ -126,15 +123,15 @@ TEST_F(Parameters, WriteTheirPublishedSetting)
     // clang-format off
     struct Run { int first, last, setting, distance; };
     const Run runs[] = {
-        {70, 70, slot::FxGlue + 4,     0}, {71, 71, slot::FxLfoRate + 4, 0}, {72, 72, slot::FxLfoAmount + 4, 0},
-        {74, 74, slot::FxLfoShape + 4, 0}, {76, 76, slot::FxLfoSync + 4, 0}, {77, 77, slot::FxX + 4,         0},
-        {78, 78, slot::FxY + 4,        0}, {79, 79, slot::FxBypassStutter, 0}, {80, 95, slot::MixLevel,      1},
+        {70, 70, slot::FxGlue + 4, 0}, {71, 71, slot::FxLfoRate + 4, 0}, {72, 72, slot::FxLfoAmount + 4, 0},
+        {74, 74, slot::FxLfoShape + 4, 0}, {76, 76, slot::FxLfoSync + 4, 0}, {77, 77, slot::FxX + 4, 0},
+        {78, 78, slot::FxY + 4, 0}, {79, 79, slot::FxBypassStutter, 0}, {80, 95, slot::MixLevel, 1},
         {99, 99, slot::EnvelopeDestination + 1, 0}, {100, 101, slot::EnvelopeAttack + 1, 2},
-        {102, 103, slot::EnvelopeAmount + 1,    2}, {105, 105, slot::LfoRate + 1, 0}, {106, 106, slot::LfoAmount + 1, 0},
-        {107, 107, slot::LfoRetrig + 1,         0}, {108, 108, slot::LfoInvert + 1, 0}, {110, 110, slot::LfoSync + 1, 0},
-        {112, 112, slot::LfoDestination + 1,    0}, {114, 114, slot::LfoShape + 1, 0}, {115, 135, slot::MonoVoice,    1},
-        {136, 145, slot::LayerLevel + 3,        4}, {146, 147, slot::LayerInvert + 3, 4}, {148, 151, slot::LayerBypass, 1},
-        {182, 195, slot::VelocityAmount,        1},
+        {102, 103, slot::EnvelopeAmount + 1, 2}, {105, 105, slot::LfoRate + 1, 0}, {106, 106, slot::LfoAmount + 1, 0},
+        {107, 107, slot::LfoRetrig + 1, 0}, {108, 108, slot::LfoInvert + 1, 0}, {110, 110, slot::LfoSync + 1, 0},
+        {112, 112, slot::LfoDestination + 1, 0}, {114, 114, slot::LfoShape + 1, 0}, {115, 135, slot::MonoVoice, 1},
+        {136, 145, slot::LayerLevel + 3, 4}, {146, 147, slot::LayerInvert + 3, 4}, {148, 151, slot::LayerBypass, 1},
+        {182, 195, slot::VelocityAmount, 1},
     };
     // clang-format on
     ChooseLastPages();
@@ -154,34 +151,30 @@ TEST_F(Parameters, WriteTheirPublishedSetting)
 // A switch turns its own setting, of the chosen page, through its positions and back to the first.
 TEST_F(Parameters, SwitchesTurnOneSetting)
 {
-    constexpr float kThird = 1.0f / 3.0f;
     // clang-format off
-    struct Case { int button, setting; std::vector<float> positions; };
+    struct Case { int button, setting, last; };
     const Case cases[] = {
-        {param::FilterTypeSwitch,          slot::FilterType,              {0.5f, 1.0f, 0.0f}},
-        {param::EnvelopeDestinationSwitch, slot::EnvelopeDestination + 1, {kThird, 2 * kThird, 1.0f, 0.0f}},
-        {param::LfoSyncSwitch,             slot::LfoSync + 1,             {0.5f, 1.0f, 0.0f}},
-        {param::LfoDestinationSwitch,      slot::LfoDestination + 1,      {kThird, 2 * kThird, 1.0f, 0.0f}},
-        {param::LfoShapeSwitch,            slot::LfoShape + 1,            {kThird, 2 * kThird, 1.0f, 0.0f}},
-        {param::FxLfoShapeSwitch,          slot::FxLfoShape + 4,          {kThird, 2 * kThird, 1.0f, 0.0f}},
-        {param::FxLfoSyncSwitch,           slot::FxLfoSync + 4,           {1.0f, 0.0f}},
+        {param::FilterTypeSwitch,          slot::FilterType,         2}, {param::LfoSyncSwitch,   slot::LfoSync + 1,  2},
+        {param::FxLfoShapeSwitch,          slot::FxLfoShape + 4,     3}, {param::FxLfoSyncSwitch, slot::FxLfoSync + 4, 1},
+        {param::LfoDestinationSwitch,      slot::LfoDestination + 1, 3}, {param::LfoShapeSwitch,  slot::LfoShape + 1, 3},
+        {param::EnvelopeDestinationSwitch, slot::EnvelopeDestination + 1, 3},
     };
     // clang-format on
     ChooseLastPages();
     for (const Case& c : cases)
-        for (const float position : c.positions) {
-            std::vector<float> expected(std::begin(Engine().storedParams[8]), std::end(Engine().storedParams[8]));
-            expected[static_cast<std::size_t>(c.setting)] = position;
+        for (int press = 1; press <= c.last + 1; ++press) {
+            std::vector<float> expected = Settings();
+            expected[static_cast<std::size_t>(c.setting)] =
+                static_cast<float>(press % (c.last + 1)) / static_cast<float>(c.last);
             Synth().SetParameter(c.button, 1.0f), Synth().SetParameter(c.button, 0.0f);
-            for (int n = 0; n < kChannelSlots; ++n)
-                EXPECT_EQ(Engine().storedParams[8][n], expected[static_cast<std::size_t>(n)]) << c.setting << ": " << n;
+            EXPECT_EQ(Settings(), expected) << c.button;
         }
 }
 
 // A program switch reads, reports and applies each value, in order.
 TEST_F(Parameters, AreReportedAtAProgramSwitch)
 {
-    const int cutoff = Knob(slot::FilterCutoff);
+    const int cutoff = ParamOf(slot::FilterCutoff);
     Synth().SetParameter(cutoff, 0.25f);
     host.reports.clear();
     EXPECT_FALSE(Synth().SetProgramName(1, "there is one"));
@@ -191,7 +184,6 @@ TEST_F(Parameters, AreReportedAtAProgramSwitch)
     ASSERT_EQ(host.reports.size(), kParameters.size());
     for (std::size_t n = 0; n < host.reports.size(); ++n) EXPECT_EQ(host.reports[n].first, static_cast<int>(n));
     EXPECT_EQ(host.reports[static_cast<std::size_t>(cutoff)].second, 0.25f);
-    EXPECT_EQ(Synth().lastParameter, param::Count - 1);
     EXPECT_EQ(Engine().extIndex, kExtControls - 1) << "applied: the last EXT control written";
 }
 

@@ -5,23 +5,12 @@
 #include <array>
 #include <cmath>
 #include <functional>
-#include <memory>
 #include <numbers>
-#include <utility>
-#include <vector>
 
-#include "framework/ParameterTable.h"
+#include "support/Parameters.h"
 #include "support/SynthRig.h"
 
 namespace korvane {
-
-/// The parameter that writes a channel parameter of the selected channel.
-inline int Knob(int base)
-{
-    const auto row = std::find_if(kParameters.begin(), kParameters.end(),
-                                  [base](const ParameterInfo& info) { return info.slotBase == base; });
-    return row == kParameters.end() ? -1 : row->index;
-}
 
 /// Samplers play square waves, synths constants: a level can be read off any 48 frames. The higher a channel's number
 /// the louder it is.

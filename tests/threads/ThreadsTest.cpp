@@ -19,25 +19,20 @@ std::atomic<int> allocations{0};
 } // namespace
 
 #ifndef __SANITIZE_ADDRESS__ // which has operators of its own
-static void* Allocate(std::size_t size, std::size_t alignment)
+static void* Allocate(std::size_t size, std::align_val_t alignment)
 {
-    if (watched) ++allocations;
-    void* memory = std::aligned_alloc(alignment, (size + alignment - 1) / alignment * alignment);
-    if (!memory) throw std::bad_alloc();
-    return memory;
+    allocations += watched;
+    const auto unit = static_cast<std::size_t>(alignment);
+    if (void* memory = std::aligned_alloc(unit, (size + unit - 1) / unit * unit)) return memory;
+    throw std::bad_alloc();
 }
-
 static void Free(void* memory)
 {
-    if (watched) ++allocations;
+    allocations += watched;
     std::free(memory);
 }
-
-void* operator new(std::size_t size) { return Allocate(size, alignof(std::max_align_t)); }
-void* operator new(std::size_t size, std::align_val_t alignment)
-{
-    return Allocate(size, static_cast<std::size_t>(alignment));
-}
+void* operator new(std::size_t size) { return Allocate(size, std::align_val_t{alignof(std::max_align_t)}); }
+void* operator new(std::size_t size, std::align_val_t alignment) { return Allocate(size, alignment); }
 void operator delete(void* memory) noexcept { Free(memory); }
 void operator delete(void* memory, std::size_t) noexcept { Free(memory); }
 void operator delete(void* memory, std::align_val_t) noexcept { Free(memory); }
@@ -49,16 +44,12 @@ namespace {
 
 class AudioThread : public SynthTest {
 protected:
+    /// Every channel plays on every step through every effect, with locks.
     AudioThread()
     {
         for (auto& output : outputs) output.resize(kFrames);
         Synth().SetSampleRate(48000.0);
         Synth().SetProgram(0);
-    }
-
-    /// Every channel plays on every step through every effect, with locks.
-    void FillHeavily()
-    {
         GrooveEngine& engine = *Synth().engine;
         for (int c = 0; c < kChannels; ++c) {
             for (int k = 0; k < kEffects; ++k) engine.storedParams[c][slot::FxGlue + k] = 1.0f;
@@ -89,7 +80,6 @@ TEST_F(AudioThread, AllocatesNothing)
 #ifdef __SANITIZE_ADDRESS__
     GTEST_SKIP() << "nobody counts";
 #endif
-    FillHeavily();
     Block(); // serves the requests of the start-up
     Synth().SetPlaying(true);
     watched = true;
@@ -107,9 +97,7 @@ TEST_F(AudioThread, AllocatesNothing)
 // Host and editor do what they like while the audio thread plays; the thread sanitizer watches.
 TEST_F(AudioThread, SharesTheEngineWithTheOthers)
 {
-    FillHeavily();
-    std::atomic<bool> done{false};
-    std::atomic<bool> finite{true};
+    std::atomic<bool> done{false}, finite{true};
     std::thread audio([&] {
         for (int n = 0; !done; ++n) {
             Synth().SetTempo(60.0 + n % 200);
