@@ -1,7 +1,7 @@
 // Stutter: buttons into codes, codes into settings, the loop itself.
 #include <gtest/gtest.h>
 
-#include <array>
+#include <tuple>
 
 #include "engine/FxSettings.h"
 #include "engine/StutterButtons.h"
@@ -14,8 +14,7 @@ namespace {
 TEST(StutterButtons, TurnHoldsIntoCodes)
 {
     // clang-format off
-    struct Case { const char* what; const char* presses; int code; };
-    const Case cases[] = {
+    const struct { const char *what, *presses; int code; } cases[] = {
         {"none",                          "",      0}, {"1/1",                         "1",    1},
         {"1/4",                           "5",     5}, {"the last one counts",         "13",   3},
         {"back to the one still held",    "13c",   1}, {"first let go",                "13a",  3},
@@ -27,7 +26,7 @@ TEST(StutterButtons, TurnHoldsIntoCodes)
         {"no such button",                "1689",  1},
     };
     // clang-format on
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         StutterButtons buttons;
         for (const char* p = c.presses; *p; ++p) *p < 'a' ? buttons.Press(*p - '1') : buttons.Release(*p - 'a');
         EXPECT_EQ(buttons.Code(), c.code) << c.what;
@@ -39,25 +38,21 @@ TEST(StutterButtons, TurnHoldsIntoCodes)
 TEST(SetStutter, SetsLengthAndDirection)
 {
     // clang-format off
-    struct Case { int code; float beats; int reverse; };
-    const Case cases[] = {{1, 1.0f,  0}, {2, 0.75f, 0}, {3, 0.5f,   0}, {4,  0.375f, 0}, {5,  0.25f, 0}, {6, 1.0f, 1},
-                          {7, 0.75f, 1}, {8, 0.5f,  1}, {9, 0.125f, 0}, {-3, 0.5f,   0}, {-7, 0.75f, 1}};
+    const struct { int code; float beats; int reverse; } cases[] = {
+        {1, 1.0f,  0}, {2, 0.75f, 0}, {3, 0.5f,   0}, {4,  0.375f, 0}, {5,  0.25f, 0}, {6, 1.0f, 1},
+        {7, 0.75f, 1}, {8, 0.5f,  1}, {9, 0.125f, 0}, {-3, 0.5f,   0}, {-7, 0.75f, 1}};
     // clang-format on
     FXUnit unit(FxType::Stutter);
-    for (const Case& c : cases) {
-        std::int8_t code = static_cast<std::int8_t>(c.code);
-        unit.bypass = 1;
-        SetStutter(unit, code);
-        EXPECT_EQ(code, std::abs(c.code));
-        EXPECT_EQ(unit.lfoBeats, c.beats) << c.code;
-        EXPECT_EQ(unit.reverse, c.reverse) << c.code;
-        EXPECT_EQ(unit.bypass, 0) << c.code;
-    }
-    for (std::int8_t code : std::to_array<std::int8_t>({0, 10, -128})) {
-        unit.bypass = 0;
-        SetStutter(unit, code);
-        EXPECT_EQ(unit.bypass, 1);
-    }
+    for (const auto& c : cases)
+        for (int wrong : {0, 10, -128}) {
+            std::int8_t code = static_cast<std::int8_t>(c.code), none = static_cast<std::int8_t>(wrong);
+            SetStutter(unit, none);
+            EXPECT_EQ(unit.bypass, 1);
+            SetStutter(unit, code);
+            EXPECT_EQ(std::tuple(unit.lfoBeats, unit.reverse, unit.bypass), std::tuple(c.beats, c.reverse, 0))
+                << c.code;
+            EXPECT_EQ(code, std::abs(c.code));
+        }
 }
 
 /// Slice of 6000 frames: 1/4 beat at 120 BPM.
