@@ -135,22 +135,6 @@ TEST(Reverb, RunsGiveTheBitsOfSingleFrames)
     }
 }
 
-// A new reverb level is approached by 0.1 % of the way per frame, so a knob never clicks.
-TEST(Reverb, MovesToItsLevel)
-{
-    fxReverb kept, muted;
-    for (fxReverb* unit : {&kept, &muted}) {
-        unit->SetParameter(reverb::MuteEr, 1.0f);
-        WetImpulse(*unit, 6000);
-    }
-    muted.SetParameter(reverb::MuteReverb, 1.0f);
-    Sound expected(3000), sound(3000);
-    Replace(kept, expected, 3000);
-    Replace(muted, sound, 3000);
-    for (int n = 0; n < 3000; ++n)
-        ASSERT_NEAR(sound.left[n], expected.left[n] * std::pow(0.999, n + 1), 1e-6 + 1e-3 * std::fabs(sound.left[n]));
-}
-
 TEST(Reverb, KeepsItsTailUnlessTheRoomChanges)
 {
     fxReverb unit;

@@ -90,19 +90,6 @@ TEST(Stutter, LoopsTheFirstSliceBehindASeam)
         }
 }
 
-// Released in its first slice, before it has anything to fade, it goes on recording for 202 frames.
-TEST(Stutter, HoldsOnAfterTheRelease)
-{
-    Played unit(FxType::Stutter);
-    Sound sound = Noise(12 * kBlock);
-    unit.Run(sound, 0, 8 * kBlock);
-    unit.bypass = 1;
-    for (int block = 8; block < 12; ++block) {
-        unit.Run(sound, block * kBlock, (block + 1) * kBlock);
-        EXPECT_EQ(unit.HasTail(), block < 10) << block;
-    }
-}
-
 // The loop comes in and goes by 1 % of the way per frame; released, the unit works for 202 frames or until it has
 // faded.
 TEST(Stutter, FadesIntoTheLoopAndBackToTheInput)

@@ -42,19 +42,5 @@ TEST(TapeDelay, ReturnsAnImpulseOneLoopLater)
     }
 }
 
-// Reading interpolates, so a ramp comes back as a ramp, 37.3 frames and the one in which it was written later. A read
-// before the first entry of a loop gives that entry: 0.3 frames of the ramp off.
-TEST(TapeDelay, InterpolatesBetweenWhatIsOnTheTape)
-{
-    MFXTapeDelay delay(100);
-    delay.inputGain = 1.0f;
-    delay.speed = 1.0 / 37.3;
-    for (int n = 0; n < 240; ++n) {
-        const float y = delay.Process(static_cast<float>(n));
-        const bool between = n == 187 || n == 224;
-        if (n > 150) { EXPECT_NEAR(y, n - 38.3 + (between ? 0.3 : 0.0), 1e-3) << n; }
-    }
-}
-
 } // namespace
 } // namespace korvane

@@ -1,7 +1,6 @@
 // The channel filter: what it does to a sine, and voices side by side against each alone.
 #include <gtest/gtest.h>
 
-#include <utility>
 #include <vector>
 
 #include "engine/VoiceFilter.h"
@@ -27,22 +26,14 @@ struct Mixer {
     void Play(int c, int v)
     {
         ChannelVoice& voice = *channels[c]->voices[v];
+        channels[c]->filterType = c % 3;
         voice.active = true;
         voice.resonance = Value();
         for (auto& side : voice.filterState)
             for (float& stage : side) stage = Value() - 0.5f;
-        for (int n = 0; n < kMaxRun; ++n) {
-            voice.left[n] = 4 * Value() - 2;
-            voice.right[n] = 4 * Value() - 2;
-            voice.cutoffFrames[n] = 1.4f * Value() - 0.2f; // beyond both ends as well
-            voice.gainFrames[n] = 100 * Value();
-        }
-    }
-
-    void Silence()
-    {
-        for (int c = 0; c < kChannels; ++c)
-            for (float* mix : {pool->ChannelLeft(c), pool->ChannelRight(c)}) std::fill_n(mix, kMaxRun, 0.0f);
+        for (float* buffer :
+             {voice.left, voice.right, voice.cutoffFrames, voice.gainFrames}) // cutoffs beyond both ends
+            for (int n = 0; n < kMaxRun; ++n) buffer[n] = 1.4f * Value() - 0.2f;
     }
 };
 
@@ -79,9 +70,10 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
         const Sound input = Sine(8192, c.hz);
         Sound sound(8192);
         for (int from = 0; from < 8192; from += kMaxRun) {
-            mixer.Silence();
             std::copy_n(&input.left[from], kMaxRun, voice.left);
             for (int n = 0; n < kMaxRun; ++n) voice.right[n] = 4.0f * voice.left[n];
+            for (float* mix : {mixer.pool->ChannelLeft(3), mixer.pool->ChannelRight(3)})
+                std::fill_n(mix, kMaxRun, 0.0f);
             FilterVoices(mixer.channels, *mixer.pool, kMaxRun);
             std::copy_n(mixer.pool->ChannelLeft(3), kMaxRun, &sound.left[from]);
             std::copy_n(mixer.pool->ChannelRight(3), kMaxRun, &sound.right[from]);
@@ -115,21 +107,13 @@ TEST(ChannelFilter, VoicesSideBySideGiveTheBitsOfEachAlone)
     for (int voices : {1, 2, 3, 5, 8, 11, 12, 13, 24, 27, 78})
         for (int frames : lengths) {
             Mixer together, alone;
-            for (Mixer* mixer : {&together, &alone}) {
-                for (int v = 0; v < voices; ++v) mixer->Play(v * 5 % kChannels, v / kChannels);
-                for (int c = 0; c < kChannels; ++c) mixer->channels[c]->filterType = c % 3;
-                mixer->Silence();
+            for (int v = 0; v < voices; ++v) {
+                const int c = v * 5 % kChannels;
+                for (Mixer* mixer : {&together, &alone}) mixer->Play(c, v / kChannels);
+                FilterVoices(alone.channels, *alone.pool, frames);
+                alone.channels[c]->voices[v / kChannels]->active = false;
             }
             FilterVoices(together.channels, *together.pool, frames);
-            std::vector<ChannelVoice*> waiting;
-            for (auto& channel : alone.channels)
-                for (auto& voice : channel->voices)
-                    if (std::exchange(voice->active, false)) waiting.push_back(voice.get());
-            for (ChannelVoice* voice : waiting) {
-                voice->active = true;
-                FilterVoices(alone.channels, *alone.pool, frames);
-                voice->active = false;
-            }
             ASSERT_EQ(Results(alone), Results(together)) << voices << " voices, " << frames << " frames";
         }
 }

@@ -47,7 +47,7 @@ TEST(SamplerVoice, PlaysALayerAsItIsSet)
         for (const auto& c : cases) {
             SCOPED_TRACE(testing::Message() << c.what << ", layer " << layer);
             VoiceRig rig(true);
-            for (const auto& v : c.values) rig.Set({{v.slot + (v.slot == slot::Pitch ? 0 : layer), v.value}});
+            for (const auto& [base, value] : c.values) rig.Set({{base == slot::Pitch ? base : base + layer, value}});
             rig.GiveSample(layer, 1000, c.channels, Wobble);
             rig.channel.NoteOn(48, 0, 1.0f);
             const Sound sound = rig.Play(500);
@@ -58,37 +58,10 @@ TEST(SamplerVoice, PlaysALayerAsItIsSet)
         }
 }
 
-// Layers sound together and follow envelopes, 24 semitones at full amount, and LFOs, which count in semitones here.
-TEST(SamplerVoice, BendsItsLayers)
-{
-    constexpr float kPitch = 0.67f; // destination
-    // clang-format off
-    const struct { const char* what; std::vector<VoiceRig::Value> values; double semitones; } cases[] = {
-        {"LFO 1",      {{slot::LfoDestination, kPitch}, {slot::LfoShape, 1}, {slot::LfoAmount, 1}}, 1},
-        {"LFO 2 down", {{slot::LfoDestination + 1, kPitch}, {slot::LfoShape + 1, 1}, {slot::LfoAmount + 1, 0.5f}, {slot::LfoInvert + 1, 1}}, -0.25},
-        {"envelope 1", {{slot::EnvelopeDestination, kPitch}, {slot::EnvelopeAmount, 0.5f}}, 6},
-        {"envelope 2", {{slot::EnvelopeDestination + 1, kPitch}, {slot::EnvelopeAmount + 1, 1}, {slot::EnvelopeInvert + 1, 1}}, -24},
-    };
-    // clang-format on
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.what);
-        VoiceRig rig(true);
-        for (int layer = 0; layer < 2; ++layer) rig.GiveSample(layer, 5000, 1, Wobble);
-        rig.Set({{slot::LfoRate, 1}, {slot::LfoRate + 1, 1}});
-        rig.Start(c.values, 48);
-        for (int layer = 0; layer < 2; ++layer) {
-            const double before = rig.Last().layers[layer].position;
-            rig.channel.Render(100, VoiceRig::kTempo);
-            EXPECT_NEAR(12 * std::log2((rig.Last().layers[layer].position - before) / 100), c.semitones, 0.03);
-        }
-    }
-}
-
 TEST(SamplerVoice, EndsWhenNoLayerCanPlay)
 {
     // clang-format off
-    struct Case { const char* what; int frames; std::vector<VoiceRig::Value> values; bool plays; }; // -1: no sample
-    const Case cases[] = {
+    const struct { const char* what; int frames; std::vector<VoiceRig::Value> values; bool plays; } cases[] = { // -1: no sample
         {"a sample",                    100, {}, true},
         {"no sample",                    -1, {}, false},
         {"a sample without frames",       0, {}, false},

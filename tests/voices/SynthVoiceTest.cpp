@@ -196,32 +196,5 @@ TEST(SynthVoice, SpreadsUnisonInPitchAndStereo)
     }
 }
 
-TEST(SynthVoice, StartsItsPhasesAsAsked)
-{
-    VoiceRig rig(false);
-    const UnisonPhases *phases = rig.Voice(0).phases, before = phases[0];
-    const auto start = [&rig](const std::vector<VoiceRig::Value>& values) {
-        rig.Start(values, 57, 0);
-        rig.channel.Render(0, VoiceRig::kTempo);
-    };
-    const auto near = [](std::uint32_t phase, double cycles) {
-        EXPECT_NEAR(std::remainder(phase / 0x1p32 - cycles, 1.0), 0, 1e-4);
-    };
-    start({{slot::UnisonVoices, 0.1f}, {slot::MonoVoice, 1}, {slot::Osc2Pitch, 0.75f}}); // two unison voices
-    EXPECT_EQ(phases[0].osc1, before.osc1);                                              // runs on
-    RandomGenerator random = rig.random;
-    start({{slot::PhaseRetrigOsc2, 1}});
-    for (int u = 0; u < 2; ++u) {
-        const std::uint32_t frames = (random.Next() + 1) % 512;
-        near(phases[u].osc1, frames * 220.0 / 44100);
-        near(phases[u].osc2, frames * 622.25397 / 44100);
-    }
-    EXPECT_EQ(phases[0].sync, before.sync);
-    EXPECT_EQ(rig.random.state, random.state);
-    start({{slot::UnisonRetrig, 1}, {slot::UnisonPhase, 0.3f}});
-    for (int u = 0; u < kUnison; ++u)
-        for (const auto phase : {phases[u].osc1, phases[u].sync, phases[u].osc2, phases[u].osc3}) near(phase, u * 0.3);
-}
-
 } // namespace
 } // namespace korvane

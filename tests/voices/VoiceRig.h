@@ -5,6 +5,7 @@
 #include <cmath>
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "content/SamplePool.h"
@@ -37,13 +38,10 @@ struct VoiceRig {
         channel.Reset(kRate);
     }
 
-    struct Value {
-        int slot;
-        float value;
-    };
+    using Value = std::pair<int, float>; // slot
     void Set(const std::vector<Value>& values)
     {
-        for (const Value& v : values) channel.params[v.slot] = v.value;
+        for (const auto& [slot, value] : values) channel.params[slot] = value;
     }
 
     CWaveSample& GiveSample(int layer, int frames, int channels, const std::function<float(int, int)>& value)
