@@ -6,11 +6,6 @@
 namespace korvane {
 namespace {
 
-/// A unit of which only the equaliser works.
-struct Equalised : Played {
-    Equalised() : Played(FxType::Pump) { bypass = eqOn = 1; }
-};
-
 // The amplitude enters the band's formula unrooted, so a setting of g dB moves the centre of its band by 2 g. The other
 // numbers come from a model in double, written from the published formulas.
 TEST(Equaliser, BoostsAndCutsAroundItsFrequencies)
@@ -25,7 +20,8 @@ TEST(Equaliser, BoostsAndCutsAroundItsFrequencies)
     };
     // clang-format on
     for (const auto& c : cases) {
-        Equalised unit;
+        Played unit(FxType::Pump);
+        unit.bypass = unit.eqOn = 1;
         unit.eqGains[c.band] = c.gain;
         Sound sound = Sine(24000, c.hz, 0.02f);
         const double before = std::abs(Line(&sound.left[19200], 4800, c.hz));
@@ -39,7 +35,8 @@ TEST(Equaliser, BoostsAndCutsAroundItsFrequencies)
 // The equaliser reports a tail while more than -80 dB ring in it; then it and the channel may fall silent.
 TEST(Equaliser, RingsAndEnds)
 {
-    Equalised unit;
+    Played unit(FxType::Pump);
+    unit.bypass = unit.eqOn = 1;
     unit.eqGains[0] = 1.0f;
     Sound sound = Impulse(40000);
     int end = 0;

@@ -28,14 +28,13 @@ struct Rack {
 TEST(FxSettings, TurnParametersIntoFields)
 {
     // clang-format off
-    struct Case { int k, base; float value; const char* field; float expected; float (*read)(const FXUnit&); };
     const auto x = [](const FXUnit& u) { return u.x; };
     const auto y = [](const FXUnit& u) { return u.y; };
     const auto beats = [](const FXUnit& u) { return u.lfoBeats; };
     const auto amount = [](const FXUnit& u) { return u.lfoAmount; };
     const auto shape = [](const FXUnit& u) { return static_cast<float>(u.lfoShape); };
     const auto bypass = [](const FXUnit& u) { return static_cast<float>(u.bypass); };
-    const Case cases[] = {
+    const struct { int k, base; float value; const char* field; float expected; float (*read)(const FXUnit&); } cases[] = {
         {3, slot::FxX,         0.25f,      "x",      0.25f,   x},      {3, slot::FxX,         2.0f,   "x",      1.0f,  x},
         {9, slot::FxY,         0.75f,      "y",      0.75f,   y},      {9, slot::FxY,        -1.0f,   "y",      0.0f,  y},
         {0, slot::FxLfoRate,   0.0f,       "beats",  0.125f,  beats},  {0, slot::FxLfoRate,   0.2f,   "beats",  0.25f, beats},
@@ -51,7 +50,7 @@ TEST(FxSettings, TurnParametersIntoFields)
         {5, slot::FxGlue,      0.1f,       "glued",  0.0f,    bypass}, {5, slot::FxGlue,      0.0f,  "released", 1.0f, bypass},
     };
     // clang-format on
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         Rack rack;
         rack.params[c.base + c.k] = c.value;
         rack.Update();
@@ -86,11 +85,10 @@ TEST(FxSettings, MarkChangedEqualiserBandsAndBypassTheStutter)
 TEST(SyncLfo, PutsThePhaseWhereTheSongIs)
 {
     // clang-format off
-    struct Case { float beats; int step; double phase; };
-    const Case cases[] = {{1.0f,   0, 0.0},       {1.0f,  5,   0.25},          {0.125f, 3, 0.0},
-                          {0.375f, 2, 1.0 / 3.0}, {32.0f, 127, 127.0 / 128.0}, {0.0f,   5, 0.7}};
+    const struct { float beats; int step; double phase; } cases[] = {
+        {1.0f, 0, 0.0}, {1.0f, 5, 0.25}, {0.125f, 3, 0.0}, {0.375f, 2, 1.0 / 3.0}, {32.0f, 127, 127.0 / 128.0}, {0.0f, 5, 0.7}};
     // clang-format on
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         FXUnit unit(FxType::Chorus);
         unit.lfoBeats = c.beats;
         unit.lfoPhase = 0.7;

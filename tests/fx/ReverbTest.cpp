@@ -66,10 +66,7 @@ TEST(Reverb, RespondsAsItIsSet)
 {
     using namespace reverb;
     // clang-format off
-    struct Case {
-        const char* what; float rate; int hz; std::vector<std::pair<int, float>> values; std::complex<double> left, right;
-    };
-    const Case cases[] = {
+    const struct { const char* what; float rate; int hz; std::vector<std::pair<int, float>> values; std::complex<double> left, right; } cases[] = {
         {"its program", 44100.0f, 500, {}, {1.4633, 0.0052}, {0.4345, -0.0294}},
         {"at another rate", 48000.0f, 300, {}, {1.1533, 0.2513}, {0.3010, -0.3186}},
         {"levels", 44100.0f, 600, {{Input, 0.8f}, {Dry, 0.7f}, {Er, 0.9f}, {Reverb, 0.8f}}, {0.3835, -0.2598}, {0.4389, 0.5443}},
@@ -86,7 +83,7 @@ TEST(Reverb, RespondsAsItIsSet)
         {"input muted", 44100.0f, 500, {{MuteInput, 1}}, {0.0, 0.0}, {0.0, 0.0}},
     };
     // clang-format on
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         fxReverb unit;
         unit.SetSampleRate(c.rate);

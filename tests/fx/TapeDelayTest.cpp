@@ -13,15 +13,14 @@ namespace {
 TEST(TapeDelay, ReturnsAnImpulseOneLoopLater)
 {
     // clang-format off
-    struct Case { const char* what; int length; double speed; float feedback; int delay; };
-    const Case cases[] = {
+    const struct { const char* what; int length; double speed; float feedback; int delay; } cases[] = {
         {"a hundred frames", 1000, 1.0 / 100,  0.0f, 100},  {"half comes back",    1000, 1.0 / 100,    0.5f, 100},
         {"longest",          1000, 0.0,        0.0f, 1000}, {"beyond the longest", 96,   -1.0,         0.0f, 96},
         {"speed limit",      1000, 0.5,        0.0f, 5},    {"not a number",       200,  std::nan(""), 0.0f, 200},
         {"length too small", 0,    1.0 / 1000, 0.0f, 4},
     };
     // clang-format on
-    for (const Case& c : cases) {
+    for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         MFXTapeDelay delay(c.length);
         delay.inputGain = 1.0f;
