@@ -27,7 +27,6 @@ TEST(SamplerVoice, PlaysALayerAsItIsSet)
         {"backwards between frames", 1, {{slot::LayerReverse, 1}, {slot::LayerPitch, 0.25f}},
             {{0.0918, 0.0918}, {0.1738, 0.1738}, {0.2025, 0.2025}}},
         {"late",                     1, {{slot::LayerDelay, 0.25f}}, {{0.1781, 0.1781}, {-0.4866, -0.4866}, {0.2218, 0.2218}}},
-        {"later",                    1, {{slot::LayerDelay, 0.35f}}, {{0, 0}, {0.0406, 0.0406}, {0.0947, 0.0947}}},
         {"left, half level",         1, {{slot::LayerPan, 0}, {slot::LayerLevel, 0.25f}},
             {{0.2224, 0}, {-0.0360, 0}, {-0.1171, 0}}},
         {"right, louder",            1, {{slot::LayerPan, 0.75f}, {slot::LayerLevel, 0.7f}},
