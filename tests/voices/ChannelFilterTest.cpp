@@ -31,8 +31,8 @@ struct Mixer {
         voice.resonance = Value();
         for (auto& side : voice.filterState)
             for (float& stage : side) stage = Value() - 0.5f;
-        for (float* buffer :
-             {voice.left, voice.right, voice.cutoffFrames, voice.gainFrames}) // cutoffs beyond both ends
+        // Cutoffs lie beyond both ends as well.
+        for (float* buffer : {voice.left, voice.right, voice.cutoffFrames, voice.gainFrames})
             for (int n = 0; n < kMaxRun; ++n) buffer[n] = 1.4f * Value() - 0.2f;
     }
 };
