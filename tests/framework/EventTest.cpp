@@ -159,7 +159,7 @@ TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
         synth.SetProgram(3);
         switched = true;
     });
-    synth.Play(64);
+    synth.ProcessBlock(nullptr, nullptr, 64, true);
     host.join();
     EXPECT_FALSE(switchedTooEarly);
     EXPECT_TRUE(switched);
