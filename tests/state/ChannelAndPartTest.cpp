@@ -5,7 +5,10 @@ namespace korvane {
 namespace {
 
 // A chunk is read front to back: what stands before the cut is taken, the rest is the reset channel's.
-TEST(ChannelChunk, EndsWhereItIsCut)
+using ChannelChunk = ImageTest;
+using PartImage = ImageTest;
+
+TEST_F(ChannelChunk, EndsWhereItIsCut)
 {
     constexpr int kLast = slot::Count - 1, kParams = 4 + 7 * 512;
     // clang-format off
@@ -24,8 +27,6 @@ TEST(ChannelChunk, EndsWhereItIsCut)
         {"negative length",   -1,                false, "old",   "old",   "old",   0.125f, 0.125f, 0.125f, "old"},
     };
     // clang-format on
-    GrooveEngine engine;
-    engine.ResetGroove();
     engine.storedParams[2][slot::MixLevel] = 0.25f, engine.storedParams[2][kLast] = 0.75f;
     GrooveChannel &source = engine.Channel(2), &channel = engine.Channel(11);
     source.sampleSlots[0].path.Set("D:\\0"), source.sampleSlots[6].path.Set("D:\\6"), source.programPath.Set("D:\\p");
@@ -39,8 +40,6 @@ TEST(ChannelChunk, EndsWhereItIsCut)
         for (auto& sampleSlot : channel.sampleSlots) sampleSlot.path.Set("old"), sampleSlot.request.Post("old");
         channel.programPath.Set("old");
         EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.length, 11), c.accepted);
-        EXPECT_EQ(TextOf(channel.sampleSlots[0].path), c.firstPath);
-        EXPECT_EQ(TextOf(channel.sampleSlots[6].path), c.lastPath);
         const auto request = [&channel](int n) {
             char path[LoadRequest::kPathBytes] = "";
             channel.sampleSlots[n].request.Take(path);
@@ -48,20 +47,20 @@ TEST(ChannelChunk, EndsWhereItIsCut)
         };
         EXPECT_EQ(request(0), c.request);
         if (c.accepted) { EXPECT_EQ(request(1), "!") << "an empty path clears the slot"; }
-        EXPECT_EQ(engine.storedParams[11][slot::MixLevel], c.level);
-        EXPECT_EQ(engine.storedParams[11][kLast], c.lastValue);
-        EXPECT_EQ(channel.params[slot::MixLevel], c.workingLevel);
-        EXPECT_EQ(TextOf(channel.programPath), c.programPath);
+        const std::vector<std::string> texts = {TextOf(channel.sampleSlots[0].path),
+                                                TextOf(channel.sampleSlots[6].path), TextOf(channel.programPath)};
+        EXPECT_EQ(texts, (std::vector{c.firstPath, c.lastPath, c.programPath}));
+        const std::vector<float> values = {engine.storedParams[11][slot::MixLevel], engine.storedParams[11][kLast],
+                                           channel.params[slot::MixLevel]};
+        EXPECT_EQ(values, (std::vector{c.level, c.lastValue, c.workingLevel}));
     }
     EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, 13));
 }
 
-TEST(PartImage, MovesOneChannelIntoAnotherOfItsKind)
+TEST_F(PartImage, MovesOneChannelIntoAnotherOfItsKind)
 {
-    GrooveEngine engine;
     FillGroove(engine, 3);
-    engine.currentPattern = 4;
-    engine.selectedChannel = 9;
+    engine.currentPattern = 4, engine.selectedChannel = 9;
     const Bytes part = SavedPart(engine);
     EXPECT_EQ(std::string(part.begin(), part.begin() + 4), "3StP");
     engine.selectedChannel = 11;
@@ -69,13 +68,12 @@ TEST(PartImage, MovesOneChannelIntoAnotherOfItsKind)
     std::copy_n(part.begin() + 8, kChannelChunk, expected.begin() + kHeader + 11 * kFramedChannel + 4);
     ASSERT_TRUE(engine.LoadPart(part.data(), static_cast<int>(part.size())));
     EXPECT_TRUE(SavedPart(engine) == part);
-    const Bytes saved = Saved(engine);
-    EXPECT_TRUE(std::equal(saved.begin(), saved.begin() + kPatternsAt, expected.begin()));
+    EXPECT_EQ(std::memcmp(Saved(engine).data(), expected.data(), kPatternsAt), 0);
     engine.currentPattern = 5;
     EXPECT_FALSE(SavedPart(engine) == part);
 }
 
-TEST(PartImage, TakesWhatItCanOfADamagedPart)
+TEST_F(PartImage, TakesWhatItCanOfADamagedPart)
 {
     constexpr int kSequence = 8 + kChannelChunk, kSteps0 = kSequence + 8, kWhole = kSteps0 + 128 * kRecord + 4;
     constexpr int kSampler = 0x50744433; // "3DtP"
@@ -92,8 +90,6 @@ TEST(PartImage, TakesWhatItCanOfADamagedPart)
         {"no note length",        0,         kSampler,         kWhole - 1,        2, false, 0.25f, 128},
     };
     // clang-format on
-    GrooveEngine engine;
-    engine.ResetGroove();
     engine.selectedChannel = 0;
     engine.storedParams[0][slot::NoteLength] = 0.25f;
     for (auto& word : engine.Pattern().steps[0]) word = 9u;

@@ -1,17 +1,11 @@
 // Grooves and images for the tests of this folder.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <cstring>
 #include <random>
-#include <string>
-#include <vector>
 
-#include "engine/GrooveEngine.h"
-#include "framework/ParameterTable.h"
-#include "support/Written.h"
+#include "support/SynthRig.h"
 
 namespace korvane {
 
@@ -40,6 +34,12 @@ void Put(Bytes& image, int at, T value)
 {
     std::memcpy(image.data() + at, &value, sizeof value);
 }
+
+/// An engine, at first with an empty groove.
+struct ImageTest : testing::Test {
+    ImageTest() { engine.ResetGroove(); }
+    GrooveEngine engine;
+};
 
 /// Something in every field, wild parameter values and lock indices included; the same for the same seed.
 inline void FillGroove(GrooveEngine& engine, unsigned seed)

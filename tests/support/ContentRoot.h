@@ -24,7 +24,8 @@ inline void WriteBytes(const std::filesystem::path& path, const std::vector<std:
     WriteText(path, {bytes.begin(), bytes.end()});
 }
 
-inline std::vector<std::uint8_t> ReadBytes(const std::filesystem::path& path)
+template <class Bytes = std::vector<std::uint8_t>>
+Bytes ReadBytes(const std::filesystem::path& path)
 {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

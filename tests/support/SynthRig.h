@@ -14,9 +14,24 @@
 #include "platform/Files.h"
 #include "shell/SMX_Def.h"
 #include "support/ContentRoot.h"
-#include "support/Written.h"
 
 namespace korvane {
+
+/// What `write` leaves in the buffer that it is given.
+template <class Write>
+std::string Written(const Write& write)
+{
+    char text[1024] = "untouched";
+    write(text);
+    return text;
+}
+
+/// The text of a field that is read into a buffer.
+template <class Field>
+std::string TextOf(const Field& field)
+{
+    return Written([&field](auto& text) { field.Get(text); });
+}
 
 /// Notes that are held.
 inline int Sounding(const GrooveChannel& channel)
@@ -51,6 +66,7 @@ protected:
         if (!owned) owned = std::make_unique<KVSynth>(&host);
         return *owned;
     }
+    GrooveEngine& Engine() { return *Synth().engine; }
     void Close() { owned.reset(); }
     std::string Path(const char* name) const { return EnginePath((root / name).c_str()); }
     void Send(std::uint8_t status, std::uint8_t data1, std::uint8_t data2 = 0)
