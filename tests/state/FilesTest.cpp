@@ -142,6 +142,41 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
     EXPECT_EQ(TextOf(Engine().Channel(7).programPath), Path("Sampler Programs/B/1.kvsmp"));
 }
 
+// Numbers of any size may stand in a groove: levels, gains, amounts. They play like a thousand, and finite.
+TEST_F(Files, WildGroovesPlayFiniteSound)
+{
+    constexpr int kFrames = 12000;
+    WriteText(root / "a.wav", riff::WavOf(std::vector<float>(9000, 0.5f)));
+    for (unsigned seed = 0; seed < 3; ++seed) {
+        std::vector<float> thousand;
+        for (const float wild : {1.0e3f, 1.0e9f, 3.0e38f}) {
+            std::mt19937 random(seed);
+            Close();
+            for (int c = 0; c < kChannels; ++c) {
+                auto& params = Engine().storedParams[c];
+                for (auto& value : params)
+                    if (random() % 64 == 0) value = random() % 2 ? wild : -wild;
+                for (const auto loud : {slot::LfoAmount, slot::MixLevel, slot::EqGain}) params[loud] = wild;
+                params[slot::LfoDestination] = 1.0f; // the level
+                params[slot::EqOn] = static_cast<float>(c % 2);
+                for (auto& slot : Engine().Channel(c).sampleSlots) slot.path.Set(Path("a.wav").c_str());
+                for (auto& word : Engine().Pattern().steps[c]) word = 0xffffu;
+            }
+            ASSERT_EQ(Synth().SetBankChunk(Saved(Engine()).data(), kEmptyGroove), kEmptyGroove);
+            Synth().SetSampleRate(44100.0);
+            Synth().SetPlaying(true);
+            std::vector<float> sound(28 * kFrames);
+            std::array<float*, 28> outputs;
+            for (std::size_t n = 0; n < outputs.size(); ++n) outputs[n] = &sound[n * kFrames];
+            Synth().ProcessBlock(nullptr, outputs.data(), kFrames, true);
+            if (wild == 1.0e3f) thousand = sound;
+            EXPECT_TRUE(sound == thousand) << seed << ": " << wild; // a number that is none is not equal to itself
+        }
+        EXPECT_LT(std::count(thousand.begin(), thousand.end(), 0.0f), 27 * kFrames) << seed << " is silent";
+        for (const float x : thousand) ASSERT_TRUE(std::isfinite(x)) << seed;
+    }
+}
+
 TEST_F(Files, ChunksNeverOutgrowTheSizeTheHostWasTold)
 {
     GrooveEngine& engine = Engine();

@@ -1,6 +1,7 @@
 // Grooves and images for the tests of this folder.
 #pragma once
 
+#include <array>
 #include <cmath>
 #include <cstring>
 #include <random>
