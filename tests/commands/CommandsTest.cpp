@@ -37,11 +37,6 @@ struct CommandsTest : testing::Test {
     }
     void Stand(const char* name, const std::string& body) const { Script(bin / name, body); }
 
-    static std::string Text(const fs::path& path)
-    {
-        const std::vector<std::uint8_t> bytes = ReadBytes(path);
-        return {bytes.begin(), bytes.end()};
-    }
     struct Answer {
         int status;
         std::string output, errors, calls;
@@ -52,7 +47,8 @@ struct CommandsTest : testing::Test {
         fs::remove(folder / "calls");
         const std::string from = "cd '" + elsewhere.string() + "' && env -i PATH='" + bin.string() + "' ../house/";
         const int status = std::system((from + command + " >../out 2>../err </dev/null").c_str());
-        return {WEXITSTATUS(status), Text(folder / "out"), Text(folder / "err"), Text(folder / "calls")};
+        return {WEXITSTATUS(status), ReadBytes<std::string>(folder / "out"), ReadBytes<std::string>(folder / "err"),
+                ReadBytes<std::string>(folder / "calls")};
     }
 };
 
@@ -103,7 +99,8 @@ TEST_F(CommandsTest, AFailedBuildShowsItsReasonAndItsLog)
     EXPECT_NE(answer.status, 0);
     EXPECT_EQ(answer.errors.rfind("a.cpp:1:2: error: broken\n", 0), 0u) << answer.errors;
     EXPECT_TRUE(Has(answer.errors, (house / "build/play.log").string())) << answer.errors;
-    EXPECT_TRUE(Has(Text(house / "build/play.log"), "error: not this\ncompiling\n")) << "of every stage";
+    EXPECT_TRUE(Has(ReadBytes<std::string>(house / "build/play.log"), "error: not this\ncompiling\n"))
+        << "of every stage";
     EXPECT_FALSE(Has(answer.calls, "korvane-render --"));
 }
 
@@ -112,7 +109,7 @@ TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
     const Answer answer = Run("play 'my groove.kvprj'");
     EXPECT_TRUE(Has(answer.calls, "korvane-render --bars 8 my groove.kvprj " + (house / "korvane.wav").string()))
         << answer.calls;
-    EXPECT_EQ(Text(house / "korvane.wav"), elsewhere.string() + "\n");
+    EXPECT_EQ(ReadBytes<std::string>(house / "korvane.wav"), elsewhere.string() + "\n");
     Script(house / "build/tools/korvane-render", "echo there is no such groove >&2; exit 1");
     const Answer mistyped = Run("play mistyped");
     EXPECT_EQ(mistyped.status, 1);

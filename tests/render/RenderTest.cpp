@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <cstring>
 
 #include "framework/ParameterTable.h"
 #include "render/Failure.h"
@@ -13,7 +12,7 @@
 #include "render/MidiFile.h"
 #include "render/Names.h"
 #include "render/ParameterText.h"
-#include "support/ContentRoot.h"
+#include "support/SynthRig.h"
 
 namespace korvane::render {
 namespace {
@@ -29,11 +28,7 @@ struct RenderTest : testing::Test {
         WriteText(folder / name, bytes);
         return (folder / name).string();
     }
-    std::string Text(const char* name)
-    {
-        const std::vector<std::uint8_t> bytes = ReadBytes(folder / name);
-        return {bytes.begin(), bytes.end()};
-    }
+    std::string Text(const char* name) { return ReadBytes<std::string>(folder / name); }
     struct Answer {
         int status;
         std::string output, errors;
@@ -80,20 +75,16 @@ TEST_F(RenderTest, MidiFilesFollowTheirTempo)
     const MidiMessage note = song.messages[1];
     EXPECT_TRUE(note.seconds == 1.5 && note.status == 0x90 && note.data1 == 0x3e && note.data2 == 0x65);
     EXPECT_TRUE(song.messages[2].status == 0xC0 && song.messages[2].data1 == 5);
-    EXPECT_EQ(song.lengthSeconds, 1.5);
+    EXPECT_TRUE(song.lengthSeconds == 1.5 && song.QuartersAt(1.5) == 2.0);
     EXPECT_TRUE(song.TempoAt(0.4) == 120.0 && song.TempoAt(0.5) == 60.0);
-    EXPECT_EQ(song.QuartersAt(1.5), 2.0);
     for (std::size_t length = 0; length < kSong.size(); ++length)
         EXPECT_THROW(MidiFile(Write("cut.mid", kSong.substr(0, length))), Failure) << length;
-    for (std::size_t at = 0; at < kSong.size(); ++at) {
+    for (std::size_t n = 0; n < 4 * kSong.size(); ++n) {
         std::string wild = kSong;
-        for (const char byte : {'\x00', '\x7f', '\x80', '\xff'}) {
-            wild[at] = byte;
-            Write("wild.mid", wild);
-            try {
-                EXPECT_GE(MidiFile((folder / "wild.mid").string()).lengthSeconds, 0.0);
-            } catch (const Failure&) {
-            }
+        wild[n / 4] = "\x00\x7f\x80\xff"[n % 4];
+        try {
+            EXPECT_GE(MidiFile(Write("wild.mid", wild)).lengthSeconds, 0.0);
+        } catch (const Failure&) {
         }
     }
 }
@@ -121,12 +112,11 @@ TEST_F(RenderTest, RefusesInOneLine)
     };
     // clang-format on
     for (const char* arguments : cases) {
-        SCOPED_TRACE(arguments);
         const Answer answer = Run(arguments);
-        EXPECT_NE(answer.status, 0);
-        EXPECT_EQ(answer.errors.rfind("korvane-render: ", 0), 0u) << answer.errors;
-        EXPECT_EQ(answer.errors.find('\n'), answer.errors.size() - 1) << answer.errors;
-        for (const auto& entry : fs::directory_iterator(folder)) EXPECT_NE(entry.path().stem(), "a");
+        EXPECT_NE(answer.status, 0) << arguments;
+        EXPECT_EQ(answer.errors.rfind("korvane-render: ", 0), 0u) << arguments << ": " << answer.errors;
+        EXPECT_EQ(answer.errors.find('\n'), answer.errors.size() - 1) << arguments << ": " << answer.errors;
+        EXPECT_FALSE(fs::exists(folder / "a.wav") || fs::exists(folder / "a.txt")) << arguments;
     }
     EXPECT_NE(Run("--tmpo 124 a.wav").errors.find("did you mean '--tempo'?"), std::string::npos);
 }
@@ -189,17 +179,14 @@ TEST_F(RenderTest, TakesTheTempoFromTheName)
 TEST_F(RenderTest, ReadsWhatTheInstrumentShows)
 {
     const auto shown = [](const ParameterInfo& parameter, float value) {
-        char text[32];
-        FormatDisplay(parameter.display, value, text);
-        return std::string(text);
+        const std::string text = Written([&](char* buffer) { FormatDisplay(parameter.display, value, buffer); });
+        return text.rfind("-0.0", 0) == 0 ? text.substr(1) : text;
     };
-    for (const ParameterInfo& parameter : kParameters) {
-        for (int n = 0; n <= 1000; ++n) {
-            std::string text = shown(parameter, static_cast<float>(n) / 1000.0f);
-            if (text.rfind("-0.0", 0) == 0) text.erase(0, 1);
-            ASSERT_EQ(shown(parameter, ParameterValue(parameter.index, text + UnshownUnit(parameter.index))), text)
-                << parameter.name;
-        }
+    for (int n = 0; n < 1000 * param::Count; ++n) {
+        const ParameterInfo& parameter = kParameters[static_cast<std::size_t>(n / 1000)];
+        const std::string text = shown(parameter, static_cast<float>(n % 1000) / 999.0f);
+        const float value = ParameterValue(parameter.index, text + UnshownUnit(parameter.index));
+        ASSERT_EQ(shown(parameter, value), text) << parameter.name;
     }
     // clang-format off
     struct Case { std::string name; const char* text; float value; };
@@ -228,10 +215,9 @@ TEST_F(RenderTest, ReadsWhatTheInstrumentShows)
 TEST_F(RenderTest, TellsAboutItself)
 {
     EXPECT_EQ(Run("--version").output, "korvane-render 1.0.2\n");
-    for (const char* part : {"--tail SECONDS", "(default 44100)", "Examples:"})
-        EXPECT_TRUE(Run("--help").Says(part)) << part;
-    for (const char* part : {"Grooves\n", "    Night Drive 124\n", "Sampler Programs\n", "    Saw Bass\n"})
-        EXPECT_TRUE(Run("--list").Says(part)) << part;
+    const Answer help = Run("--help"), list = Run("--list");
+    EXPECT_TRUE(help.Says("--tail SECONDS") && help.Says("(default 44100)")) << help.output;
+    EXPECT_TRUE(list.Says("Grooves\n") && list.Says("    Night Drive 124\n") && list.Says("    Saw Bass\n"));
 }
 
 // Readers warn of a format of floats whose extension has no size, and of sizes that do not add up.
@@ -241,7 +227,7 @@ TEST_F(RenderTest, WritesTheWholeHeader)
     const std::string bytes = Text("a.wav");
     const auto word = [&bytes](std::size_t at) {
         std::uint32_t number = 0;
-        std::memcpy(&number, bytes.substr(at, 4).data(), 4);
+        bytes.copy(reinterpret_cast<char*>(&number), 4, at);
         return number;
     };
     EXPECT_EQ(word(4) + 8, bytes.size());
@@ -257,7 +243,7 @@ TEST_F(RenderTest, WritesTheMixAndTheStems)
     EXPECT_EQ(Run("--midi silence.mid --tail 0 --format 24 none.wav").status, 0) << "a file without a frame";
     const Answer answer = Run("--bars 1 --tail 0.5 --rate 48000 --format 24 --stems stems mix.wav");
     ASSERT_EQ(answer.status, 0) << answer.errors;
-    for (const char* part : {"Sampler 8", "times faster than real time"}) EXPECT_TRUE(answer.Says(part)) << part;
+    EXPECT_TRUE(answer.Says("Sampler 8") && answer.Says("times faster than real time")) << answer.output;
     EXPECT_EQ(Read("mix.wav").size() / 2, 48000u * 5 / 2);
     EXPECT_EQ(format, SF_FORMAT_WAV | SF_FORMAT_PCM_24);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "stems"), fs::directory_iterator{}), 13);
@@ -275,8 +261,7 @@ TEST_F(RenderTest, WritesTheMixAndTheStems)
 TEST_F(RenderTest, TellsTheLevelsOfWhatItWrites)
 {
     const Answer answer = Run("--program 'saw bass' --param 'CHN: Panning=-90 %' a.wav");
-    ASSERT_EQ(answer.status, 0) << answer.errors;
-    EXPECT_TRUE(answer.Says("Synth 2            -inf       -inf")) << answer.output;
+    EXPECT_TRUE(answer.Says("Synth 2            -inf       -inf")) << answer.output << answer.errors;
     const std::vector<float> sound = Read("a.wav");
     double peak = 0.0, sides[2] = {};
     for (std::size_t n = 0; n < sound.size(); ++n) {
