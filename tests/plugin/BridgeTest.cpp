@@ -1,4 +1,4 @@
-// The VST 2 record of the plug-in's file: what it answers, asks for, and survives.
+// The plug-in as hosts get it: its file, its record, its clock; what it answers, asks for, and survives.
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <xmmintrin.h>
@@ -9,8 +9,9 @@
 #include <limits>
 #include <map>
 
-#include "shell/vst2/AudioEffectX.h"
+#include "shell/vst2/AEffect.h"
 #include "support/Parameters.h"
+#include "support/Riff.h"
 #include "support/SynthRig.h"
 
 namespace korvane {
@@ -68,6 +69,28 @@ protected:
         (replacing ? effect->processReplacing : effect->process)(effect, nullptr, pointers, frames);
     }
     float Get(int index) { return effect->getParameter(effect, index); }
+    /// Opens it with a groove: channel 1 clicks on every fourth step, channel 2 on the odd ones, shuffled. A click ends
+    /// before the next step.
+    void OpenClock(float shuffle, double rate)
+    {
+        WriteText(root.path / "click.wav", riff::WavOf(std::vector<float>(64, 0.5f)));
+        GrooveEngine groove;
+        groove.ResetGroove();
+        groove.shuffleAmount = shuffle;
+        for (const int c : {0, 1}) {
+            groove.Channel(c).sampleSlots[kFirstLayerSlot].path.Set(
+                EnginePath((root.path / "click.wav").c_str()).c_str());
+            groove.storedParams[c][slot::ShuffleEnable] = static_cast<float>(c);
+            for (int s = c; s < kStepsPerBar; s += c == 0 ? 4 : 2) groove.patterns[0]->steps[c][s] = 1u << s;
+        }
+        std::vector<std::uint8_t> chunk(static_cast<std::size_t>(groove.SaveState(nullptr)));
+        groove.SaveState(chunk.data());
+        Open();
+        EXPECT_EQ(Ask(request::SetBlockSizeAndSampleRate, 0, 512, nullptr, static_cast<float>(rate)), 1);
+        EXPECT_EQ(Ask(request::SetChunk, 0, std::ssize(chunk), chunk.data()), std::ssize(chunk));
+        host.position.flags = time_flag::PpqPositionValid;
+        host.tempo.flags = time_flag::TempoValid | time_flag::TransportPlaying | time_flag::TransportChanged;
+    }
 
     const ContentRoot root; // empty: nothing of this machine's settings and files
     void* module = dlopen(KORVANE_BUNDLE "/korvane.so", RTLD_NOW);
@@ -193,6 +216,53 @@ TEST_F(Bridge, FollowsTheHostsTime)
     Render(64);
 }
 
+/// The first frame after an instant at which a run may begin: blocks are rendered in chunks of 128.
+int RunAfter(double instant, int block)
+{
+    int frame = static_cast<int>(std::floor(instant)) + 1;
+    while (frame % block % 128 != 0) ++frame;
+    return frame;
+}
+
+// From the host's position on, every step starts at the frame in which its instant lies, whatever blocks the host asks
+// for; a late one with the first run after its instant.
+TEST_F(Bridge, PlaysStepsAtTheirFrames)
+{
+    // clang-format off
+    struct Case { double rate, tempo; float shuffle; int block, firstStep; };
+    std::vector<Case> cases = {{44100.0, 120.0, 0.0f, 512, 0}, {44100.0, 120.0, 1.0f, 512, 0}, {44100.0, 120.0, 0.0f, 512, 3}};
+    // clang-format on
+    for (const double rate : {44100.0, 48000.0, 96000.0})
+        for (const int block : {1, 64, 441, 4096}) cases.push_back({rate, 123.0, 0.37f, block, 0});
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.rate << " Hz, shuffle " << c.shuffle << ", blocks of " << c.block);
+        OpenClock(c.shuffle, c.rate);
+        const double step = c.rate * 15.0 / c.tempo;
+        std::vector<int> expected[2], found[2];
+        for (int s = c.firstStep; s < c.firstStep + 6; ++s) {
+            const double start = (s - c.firstStep) * step, late = 0.5 * static_cast<double>(c.shuffle) * step;
+            if (s % 4 == 0) expected[0].push_back(static_cast<int>(start));
+            if (s % 2 == 1)
+                expected[1].push_back(late > 0.0 ? RunAfter(start + late, c.block) : static_cast<int>(start));
+        }
+        host.tempo.tempo = c.tempo;
+        const int frames = static_cast<int>(6 * step);
+        for (int at = 0; at < frames; at += c.block) {
+            host.position.ppqPosition = (c.firstStep + at / step) / 4.0;
+            Render(std::min(c.block, frames - at));
+            host.tempo.flags &= ~time_flag::TransportChanged;
+            for (const int channel : {0, 1})
+                for (int n = 0; n < std::min(c.block, frames - at); ++n)
+                    if (outputs[2 + 2 * channel][n] != 0.0f &&
+                        (found[channel].empty() || at + n > found[channel].back() + 1000))
+                        found[channel].push_back(at + n);
+        }
+        EXPECT_EQ(found[0], expected[0]);
+        EXPECT_EQ(found[1], expected[1]);
+        Ask(request::Close);
+    }
+}
+
 // MIDI of every channel at its frame, and nothing else. A block that adds leaves what a silent channel's outputs held.
 TEST_F(Bridge, PlaysTheHostsEvents)
 {
@@ -243,7 +313,7 @@ TEST_F(Bridge, KeepsAChunkUntilTheNext)
 // Blocks of any size, pointers that are missing, numbers that are none.
 TEST_F(Bridge, SurvivesItsHost)
 {
-    Open();
+    OpenClock(0.5f, 384000.0);
     for (const int frames : {-5, 0, 1, 127, 128, 129, 65536}) {
         Render(frames);
         for (const auto& output : outputs)
@@ -263,20 +333,20 @@ TEST_F(Bridge, SurvivesItsHost)
         events.numEvents = count;
         Ask(request::ProcessEvents, 0, 0, &events);
     }
-    Render(256);
-    for (const auto& output : outputs)
-        for (const float x : output) ASSERT_TRUE(std::isfinite(x));
+    for (const auto& [tempo, position] : {std::pair{1.0, 1.0e15}, {999.0, 2.6}, {1.0e30, -1.0e9}, {NAN, 2.6}}) {
+        host.tempo.tempo = tempo, host.position.ppqPosition = position;
+        Render(4000);
+        for (const auto& output : outputs)
+            for (const float x : output) ASSERT_TRUE(std::isfinite(x)) << tempo;
+    }
 }
 
-TEST(AudioEffectX, TakesRateAndBlockSizeInOneRequest)
+// The dynamic symbol table shows the entries and nothing of the engine.
+TEST(Plugin, ExportsItsEntriesOnly)
 {
-    struct Effect : AudioEffectX {
-        using AudioEffectX::AudioEffectX, AudioEffectX::blockSize, AudioEffectX::sampleRate;
-        void Process(float**, float**, std::int32_t) override {}
-    } effect(nullptr, 1, 154);
-    EXPECT_EQ(effect.Dispatch(request::SetBlockSizeAndSampleRate, 0, 64, nullptr, 22050.0f), 1);
-    EXPECT_EQ(effect.blockSize, 64);
-    EXPECT_EQ(effect.sampleRate, 22050.0f);
+    const std::string list = "nm -D --defined-only --format=posix '" KORVANE_BUNDLE "/korvane.so' | cut -d ' ' -f 1";
+    EXPECT_EQ(std::system(("test \"$(" + list + " | LC_ALL=C sort | xargs)\" = 'DllMain VSTPluginMain main'").c_str()),
+              0);
 }
 
 } // namespace
