@@ -48,7 +48,6 @@ TEST_F(AudioFiles, DecodeEveryAcceptedDepth)
         {"floats",  Wav(Format(kFloats, 2, 32, 4000000000u) + Data("\0\0\0\x3f\0\0\0\xc0"s)), 4.0e9, 1, {0.5f}, {-2.0f}},
         {"AIFF of 16 bits", Aiff(Common(2, 1, 16) + Sound("\x80\x01\x40\x00"s)), 44100.0, 1, {0.0f, -1.0f + step16}, {0.0f, 0.5f}},
         {"AIFF of 24 bits", Aiff(Common(2, 1, 24) + Sound("\x7f\xff\xff\x80\x00\x00"s, 6)), 44100.0, 1, {0.0f, 1.0f}, {0.0f, lowest}},
-        {"22050 Hz",        Aiff(Common(1, 1, 16, 0x400D) + Sound("\x40\x00"s)), 22050.0, 1, {0.0f, 0.5f}, {}},
         {"96000 Hz",        Aiff(Common(1, 1, 16, 0x400F, 0xBB800000u) + Sound("\x40\x00"s)), 96000.0, 1, {0.0f, 0.5f}, {}},
         {"4 Hz",            Aiff(Common(1, 1, 16, 0x4001, 0x80000000u) + Sound("\x40\x00"s)), 4.0, 1, {0.0f, 0.5f}, {}},
         {"the highest rate", Aiff(Common(1, 1, 16, 0x401F, UINT32_MAX) + Sound("\x40\x00"s)), 4294967295.0, 1, {0.0f, 0.5f}, {}},
@@ -145,10 +144,9 @@ TEST_F(AudioFiles, SurviveDamage)
     const Bytes marks = Markers(1, Marker(1, 2, "a")) + SustainLoop(1, 1);
     for (const Bytes& file : {wav, Aiff(Common(2, 10, 16) + marks + Sound(Bytes(40, 'x')))}) {
         for (std::size_t at = 0; at < file.size(); ++at) {
-            Load(file.substr(0, at));
-            ExpectSoundInItsBuffers();
-            for (const char wild : {'\x00', '\x7f', '\xff'}) {
-                Load(file.substr(0, at) + wild + file.substr(at + 1));
+            const Bytes head = file.substr(0, at), tail = file.substr(at + 1);
+            for (const Bytes& damaged : {head, head + '\x00' + tail, head + '\x7f' + tail, head + '\xff' + tail}) {
+                Load(damaged);
                 ExpectSoundInItsBuffers();
             }
         }

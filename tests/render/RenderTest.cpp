@@ -220,23 +220,6 @@ TEST_F(RenderTest, TellsAboutItself)
     EXPECT_TRUE(list.Says("Grooves\n") && list.Says("    Night Drive 124\n") && list.Says("    Saw Bass\n"));
 }
 
-// Readers warn of a format of floats whose extension has no size, and of sizes that do not add up.
-TEST_F(RenderTest, WritesTheWholeHeader)
-{
-    ASSERT_EQ(Run("--bars 1 --tail 0 --rate 8000 a.wav").status, 0);
-    const std::string bytes = Text("a.wav");
-    const auto word = [&bytes](std::size_t at) {
-        std::uint32_t number = 0;
-        bytes.copy(reinterpret_cast<char*>(&number), 4, at);
-        return number;
-    };
-    EXPECT_EQ(word(4) + 8, bytes.size());
-    EXPECT_EQ(word(16), 18u) << "bytes of the format";
-    std::string chunks;
-    for (std::size_t at = 12; at + 8 <= bytes.size(); at += 8 + word(at + 4)) chunks += bytes.substr(at, 4);
-    EXPECT_EQ(chunks, "fmt factPAD data");
-}
-
 TEST_F(RenderTest, WritesTheMixAndTheStems)
 {
     Write("silence.mid", Song("", ""));

@@ -12,19 +12,19 @@ TEST_F(ChannelChunk, EndsWhereItIsCut)
 {
     constexpr int kLast = slot::Count - 1, kParams = 4 + 7 * 512;
     // clang-format off
-    struct Case { const char* what; int length; bool accepted; std::string firstPath, lastPath, request;
-                  float level, lastValue, workingLevel; std::string programPath; };
+    // Afterwards: first and last path, program's path, request; stored level and last value, working level.
+    struct Case { const char* what; int length; bool accepted; std::vector<std::string> texts; std::vector<float> values; };
     const Case cases[] = {
-        {"whole",             kChannelChunk,     true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  "D:\\p"},
-        {"longer than it is", 5000,              true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  "D:\\p"},
-        {"cut program path",  kChannelChunk - 1, true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  ""},
-        {"no program path",   kShortChunk,       true,  "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.75f,  0.25f,  ""},
-        {"cut last value",    kShortChunk - 1,   false, "D:\\0", "D:\\6", "D:\\0", 0.25f,  0.0f,   0.75f,  ""},
-        {"no values",         kParams,           false, "D:\\0", "D:\\6", "D:\\0", 0.0f,   0.0f,   0.75f,  ""},
-        {"cut last path",     kParams - 1,       false, "D:\\0", "",      "D:\\0", 0.75f,  0.5f,   0.75f,  ""},
-        {"tag only",          4,                 false, "",      "",      "",      0.75f,  0.5f,   0.75f,  ""},
-        {"cut tag",           3,                 false, "old",   "old",   "old",   0.125f, 0.125f, 0.125f, "old"},
-        {"negative length",   -1,                false, "old",   "old",   "old",   0.125f, 0.125f, 0.125f, "old"},
+        {"whole",             kChannelChunk,     true,  {"D:\\0", "D:\\6", "D:\\p", "D:\\0"}, {0.25f,  0.75f,  0.25f}},
+        {"longer than it is", 5000,              true,  {"D:\\0", "D:\\6", "D:\\p", "D:\\0"}, {0.25f,  0.75f,  0.25f}},
+        {"cut program path",  kChannelChunk - 1, true,  {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.25f,  0.75f,  0.25f}},
+        {"no program path",   kShortChunk,       true,  {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.25f,  0.75f,  0.25f}},
+        {"cut last value",    kShortChunk - 1,   false, {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.25f,  0.0f,   0.75f}},
+        {"no values",         kParams,           false, {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.0f,   0.0f,   0.75f}},
+        {"cut last path",     kParams - 1,       false, {"D:\\0", "",      "",      "D:\\0"}, {0.75f,  0.5f,   0.75f}},
+        {"tag only",          4,                 false, {"",      "",      "",      ""},      {0.75f,  0.5f,   0.75f}},
+        {"cut tag",           3,                 false, {"old",   "old",   "old",   "old"},   {0.125f, 0.125f, 0.125f}},
+        {"negative length",   -1,                false, {"old",   "old",   "old",   "old"},   {0.125f, 0.125f, 0.125f}},
     };
     // clang-format on
     engine.storedParams[2][slot::MixLevel] = 0.25f, engine.storedParams[2][kLast] = 0.75f;
@@ -40,19 +40,15 @@ TEST_F(ChannelChunk, EndsWhereItIsCut)
         for (auto& sampleSlot : channel.sampleSlots) sampleSlot.path.Set("old"), sampleSlot.request.Post("old");
         channel.programPath.Set("old");
         EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.length, 11), c.accepted);
-        const auto request = [&channel](int n) {
-            char path[LoadRequest::kPathBytes] = "";
-            channel.sampleSlots[n].request.Take(path);
-            return std::string(path);
-        };
-        EXPECT_EQ(request(0), c.request);
-        if (c.accepted) { EXPECT_EQ(request(1), "!") << "an empty path clears the slot"; }
-        const std::vector<std::string> texts = {TextOf(channel.sampleSlots[0].path),
-                                                TextOf(channel.sampleSlots[6].path), TextOf(channel.programPath)};
-        EXPECT_EQ(texts, (std::vector{c.firstPath, c.lastPath, c.programPath}));
-        const std::vector<float> values = {engine.storedParams[11][slot::MixLevel], engine.storedParams[11][kLast],
-                                           channel.params[slot::MixLevel]};
-        EXPECT_EQ(values, (std::vector{c.level, c.lastValue, c.workingLevel}));
+        char requests[2][LoadRequest::kPathBytes] = {};
+        for (const int n : {0, 1}) channel.sampleSlots[n].request.Take(requests[n]);
+        if (c.accepted) { EXPECT_STREQ(requests[1], "!") << "an empty path clears the slot"; }
+        EXPECT_EQ((std::vector<std::string>{TextOf(channel.sampleSlots[0].path), TextOf(channel.sampleSlots[6].path),
+                                            TextOf(channel.programPath), requests[0]}),
+                  c.texts);
+        const auto& stored = engine.storedParams[11];
+        EXPECT_EQ((std::vector<float>{stored[slot::MixLevel], stored[kLast], channel.params[slot::MixLevel]}),
+                  c.values);
     }
     EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, 13));
 }
@@ -90,8 +86,7 @@ TEST_F(PartImage, TakesWhatItCanOfADamagedPart)
         {"no note length",        0,         kSampler,         kWhole - 1,        2, false, 0.25f, 128},
     };
     // clang-format on
-    engine.selectedChannel = 0;
-    engine.storedParams[0][slot::NoteLength] = 0.25f;
+    engine.selectedChannel = 0, engine.storedParams[0][slot::NoteLength] = 0.25f;
     for (auto& word : engine.Pattern().steps[0]) word = 9u;
     Bytes part = SavedPart(engine);
     ASSERT_EQ(part.size(), static_cast<std::size_t>(kWhole));
@@ -101,12 +96,12 @@ TEST_F(PartImage, TakesWhatItCanOfADamagedPart)
         Bytes image(part.begin(), part.begin() + c.length);
         Put(image, c.at, c.value);
         engine.selectedChannel = c.channel;
-        engine.storedParams[c.channel][slot::NoteLength] = 0.125f;
+        auto& params = engine.storedParams[c.channel];
+        params[slot::NoteLength] = 0.125f;
         auto& steps = engine.Pattern().steps[c.channel];
         for (auto& word : steps) word = 3u;
         EXPECT_EQ(engine.LoadPart(image.data(), c.length), c.accepted);
-        EXPECT_EQ(engine.storedParams[c.channel][slot::NoteLength], c.noteLength);
-        if (c.accepted) { EXPECT_EQ(engine.Channel(c.channel).params[slot::NoteLength], c.noteLength); }
+        EXPECT_EQ((c.accepted ? engine.Channel(c.channel).params : params)[slot::NoteLength], c.noteLength);
         EXPECT_EQ(std::count(std::begin(steps), std::end(steps), 9u), c.steps);
     }
 }
