@@ -1,17 +1,14 @@
 // play and test, with a stand-in for every command they call: what they install, show and play.
-#include <gtest/gtest.h>
-
 #include <array>
 
-#include "support/ContentRoot.h"
+#include "support/CommandTest.h"
 
 namespace korvane {
 namespace {
 
 namespace fs = std::filesystem;
 
-struct CommandsTest : testing::Test {
-    const fs::path folder = fs::path(testing::TempDir()) / ("korvane commands." + std::to_string(getpid()));
+struct CommandsTest : CommandTest {
     const fs::path house = folder / "house", bin = folder / "bin", elsewhere = folder / "elsewhere";
 
     /// An ordinary user on a machine that has all packages, neither sudo nor a player.
@@ -31,7 +28,6 @@ struct CommandsTest : testing::Test {
             Stand(name, "");
         Script(house / "build/tools/korvane-render", "for last; do :; done; pwd >\"$last\"");
     }
-    ~CommandsTest() override { fs::remove_all(folder); }
 
     void Script(const fs::path& file, const std::string& body) const
     {
@@ -41,22 +37,12 @@ struct CommandsTest : testing::Test {
     }
     void Stand(const char* name, const std::string& body) const { Script(bin / name, body); }
 
-    struct Answer {
-        int status;
-        std::string output, errors, calls;
-    };
     /// Runs one of the two from another folder.
     Answer Run(const std::string& command) const
     {
-        fs::remove(folder / "calls");
-        const std::string from = "cd '" + elsewhere.string() + "' && env -i PATH='" + bin.string() + "' ../house/";
-        const int status = std::system((from + command + " >../out 2>../err </dev/null").c_str());
-        return {WEXITSTATUS(status), ReadBytes<std::string>(folder / "out"), ReadBytes<std::string>(folder / "err"),
-                ReadBytes<std::string>(folder / "calls")};
+        return Shell("cd elsewhere && env -i PATH='" + bin.string() + "' ../house/" + command);
     }
 };
-
-bool Has(const std::string& text, const std::string& part) { return text.find(part) != std::string::npos; }
 
 const std::string kNeeded = "g++ cmake make pkg-config libsndfile1-dev";
 const std::string kAdvice = "korvane: packages are missing; as root: apt-get update && apt-get install ";
@@ -67,7 +53,7 @@ TEST_F(CommandsTest, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
     for (const char* tool : {"g++", "cmake", "make", "pkg-config"}) fs::remove(bin / tool);
     for (const auto& [command, more] : {std::pair{"play", ""}, {"test", " libgtest-dev libbenchmark-dev"}}) {
         const Answer answer = Run(command);
-        EXPECT_TRUE(answer.status == 1 && !Has(answer.calls, "apt-get"));
+        EXPECT_TRUE(answer.status == 1 && !answer.Called("apt-get"));
         EXPECT_EQ(answer.output + answer.errors, kAdvice + kNeeded + more + "\n");
     }
     for (const char* tool : {"g++", "cmake", "make", "pkg-config"}) Stand(tool, "");
@@ -75,15 +61,15 @@ TEST_F(CommandsTest, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
     for (const char* user : {"0", "1000"}) {
         Stand("id", std::string("echo ") + user);
         const Answer answer = Run("play");
-        EXPECT_TRUE(answer.status == 0 && Has(answer.calls, "apt-get install -y --no-install-recommends libsnd"));
-        EXPECT_EQ(Has(answer.calls, "sudo"), user[0] == '1');
+        EXPECT_TRUE(answer.status == 0 && answer.Called("apt-get install -y --no-install-recommends libsnd"));
+        EXPECT_EQ(answer.Called("sudo"), user[0] == '1');
     }
     Stand("sudo", "echo sudo: a password is required >&2; exit 1");
     const Answer refused = Run("play");
-    EXPECT_TRUE(refused.status == 1 && Has(refused.errors, "sudo: a password is required\n")) << refused.errors;
-    EXPECT_TRUE(Has(refused.errors, kAdvice + "libsndfile1-dev\n")) << refused.errors;
+    EXPECT_TRUE(refused.status == 1 && refused.Complains("sudo: a password is required\n")) << refused.errors;
+    EXPECT_TRUE(refused.Complains(kAdvice + "libsndfile1-dev\n")) << refused.errors;
     Stand("dpkg-query", "echo install ok installed");
-    EXPECT_FALSE(Has(Run("play").calls, "apt-get")) << "nothing is missing";
+    EXPECT_FALSE(Run("play").Called("apt-get")) << "nothing is missing";
 }
 
 TEST_F(CommandsTest, ALaneIsBuiltAndTestedInItsOwnFolder)
@@ -99,16 +85,16 @@ TEST_F(CommandsTest, ALaneIsBuiltAndTestedInItsOwnFolder)
         for (const std::string& call :
              {"cmake -S " + root + " --preset " + preset + " -DKORVANE_TESTS=ON\n",
               "cmake --build " + root + build + " ", "ctest --test-dir " + root + build + " "})
-            EXPECT_TRUE(Has(answer.calls, call)) << call << answer.calls;
-        EXPECT_TRUE(Has(answer.calls, " -R Word\n")) << answer.calls;
+            EXPECT_TRUE(answer.Called(call)) << call << answer.calls;
+        EXPECT_TRUE(answer.Called(" -R Word\n")) << answer.calls;
     }
     const Answer unknown = Run("test debugg");
-    EXPECT_TRUE(unknown.status == 2 && Has(unknown.errors, "LANE") && unknown.calls.empty()) << unknown.errors;
+    EXPECT_TRUE(unknown.status == 2 && unknown.Complains("LANE") && unknown.calls.empty()) << unknown.errors;
     Stand("ctest", "case $2 in *-debug) exit 8 ;; esac");
     const Answer all = Run("test all");
     EXPECT_EQ(all.status, 1);
     for (const char* row : {"release    passed", "debug      FAILED", "thread     passed", "format     passed"})
-        EXPECT_TRUE(Has(all.output, row)) << row << '\n' << all.output;
+        EXPECT_TRUE(all.Says(row)) << row << '\n' << all.output;
     Stand("ctest", "");
     EXPECT_EQ(Run("test all").status, 0);
 }
@@ -120,25 +106,25 @@ TEST_F(CommandsTest, AFailedBuildShowsItsReasonAndItsLog)
     const Answer answer = Run("play");
     EXPECT_NE(answer.status, 0);
     EXPECT_EQ(answer.errors.rfind("a.cpp:1:2: error: broken\n", 0), 0u) << answer.errors;
-    EXPECT_TRUE(Has(answer.errors, (house / "build/play.log").string())) << answer.errors;
-    EXPECT_TRUE(Has(ReadBytes<std::string>(house / "build/play.log"), "error: not this\ncompiling\n"))
+    EXPECT_TRUE(answer.Complains((house / "build/play.log").string())) << answer.errors;
+    EXPECT_TRUE(Text("house/build/play.log").find("error: not this\ncompiling\n") != std::string::npos)
         << "of every stage";
-    EXPECT_FALSE(Has(answer.calls, "korvane-render --"));
+    EXPECT_FALSE(answer.Called("korvane-render --"));
 }
 
 TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
 {
     const Answer answer = Run("play 'my groove.kvprj'");
-    EXPECT_TRUE(Has(answer.calls, "korvane-render --bars 8 my groove.kvprj " + (house / "korvane.wav").string()))
+    EXPECT_TRUE(answer.Called("korvane-render --bars 8 my groove.kvprj " + (house / "korvane.wav").string()))
         << answer.calls;
-    EXPECT_EQ(ReadBytes<std::string>(house / "korvane.wav"), elsewhere.string() + "\n");
+    EXPECT_EQ(Text("house/korvane.wav"), elsewhere.string() + "\n");
     Script(house / "build/tools/korvane-render", "echo there is no such groove >&2; exit 1");
     const Answer mistyped = Run("play mistyped");
     EXPECT_TRUE(mistyped.status == 1 && mistyped.errors == "there is no such groove\n") << mistyped.errors;
     EXPECT_TRUE(Run("play two words").status == 2 && Run("play --help").status == 0);
     fs::remove(house / "build/play.log");
     fs::create_directory(house / "build/play.log");
-    EXPECT_TRUE(Has(Run("play").errors, "korvane: cannot write to " + (house / "build/play.log").string()));
+    EXPECT_TRUE(Run("play").Complains("korvane: cannot write to " + (house / "build/play.log").string()));
 }
 
 // A server that only has its stand-in for a device would take the sound and nobody would hear it.
@@ -165,10 +151,9 @@ TEST_F(CommandsTest, PlaysWithTheFirstPlayerThatHasADevice)
         EXPECT_TRUE(answer.status == 0 && answer.errors.empty());
         const std::string sound = (house / "korvane.wav").string();
         for (const std::string player : {"pw-play", "paplay", "aplay"})
-            EXPECT_EQ(Has(answer.calls, "\n" + player + " " + sound), player == c.played || player == c.failing)
-                << player;
-        EXPECT_EQ(Has(answer.output, "the sound is in " + sound), *c.played == '\0');
-        EXPECT_TRUE(Has(answer.output, (house / "build/Korvane").string()));
+            EXPECT_EQ(answer.Called("\n" + player + " " + sound), player == c.played || player == c.failing);
+        EXPECT_EQ(answer.Says("the sound is in " + sound), *c.played == '\0');
+        EXPECT_TRUE(answer.Says((house / "build/Korvane").string()));
     }
 }
 

@@ -1,10 +1,12 @@
-// Files in use: found, shared, let go; waveforms as oscillator tables; libraries.
+// Files in use: where they are looked for, found, shared, let go; waveforms as oscillator tables; libraries.
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 
 #include "content/CPresetList.h"
+#include "content/ContentFolders.h"
 #include "content/WaveTables.h"
+#include "platform/Registry.h"
 #include "support/Riff.h"
 #include "support/SynthRig.h"
 
@@ -102,25 +104,21 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
     EXPECT_EQ(std::strlen(taken), 511u);
 }
 
-// Table h holds the harmonics up to h of a file that is one cycle, at half its height.
+// A file is one cycle, whatever its length. Table h holds its harmonics up to h, at half the height.
 TEST_F(Pool, TurnsACycleIntoBandLimitedTables)
 {
-    std::vector<float> cycle(1024), tables(kWaveTableFloats);
-    const auto wave = [](std::size_t n, double harmonic, double phase) {
-        return 0.5 * std::sin(harmonic * static_cast<double>(n) * 2.0 * std::numbers::pi / 1024.0 + phase);
+    std::vector<float> cycle(400), tables(kWaveTableFloats);
+    const auto sine = [](std::size_t n, double frames, double harmonic) { // the two cancel at 0
+        const double phase = harmonic < 10.0 ? 0.5 : -0.5;
+        return std::sin(static_cast<double>(n) * harmonic * 2.0 * std::numbers::pi / frames + phase);
     };
-    for (std::size_t n = 0; n < 1024; ++n) cycle[n] = static_cast<float>(wave(n, 3, 0.1) + wave(n, 200, 2.0));
+    for (std::size_t n = 0; n < 400; ++n) cycle[n] = static_cast<float>(sine(n, 400.0, 3.0) + sine(n, 400.0, 20.0));
     WriteWav("cycle.wav", cycle);
     ASSERT_TRUE(BuildWaveTables(Path("cycle.wav").c_str(), tables.data()));
     for (std::size_t n = 0; n < 1024 * kWaveTables; ++n) {
-        const double low = n < 1024 * 2 ? 0.0 : wave(n, 3, 0.1), high = n < 1024 * 199 ? 0.0 : wave(n, 200, 2.0);
-        ASSERT_NEAR(static_cast<double>(tables[n]), 0.5 * (low + high), 1e-5) << n;
-    }
-    WriteWav("triangle.wav", {0.0f, 1.0f, 0.0f, -1.0f}); // behind its last frame it comes back to 0
-    ASSERT_TRUE(BuildWaveTables(Path("triangle.wav").c_str(), tables.data()));
-    for (std::size_t n = 0; n < 1024; ++n) {
-        const double triangle = std::fabs(std::fmod(static_cast<double>(n) / 256.0 + 3.0, 4.0) - 2.0) - 1.0;
-        ASSERT_NEAR(static_cast<double>(tables[511 * 1024 + n]), 0.5 * triangle, 1e-4) << n;
+        const double low = n < 1024 * 2 ? 0.0 : sine(n, 1024.0, 3.0),
+                     high = n < 1024 * 19 ? 0.0 : sine(n, 1024.0, 20.0);
+        ASSERT_NEAR(static_cast<double>(tables[n]), 0.5 * (low + high), 0.02) << n;
     }
     for (const std::size_t frames : {0, 1, 3, 3000000}) {
         WriteWav("any.wav", std::vector<float>(frames, 0.5f));
@@ -158,6 +156,43 @@ TEST_F(Pool, LibrariesListWhatTheyKnow)
     EXPECT_TRUE(list.SelectFolder(1 - a) && list.fileIndex == -1) << "no programs in it";
     list.Refresh();
     EXPECT_TRUE(list.folderIndex == -1 && list.folders.Count() == 2);
+}
+
+// The user's setting, then the machine's, then the folder of the plug-in; under the native host only that.
+TEST(ContentFolders, AreFoundByTheSettingOfUserThenMachine)
+{
+    const std::string module = std::filesystem::read_symlink("/proc/self/exe").parent_path();
+    const std::string longest(1023, 'x');
+    // clang-format off
+    struct Case { const char* what; std::string user, home, machine, other; int kind; std::string root; }; // lines of the settings
+    const Case cases[] = {
+        {"the user's",        "rootFolder=/u", "",               "rootFolder=/m", "",              host::Vst2,    "/u"},
+        {"under nobody",      "rootFolder=/u", "",               "",              "",              host::Unknown, "/u"},
+        {"native host",       "rootFolder=/u", "",               "rootFolder=/m", "",              host::Native,  module},
+        {"the machine's",     "rootfolder=/u", "",               "rootFolder=/m", "rootFolder=/o", host::Vst2,    "/m"},
+        {"its second folder", "",              "",               "skin=1",        "rootFolder=/o", host::Vst2,    "/o"},
+        {"nobody's",          "rootFolder",    "",               "",              "",              host::Vst2,    module},
+        {"of the home",       "-",             "rootFolder=/h",  "rootFolder=/m", "",              host::Vst2,    "/h"},
+        {"blanks, a comment", "# x=y\n rootFolder =  /u v\t\r\nrootFolder=/w", "", "", "",         host::Vst2,    "/u v"},
+        {"too long",          std::string("rootFolder=/") + longest, "",      "",              "",              host::Vst2,    std::string("/") + longest.substr(1)},
+    };
+    // clang-format on
+    const ContentRoot root;
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        const auto path = [&root](const char* name) { return (root.path / name).string(); };
+        for (const auto& [folder, lines] :
+             {std::pair{"u", c.user}, {"h/.config", c.home}, {"m", c.machine}, {"o", c.other}})
+            WriteText(root.path / folder / "Brassmoor/Korvane.conf", lines);
+        setenv("XDG_CONFIG_HOME", c.home.empty() ? path("u").c_str() : "", 1);
+        setenv("HOME", path("h").c_str(), 1);
+        setenv("XDG_CONFIG_DIRS", ("relative:" + path("m") + ":" + path("o")).c_str(), 1);
+        EXPECT_EQ(ContentFolders::Find(c.kind).root, EnginePath(c.root.c_str()));
+    }
+    char text[4] = "";
+    setenv("XDG_CONFIG_HOME", (root.path / "u").c_str(), 1);
+    EXPECT_TRUE(ReadRegistryText("Brassmoor\\Korvane", "rootFolder", text, sizeof text));
+    EXPECT_STREQ(text, "/xx") << "as many bytes as there is room for";
 }
 
 } // namespace

@@ -93,8 +93,8 @@ protected:
     int FilesInUse()
     {
         int count = 0;
-        for (int c = 0; c < kChannels; ++c)
-            for (const SampleSlot& slot : Engine().Channel(c).sampleSlots) count += !slot.path.Empty();
+        for (int n = 0; n < kChannels * kSampleSlots; ++n)
+            count += !Engine().Channel(n % kChannels).sampleSlots[n / kChannels].path.Empty();
         return count;
     }
 

@@ -1,5 +1,4 @@
 // korvane-render: MIDI files, command lines, what it writes.
-#include <gtest/gtest.h>
 #include <sndfile.h>
 
 #include <algorithm>
@@ -12,6 +11,7 @@
 #include "render/MidiFile.h"
 #include "render/Names.h"
 #include "render/ParameterText.h"
+#include "support/CommandTest.h"
 #include "support/SynthRig.h"
 
 namespace korvane::render {
@@ -20,29 +20,13 @@ namespace {
 namespace fs = std::filesystem;
 using namespace std::string_literals;
 
-struct RenderTest : testing::Test {
-    RenderTest() { fs::create_directories(folder); }
-    ~RenderTest() override { fs::remove_all(folder); }
+struct RenderTest : CommandTest {
     std::string Write(const char* name, const std::string& bytes)
     {
         WriteText(folder / name, bytes);
         return (folder / name).string();
     }
-    std::string Text(const char* name) { return ReadBytes<std::string>(folder / name); }
-    struct Answer {
-        int status;
-        std::string output, errors;
-
-        bool Says(const char* part) const { return output.find(part) != std::string::npos; }
-    };
-    /// Runs the program in the test's folder.
-    Answer Run(const std::string& arguments)
-    {
-        const std::string command =
-            "cd '" + folder.string() + "' && '" + KORVANE_TOOLS + "/korvane-render' " + arguments + " >out 2>err";
-        const int status = std::system(command.c_str());
-        return {WEXITSTATUS(status), Text("out"), Text("err")};
-    }
+    Answer Run(const std::string& arguments) const { return Shell(KORVANE_TOOLS "/korvane-render " + arguments); }
     /// The frames of a file, left and right in turn.
     std::vector<float> Read(const char* name, SF_INFO info = {})
     {
@@ -55,7 +39,6 @@ struct RenderTest : testing::Test {
     }
 
     int format = 0; // of the file read last
-    const fs::path folder = fs::path(testing::TempDir()) / ("korvane_render." + std::to_string(getpid()));
 };
 
 std::string Song(const std::string& first, const std::string& second)
@@ -118,7 +101,7 @@ TEST_F(RenderTest, RefusesInOneLine)
         EXPECT_EQ(answer.errors.find('\n'), answer.errors.size() - 1) << arguments << ": " << answer.errors;
         EXPECT_FALSE(fs::exists(folder / "a.wav") || fs::exists(folder / "a.txt")) << arguments;
     }
-    EXPECT_NE(Run("--tmpo 124 a.wav").errors.find("did you mean '--tempo'?"), std::string::npos);
+    EXPECT_TRUE(Run("--tmpo 124 a.wav").Complains("did you mean '--tempo'?"));
 }
 
 // A name is found in any case, without its number, by its beginning; a mistyped one is answered with the nearest.

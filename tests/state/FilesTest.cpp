@@ -17,13 +17,10 @@ TEST_F(Files, GroovesNameTheGroove)
     FillGroove(engine, 1);
     WriteBytes(root / "default.kvprj", Saved(engine));
     EXPECT_TRUE(Saved(Engine()) == Saved(engine) && Engine().samplePool->grooveSampleFolder.Empty());
-    EXPECT_TRUE(Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str()));
-    EXPECT_EQ(Name(), "Default Groove");
-    EXPECT_TRUE(Synth().SaveGrooveFile(Path("two.b.kvprj").c_str()));
-    EXPECT_EQ(Name(), "two.b");
+    EXPECT_TRUE(Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str()) && Name() == "Default Groove");
+    EXPECT_TRUE(Synth().SaveGrooveFile(Path("two.b.kvprj").c_str()) && Name() == "two.b");
     Engine().ResetGroove();
-    EXPECT_TRUE(Synth().LoadGrooveFile(Path("one.a.kvprj").c_str()));
-    EXPECT_TRUE(Saved(Engine()) == Saved(engine));
+    EXPECT_TRUE(Synth().LoadGrooveFile(Path("one.a.kvprj").c_str()) && Saved(Engine()) == Saved(engine));
     for (const char* none : {"none.kvprj", "Brassmoor"}) EXPECT_FALSE(Synth().LoadGrooveFile(Path(none).c_str()));
     EXPECT_FALSE(Synth().SaveGrooveFile(Path("nowhere/x.kvprj").c_str()));
     EXPECT_TRUE(Name() == "one.a" && host.told == param::Count) << "told once, of the one that was loaded";
@@ -40,7 +37,6 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     auto& slot = Engine().Channel(0).sampleSlots[kFirstLayerSlot];
     slot.request.Post(Path("F/Samples/kick.wav").c_str());
     Render();
-    ASSERT_EQ(TextOf(slot.path), Path("F/Samples/kick.wav"));
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("F/g.kvprj").c_str()));
     EXPECT_TRUE(kept("F/Samples/kick.wav") && kept("F/Waveforms/Saw.wav"));
     EXPECT_FALSE(fs::exists(root / "F/Samples/Saw.wav"));
