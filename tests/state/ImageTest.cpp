@@ -6,11 +6,7 @@
 namespace korvane {
 namespace {
 
-using StateImage = ImageTest;
-using ChannelChunk = ImageTest;
-using PartImage = ImageTest;
-
-TEST_F(StateImage, EveryFieldHasItsPlace)
+TEST_F(ImageTest, EveryFieldHasItsPlace)
 {
     using E = const GrooveEngine&;
     constexpr int kStep = kPatternsAt + 7 * kEmptyPattern + 8 + (12 * 128 + 17) * kRecord; // pattern 8, bar 2, step 2
@@ -42,15 +38,14 @@ TEST_F(StateImage, EveryFieldHasItsPlace)
     }
 }
 
-TEST_F(StateImage, TakesWhatItCanOfADamagedImage)
+TEST_F(ImageTest, TakesWhatItCanOfADamagedImage)
 {
     constexpr int kThird = kPatternsAt + 2 * kEmptyPattern, kLastChannel = kPatternsAt - kFramedChannel;
-    // Puts a value in, and takes `count` bytes out elsewhere; brings in as many below 0.
+    // Puts a value in, and takes `count` bytes out elsewhere.
     const auto put = [](int at, auto value, int cut = 0, int count = 0) {
         return [=](Bytes& image) {
             Put(image, at, value);
-            if (count > 0) image.erase(image.begin() + cut, image.begin() + cut + count);
-            if (count < 0) image.insert(image.begin() + cut, -count, 1);
+            image.erase(image.begin() + cut, image.begin() + cut + count);
         };
     };
     // clang-format off
@@ -59,7 +54,6 @@ TEST_F(StateImage, TakesWhatItCanOfADamagedImage)
     const Case cases[] = {
         {"wrong tag",              put(0, 'x'),                          false, "........", 0.125f, 0.75f},
         {"no program path",        put(kLastChannel, kShortChunk, kPatternsAt - 512, 512), true,  "99999999", 0.5f,   0.25f},
-        {"longer channel chunk",   put(kHeader, kChannelChunk + 9, kHeader + kFramedChannel, -9), true,  "99999999", 0.5f,   0.25f},
         {"negative channel chunk", put(kHeader, -kChannelChunk),         false, "........", 0.75f,  0.75f},
         {"endless channel chunk",  put(kLastChannel, INT32_MAX),         false, "........", 0.5f,   0.25f},
         {"wrong channel tag",      put(kHeader + 4, 'x'),                false, "........", 0.75f,  0.75f},
@@ -88,7 +82,7 @@ TEST_F(StateImage, TakesWhatItCanOfADamagedImage)
 }
 
 // Selections are brought into range; an assignment that leads nowhere stands and does nothing.
-TEST_F(StateImage, TakesWildSelections)
+TEST_F(ImageTest, TakesWildSelections)
 {
     Bytes image = Saved(engine);
     std::copy_n("\x0d\x08\xff\x7f\x02\x80", 6, image.begin() + 4);
@@ -101,7 +95,7 @@ TEST_F(StateImage, TakesWildSelections)
     EXPECT_TRUE(engine.extControls[0].channel == 13 && engine.extControls[1].param == 300);
 }
 
-TEST_F(StateImage, KeepsTheLocksThatActOfAListTooLong)
+TEST_F(ImageTest, KeepsTheLocksThatActOfAListTooLong)
 {
     // clang-format off
     // Locks announced, there, and of these with an index that acts on nothing.
@@ -130,7 +124,7 @@ TEST_F(StateImage, KeepsTheLocksThatActOfAListTooLong)
 }
 
 // What is saved and loaded is saved again to the byte; whatever the bytes are, it stays so.
-TEST_F(StateImage, SavesWhatItLoads)
+TEST_F(ImageTest, SavesWhatItLoads)
 {
     GrooveEngine other;
     std::mt19937 random(1);
@@ -150,7 +144,7 @@ TEST_F(StateImage, SavesWhatItLoads)
 using ChannelChunk = ImageTest;
 using PartImage = ImageTest;
 
-TEST_F(ChannelChunk, EndsWhereItIsCut)
+TEST_F(ImageTest, AChannelEndsWhereItIsCut)
 {
     constexpr int kLast = slot::Count - 1, kParams = 4 + 7 * 512;
     // clang-format off
@@ -195,7 +189,7 @@ TEST_F(ChannelChunk, EndsWhereItIsCut)
     EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, 13));
 }
 
-TEST_F(PartImage, MovesOneChannelIntoAnotherOfItsKind)
+TEST_F(ImageTest, APartMovesIntoAChannelOfItsKind)
 {
     FillGroove(engine, 3);
     engine.currentPattern = 4, engine.selectedChannel = 9;
@@ -211,7 +205,7 @@ TEST_F(PartImage, MovesOneChannelIntoAnotherOfItsKind)
     EXPECT_FALSE(SavedPart(engine) == part);
 }
 
-TEST_F(PartImage, TakesWhatItCanOfADamagedPart)
+TEST_F(ImageTest, TakesWhatItCanOfADamagedPart)
 {
     constexpr int kSequence = 8 + kChannelChunk, kSteps0 = kSequence + 8, kWhole = kSteps0 + 128 * kRecord + 4;
     constexpr int kSampler = 0x50744433; // "3DtP"
