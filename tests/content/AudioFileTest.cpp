@@ -158,11 +158,9 @@ TEST_F(AudioFiles, StreamerAnswersAsItShould)
     CFileStreamer file;
     EXPECT_TRUE(file.ReadDword() == 0u && !file.Seek(0) && !file.Write("x", 1) && !file.Open("\\nowhere\\x"));
     ASSERT_TRUE(file.Create(path.c_str()) && file.Write("abcdef", 6) && file.Open(path.c_str()));
-    EXPECT_EQ(file.ReadDword(), 0x64636261u);
-    EXPECT_EQ(file.ReadDword(), 0x00006665u) << "what is missing reads as 0";
+    EXPECT_TRUE(file.ReadDword() == 0x64636261u && file.ReadDword() == 0x00006665u) << "what is missing reads as 0";
     EXPECT_TRUE(!file.Seek(6) && file.position == 8) << "the end is out of reach";
-    EXPECT_TRUE(file.Seek(4) && file.Skip(-3));
-    EXPECT_EQ(file.ReadDwordBigEndian(), 0x62636465u);
+    EXPECT_TRUE(file.Seek(4) && file.Skip(-3) && file.ReadDwordBigEndian() == 0x62636465u);
     EXPECT_TRUE(file.ReadByte() == 'f' && file.ReadByte() == 0);
 }
 

@@ -33,8 +33,7 @@ TEST_F(ImageTest, EveryFieldHasItsPlace)
         Bytes image = empty;
         std::copy(c.bytes.begin(), c.bytes.end(), image.begin() + c.at);
         EXPECT_TRUE(Load(engine, empty) && !c.holds(engine)) << c.what;
-        EXPECT_TRUE(Load(engine, image) && c.holds(engine)) << c.what;
-        EXPECT_TRUE(Saved(engine) == image) << c.what;
+        EXPECT_TRUE(Load(engine, image) && c.holds(engine) && Saved(engine) == image) << c.what;
     }
 }
 
