@@ -59,8 +59,17 @@ TEST_F(RenderTest, MidiFilesFollowTheirTempo)
     EXPECT_TRUE(program.status == 0xC0 && program.data1 == 5);
     EXPECT_TRUE(song.lengthSeconds == 1.5 && song.QuartersAt(1.5) == 2.0);
     EXPECT_TRUE(song.TempoAt(0.4) == 120.0 && song.TempoAt(0.5) == 60.0);
-    for (std::size_t length = 0; length < kSong.size(); ++length)
-        EXPECT_THROW(MidiFile(Write("cut.mid", kSong.substr(0, length))), Failure) << length;
+    for (std::size_t at = 0; at < kSong.size(); ++at) {
+        EXPECT_THROW(MidiFile(Write("cut.mid", kSong.substr(0, at))), Failure) << at;
+        for (const char byte : {'\x00', '\x7f', '\x80', '\xff'}) {
+            std::string wild = kSong;
+            wild[at] = byte;
+            try {
+                EXPECT_GE(MidiFile(Write("wild.mid", wild)).lengthSeconds, 0.0);
+            } catch (const Failure&) { // which is as good
+            }
+        }
+    }
 }
 
 // One line that says what is wrong, a status, and no file.
