@@ -4,7 +4,7 @@
 #include <random>
 
 #include "engine/GrooveEngine.h"
-#include "framework/ParameterTable.h"
+#include "support/Parameters.h"
 
 namespace korvane {
 namespace {
@@ -59,14 +59,6 @@ constexpr const char* kDrums[kSamplerChannels] = {"Volt Kick", "Volt Snare", "Oa
                                                   "Volt Tom Low", "Forge Spring", "Deep Conga Low", "Oak Tambourine"};
 constexpr const char* kWaves[] = {"Saw", "Square", "Bell Glass", "Organ Jazz", "FM Growl", "Pulse 25", "Vowel A"};
 // clang-format on
-
-/// The host parameter of a channel parameter.
-constexpr int Of(int slotIndex)
-{
-    int index = 0;
-    while (kParameters[static_cast<std::size_t>(index)].slotBase != slotIndex) ++index;
-    return index;
-}
 
 struct Dice {
     std::mt19937 random{2026};
@@ -142,7 +134,7 @@ void PlayCorners(render::PluginHost& host, int tenth)
         {13,  Act::Midi, 0x90, 45, 80},                 {14,  Act::Midi, 0x80, 45, 0},
         {17,  Act::Midi, 0xB0, 64, 0},                  {18,  Act::Set, param::Fx1 + 2, 100, 0},
         {18,  Act::Set, param::Fx1 + 6, 100, 0},        {18,  Act::Set, param::FxActivate, 100, 0},
-        {20,  Act::Set, Of(slot::FxX), 85, 0},             {21,  Act::Set, Of(slot::FxY), 30, 0},
+        {20,  Act::Set, ParamOf(slot::FxX), 85, 0},     {21,  Act::Set, ParamOf(slot::FxY), 30, 0},
         {24,  Act::Set, param::FxActivate, 0, 0},       {24,  Act::Set, param::Fx1 + 2, 0, 0},
         {25,  Act::Set, param::Fx1 + 6, 0, 0},          {26,  Act::Set, param::Pattern1 + 1, 100, 0},
         {30,  Act::Set, param::Stutter1_4, 100, 0},     {33,  Act::Set, param::Stutter1_2, 100, 0},
@@ -151,7 +143,7 @@ void PlayCorners(render::PluginHost& host, int tenth)
         {47,  Act::Set, param::Solo, 0, 0},             {48,  Act::Set, param::Enable1 + 9, 0, 0},
         {52,  Act::Set, param::Pattern1 + 2, 100, 0},   {54,  Act::Set, param::Enable1 + 9, 100, 0},
         {56,  Act::Set, param::Ext1, 20, 0},            {56,  Act::Set, param::ExtLearn, 100, 0},
-        {57,  Act::Set, Of(slot::FilterCutoff), 90, 0},    {58,  Act::Set, param::Ext1, 40, 0},
+        {57,  Act::Set, ParamOf(slot::FilterCutoff), 90, 0}, {58,  Act::Set, param::Ext1, 40, 0},
         {60,  Act::Tempo, 0, 14100, 0},                 {62,  Act::Set, param::LfoShapeSwitch, 100, 0},
         {63,  Act::Set, param::FxLfoSyncSwitch, 100, 0},{64,  Act::Set, param::PlayBar, 100, 0},
         {68,  Act::Set, param::PlayBar, 0, 0},          {70,  Act::Set, param::Channel1 + 10, 100, 0},

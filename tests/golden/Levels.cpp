@@ -24,9 +24,10 @@ std::string Text(double level)
     return text;
 }
 
+/// What is not a number has moved, too.
 bool Moved(double before, double after, double tolerance)
 {
-    return std::fabs(after - before) > tolerance * std::max(std::fabs(before), kSilence);
+    return !(std::fabs(after - before) <= tolerance * std::max(std::fabs(before), kSilence));
 }
 
 std::string Step(const char* what, double before, double after)
@@ -102,14 +103,15 @@ std::string Difference(const Levels& kept, const Levels& now)
     std::string what;
     for (std::size_t n = 0; n < kept.outputs.size(); ++n) {
         const auto &before = kept.outputs[n].tenths, &after = now.outputs[n].tenths;
-        if (before.size() != after.size()) return kept.outputs[n].name + " has another length";
+        if (kept.outputs[n].name != now.outputs[n].name || before.size() != after.size())
+            return kept.outputs[n].name + " has another name or length";
         std::size_t t = 0;
         const auto moves = [&] {
             return Moved(before[t].peak, after[t].peak, tolerance) || Moved(before[t].rms, after[t].rms, tolerance);
         };
         while (t < before.size() && !moves()) ++t;
         moved += t < before.size();
-        if (t >= std::min(first, before.size())) continue;
+        if (t == before.size() || t > first) continue; // of several, the last: a channel rather than the mix of all
         first = t;
         what = kept.outputs[n].name + " moved first, at " + Text(0.1 * static_cast<double>(t)) +
                " s: " + Step("peak", before[t].peak, after[t].peak) + ", " + Step("RMS", before[t].rms, after[t].rms);
