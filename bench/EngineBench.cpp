@@ -2,13 +2,14 @@
 #include <benchmark/benchmark.h>
 
 #include <array>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <random>
 
 #include "engine/GrooveEngine.h"
 #include "framework/ParameterTable.h"
+#include "platform/Files.h"
+#include "support/Riff.h"
 
 namespace korvane {
 namespace {
@@ -21,23 +22,12 @@ std::string SoundFile(const char* name, int frames)
 {
     const std::string path =
         (std::filesystem::temp_directory_path() / (std::string("korvane_bench_") + name + ".wav")).string();
-    std::ofstream file(path, std::ios::binary);
-    const std::uint32_t bytes = 2u * static_cast<std::uint32_t>(frames);
-    const auto word = [&file](std::uint32_t value, int count) {
-        for (int n = 0; n < count; ++n) file.put(static_cast<char>(value >> (8 * n)));
-    };
-    file << "RIFF";
-    word(36 + bytes, 4);
-    file << "WAVEfmt ";
-    word(16, 4), word(1, 2), word(1, 2), word(44100, 4), word(88200, 4), word(2, 2), word(16, 2);
-    file << "data";
-    word(bytes, 4);
     std::minstd_rand noise(1);
+    riff::Bytes sound;
     for (int n = 0; n < frames; ++n)
-        word(frames > 4096 ? static_cast<std::uint32_t>(noise()) & 0x3FFF : static_cast<std::uint32_t>(n * 16), 2);
-    std::string engine = path;
-    for (char& c : engine) c = c == '/' ? '\\' : c;
-    return engine;
+        sound += riff::Little(frames > 4096 ? noise() & 0x3FFF : static_cast<std::size_t>(n * 16), 2);
+    std::ofstream(path, std::ios::binary) << riff::Wav(riff::Format(riff::kIntegers, 1, 16) + riff::Data(sound));
+    return EnginePath(path.c_str());
 }
 
 struct Rig {

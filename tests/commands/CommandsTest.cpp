@@ -8,11 +8,11 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct CommandsTest : CommandTest {
+struct Commands : CommandTest {
     const fs::path house = folder / "house", bin = folder / "bin", elsewhere = folder / "elsewhere";
 
     /// An ordinary user on a machine that has all packages, neither sudo nor a player.
-    CommandsTest()
+    Commands()
     {
         for (const fs::path& path : {house / "tools", house / "build/tools", bin, elsewhere})
             fs::create_directories(path);
@@ -47,7 +47,7 @@ struct CommandsTest : CommandTest {
 const std::string kNeeded = "g++ cmake make pkg-config libsndfile1-dev";
 const std::string kAdvice = "korvane: packages are missing; as root: apt-get update && apt-get install ";
 
-TEST_F(CommandsTest, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
+TEST_F(Commands, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
 {
     Stand("dpkg-query", "exit 1");
     for (const char* tool : {"g++", "cmake", "make", "pkg-config"}) fs::remove(bin / tool);
@@ -72,7 +72,7 @@ TEST_F(CommandsTest, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
     EXPECT_FALSE(Run("play").Called("apt-get")) << "nothing is missing";
 }
 
-TEST_F(CommandsTest, ALaneIsBuiltAndTestedInItsOwnFolder)
+TEST_F(Commands, ALaneIsBuiltAndTestedInItsOwnFolder)
 {
     const std::string root = house.string();
     // clang-format off
@@ -99,7 +99,7 @@ TEST_F(CommandsTest, ALaneIsBuiltAndTestedInItsOwnFolder)
     EXPECT_EQ(Run("test all").status, 0);
 }
 
-TEST_F(CommandsTest, AFailedBuildShowsItsReasonAndItsLog)
+TEST_F(Commands, AFailedBuildShowsItsReasonAndItsLog)
 {
     Stand("cmake",
           "[ \"$1\" = -S ] && echo error: not this && exit; echo compiling; echo 'a.cpp:1:2: error: broken'; exit 2");
@@ -112,7 +112,7 @@ TEST_F(CommandsTest, AFailedBuildShowsItsReasonAndItsLog)
     EXPECT_FALSE(answer.Called("korvane-render --"));
 }
 
-TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
+TEST_F(Commands, TheGrooveIsFoundFromWhereTheCallerStands)
 {
     const Answer answer = Run("play 'my groove.kvprj'");
     EXPECT_TRUE(answer.Called("korvane-render --bars 8 my groove.kvprj " + (house / "korvane.wav").string()))
@@ -128,7 +128,7 @@ TEST_F(CommandsTest, TheGrooveIsFoundFromWhereTheCallerStands)
 }
 
 // A server that only has its stand-in for a device would take the sound and nobody would hear it.
-TEST_F(CommandsTest, PlaysWithTheFirstPlayerThatHasADevice)
+TEST_F(Commands, PlaysWithTheFirstPlayerThatHasADevice)
 {
     // clang-format off
     struct Case { const char *what, *pipewire, *pulse, *cards, *failing, *played; };

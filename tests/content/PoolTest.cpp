@@ -78,9 +78,9 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
     Render();
     // clang-format off
     struct Case { const char *request, *name, *path; int entries; }; // afterwards
-    const Case cases[] = {{"\\a.wav",    "a",    "Drum Samples/a.wav",    1}, {"\\none.wav", "",  "", 0},
-                          {"\\text.wav", "text", "Drum Samples/text.wav", 1}, {"!",          "",  "", 0},
-                          {"\\a.wav",    "a",    "Drum Samples/a.wav",    1}, {"",           "a", "Drum Samples/a.wav", 1}};
+    const Case cases[] = {{"\\a.wav",    "a",    "Drum Samples/a.wav",    1}, {"\\none.wav", "", "", 0},
+                          {"\\text.wav", "text", "Drum Samples/text.wav", 1}, {"!", "", "", 0},
+                          {"\\a.wav",    "a",    "Drum Samples/a.wav",    1}, {"", "a", "Drum Samples/a.wav", 1}};
     // clang-format on
     SampleSlot& layer = Engine().Channel(0).sampleSlots[kFirstLayerSlot];
     for (const Case& c : cases) {
@@ -160,19 +160,19 @@ TEST_F(Pool, LibrariesListWhatTheyKnow)
 TEST(ContentFolders, AreFoundByTheSettingOfUserThenMachine)
 {
     const std::string module = std::filesystem::read_symlink("/proc/self/exe").parent_path();
-    const std::string longest(1023, 'x');
+    const std::string longest = std::string("/") + std::string(1022, 'x');
     // clang-format off
-    struct Case { const char* what; std::string user, home, machine, other; int kind; std::string root; }; // lines of the settings
-    const Case cases[] = {
-        {"the user's",        "rootFolder=/u", "",               "rootFolder=/m", "",              host::Vst2,    "/u"},
-        {"under nobody",      "rootFolder=/u", "",               "",              "",              host::Unknown, "/u"},
-        {"native host",       "rootFolder=/u", "",               "rootFolder=/m", "",              host::Native,  module},
-        {"the machine's",     "rootfolder=/u", "",               "rootFolder=/m", "rootFolder=/o", host::Vst2,    "/m"},
-        {"its second folder", "",              "",               "skin=1",        "rootFolder=/o", host::Vst2,    "/o"},
-        {"nobody's",          "rootFolder",    "",               "",              "",              host::Vst2,    module},
-        {"of the home",       "-",             "rootFolder=/h",  "rootFolder=/m", "",              host::Vst2,    "/h"},
-        {"blanks, a comment", "# x=y\n rootFolder =  /u v\t\r\nrootFolder=/w", "", "", "",         host::Vst2,    "/u v"},
-        {"too long",          std::string("rootFolder=/") + longest, "",      "",              "",              host::Vst2,    std::string("/") + longest.substr(1)},
+    struct Case { const char* what; std::string user, home, machine, other; int kind; std::string root; };
+    const Case cases[] = { // lines of the settings
+        {"the user's",      "rootFolder=/u", "",              "rootFolder=/m", "",              host::Vst2,    "/u"},
+        {"of no host",      "rootFolder=/u", "",              "",              "",              host::Unknown, "/u"},
+        {"native host",     "rootFolder=/u", "",              "rootFolder=/m", "",              host::Native,  module},
+        {"the machine's",   "rootfolder=/u", "",              "rootFolder=/m", "rootFolder=/o", host::Vst2,    "/m"},
+        {"its second one",  "",              "",              "skin=1",        "rootFolder=/o", host::Vst2,    "/o"},
+        {"nobody's",        "rootFolder",    "",              "",              "",              host::Vst2,    module},
+        {"of the home",     "-",             "rootFolder=/h", "rootFolder=/m", "",              host::Vst2,    "/h"},
+        {"blanks, comment", "# x=y\n rootFolder =  /u v\t\r\nrootFolder=/w", "", "", "",       host::Vst2,    "/u v"},
+        {"too long",        std::string("rootFolder=") + longest + "x", "", "", "", host::Vst2, longest},
     };
     // clang-format on
     const ContentRoot root;

@@ -13,13 +13,14 @@
 #include "support/CommandTest.h"
 #include "support/SynthRig.h"
 
-namespace korvane::render {
+namespace korvane {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace render;
 using namespace std::string_literals;
 
-struct RenderTest : CommandTest {
+struct Render : CommandTest {
     std::string Write(const char* name, const std::string& bytes)
     {
         WriteText(folder / name, bytes);
@@ -37,6 +38,7 @@ struct RenderTest : CommandTest {
         return sound;
     }
 
+    const BundleRoot root;
     int format = 0; // of the file read last
 };
 
@@ -50,7 +52,7 @@ std::string Song(const std::string& first, const std::string& second)
 // 60 BPM from quarter 1 on; a note at 0 and, by running status, at quarter 2.
 const std::string kSong = Song("\x60\xff\x51\3\x0f\x42\x40"s, "\0\x90\x3c\x64\x81\x40\x3e\x65\0\xf0\2\1\xf7\0\xc0\5"s);
 
-TEST_F(RenderTest, MidiFilesFollowTheirTempo)
+TEST_F(Render, MidiFilesFollowTheirTempo)
 {
     const MidiFile song(Write("song.mid", kSong));
     ASSERT_EQ(song.messages.size(), 3u);
@@ -73,7 +75,7 @@ TEST_F(RenderTest, MidiFilesFollowTheirTempo)
 }
 
 // One line that says what is wrong, a status, and no file.
-TEST_F(RenderTest, RefusesInOneLine)
+TEST_F(Render, RefusesInOneLine)
 {
     for (const char* text : {"text.so", "text.kvprj", "text.mid"}) Write(text, "nothing");
     fs::create_directory(folder / "folder.wav");
@@ -105,7 +107,7 @@ TEST_F(RenderTest, RefusesInOneLine)
 }
 
 // A name is found in any case, without its number, by its beginning; a mistyped one is answered with the nearest.
-TEST_F(RenderTest, FindsNames)
+TEST_F(Render, FindsNames)
 {
     // clang-format off
     const std::vector<std::string> names = {"Night Drive 124", "Steel Yard 134", "Steel Yard 90", "Saw Bass", "Saw Lead", "saw lead",
@@ -133,7 +135,7 @@ TEST_F(RenderTest, FindsNames)
 }
 
 // The tempo of a groove stands in its name, --tempo and MIDI files overrule it.
-TEST_F(RenderTest, TakesTheTempoFromTheName)
+TEST_F(Render, TakesTheTempoFromTheName)
 {
     Write("song.mid", kSong);
     // clang-format off
@@ -159,7 +161,7 @@ TEST_F(RenderTest, TakesTheTempoFromTheName)
 }
 
 // What the instrument shows of a value leads back to a value that shows the same.
-TEST_F(RenderTest, ReadsWhatTheInstrumentShows)
+TEST_F(Render, ReadsWhatTheInstrumentShows)
 {
     const auto shown = [](const ParameterInfo& parameter, float value) {
         const std::string text = Written([&](char* buffer) { FormatDisplay(parameter.display, value, buffer); });
@@ -195,14 +197,14 @@ TEST_F(RenderTest, ReadsWhatTheInstrumentShows)
     EXPECT_EQ(answer.output.rfind("Filter Type = 100.0 %\nCHN: Pitch = -5 st\n", 0), 0u) << answer.output;
 }
 
-TEST_F(RenderTest, TellsAboutItself)
+TEST_F(Render, TellsAboutItself)
 {
     EXPECT_EQ(Run("--version").output, "korvane-render 1.0.2\n");
     EXPECT_TRUE(Run("--help").Says("(default 44100)"));
     EXPECT_TRUE(Run("--list").Says("    Night Drive 124\n"));
 }
 
-TEST_F(RenderTest, WritesTheMixAndTheStems)
+TEST_F(Render, WritesTheMixAndTheStems)
 {
     Write("silence.mid", Song("", ""));
     EXPECT_EQ(Run("--midi silence.mid --tail 0 --format 24 none.wav").status, 0) << "a file without a frame";
@@ -223,7 +225,7 @@ TEST_F(RenderTest, WritesTheMixAndTheStems)
 }
 
 // A program sounds on its channel alone, its sides where they belong, and the report tells the levels of the file.
-TEST_F(RenderTest, TellsTheLevelsOfWhatItWrites)
+TEST_F(Render, TellsTheLevelsOfWhatItWrites)
 {
     const Answer answer = Run("--program 'saw bass' --param 'CHN: Panning=-90 %' a.wav");
     EXPECT_TRUE(answer.Says("Synth 2            -inf       -inf")) << answer.output << answer.errors;
@@ -244,4 +246,4 @@ TEST_F(RenderTest, TellsTheLevelsOfWhatItWrites)
 }
 
 } // namespace
-} // namespace korvane::render
+} // namespace korvane

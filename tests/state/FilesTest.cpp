@@ -16,14 +16,19 @@ TEST_F(Files, GroovesNameTheGroove)
     GrooveEngine engine;
     FillGroove(engine, 1);
     WriteBytes(root / "default.kvprj", Saved(engine));
-    EXPECT_TRUE(Saved(Engine()) == Saved(engine) && Engine().samplePool->grooveSampleFolder.Empty());
-    EXPECT_TRUE(Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str()) && Name() == "Default Groove");
-    EXPECT_TRUE(Synth().SaveGrooveFile(Path("two.b.kvprj").c_str()) && Name() == "two.b");
+    EXPECT_TRUE(Saved(Engine()) == Saved(engine));
+    EXPECT_EQ(TextOf(Engine().samplePool->grooveSampleFolder), "");
+    using Result = std::pair<bool, std::string>;
+    EXPECT_EQ((Result{Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str()), Name()}),
+              Result(true, "Default Groove"));
+    EXPECT_EQ((Result{Synth().SaveGrooveFile(Path("two.b.kvprj").c_str()), Name()}), Result(true, "two.b"));
     Engine().ResetGroove();
-    EXPECT_TRUE(Synth().LoadGrooveFile(Path("one.a.kvprj").c_str()) && Saved(Engine()) == Saved(engine));
+    EXPECT_EQ((Result{Synth().LoadGrooveFile(Path("one.a.kvprj").c_str()), Name()}), Result(true, "one.a"));
+    EXPECT_TRUE(Saved(Engine()) == Saved(engine));
     for (const char* none : {"none.kvprj", "Brassmoor"}) EXPECT_FALSE(Synth().LoadGrooveFile(Path(none).c_str()));
     EXPECT_FALSE(Synth().SaveGrooveFile(Path("nowhere/x.kvprj").c_str()));
-    EXPECT_TRUE(Name() == "one.a" && host.told == param::Count) << "told once, of the one that was loaded";
+    EXPECT_EQ(Name(), "one.a");
+    EXPECT_EQ(host.told, param::Count) << "told once, of the one that was loaded";
 }
 
 // The copies beside a groove are found again wherever both go; saving into the folder of the originals, by whatever
@@ -38,7 +43,7 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     slot.request.Post(Path("F/Samples/kick.wav").c_str());
     Render();
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("F/g.kvprj").c_str()));
-    EXPECT_TRUE(kept("F/Samples/kick.wav") && kept("F/Waveforms/Saw.wav"));
+    for (const char* copy : {"F/Samples/kick.wav", "F/Waveforms/Saw.wav"}) EXPECT_TRUE(kept(copy)) << copy;
     EXPECT_FALSE(fs::exists(root / "F/Samples/Saw.wav"));
     fs::rename(root / "F", root / "G");
     ASSERT_TRUE(Synth().LoadGrooveFile(Path("G/g.kvprj").c_str()));
@@ -46,7 +51,7 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     EXPECT_EQ(TextOf(slot.path), Path("G/Samples/") + "\\kick.wav");
     WriteText(root / "G/Waveforms/Saw.wav", "old");
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("G/g.kvprj").c_str()));
-    EXPECT_TRUE(kept("G/Samples/kick.wav") && kept("G/Waveforms/Saw.wav"));
+    for (const char* copy : {"G/Samples/kick.wav", "G/Waveforms/Saw.wav"}) EXPECT_TRUE(kept(copy)) << copy;
     EXPECT_GT(Synth().SetBankChunk(Saved(Engine()).data(), kEmptyGroove), 0);
     EXPECT_TRUE(Engine().samplePool->grooveSampleFolder.Empty()) << "a host's chunk stands beside nothing";
 }
@@ -55,11 +60,12 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
 TEST_F(Files, PartsAndProgramsKeepSettingsOfTheirChannel)
 {
     // clang-format off
-    struct Case { const char* name; bool (KVSynth::*save)(const char*), (KVSynth::*load)(const char*); std::vector<int> kept; };
+    using Operation = bool (KVSynth::*)(const char*);
+    struct Case { const char* name; Operation save, load; std::vector<int> kept; };
     const Case cases[] = {
         {"F/p.kvprt",   &KVSynth::SavePartFile,    &KVSynth::LoadPartFile,    {slot::MixLevel, slot::Panning}},
-        {"F/p.kvsynth", &KVSynth::SaveProgramFile, &KVSynth::LoadProgramFile, {slot::MixLevel, slot::Panning, slot::NoteLength,
-                                                                               slot::ShuffleEnable}},
+        {"F/p.kvsynth", &KVSynth::SaveProgramFile, &KVSynth::LoadProgramFile, {slot::MixLevel, slot::Panning,
+                                                                               slot::NoteLength, slot::ShuffleEnable}},
     };
     // clang-format on
     GrooveEngine& engine = Engine();
@@ -86,7 +92,8 @@ TEST_F(Files, PartsAndProgramsKeepSettingsOfTheirChannel)
             EXPECT_EQ(host.told, param::Count);
             EXPECT_EQ(TextOf(engine.samplePool->grooveSampleFolder), Path("F/Samples/"));
             fs::resize_file(root / c.name, 4);
-            EXPECT_TRUE(!(Synth().*c.load)(path.c_str()) && params[slot::Pitch] == 0.25f) << "too short for an image";
+            EXPECT_FALSE((Synth().*c.load)(path.c_str())) << "too short for an image";
+            EXPECT_EQ(params[slot::Pitch], 0.25f);
         }
     }
 }
@@ -101,10 +108,9 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
     // clang-format off
     struct Case { const char* what; int channel; std::uint8_t status, data1, data2; int loads; };
     const Case cases[] = {
-        {"no folder is selected yet",    8, 0xC0, 0,  0, 0},
-        {"bank loads its first program", 8, 0xB0, 32, 0, 1}, {"and again",    8, 0xB0, 32, 0, 1}, {"program", 8, 0xC0, 1,  0, 1},
-        {"same program",                 8, 0xC0, 1,  0, 0}, {"no program",   8, 0xC0, 2,  0, 0}, {"no bank", 8, 0xB0, 32, 9, 1},
-        {"the other library",            7, 0xB0, 32, 0, 1},
+        {"no folder yet", 8, 0xC0, 0, 0, 0},  {"bank, its first", 8, 0xB0, 32, 0, 1}, {"and again",  8, 0xB0, 32, 0, 1},
+        {"program",       8, 0xC0, 1, 0, 1},  {"same program",    8, 0xC0, 1,  0, 0}, {"no program", 8, 0xC0, 2,  0, 0},
+        {"no bank",       8, 0xB0, 32, 9, 1}, {"other library",   7, 0xB0, 32, 0, 1},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -166,7 +172,8 @@ TEST_F(Files, ChunksNeverOutgrowTheSizeTheHostWasTold)
         EXPECT_EQ(Synth().GetProgramChunk(buffer), size + kRecord);
     EXPECT_EQ(Synth().SetProgramChunk(nullptr, 100) + Synth().SetProgramChunk(chunk.data(), 3), 0);
     EXPECT_TRUE(chunk == Saved(engine)) << "nothing was loaded";
-    EXPECT_TRUE(Synth().SetProgramChunk(before.data(), size) == size && before == Saved(engine));
+    EXPECT_EQ(Synth().SetProgramChunk(before.data(), size), size);
+    EXPECT_TRUE(before == Saved(engine));
 }
 
 } // namespace

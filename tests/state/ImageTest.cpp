@@ -6,25 +6,36 @@
 namespace korvane {
 namespace {
 
-TEST_F(ImageTest, EveryFieldHasItsPlace)
+struct Image : testing::Test {
+    Image() { engine.ResetGroove(); }
+    GrooveEngine engine;
+};
+
+TEST_F(Image, EveryFieldHasItsPlace)
 {
-    using E = const GrooveEngine&;
-    constexpr int kStep = kPatternsAt + 7 * kEmptyPattern + 8 + (12 * 128 + 17) * kRecord; // pattern 8, bar 2, step 2
+    constexpr int kStep = kPatternsAt + 7 * kEmptyPattern + 8 + (12 * kSteps + 17) * kRecord; // pattern 8, step 18
+    constexpr int kLength = kHeader + kFramedChannel + 8 + 7 * 512 + 4 * slot::NoteLength;    // of channel 2
+    const GrooveEngine& e = engine;
     // clang-format off
-    struct Case { const char* what; int at; Bytes bytes; std::function<bool(E)> holds; };
+    struct Case { const char* what; int at; Bytes bytes; std::function<bool()> holds; };
     const Case cases[] = {
-        {"selected channel", 4,  {12}, [](E e) { return e.selectedChannel == 12; }}, {"bar",     5, {7}, [](E e) { return e.selectedBar == 7; }},
-        {"pattern",          6,  {6},  [](E e) { return e.currentPattern == 6; }},   {"effect",  7, {9}, [](E e) { return e.selectedFx == 9; }},
-        {"envelope",         8,  {1},  [](E e) { return e.envelopeNumber == 1; }},   {"LFO",     9, {1}, [](E e) { return e.lfoNumber == 1; }},
-        {"last mute",        22, {1},  [](E e) { return e.muted[12] && !e.muted[11]; }},
-        {"first play once",  23, {1},  [](E e) { return e.playOnce[0] && !e.playOnce[1]; }},
-        {"shuffle",          31, {0, 0, 0, 0x3f}, [](E e) { return e.shuffleAmount == 0.5f; }},
-        {"last EXT record",  83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [](E e) {
-            return e.extControls[4].value == 1.0f && e.extControls[4].channel == 12 && e.extControls[4].param == 211; }},
-        {"last slot's path", kHeader + 8 + 6 * 512, {'C', ':', '\\', 'k'}, [](E e) { return TextOf(e.Channel(0).sampleSlots[6].path) == "C:\\k"; }},
-        {"note length",      kHeader + kFramedChannel + 8 + 7 * 512 + 12, {0, 0, 0, 0xc0}, [](E e) { return e.storedParams[1][slot::NoteLength] == -2.0f; }},
-        {"program path",     kPatternsAt - 512, {'D', ':', '\\', 'p'}, [](E e) { return TextOf(e.Channel(12).programPath) == "D:\\p"; }},
-        {"step",             kStep, {4, 3, 2, 0x81}, [](E e) { return e.patterns[7]->steps[12][17] == 0x81020304u; }},
+        {"channel",     4,  {12}, [&] { return e.selectedChannel == 12; }},
+        {"bar",         5,  {7},  [&] { return e.selectedBar == 7; }},
+        {"pattern",     6,  {6},  [&] { return e.currentPattern == 6; }},
+        {"effect",      7,  {9},  [&] { return e.selectedFx == 9; }},
+        {"envelope",    8,  {1},  [&] { return e.envelopeNumber == 1; }},
+        {"LFO",         9,  {1},  [&] { return e.lfoNumber == 1; }},
+        {"last mute",   22, {1},  [&] { return e.muted[12] && !e.muted[11]; }},
+        {"play once",   23, {1},  [&] { return e.playOnce[0] && !e.playOnce[1]; }},
+        {"shuffle",     31, {0, 0, 0, 0x3f}, [&] { return e.shuffleAmount == 0.5f; }},
+        {"last EXT",    83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [&ext = engine.extControls[4]] {
+            return ext.value == 1.0f && ext.channel == 12 && ext.param == kChannelSlots - 1; }},
+        {"last path",   kHeader + 8 + 6 * 512, {'C', ':', '\\', 'k'}, [&] {
+            return TextOf(e.Channel(0).sampleSlots[6].path) == "C:\\k"; }},
+        {"note length", kLength, {0, 0, 0, 0xc0}, [&] { return e.storedParams[1][slot::NoteLength] == -2.0f; }},
+        {"program",     kPatternsAt - 512, {'D', ':', '\\', 'p'}, [&] {
+            return TextOf(e.Channel(12).programPath) == "D:\\p"; }},
+        {"step",        kStep, {4, 3, 2, 0x81}, [&] { return e.patterns[7]->steps[12][17] == 0x81020304u; }},
     };
     // clang-format on
     const Bytes empty = Saved(engine);
@@ -32,12 +43,13 @@ TEST_F(ImageTest, EveryFieldHasItsPlace)
     for (const Case& c : cases) {
         Bytes image = empty;
         std::copy(c.bytes.begin(), c.bytes.end(), image.begin() + c.at);
-        EXPECT_TRUE(Load(engine, empty) && !c.holds(engine)) << c.what;
-        EXPECT_TRUE(Load(engine, image) && c.holds(engine) && Saved(engine) == image) << c.what;
+        EXPECT_EQ((std::pair{Load(engine, empty), c.holds()}), std::pair(true, false)) << c.what;
+        EXPECT_EQ((std::array{Load(engine, image), c.holds(), Saved(engine) == image}), (std::array{true, true, true}))
+            << c.what;
     }
 }
 
-TEST_F(ImageTest, TakesWhatItCanOfADamagedImage)
+TEST_F(Image, TakesWhatItCanOfADamagedImage)
 {
     constexpr int kThird = kPatternsAt + 2 * kEmptyPattern, kLastChannel = kPatternsAt - kFramedChannel;
     // Puts a value in, and takes `count` bytes out elsewhere.
@@ -48,16 +60,19 @@ TEST_F(ImageTest, TakesWhatItCanOfADamagedImage)
         };
     };
     // clang-format off
-    // Afterwards: the first step of each pattern, the levels of the first and the last channel (they were 0.5 and 0.25).
-    struct Case { const char* what; std::function<void(Bytes&)> damage; bool accepted; std::string steps; float first, last; };
+    // Afterwards: the first step of each pattern, the levels of first and last channel (they were 0.5 and 0.25).
+    using Damage = std::function<void(Bytes&)>;
+    struct Case { const char* what; Damage damage; bool accepted; std::string steps; float first, last; };
     const Case cases[] = {
         {"wrong tag",              put(0, 'x'),                          false, "........", 0.125f, 0.75f},
-        {"no program path",        put(kLastChannel, kShortChunk, kPatternsAt - 512, 512), true,  "99999999", 0.5f,   0.25f},
+        {"no program path",        put(kLastChannel, kShortChunk, kPatternsAt - 512, 512),
+                                                                         true,  "99999999", 0.5f,   0.25f},
         {"negative channel chunk", put(kHeader, -kChannelChunk),         false, "........", 0.75f,  0.75f},
         {"endless channel chunk",  put(kLastChannel, INT32_MAX),         false, "........", 0.5f,   0.25f},
         {"wrong channel tag",      put(kHeader + 4, 'x'),                false, "........", 0.75f,  0.75f},
         {"wrong pattern tag",      put(kThird + 4, 'x'),                 true,  "99.99999", 0.5f,   0.25f},
-        {"pattern of three bytes", put(kThird, 3, kThird + 7, kEmptyPattern - 7), true,  "99.99999", 0.5f,   0.25f},
+        {"pattern of 3 bytes",     put(kThird, 3, kThird + 7, kEmptyPattern - 7),
+                                                                         true,  "99.99999", 0.5f,   0.25f},
         {"negative pattern",       put(kPatternsAt, INT32_MIN),          false, "........", 0.5f,   0.25f},
         {"endless pattern",        put(kThird, INT32_MAX),               false, "999.....", 0.5f,   0.25f},
     };
@@ -66,7 +81,8 @@ TEST_F(ImageTest, TakesWhatItCanOfADamagedImage)
         SCOPED_TRACE(c.what);
         engine.ResetGroove();
         for (auto& pattern : engine.patterns) pattern->steps[0][0] = 9u;
-        engine.storedParams[0][slot::MixLevel] = 0.5f, engine.storedParams[12][slot::MixLevel] = 0.25f;
+        engine.storedParams[0][slot::MixLevel] = 0.5f;
+        engine.storedParams[12][slot::MixLevel] = 0.25f;
         Bytes image = Saved(engine);
         c.damage(image);
         engine.ResetGroove();
@@ -81,39 +97,43 @@ TEST_F(ImageTest, TakesWhatItCanOfADamagedImage)
 }
 
 // Selections are brought into range; an assignment that leads nowhere stands and does nothing.
-TEST_F(ImageTest, TakesWildSelections)
+TEST_F(Image, TakesWildSelections)
 {
     Bytes image = Saved(engine);
     std::copy_n("\x0d\x08\xff\x7f\x02\x80", 6, image.begin() + 4);
-    Put(image, 39, 13), Put(image, 43, static_cast<int>(slot::AmpDecay)); // EXT 1: no such channel
-    Put(image, 51, 3), Put(image, 55, 300);                               // EXT 2: no such parameter
+    // EXT 1: no such channel; EXT 2: no such parameter
+    for (const auto& [at, value] : {std::pair{39, kChannels}, {43, slot::AmpDecay}, {51, 3}, {55, 300}})
+        Put(image, at, value);
     ASSERT_TRUE(Load(engine, image));
     image = Saved(engine);
     EXPECT_EQ(Bytes(image.begin() + 4, image.begin() + 10), (Bytes{12, 7, 0, 9, 1, 0}));
     for (const int n : {0, 1}) engine.SetExtControl(n, 0.5f);
-    EXPECT_TRUE(engine.extControls[0].channel == 13 && engine.extControls[1].param == 300);
+    EXPECT_EQ(engine.extControls[0].channel, kChannels);
+    EXPECT_EQ(engine.extControls[1].param, 300);
 }
 
-TEST_F(ImageTest, KeepsTheLocksThatActOfAListTooLong)
+TEST_F(Image, KeepsTheLocksThatActOfAListTooLong)
 {
     // clang-format off
     // Locks announced, there, and of these with an index that acts on nothing.
     struct Case { const char* what; int told, present, wild, kept; };
     const Case cases[] = {
-        {"full",     212, 212, 5, 212}, {"too long", 300, 300, 100, 200}, {"far too long", 32767, 400, 0, 212},
-        {"negative", -1,  0,   0, 0},   {"cut",      5,   2,   0,   5},   {"none",         0,     0,   0, 0},
+        {"full",     kChannelSlots, kChannelSlots, 5,   kChannelSlots}, {"negative", -1, 0, 0, 0},
+        {"far over", INT16_MAX,     400,           0,   kChannelSlots}, {"cut",      5,  2, 0, 5},
+        {"too long", 300,           300,           100, 200},           {"none",     0,  0, 0, 0},
     };
     // clang-format on
     const Bytes empty = Saved(engine);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         Bytes image(empty.begin(), empty.begin() + kPatternsAt + 8); // then one record and no more patterns
-        image.resize(image.size() + 6 + static_cast<std::size_t>(c.present) * 6);
+        image.resize(image.size() + static_cast<std::size_t>((1 + c.present) * kRecord));
         Put(image, kPatternsAt, static_cast<int>(image.size()) - kPatternsAt - 4);
         Put(image, kPatternsAt + 12, static_cast<std::int16_t>(c.told));
         for (int n = 0; n < c.present; ++n) {
-            Put(image, kPatternsAt + 14 + n * 6, static_cast<std::int16_t>(n < c.wild ? -1 - n : n % 212));
-            Put(image, kPatternsAt + 16 + n * 6, 0.5f);
+            Put(image, kPatternsAt + 14 + n * kRecord,
+                static_cast<std::int16_t>(n < c.wild ? -1 - n : n % kChannelSlots));
+            Put(image, kPatternsAt + 16 + n * kRecord, 0.5f);
         }
         EXPECT_FALSE(Load(engine, image));
         const StepLockList& locks = engine.patterns[0]->locks[0][0];
@@ -123,32 +143,31 @@ TEST_F(ImageTest, KeepsTheLocksThatActOfAListTooLong)
 }
 
 // What is saved and loaded is saved again to the byte; whatever the bytes are, it stays so.
-TEST_F(ImageTest, SavesWhatItLoads)
+TEST_F(Image, SavesWhatItLoads)
 {
     GrooveEngine other;
     std::mt19937 random(1);
     for (unsigned round = 0; round < 300; ++round) {
         FillGroove(engine, 1 + round / 60);
         Bytes image = Saved(engine);
-        ASSERT_TRUE(Load(other, image) && Saved(other) == image);
+        ASSERT_EQ((std::pair{Load(other, image), Saved(other) == image}), std::pair(true, true)) << round;
         for (int flips = 1 + static_cast<int>(random() % 8); flips > 0; --flips)
             image[random() % (round % 2 ? image.size() : kHeader + 4)] = static_cast<std::uint8_t>(random());
         Load(engine, image);
         image = Saved(engine);
-        ASSERT_TRUE(Load(other, image) && Saved(other) == image) << round;
+        ASSERT_EQ((std::pair{Load(other, image), Saved(other) == image}), std::pair(true, true)) << round << ", wild";
     }
 }
 
 // A chunk is read front to back: what stands before the cut is taken, the rest is the reset channel's.
-using ChannelChunk = ImageTest;
-using PartImage = ImageTest;
-
-TEST_F(ImageTest, AChannelEndsWhereItIsCut)
+TEST_F(Image, AChannelEndsWhereItIsCut)
 {
     constexpr int kLast = slot::Count - 1, kParams = 4 + 7 * 512;
     // clang-format off
     // Afterwards: first and last path, program's path, request; stored level and last value, working level.
-    struct Case { const char* what; int length; bool accepted; std::vector<std::string> texts; std::vector<float> values; };
+    using Texts = std::vector<std::string>;
+    using Values = std::vector<float>;
+    struct Case { const char* what; int length; bool accepted; Texts texts; Values values; };
     const Case cases[] = {
         {"whole",             kChannelChunk,     true,  {"D:\\0", "D:\\6", "D:\\p", "D:\\0"}, {0.25f,  0.75f,  0.25f}},
         {"cut program path",  kChannelChunk - 1, true,  {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.25f,  0.75f,  0.25f}},
@@ -161,9 +180,12 @@ TEST_F(ImageTest, AChannelEndsWhereItIsCut)
         {"negative length",   -1,                false, {"old",   "old",   "old",   "old"},   {0.125f, 0.125f, 0.125f}},
     };
     // clang-format on
-    engine.storedParams[2][slot::MixLevel] = 0.25f, engine.storedParams[2][kLast] = 0.75f;
+    engine.storedParams[2][slot::MixLevel] = 0.25f;
+    engine.storedParams[2][kLast] = 0.75f;
     GrooveChannel &source = engine.Channel(2), &channel = engine.Channel(11);
-    source.sampleSlots[0].path.Set("D:\\0"), source.sampleSlots[6].path.Set("D:\\6"), source.programPath.Set("D:\\p");
+    source.sampleSlots[0].path.Set("D:\\0");
+    source.sampleSlots[6].path.Set("D:\\6");
+    source.programPath.Set("D:\\p");
     Bytes chunk(5000);
     ASSERT_EQ(engine.SaveChannelChunk(chunk.data(), 2), kChannelChunk);
     chunk[4 + 511] = 'x'; // the first path's field, filled to its end
@@ -171,26 +193,29 @@ TEST_F(ImageTest, AChannelEndsWhereItIsCut)
         SCOPED_TRACE(c.what);
         for (auto& value : engine.storedParams[11]) value = 0.125f;
         engine.RefreshChannel(11);
-        for (auto& sampleSlot : channel.sampleSlots) sampleSlot.path.Set("old"), sampleSlot.request.Post("old");
+        for (auto& sampleSlot : channel.sampleSlots) {
+            sampleSlot.path.Set("old");
+            sampleSlot.request.Post("old");
+        }
         channel.programPath.Set("old");
         EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.length, 11), c.accepted);
         char requests[2][LoadRequest::kPathBytes] = {};
         for (const int n : {0, 1}) channel.sampleSlots[n].request.Take(requests[n]);
         if (c.accepted) { EXPECT_STREQ(requests[1], "!") << "an empty path clears the slot"; }
-        EXPECT_EQ((std::vector<std::string>{TextOf(channel.sampleSlots[0].path), TextOf(channel.sampleSlots[6].path),
-                                            TextOf(channel.programPath), requests[0]}),
+        EXPECT_EQ((Texts{TextOf(channel.sampleSlots[0].path), TextOf(channel.sampleSlots[6].path),
+                         TextOf(channel.programPath), requests[0]}),
                   c.texts);
         const auto& stored = engine.storedParams[11];
-        EXPECT_EQ((std::vector<float>{stored[slot::MixLevel], stored[kLast], channel.params[slot::MixLevel]}),
-                  c.values);
+        EXPECT_EQ((Values{stored[slot::MixLevel], stored[kLast], channel.params[slot::MixLevel]}), c.values);
     }
-    EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, 13));
+    EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, kChannels));
 }
 
-TEST_F(ImageTest, APartMovesIntoAChannelOfItsKind)
+TEST_F(Image, APartMovesIntoAChannelOfItsKind)
 {
     FillGroove(engine, 3);
-    engine.currentPattern = 4, engine.selectedChannel = 9;
+    engine.currentPattern = 4;
+    engine.selectedChannel = 9;
     const Bytes part = SavedPart(engine);
     EXPECT_EQ(std::string(part.begin(), part.begin() + 4), "3StP");
     engine.selectedChannel = 11;
@@ -203,24 +228,29 @@ TEST_F(ImageTest, APartMovesIntoAChannelOfItsKind)
     EXPECT_FALSE(SavedPart(engine) == part);
 }
 
-TEST_F(ImageTest, TakesWhatItCanOfADamagedPart)
+TEST_F(Image, TakesWhatItCanOfADamagedPart)
 {
-    constexpr int kSequence = 8 + kChannelChunk, kSteps0 = kSequence + 8, kWhole = kSteps0 + 128 * kRecord + 4;
-    constexpr int kSampler = 0x50744433; // "3DtP"
+    constexpr int kSequence = 8 + kChannelChunk, kSteps0 = kSequence + 8, kWhole = kSteps0 + kSteps * kRecord + 4;
+    constexpr int kOneStep = kSteps0 + kRecord, kTen = 4 + 10 * kRecord, kSampler = 0x50744433; // "3DtP"
     // clang-format off
     // An int32 is written into the part, at 0 its tag; the steps that are not taken over stay what they were.
     struct Case { const char* what; int at, value, length, channel; bool accepted; float noteLength; int steps; };
     const Case cases[] = {
-        {"whole",             0,             kSampler, kWhole,    7, true,  0.75f,  128}, {"other kind", 0, kSampler, kWhole, 8, false, 0.125f, 0},
-        {"wrong channel tag", 8,             1,        kWhole,    2, false, 0.125f, 0},   {"wrong tag",  0, 1,        kWhole, 2, false, 0.125f, 0},
-        {"no sequence",       0,             kSampler, kSequence, 2, false, 0.25f,  0},   {"negative one", kSequence, -1, kWhole, 2, false, 0.25f, 0},
-        {"wrong sequence tag", kSequence + 4, 1,       kWhole,    2, false, 0.25f,  0},   {"short sequence", kSequence, 3, kWhole, 2, false, 0.25f, 0},
-        {"sequence of ten steps", kSequence, 4 + 10 * kRecord, kWhole,            2, false, 0.25f, 10},
-        {"cut after a step",      0,         kSampler,         kSteps0 + kRecord, 2, false, 0.25f, 1},
-        {"no note length",        0,         kSampler,         kWhole - 1,        2, false, 0.25f, 128},
+        {"whole",              0,             kSampler, kWhole,     7, true,  0.75f,  kSteps},
+        {"other kind",         0,             kSampler, kWhole,     8, false, 0.125f, 0},
+        {"wrong tag",          0,             1,        kWhole,     2, false, 0.125f, 0},
+        {"wrong channel tag",  8,             1,        kWhole,     2, false, 0.125f, 0},
+        {"no sequence",        0,             kSampler, kSequence,  2, false, 0.25f,  0},
+        {"negative one",       kSequence,     -1,       kWhole,     2, false, 0.25f,  0},
+        {"short one",          kSequence,     3,        kWhole,     2, false, 0.25f,  0},
+        {"wrong sequence tag", kSequence + 4, 1,        kWhole,     2, false, 0.25f,  0},
+        {"ten steps",          kSequence,     kTen,     kWhole,     2, false, 0.25f,  10},
+        {"cut after a step",   0,             kSampler, kOneStep,   2, false, 0.25f,  1},
+        {"no note length",     0,             kSampler, kWhole - 1, 2, false, 0.25f,  kSteps},
     };
     // clang-format on
-    engine.selectedChannel = 0, engine.storedParams[0][slot::NoteLength] = 0.25f;
+    engine.selectedChannel = 0;
+    engine.storedParams[0][slot::NoteLength] = 0.25f;
     for (auto& word : engine.Pattern().steps[0]) word = 9u;
     Bytes part = SavedPart(engine);
     ASSERT_EQ(part.size(), static_cast<std::size_t>(kWhole));

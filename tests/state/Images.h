@@ -13,8 +13,9 @@ namespace korvane {
 using Bytes = std::vector<std::uint8_t>;
 
 constexpr int kHeader = 95, kChannelChunk = 4948, kShortChunk = 4436; // without the program path
-constexpr int kFramedChannel = 4 + kChannelChunk, kPatternsAt = kHeader + 13 * kFramedChannel;
-constexpr int kRecord = 6, kEmptyPattern = 4 + 4 + 1664 * kRecord, kEmptyGroove = kPatternsAt + 8 * kEmptyPattern;
+constexpr int kFramedChannel = 4 + kChannelChunk, kPatternsAt = kHeader + kChannels * kFramedChannel;
+constexpr int kRecord = 6, kEmptyPattern = 4 + 4 + kChannels * kSteps * kRecord;
+constexpr int kEmptyGroove = kPatternsAt + kPatterns * kEmptyPattern;
 
 inline Bytes Saved(const GrooveEngine& engine, decltype(&GrooveEngine::SaveState) save = &GrooveEngine::SaveState)
 {
@@ -36,32 +37,31 @@ void Put(Bytes& image, int at, T value)
     std::memcpy(image.data() + at, &value, sizeof value);
 }
 
-/// An engine, at first with an empty groove.
-struct ImageTest : testing::Test {
-    ImageTest() { engine.ResetGroove(); }
-    GrooveEngine engine;
-};
-
 /// Something in every field, wild parameter values and lock indices included; the same for the same seed.
 inline void FillGroove(GrooveEngine& engine, unsigned seed)
 {
     std::mt19937 random(seed);
     const auto below = [&random](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
     engine.ResetGroove();
-    engine.selectedChannel = below(13), engine.selectedBar = below(8), engine.currentPattern = below(8);
-    engine.selectedFx = below(10), engine.envelopeNumber = 1, engine.lfoNumber = 1, engine.shuffleAmount = 0.25f;
-    engine.muted[below(13)] = true, engine.playOnce[below(8)] = true;
-    engine.extControls[2].value = 0.5f, engine.extControls[2].channel = 9, engine.extControls[2].param = 12;
-    for (int c = 0; c < 13; ++c) {
+    engine.selectedChannel = below(kChannels);
+    engine.selectedBar = below(kBars);
+    engine.currentPattern = below(kPatterns);
+    engine.selectedFx = below(kEffects);
+    engine.envelopeNumber = engine.lfoNumber = 1;
+    engine.muted[below(kChannels)] = engine.playOnce[below(kPatterns)] = true;
+    engine.shuffleAmount = engine.extControls[2].value = 0.25f;
+    engine.extControls[2].channel = 9;
+    engine.extControls[2].param = slot::FilterCutoff;
+    for (int c = 0; c < kChannels; ++c) {
         for (auto& value : engine.storedParams[c]) value = static_cast<float>(below(1000)) / 999.0f;
-        engine.storedParams[c][below(212)] = NAN;
+        engine.storedParams[c][below(kChannelSlots)] = NAN;
         for (auto& slot : engine.Channel(c).sampleSlots)
             if (below(2)) slot.path.Set(("D:\\sounds\\" + std::to_string(below(99)) + ".wav").c_str());
         engine.Channel(c).programPath.Set(("D:\\programs\\" + std::to_string(c)).c_str());
     }
     for (auto& pattern : engine.patterns)
         for (int n = 0; n < 60; ++n) {
-            const int c = below(13), step = below(128);
+            const int c = below(kChannels), step = below(kSteps);
             pattern->steps[c][step] = static_cast<std::uint32_t>(random());
             for (int k = below(5); k > 0; --k)
                 pattern->locks[c][step].Append(below(400) - 100, 0.001f * static_cast<float>(below(1000)));

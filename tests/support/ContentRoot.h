@@ -46,4 +46,14 @@ struct ContentRoot {
         std::filesystem::temp_directory_path() / ("korvane_root." + std::to_string(getpid()));
 };
 
+/// Instruments made while it lives find what the bundle holds.
+struct BundleRoot : ContentRoot {
+    BundleRoot()
+    {
+        for (const auto& entry : std::filesystem::directory_iterator(KORVANE_BUNDLE))
+            if (entry.is_directory() || entry.path().extension() == ".kvprj")
+                std::filesystem::create_symlink(entry, path / entry.path().filename());
+    }
+};
+
 } // namespace korvane

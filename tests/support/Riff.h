@@ -46,7 +46,10 @@ inline Bytes Loop(std::uint32_t start, std::uint32_t end, int bytes = 52)
 {
     return Chunk("smpl", (Bytes(44, '\0') + Little(start, 4) + Little(end, 4)).substr(0, bytes));
 }
-inline Bytes Wav(const Bytes& chunks) { return Bytes("RIFF") + Little(chunks.size() + 4, 4) + "WAVE" + chunks; }
+inline Bytes Wav(const Bytes& chunks, const char* form = "RIFF", const char* type = "WAVE")
+{
+    return Bytes(form) + Little(chunks.size() + 4, 4) + type + chunks;
+}
 
 /// Mono, of floats.
 inline Bytes WavOf(const std::vector<float>& frames)

@@ -10,12 +10,12 @@
 namespace korvane {
 namespace {
 
-struct Mixer {
+struct FilterRig {
     std::unique_ptr<SamplePool> pool = std::make_unique<SamplePool>();
     RandomGenerator random;
     std::array<std::unique_ptr<GrooveChannel>, kChannels> channels;
 
-    Mixer()
+    FilterRig()
     {
         for (auto& channel : channels) channel = std::make_unique<GrooveChannel>(*pool, random);
     }
@@ -57,8 +57,8 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
     // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        Mixer mixer;
-        GrooveChannel& channel = *mixer.channels[3];
+        FilterRig rig;
+        GrooveChannel& channel = *rig.channels[3];
         channel.rate = kRate;
         channel.params[slot::FilterType] = c.type;
         channel.Render(0, kTempo);
@@ -72,11 +72,10 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
         for (int from = 0; from < 8192; from += kMaxRun) {
             std::copy_n(&input.left[from], kMaxRun, voice.left);
             for (int n = 0; n < kMaxRun; ++n) voice.right[n] = 4.0f * voice.left[n];
-            for (float* mix : {mixer.pool->ChannelLeft(3), mixer.pool->ChannelRight(3)})
-                std::fill_n(mix, kMaxRun, 0.0f);
-            FilterVoices(mixer.channels, *mixer.pool, kMaxRun);
-            std::copy_n(mixer.pool->ChannelLeft(3), kMaxRun, &sound.left[from]);
-            std::copy_n(mixer.pool->ChannelRight(3), kMaxRun, &sound.right[from]);
+            for (float* mix : {rig.pool->ChannelLeft(3), rig.pool->ChannelRight(3)}) std::fill_n(mix, kMaxRun, 0.0f);
+            FilterVoices(rig.channels, *rig.pool, kMaxRun);
+            std::copy_n(rig.pool->ChannelLeft(3), kMaxRun, &sound.left[from]);
+            std::copy_n(rig.pool->ChannelRight(3), kMaxRun, &sound.right[from]);
         }
         const auto compare = [&](const std::vector<float>& out, double level, std::complex<double> expected) {
             const auto gain = Line(&out[4096], 4096, c.hz) / (level * Line(&input.left[4096], 4096, c.hz));
@@ -88,14 +87,14 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
 }
 
 /// Mix buffers and filter states.
-std::vector<float> Results(const Mixer& mixer)
+std::vector<float> Results(const FilterRig& rig)
 {
     std::vector<float> values;
     for (int c = 0; c < kChannels; ++c) {
-        for (const float* mix : {mixer.pool->ChannelLeft(c), mixer.pool->ChannelRight(c)})
+        for (const float* mix : {rig.pool->ChannelLeft(c), rig.pool->ChannelRight(c)})
             values.insert(values.end(), mix, mix + kMaxRun);
-        for (const auto& voice : mixer.channels[c]->voices)
-            values.insert(values.end(), voice->filterState[0], voice->filterState[0] + 8);
+        for (const auto& voice : rig.channels[c]->voices)
+            for (const auto& side : voice->filterState) values.insert(values.end(), std::begin(side), std::end(side));
     }
     return values;
 }
@@ -106,10 +105,10 @@ TEST(ChannelFilter, VoicesSideBySideGiveTheBitsOfEachAlone)
     for (int n = 0; n <= 17; ++n) lengths.push_back(n);
     for (int voices : {1, 2, 3, 5, 8, 11, 12, 13, 24, 27, 78})
         for (int frames : lengths) {
-            Mixer together, alone;
+            FilterRig together, alone;
             for (int v = 0; v < voices; ++v) {
                 const int c = v * 5 % kChannels;
-                for (Mixer* mixer : {&together, &alone}) mixer->Play(c, v / kChannels);
+                for (FilterRig* rig : {&together, &alone}) rig->Play(c, v / kChannels);
                 FilterVoices(alone.channels, *alone.pool, frames);
                 alone.channels[c]->voices[v / kChannels]->active = false;
             }

@@ -8,8 +8,8 @@
 namespace korvane {
 namespace {
 
-struct SynthRig : VoiceRig {
-    SynthRig() : VoiceRig(false)
+struct NoteRig : VoiceRig {
+    NoteRig() : VoiceRig(false)
     {
         GiveWave(0, [](int, int) { return 0.5f; });
         channel.sampleSlots[1].entry = channel.sampleSlots[2].entry = channel.sampleSlots[0].entry;
@@ -25,7 +25,7 @@ struct SynthRig : VoiceRig {
 
 TEST(Notes, TakeTheLastFreeVoiceThenTheOldestOne)
 {
-    SynthRig rig;
+    NoteRig rig;
     for (int note = 48; note < 54; ++note) rig.channel.NoteOn(note, 0, 1);
     EXPECT_EQ(rig.Notes(), (std::vector<int>{53, 52, 51, 50, 49, 48}));
     for (int note : {60, 61}) rig.channel.NoteOn(note, 0, 1);
@@ -39,7 +39,7 @@ TEST(Notes, TakeTheLastFreeVoiceThenTheOldestOne)
 TEST(Notes, EndAfterTheirLength)
 {
     for (int run : {100, 37, 1}) {
-        SynthRig rig;
+        NoteRig rig;
         rig.Set({{slot::NoteLength, 0}, {slot::AmpRelease, 0}}); // an eighth of a beat, 2756 frames
         rig.channel.NoteOn(50, 0, 1);                            // voice 5: live, same note
         rig.channel.NoteOn(50, VoiceRig::kTempo, 1);             // voice 4
@@ -74,7 +74,7 @@ TEST(Notes, FollowTheirEnvelopes)
     // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        SynthRig rig;
+        NoteRig rig;
         rig.Start(c.values, 50, c.release);
         rig.channel.ReleaseNote(50);
         rig.Render(c.frame - c.release);
@@ -88,7 +88,7 @@ TEST(Notes, FollowTheirEnvelopes)
 
 TEST(Notes, GlideFromTheNoteBefore)
 {
-    SynthRig rig;
+    NoteRig rig;
     rig.Set({{slot::SlideEnable, 1}, {slot::SlideTime, 0.2f}, {slot::MonoVoice, 1}, {slot::FilterTracking, 1}});
     rig.channel.NoteOn(48, 0, 1);
     rig.Render(4000);
@@ -116,7 +116,7 @@ TEST(Notes, GainFollowsLevelVelocityAndMute)
     // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        SynthRig rig;
+        NoteRig rig;
         rig.Set({{slot::AmpLevel, c.level}, {slot::VelocitySensitivity, c.sensitivity}});
         rig.channel.muted = c.muted;
         rig.channel.NoteOn(50, c.tempo, c.velocity);
@@ -136,7 +136,7 @@ TEST(Modulation, SourcesReachTheirTarget)
         -1, slot::EnvelopeAttack + 1, slot::EnvelopeDecay + 1, slot::EnvelopeAmount + 1,
         -1, slot::LfoRate, slot::LfoAmount, -1, slot::LfoRate + 1, slot::LfoAmount + 1, -1, slot::AmpAttack, slot::AmpDecay, -1};
     // clang-format on
-    SynthRig rig;
+    NoteRig rig;
     rig.channel.velocityIn = 0.5f;
     rig.channel.modWheelIn = 1.0f;
     for (int i = 0; i < kChannelSlots; ++i) rig.channel.params[i] = 0.25f;
@@ -164,7 +164,7 @@ TEST(Modulation, LfosRunAtTheirRateFromWhereANoteFindsThem)
     // clang-format on
     for (const auto& c : cases)
         EXPECT_NEAR(LfoFrequency(c.rate, c.sync, c.tempo), c.hertz, 1e-4f * c.hertz) << c.rate << " " << c.sync;
-    SynthRig rig;
+    NoteRig rig;
     rig.channel.lfo1.phase = rig.channel.lfo2.phase = 0.5f;
     rig.Set({{slot::LfoRate, 0.5f}, {slot::LfoRate + 1, 1}, {slot::LfoSync + 1, 0.5f}, {slot::LfoRetrig + 1, 1}});
     rig.channel.NoteOn(50, 0, 1);
@@ -198,7 +198,7 @@ TEST(Modulation, ReachesAmplitudeAndCutoff)
     // clang-format on
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
-        SynthRig rig;
+        NoteRig rig;
         rig.Set({{slot::FilterCutoff, 0.25f}});
         rig.Start(c.values, 57, 500);
         rig.channel.lfo1.phase = rig.channel.lfo2.phase = c.phase;
@@ -214,11 +214,11 @@ TEST(Modulation, ReachesAmplitudeAndCutoff)
 TEST(Modulation, RunsGiveTheBitsOfSingleFrames)
 {
     for (const bool isSampler : {false, true}) {
-        SynthRig whole, single;
+        NoteRig whole, single;
         for (int setting = 0; setting < 48; ++setting) {
             SCOPED_TRACE(testing::Message() << (isSampler ? "sampler, " : "synth, ") << setting);
             const auto bit = [setting](int n) { return static_cast<float>(setting >> n & 1); };
-            for (SynthRig* rig : {&whole, &single}) {
+            for (NoteRig* rig : {&whole, &single}) {
                 rig->channel.isSampler = isSampler;
                 for (int osc = 0; osc < kOscillators && setting == 0; ++osc)
                     rig->GiveWave(osc, [](int, int i) { return static_cast<float>(i % 32) / 32; });

@@ -37,26 +37,29 @@ struct AudioFiles : testing::Test {
 TEST_F(AudioFiles, DecodeEveryAcceptedDepth)
 {
     using Frames = std::vector<float>; // of a side from index 0 on; none: the file is mono
-    const float lowest = static_cast<float>(-8388608.0 / 8388607.0), step16 = 1.0f / 32768.0f;
+    const float low = static_cast<float>(-8388608.0 / 8388607.0), step16 = 1.0f / 32768.0f;
     // clang-format off
     struct Case { const char* what; Bytes file; double rate; int frames; Frames left, right; };
     const Case cases[] = {
         {"16 bits", Wav(Format(kIntegers, 2, 16, 22050) + Data("\x01\x80\x00\x40\xff\x7f\xff\xff"s)), 22050.0, 2,
                     {-1.0f + step16, 1.0f - step16}, {0.5f, -step16}},
-        {"24 bits", Wav(Format(kIntegers, 2, 24, 48000) + Data("\xff\xff\x7f\x00\x00\x80"s)), 48000.0, 1, {1.0f}, {lowest}},
-        {"32 bits", Wav(Format(kIntegers, 1, 32) + Data("\0\0\0\xc0\0\0\0\x20"s)), 44100.0, 2, {-0.5f, 0.25f}, {}},
-        {"floats",  Wav(Format(kFloats, 2, 32, 4000000000u) + Data("\0\0\0\x3f\0\0\0\xc0"s)), 4.0e9, 1, {0.5f}, {-2.0f}},
-        {"AIFF of 16 bits", Aiff(Common(2, 1, 16) + Sound("\x80\x01\x40\x00"s)), 44100.0, 1, {0.0f, -1.0f + step16}, {0.0f, 0.5f}},
-        {"AIFF of 24 bits", Aiff(Common(2, 1, 24) + Sound("\x7f\xff\xff\x80\x00\x00"s, 6)), 44100.0, 1, {0.0f, 1.0f}, {0.0f, lowest}},
-        {"96000 Hz",        Aiff(Common(1, 1, 16, 0x400F, 0xBB800000u) + Sound("\x40\x00"s)), 96000.0, 1, {0.0f, 0.5f}, {}},
-        {"the highest rate", Aiff(Common(1, 1, 16, 0x401F, UINT32_MAX) + Sound("\x40\x00"s)), 4294967295.0, 1, {0.0f, 0.5f}, {}},
+        {"24 bits", Wav(Format(kIntegers, 2, 24, 48000) + Data("\xff\xff\x7f\x00\x00\x80"s)), 48e3, 1, {1.0f}, {low}},
+        {"32 bits", Wav(Format(kIntegers, 1, 32) + Data("\0\0\0\xc0\0\0\0\x20"s)), 44.1e3, 2, {-0.5f, 0.25f}, {}},
+        {"floats", Wav(Format(kFloats, 2, 32, 4000000000u) + Data("\0\0\0\x3f\0\0\0\xc0"s)), 4e9, 1, {0.5f}, {-2.0f}},
+        {"AIFF of 16", Aiff(Common(2, 1, 16) + Sound("\x80\x01\x40\x00"s)), 44.1e3, 1,
+                       {0.0f, -1.0f + step16}, {0.0f, 0.5f}},
+        {"AIFF of 24", Aiff(Common(2, 1, 24) + Sound("\x7f\xff\xff\x80\x00\x00"s, 6)), 44.1e3, 1,
+                       {0.0f, 1.0f}, {0.0f, low}},
+        {"96000 Hz", Aiff(Common(1, 1, 16, 0x400F, 0xBB800000u) + Sound("\x40\x00"s)), 96e3, 1, {0.0f, 0.5f}, {}},
+        {"highest rate", Aiff(Common(1, 1, 16, 0x401F, UINT32_MAX) + Sound("\x40\x00"s)), 4294967295.0, 1,
+                         {0.0f, 0.5f}, {}},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         ASSERT_TRUE(Load(c.file));
-        EXPECT_TRUE(sample.sampleRate == c.rate && sample.numFrames == c.frames);
-        EXPECT_EQ(sample.numChannels, c.right.empty() ? 1 : 2);
+        EXPECT_EQ(std::tuple(sample.sampleRate, sample.numFrames, sample.numChannels),
+                  std::tuple(c.rate, c.frames, c.right.empty() ? 1 : 2));
         for (const auto& [side, expected] : {std::pair{0, c.left}, {1, c.right}})
             for (std::size_t n = 0; n < expected.size(); ++n) EXPECT_EQ(sample.channelData[side][n], expected[n]);
         ExpectSoundInItsBuffers();
@@ -66,7 +69,9 @@ TEST_F(AudioFiles, DecodeEveryAcceptedDepth)
 // Damaged marker chunks cannot hold up their reader: it reads 1024 markers of a chunk and 65536 of a file.
 TEST_F(AudioFiles, ReadLoops)
 {
-    const Bytes ten = Bytes(20, 'x'), format = Format(kIntegers, 1, 16), common = Common(1, 10, 16), sound = Sound(ten);
+    const Bytes ten(20, 'x'), data = Data(ten);
+    const auto wav = [](const Bytes& chunks) { return Wav(Format(kIntegers, 1, 16) + chunks); };
+    const auto aiff = [&ten](const Bytes& chunks) { return Aiff(Common(1, 10, 16) + chunks + Sound(ten)); };
     const Bytes marks = Markers(4, Marker(1, 2, "a") + Marker(2, 9, "bc") + Marker(1, 4) + Marker(-3, 6));
     Bytes thousand, full;
     for (int n = 0; n < 1024; ++n) thousand += Marker(3, 5);
@@ -75,19 +80,17 @@ TEST_F(AudioFiles, ReadLoops)
     // clang-format off
     struct Case { const char* what; Bytes file; int start, end; };
     const Case cases[] = {
-        {"none",          Wav(format + Data(ten)), 0, 10},              {"before the sound", Wav(format + Loop(3, 7) + Data(ten)), 0, 10},
-        {"after it",      Wav(format + Data(ten) + Loop(3, 7)), 3, 7},  {"a short chunk", Wav(format + Data(ten) + Loop(3, 7, 51)), 0, 10},
-        {"last frame",    Wav(format + Data(ten) + Loop(9, 10)), 9, 10}, {"behind the end", Wav(format + Data(ten) + Loop(10, 4000000000u)), 0, 10},
-        {"backward",      Wav(format + Data(ten) + Loop(9, 5)), 5, 5},  {"no markers", Aiff(common + SustainLoop(1, 2) + sound), 0, 10},
-        {"AIFF",               Aiff(common + marks + SustainLoop(1, 2) + sound), 4, 9},
-        {"a negative marker",  Aiff(common + SustainLoop(-3, 2) + marks + sound), 6, 9},
-        {"no such marker",     Aiff(common + marks + SustainLoop(7, 8) + sound), 0, 10},
-        {"no sustain loop",    Aiff(common + marks + sound), 0, 10},
-        {"markers behind end", Aiff(common + Markers(2, Marker(1, 99) + Marker(2, 4000000000u)) + SustainLoop(1, 2) + sound), 10, 10},
-        {"the 1024th marker",  Aiff(common + Markers(1024, thousand.substr(8) + Marker(1, 2)) + SustainLoop(1, 3) + sound), 2, 5},
-        {"one too many",       Aiff(common + Markers(1025, thousand + Marker(1, 2)) + SustainLoop(1, 3) + sound), 0, 5},
-        {"the file's last",    Aiff(common + oneFewer + Markers(1, Marker(1, 2)) + SustainLoop(1, 1) + sound), 2, 2},
-        {"beyond it",          Aiff(common + full + Markers(1, Marker(1, 2)) + SustainLoop(1, 1) + sound), 0, 10},
+        {"none",       wav(data), 0, 10},               {"before the sound", wav(Loop(3, 7) + data), 0, 10},
+        {"after it",   wav(data + Loop(3, 7)), 3, 7},   {"a short chunk",    wav(data + Loop(3, 7, 51)), 0, 10},
+        {"last frame", wav(data + Loop(9, 10)), 9, 10}, {"behind the end",   wav(data + Loop(10, 4000000000u)), 0, 10},
+        {"backward",   wav(data + Loop(9, 5)), 5, 5},   {"no markers",       aiff(SustainLoop(1, 2)), 0, 10},
+        {"AIFF",    aiff(marks + SustainLoop(1, 2)), 4, 9},  {"no sustain loop", aiff(marks), 0, 10},
+        {"no such", aiff(marks + SustainLoop(7, 8)), 0, 10}, {"below 0", aiff(SustainLoop(-3, 2) + marks), 6, 9},
+        {"markers behind end", aiff(Markers(2, Marker(1, 99) + Marker(2, 4000000000u)) + SustainLoop(1, 2)), 10, 10},
+        {"the 1024th marker",  aiff(Markers(1024, thousand.substr(8) + Marker(1, 2)) + SustainLoop(1, 3)), 2, 5},
+        {"one too many",       aiff(Markers(1025, thousand + Marker(1, 2)) + SustainLoop(1, 3)), 0, 5},
+        {"the file's last",    aiff(oneFewer + Markers(1, Marker(1, 2)) + SustainLoop(1, 1)), 2, 2},
+        {"beyond it",          aiff(full + Markers(1, Marker(1, 2)) + SustainLoop(1, 1)), 0, 10},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -99,6 +102,7 @@ TEST_F(AudioFiles, ReadLoops)
 TEST_F(AudioFiles, TakeOddFilesAndRefuseWrongOnes)
 {
     const Bytes format = Format(kIntegers, 1, 16), common = Common(1, 2, 16);
+    const auto wav = [&format](const Bytes& sound) { return Wav(format + Data(sound)); };
     const auto announced = [&](std::uint32_t bytes) { return Wav(format + "data" + Little(bytes, 4) + "abcd"); };
     constexpr std::uint32_t kMost = 4 * 48 + (1 << 20); // four times such a file and 1 MiB
     Bytes otherByteRate = format;
@@ -106,24 +110,25 @@ TEST_F(AudioFiles, TakeOddFilesAndRefuseWrongOnes)
     // clang-format off
     struct Case { const char* what; Bytes file; int frames = -1; }; // none: refused
     const Case cases[] = {
-        {"no format: the defaults", Wav(Data("abcd")), 2},           {"no sound",          Wav(format), 0},
-        {"empty sound",             Wav(format + Data("")), 0},      {"odd chunk before",  Wav(Chunk("LIST", "abc") + format + Data("ab")), 1},
-        {"behind the form's end",   Wav(format) + Data("abcd"), 0},  {"long format chunk", Wav(Chunk("fmt ", format.substr(8) + "xx") + Data("ab")), 1},
-        {"sound cut off",           announced(8), 4},                {"wide channels",     Wav(Format(kIntegers, 0x301, 16) + Data("ab")), 1},
-        {"a megabyte missing",      announced(kMost), kMost / 2},    {"AIFF of no frames", Aiff(Common(1, 0, 16) + Sound("")), 0},
-        {"nothing but a header",    Wav(""), 0},                     {"AIFF, more sound",  Aiff(common + Sound("abcdef")), 2},
-        {"AIFF without sound",      Aiff(common), 0},                {"empty",             ""},
-        {"other type",   Bytes("RIFF") + Little(4, 4) + "AVI "},     {"other form",        Bytes("RIFX") + Wav(format).substr(4)},
-        {"more missing", announced(kMost + 2)},                      {"impossible length", announced(0x7FFFFFFE)},
-        {"tag 2",        Wav(Format(2, 1, 16) + Data("ab"))},        {"8 bits",            Wav(Format(kIntegers, 1, 8) + Data("ab"))},
-        {"byte rate",    Wav(otherByteRate + Data("ab"))},           {"floats of 16 bits", Wav(Format(kFloats, 1, 16) + Data("ab"))},
-        {"torn frame",   Wav(format + Data("abc"))},                 {"3 channels",        Wav(Format(kIntegers, 3, 16) + Data("abcdef"))},
-        {"AIFC",         Aiff(common + Sound("abcd"), "AIFC")},      {"block align",       Wav(Format(kIntegers, 2, 16, 44100, 3) + Data("abc"))},
-        {"less sound",   Aiff(common + Sound("abc"))},               {"no channel",        Wav(Format(kIntegers, 0, 16, 44100, 2) + Data("ab"))},
-        {"AIFF, 8 bits", Aiff(Common(1, 2, 8) + Sound("ab"))},       {"short format",      Wav(Chunk("fmt ", format.substr(8, 14)) + Data("ab"))},
-        {"short INST",   Aiff(common + SustainLoop(1, 2, 19) + Sound("abcd"))},
-        {"short SSND",   Aiff(Common(1, 0, 16) + Chunk("SSND", Bytes(7, '\0'), Big))},
-        {"short COMM",   Aiff(Chunk("COMM", common.substr(8, 17), Big) + Sound("abcd"))},
+        {"no format: the defaults", Wav(Data("abcd")), 2}, {"no sound", Wav(format), 0},
+        {"empty sound", wav(""), 0}, {"odd chunk", Wav(Chunk("LIST", "abc") + format + Data("ab")), 1},
+        {"behind the form's end", Wav(format) + Data("abcd"), 0}, {"AIFF without sound", Aiff(common), 0},
+        {"long format chunk", Wav(Chunk("fmt ", format.substr(8) + "xx") + Data("ab")), 1},
+        {"sound cut off", announced(8), 4}, {"wide channels", Wav(Format(kIntegers, 0x301, 16) + Data("ab")), 1},
+        {"a MiB missing", announced(kMost), kMost / 2}, {"AIFF of no frames", Aiff(Common(1, 0, 16) + Sound("")), 0},
+        {"nothing but a header", Wav(""), 0}, {"AIFF, more sound", Aiff(common + Sound("abcdef")), 2},
+        {"empty", ""}, {"other type", Wav("", "RIFF", "AVI ")}, {"other form", Wav(format, "RIFX")},
+        {"more missing", announced(kMost + 2)}, {"impossible", announced(0x7FFFFFFE)}, {"torn frame", wav("abc")},
+        {"tag 2", Wav(Format(2, 1, 16) + Data("ab"))}, {"8 bits", Wav(Format(kIntegers, 1, 8) + Data("ab"))},
+        {"byte rate", Wav(otherByteRate + Data("ab"))}, {"floats of 16 bits", Wav(Format(kFloats, 1, 16) + Data("ab"))},
+        {"AIFC", Aiff(common + Sound("abcd"), "AIFC")}, {"3 channels", Wav(Format(kIntegers, 3, 16) + Data("abcdef"))},
+        {"block align", Wav(Format(kIntegers, 2, 16, 44100, 3) + Data("abc"))},
+        {"no channel", Wav(Format(kIntegers, 0, 16, 44100, 2) + Data("ab"))},
+        {"short format", Wav(Chunk("fmt ", format.substr(8, 14)) + Data("ab"))},
+        {"AIFF, less sound", Aiff(common + Sound("abc"))}, {"AIFF, 8 bits", Aiff(Common(1, 2, 8) + Sound("ab"))},
+        {"short INST", Aiff(common + SustainLoop(1, 2, 19) + Sound("abcd"))},
+        {"short SSND", Aiff(Common(1, 0, 16) + Chunk("SSND", Bytes(7, '\0'), Big))},
+        {"short COMM", Aiff(Chunk("COMM", common.substr(8, 17), Big) + Sound("abcd"))},
         {"AIFF of 3 channels", Aiff(Common(3, 1, 16) + Sound("abcdef"))},
     };
     // clang-format on
