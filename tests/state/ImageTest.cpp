@@ -20,11 +20,9 @@ TEST_F(Image, EveryFieldHasItsPlace)
     struct Case { const char* what; int at; Bytes bytes; std::function<bool()> holds; };
     const Case cases[] = {
         {"channel",     4,  {12}, [&] { return e.selectedChannel == 12; }},
-        {"bar",         5,  {7},  [&] { return e.selectedBar == 7; }},
-        {"pattern",     6,  {6},  [&] { return e.currentPattern == 6; }},
+        {"pattern", 6, {6}, [&] { return e.currentPattern == 6; }}, {"bar", 5, {7}, [&] { return e.selectedBar == 7; }},
         {"effect",      7,  {9},  [&] { return e.selectedFx == 9; }},
-        {"envelope",    8,  {1},  [&] { return e.envelopeNumber == 1; }},
-        {"LFO",         9,  {1},  [&] { return e.lfoNumber == 1; }},
+        {"envelope", 8, {1}, [&] { return e.envelopeNumber == 1; }}, {"LFO", 9, {1}, [&] { return e.lfoNumber == 1; }},
         {"last mute",   22, {1},  [&] { return e.muted[12] && !e.muted[11]; }},
         {"play once",   23, {1},  [&] { return e.playOnce[0] && !e.playOnce[1]; }},
         {"shuffle",     31, {0, 0, 0, 0x3f}, [&] { return e.shuffleAmount == 0.5f; }},
@@ -52,29 +50,20 @@ TEST_F(Image, EveryFieldHasItsPlace)
 TEST_F(Image, TakesWhatItCanOfADamagedImage)
 {
     constexpr int kThird = kPatternsAt + 2 * kEmptyPattern, kLastChannel = kPatternsAt - kFramedChannel;
-    // Puts a value in, and takes `count` bytes out elsewhere.
-    const auto put = [](int at, auto value, int cut = 0, int count = 0) {
-        return [=](Bytes& image) {
-            Put(image, at, value);
-            image.erase(image.begin() + cut, image.begin() + cut + count);
-        };
-    };
     // clang-format off
-    // Afterwards: the first step of each pattern, the levels of first and last channel (they were 0.5 and 0.25).
-    using Damage = std::function<void(Bytes&)>;
-    struct Case { const char* what; Damage damage; bool accepted; std::string steps; float first, last; };
+    // An int32 is written and `count` bytes taken out. Afterwards: first step of each pattern, levels of the first
+    // and the last channel (they were 0.5 and 0.25).
+    struct Case { const char* what; int at, value, cut, count; bool accepted; std::string steps; float first, last; };
     const Case cases[] = {
-        {"wrong tag",              put(0, 'x'),                          false, "........", 0.125f, 0.75f},
-        {"no program path",        put(kLastChannel, kShortChunk, kPatternsAt - 512, 512),
-                                                                         true,  "99999999", 0.5f,   0.25f},
-        {"negative channel chunk", put(kHeader, -kChannelChunk),         false, "........", 0.75f,  0.75f},
-        {"endless channel chunk",  put(kLastChannel, INT32_MAX),         false, "........", 0.5f,   0.25f},
-        {"wrong channel tag",      put(kHeader + 4, 'x'),                false, "........", 0.75f,  0.75f},
-        {"wrong pattern tag",      put(kThird + 4, 'x'),                 true,  "99.99999", 0.5f,   0.25f},
-        {"pattern of 3 bytes",     put(kThird, 3, kThird + 7, kEmptyPattern - 7),
-                                                                         true,  "99.99999", 0.5f,   0.25f},
-        {"negative pattern",       put(kPatternsAt, INT32_MIN),          false, "........", 0.5f,   0.25f},
-        {"endless pattern",        put(kThird, INT32_MAX),               false, "999.....", 0.5f,   0.25f},
+        {"wrong tag",         0,            'x',            0,                 0,   false, "........", 0.125f, 0.75f},
+        {"no program path",   kLastChannel, kShortChunk,    kPatternsAt - 512, 512, true,  "99999999", 0.5f,   0.25f},
+        {"negative channel",  kHeader,      -kChannelChunk, 0,                 0,   false, "........", 0.75f,  0.75f},
+        {"endless channel",   kLastChannel, INT32_MAX,      0,                 0,   false, "........", 0.5f,   0.25f},
+        {"wrong channel tag", kHeader + 4,  'x',            0,                 0,   false, "........", 0.75f,  0.75f},
+        {"wrong pattern tag", kThird + 4,   'x',            0,                 0,   true,  "99.99999", 0.5f,   0.25f},
+        {"three bytes",       kThird, 3, kThird + 7, kEmptyPattern - 7,             true,  "99.99999", 0.5f,   0.25f},
+        {"negative pattern",  kPatternsAt,  INT32_MIN,      0,                 0,   false, "........", 0.5f,   0.25f},
+        {"endless pattern",   kThird,       INT32_MAX,      0,                 0,   false, "999.....", 0.5f,   0.25f},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -84,7 +73,8 @@ TEST_F(Image, TakesWhatItCanOfADamagedImage)
         engine.storedParams[0][slot::MixLevel] = 0.5f;
         engine.storedParams[12][slot::MixLevel] = 0.25f;
         Bytes image = Saved(engine);
-        c.damage(image);
+        Put(image, c.at, c.value);
+        image.erase(image.begin() + c.cut, image.begin() + c.cut + c.count);
         engine.ResetGroove();
         engine.storedParams[0][slot::MixLevel] = 0.125f;
         EXPECT_EQ(Load(engine, image), c.accepted);
@@ -165,9 +155,7 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
     constexpr int kLast = slot::Count - 1, kParams = 4 + 7 * 512;
     // clang-format off
     // Afterwards: first and last path, program's path, request; stored level and last value, working level.
-    using Texts = std::vector<std::string>;
-    using Values = std::vector<float>;
-    struct Case { const char* what; int length; bool accepted; Texts texts; Values values; };
+    struct Case { const char* what; int size; bool taken; std::vector<std::string> texts; std::vector<float> values; };
     const Case cases[] = {
         {"whole",             kChannelChunk,     true,  {"D:\\0", "D:\\6", "D:\\p", "D:\\0"}, {0.25f,  0.75f,  0.25f}},
         {"cut program path",  kChannelChunk - 1, true,  {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.25f,  0.75f,  0.25f}},
@@ -183,8 +171,7 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
     engine.storedParams[2][slot::MixLevel] = 0.25f;
     engine.storedParams[2][kLast] = 0.75f;
     GrooveChannel &source = engine.Channel(2), &channel = engine.Channel(11);
-    source.sampleSlots[0].path.Set("D:\\0");
-    source.sampleSlots[6].path.Set("D:\\6");
+    for (const int n : {0, 6}) source.sampleSlots[n].path.Set((std::string("D:\\") + std::to_string(n)).c_str());
     source.programPath.Set("D:\\p");
     Bytes chunk(5000);
     ASSERT_EQ(engine.SaveChannelChunk(chunk.data(), 2), kChannelChunk);
@@ -193,20 +180,19 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
         SCOPED_TRACE(c.what);
         for (auto& value : engine.storedParams[11]) value = 0.125f;
         engine.RefreshChannel(11);
-        for (auto& sampleSlot : channel.sampleSlots) {
-            sampleSlot.path.Set("old");
-            sampleSlot.request.Post("old");
-        }
+        for (auto& sampleSlot : channel.sampleSlots) sampleSlot.path.Set("old");
+        for (auto& sampleSlot : channel.sampleSlots) sampleSlot.request.Post("old");
         channel.programPath.Set("old");
-        EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.length, 11), c.accepted);
+        EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.size, 11), c.taken);
         char requests[2][LoadRequest::kPathBytes] = {};
         for (const int n : {0, 1}) channel.sampleSlots[n].request.Take(requests[n]);
-        if (c.accepted) { EXPECT_STREQ(requests[1], "!") << "an empty path clears the slot"; }
-        EXPECT_EQ((Texts{TextOf(channel.sampleSlots[0].path), TextOf(channel.sampleSlots[6].path),
-                         TextOf(channel.programPath), requests[0]}),
+        if (c.taken) { EXPECT_STREQ(requests[1], "!") << "an empty path clears the slot"; }
+        EXPECT_EQ((std::vector<std::string>{TextOf(channel.sampleSlots[0].path), TextOf(channel.sampleSlots[6].path),
+                                            TextOf(channel.programPath), requests[0]}),
                   c.texts);
         const auto& stored = engine.storedParams[11];
-        EXPECT_EQ((Values{stored[slot::MixLevel], stored[kLast], channel.params[slot::MixLevel]}), c.values);
+        EXPECT_EQ((std::vector<float>{stored[slot::MixLevel], stored[kLast], channel.params[slot::MixLevel]}),
+                  c.values);
     }
     EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, kChannels));
 }
@@ -230,23 +216,19 @@ TEST_F(Image, APartMovesIntoAChannelOfItsKind)
 
 TEST_F(Image, TakesWhatItCanOfADamagedPart)
 {
-    constexpr int kSequence = 8 + kChannelChunk, kSteps0 = kSequence + 8, kWhole = kSteps0 + kSteps * kRecord + 4;
-    constexpr int kOneStep = kSteps0 + kRecord, kTen = 4 + 10 * kRecord, kSampler = 0x50744433; // "3DtP"
+    constexpr int kTag = 8 + kChannelChunk + 4, kSteps0 = kTag + 4, kWhole = kSteps0 + kSteps * kRecord + 4;
+    constexpr int kSampler = 0x50744433; // "3DtP"
     // clang-format off
     // An int32 is written into the part, at 0 its tag; the steps that are not taken over stay what they were.
     struct Case { const char* what; int at, value, length, channel; bool accepted; float noteLength; int steps; };
     const Case cases[] = {
-        {"whole",              0,             kSampler, kWhole,     7, true,  0.75f,  kSteps},
-        {"other kind",         0,             kSampler, kWhole,     8, false, 0.125f, 0},
-        {"wrong tag",          0,             1,        kWhole,     2, false, 0.125f, 0},
-        {"wrong channel tag",  8,             1,        kWhole,     2, false, 0.125f, 0},
-        {"no sequence",        0,             kSampler, kSequence,  2, false, 0.25f,  0},
-        {"negative one",       kSequence,     -1,       kWhole,     2, false, 0.25f,  0},
-        {"short one",          kSequence,     3,        kWhole,     2, false, 0.25f,  0},
-        {"wrong sequence tag", kSequence + 4, 1,        kWhole,     2, false, 0.25f,  0},
-        {"ten steps",          kSequence,     kTen,     kWhole,     2, false, 0.25f,  10},
-        {"cut after a step",   0,             kSampler, kOneStep,   2, false, 0.25f,  1},
-        {"no note length",     0,             kSampler, kWhole - 1, 2, false, 0.25f,  kSteps},
+        {"whole", 0, kSampler, kWhole, 7, true, 0.75f, kSteps}, {"other kind", 0, kSampler, kWhole, 8, false, 0.125f, 0},
+        {"wrong tag", 0, 1, kWhole, 2, false, 0.125f, 0}, {"wrong channel tag", 8, 1, kWhole, 2, false, 0.125f, 0},
+        {"no sequence", 0, kSampler, kTag - 4, 2, false, 0.25f, 0}, {"wrong one", kTag, 1, kWhole, 2, false, 0.25f, 0},
+        {"short", kTag - 4, 3, kWhole, 2, false, 0.25f, 0}, {"negative", kTag - 4, -1, kWhole, 2, false, 0.25f, 0},
+        {"ten steps",        kTag - 4, 4 + 10 * kRecord, kWhole, 2, false, 0.25f, 10},
+        {"cut after a step", 0, kSampler, kSteps0 + kRecord,     2, false, 0.25f, 1},
+        {"no note length",   0, kSampler, kWhole - 1,            2, false, 0.25f, kSteps},
     };
     // clang-format on
     engine.selectedChannel = 0;

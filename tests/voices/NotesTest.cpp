@@ -60,16 +60,19 @@ TEST(Notes, FollowTheirEnvelopes)
 {
     constexpr int kEnv1 = slot::EnvelopeAttack, kEnv2 = kEnv1 + 1, kDecay1 = slot::EnvelopeDecay, kDecay2 = kDecay1 + 1;
     // clang-format off
-    const struct { const char* what; std::vector<VoiceRig::Value> values; int release, frame; std::vector<double> levels; } cases[] = {
-        {"at once",              {}, 100, 100, {1, 0.9997, 0.9997}},
-        {"attack",               {{slot::AmpAttack, 0.15f}, {kEnv1, 0.35f}, {kEnv2, 0.3f}}, 100, 100, {0.5560, 0.0630, 0.1351}},
-        {"slower attack",        {{slot::AmpAttack, 0.3f}, {kEnv1, 0.45f}, {kEnv2, 0.5f}}, 1000, 1000, {0.6881, 0.1774, 0.1055}},
-        {"decay to the sustain", {{slot::AmpDecay, 0.3f}, {slot::AmpSustain, 0.4f}, {kDecay1, 0.1f}, {kDecay2, 0.2f}}, 1000, 1000, {0.7668, 0.1928, 0.6243}},
-        {"longer decay",         {{slot::AmpDecay, 0.5f}, {slot::AmpSustain, 0.2f}, {kDecay1, 0.3f}, {kDecay2, 0.4f}}, 3000, 3000, {0.8603, 0.5950, 0.7983}},
-        {"release",              {{slot::AmpRelease, 0.1f}}, 600, 1000, {0.4269, 0.9971, 0.9971}},
-        {"longer release",       {{slot::AmpRelease, 0.8f}}, 600, 4000, {0.8414, 0.9886, 0.9886}},
-        {"release in its decay", {{slot::AmpDecay, 0.3f}, {slot::AmpSustain, 0.4f}, {slot::AmpRelease, 0.5f}}, 1200, 1500, {0.6998, 0.9957, 0.9957}},
-        {"release in its attack", {{slot::AmpAttack, 0.2f}, {slot::AmpRelease, 0.3f}}, 300, 600, {0.6111, 0.9983, 0.9983}},
+    const struct { const char* what; VoiceRig::Values values; int release, frame; double levels[3]; } cases[] = {
+        {"at once",    {}, 100, 100, {1, 0.9997, 0.9997}},
+        {"attack",     {{slot::AmpAttack, 0.15f}, {kEnv1, 0.35f}, {kEnv2, 0.3f}}, 100, 100, {0.5560, 0.0630, 0.1351}},
+        {"slower",     {{slot::AmpAttack, 0.3f}, {kEnv1, 0.45f}, {kEnv2, 0.5f}}, 1000, 1000, {0.6881, 0.1774, 0.1055}},
+        {"decay",      {{slot::AmpDecay, 0.3f}, {slot::AmpSustain, 0.4f}, {kDecay1, 0.1f}, {kDecay2, 0.2f}},
+                       1000, 1000, {0.7668, 0.1928, 0.6243}},
+        {"long decay", {{slot::AmpDecay, 0.5f}, {slot::AmpSustain, 0.2f}, {kDecay1, 0.3f}, {kDecay2, 0.4f}},
+                       3000, 3000, {0.8603, 0.5950, 0.7983}},
+        {"release",    {{slot::AmpRelease, 0.1f}}, 600, 1000, {0.4269, 0.9971, 0.9971}},
+        {"long end",   {{slot::AmpRelease, 0.8f}}, 600, 4000, {0.8414, 0.9886, 0.9886}},
+        {"cut decay",  {{slot::AmpDecay, 0.3f}, {slot::AmpSustain, 0.4f}, {slot::AmpRelease, 0.5f}},
+                       1200, 1500, {0.6998, 0.9957, 0.9957}},
+        {"cut attack", {{slot::AmpAttack, 0.2f}, {slot::AmpRelease, 0.3f}}, 300, 600, {0.6111, 0.9983, 0.9983}},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -104,7 +107,7 @@ TEST(Notes, GlideFromTheNoteBefore)
 TEST(Notes, GainFollowsLevelVelocityAndMute)
 {
     // clang-format off
-    const struct { const char* what; float tempo, velocity, level, sensitivity; bool muted; float start, target; } cases[] = {
+    const struct { const char* what; float tempo, velocity, level, sensitive; bool mute; float start, end; } cases[] = {
         {"full velocity",                      0, 1,     0.5f, 1, false, 0.25f, 200},
         {"soft",                               0, 0.25f, 0.5f, 1, false, 0.25f, 50},
         {"soft but not sensitive",             0, 0.25f, 0.5f, 0, false, 0.25f, 200},
@@ -117,12 +120,12 @@ TEST(Notes, GainFollowsLevelVelocityAndMute)
     for (const auto& c : cases) {
         SCOPED_TRACE(c.what);
         NoteRig rig;
-        rig.Set({{slot::AmpLevel, c.level}, {slot::VelocitySensitivity, c.sensitivity}});
-        rig.channel.muted = c.muted;
+        rig.Set({{slot::AmpLevel, c.level}, {slot::VelocitySensitivity, c.sensitive}});
+        rig.channel.muted = c.mute;
         rig.channel.NoteOn(50, c.tempo, c.velocity);
         EXPECT_EQ(rig.Last().gain, c.start);
         rig.channel.Render(1, VoiceRig::kTempo);
-        EXPECT_NEAR(rig.Last().gain, c.start + (c.target - c.start) / 100, 0.001f);
+        EXPECT_NEAR(rig.Last().gain, c.start + (c.end - c.start) / 100, 0.001f);
     }
 }
 
@@ -134,7 +137,8 @@ TEST(Modulation, SourcesReachTheirTarget)
         -1, slot::FilterCutoff, slot::FilterResonance, -1, slot::Modulation,
         -1, slot::EnvelopeAttack, slot::EnvelopeDecay, slot::EnvelopeAmount,
         -1, slot::EnvelopeAttack + 1, slot::EnvelopeDecay + 1, slot::EnvelopeAmount + 1,
-        -1, slot::LfoRate, slot::LfoAmount, -1, slot::LfoRate + 1, slot::LfoAmount + 1, -1, slot::AmpAttack, slot::AmpDecay, -1};
+        -1, slot::LfoRate, slot::LfoAmount, -1, slot::LfoRate + 1, slot::LfoAmount + 1,
+        -1, slot::AmpAttack, slot::AmpDecay, -1};
     // clang-format on
     NoteRig rig;
     rig.channel.velocityIn = 0.5f;
@@ -180,20 +184,23 @@ TEST(Modulation, ReachesAmplitudeAndCutoff)
     constexpr float kDepth = 1.0f; // destination of an LFO: the amplitude
     constexpr int kShape = slot::LfoShape, kGoal = slot::LfoDestination, kAmount = slot::LfoAmount;
     // clang-format off
-    const struct { const char* what; std::vector<VoiceRig::Value> values; double amp, cutoff; float phase = 0.25f; } cases[] = {
-        {"nothing",               {}, 1, 0.25},
-        {"sine",                  {{kAmount, 0.5f}}, 1, 0.5},                       {"later", {{kAmount, 0.5f}}, 1, 0.0, 0.75f},
-        {"triangle",              {{kAmount, 0.5f}, {kShape, 0.34f}}, 1, 0.375},    {"back",  {{kAmount, 0.5f}, {kShape, 0.34f}}, 1, 0.3125, 0.875f},
-        {"falling ramp",          {{kAmount, 0.5f}, {kShape, 0.67f}}, 1, 0.4375},   {"later", {{kAmount, 0.5f}, {kShape, 0.67f}}, 1, 0.3125, 0.75f},
-        {"square",                {{kAmount, 0.5f}, {kShape, 1}}, 1, 0.5},          {"later", {{kAmount, 0.5f}, {kShape, 1}}, 1, 0.25, 0.75f},
-        {"LFO 2 upside down",     {{kAmount + 1, 0.4f}, {slot::LfoInvert + 1, 1}}, 1, 0.09},
-        {"amplitude",             {{kAmount, 0.5f}, {kGoal, kDepth}}, 1.25, 0.25},
-        {"amplitude, never below 0", {{kAmount, 1}, {kAmount + 1, 1}, {kGoal, kDepth}, {kGoal + 1, kDepth}}, 0, 0.25, 0.75f},
-        {"envelope",              {{slot::EnvelopeAmount, 0.6f}}, 1, 0.52},
-        {"envelope 2 inverted",   {{slot::EnvelopeAmount + 1, 0.4f}, {slot::EnvelopeInvert + 1, 1}}, 1, 0.17},
-        {"envelope 1 to LFO 1",   {{kAmount, 0.5f}, {slot::EnvelopeDestination, 1}, {slot::EnvelopeAmount, 1}}, 1, 0.4375},
-        {"envelope 2 to LFO 2",   {{kAmount + 1, 0.5f}, {slot::EnvelopeDestination + 1, 1}, {kAmount, 0.4f}}, 1, 0.535},
-        {"nothing for the pitch", {{kAmount, 0.5f}, {kGoal, 0.67f}, {slot::EnvelopeAmount, 1}, {slot::EnvelopeDestination, 0.67f}}, 1, 0.25},
+    const struct { const char* what; VoiceRig::Values values; double amp, cutoff; float phase = 0.25f; } cases[] = {
+        {"sine",              {{kAmount, 0.5f}}, 1, 0.5},                   {"later", {{kAmount, 0.5f}}, 1, 0.0, 0.75f},
+        {"triangle",          {{kAmount, 0.5f}, {kShape, 0.34f}}, 1, 0.375}, {"nothing", {}, 1, 0.25},
+        {"back",              {{kAmount, 0.5f}, {kShape, 0.34f}}, 1, 0.3125, 0.875f},
+        {"falling ramp",      {{kAmount, 0.5f}, {kShape, 0.67f}}, 1, 0.4375},
+        {"later",             {{kAmount, 0.5f}, {kShape, 0.67f}}, 1, 0.3125, 0.75f},
+        {"square",            {{kAmount, 0.5f}, {kShape, 1}}, 1, 0.5},
+        {"later",             {{kAmount, 0.5f}, {kShape, 1}}, 1, 0.25, 0.75f},
+        {"LFO 2 upside down", {{kAmount + 1, 0.4f}, {slot::LfoInvert + 1, 1}}, 1, 0.09},
+        {"amplitude",         {{kAmount, 0.5f}, {kGoal, kDepth}}, 1.25, 0.25},
+        {"not below 0",       {{kAmount, 1}, {kAmount + 1, 1}, {kGoal, kDepth}, {kGoal + 1, kDepth}}, 0, 0.25, 0.75f},
+        {"envelope",          {{slot::EnvelopeAmount, 0.6f}}, 1, 0.52},
+        {"inverted envelope", {{slot::EnvelopeAmount + 1, 0.4f}, {slot::EnvelopeInvert + 1, 1}}, 1, 0.17},
+        {"envelope to LFO",   {{kAmount, 0.5f}, {slot::EnvelopeDestination, 1}, {slot::EnvelopeAmount, 1}}, 1, 0.4375},
+        {"envelope 2 to LFO", {{kAmount + 1, 0.5f}, {slot::EnvelopeDestination + 1, 1}, {kAmount, 0.4f}}, 1, 0.535},
+        {"nothing for pitch", {{kAmount, 0.5f}, {kGoal, 0.67f}, {slot::EnvelopeAmount, 1},
+                               {slot::EnvelopeDestination, 0.67f}}, 1, 0.25},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -223,20 +230,13 @@ TEST(Modulation, RunsGiveTheBitsOfSingleFrames)
                 for (int osc = 0; osc < kOscillators && setting == 0; ++osc)
                     rig->GiveWave(osc, [](int, int i) { return static_cast<float>(i % 32) / 32; });
                 for (int l = 0; l < kLayers; ++l) rig->GiveSample(l, 900, 2, Wobble);
-                rig->Set({{slot::MixOsc2, bit(0)},
-                          {slot::MixOsc3, bit(1) / 2},
-                          {slot::NoiseMix, bit(2) / 2},
-                          {slot::ModKind, static_cast<float>(setting / 16)},
-                          {slot::Modulation, 0.7f},
-                          {slot::MonoVoice, 1},
-                          {slot::UnisonVoices, 0.34f * static_cast<float>(setting / 4 % 4)},
-                          {slot::LfoAmount, 0.5f},
-                          {slot::LayerHiCut, 0.4f},
-                          {slot::LayerLoCut + 1, 0.5f},
-                          {slot::LayerReverse + 2, 1},
-                          {slot::LayerDelay, 0.2f},
-                          {slot::LayerPitch + 3, 0.6f},
-                          {slot::LfoDestination, setting < 16 ? 0 : 0.34f}}); // synced oscillators read it once a run
+                rig->Set({{slot::MixOsc2, bit(0)}, {slot::MixOsc3, bit(1) / 2}, {slot::NoiseMix, bit(2) / 2}});
+                rig->Set({{slot::ModKind, static_cast<float>(setting / 16)}, {slot::Modulation, 0.7f}});
+                rig->Set({{slot::UnisonVoices, 0.34f * static_cast<float>(setting / 4 % 4)}, {slot::MonoVoice, 1}});
+                rig->Set({{slot::LayerHiCut, 0.4f}, {slot::LayerLoCut + 1, 0.5f}, {slot::LayerReverse + 2, 1}});
+                rig->Set({{slot::LayerDelay, 0.2f}, {slot::LayerPitch + 3, 0.6f}, {slot::LfoAmount, 0.5f}});
+                // Synced oscillators read the LFO once a run.
+                rig->Set({{slot::LfoDestination, setting < 16 ? 0.0f : 0.34f}});
                 rig->channel.NoteOn(60 + setting, 0, 1);
             }
             for (int frames : {1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 16, 17, 128}) {

@@ -38,24 +38,23 @@ double Frequency(const std::vector<float>& signal, double hertz)
 TEST(SynthVoice, SoundsAtItsPitchAndLevel)
 {
     // clang-format off
-    const struct { const char* what; int note; std::vector<VoiceRig::Value> values; double hertz, level; float bend = 0; } cases[] = {
-        {"note 57",                       57, {}, 220, 1},
-        {"an octave and a fifth up",      76, {}, 659.2551, 1},
-        {"channel pitch up",              57, {{slot::Pitch, 1}, {slot::Octave, 0.74f}}, 880, 1},
-        {"in whole semitones",            57, {{slot::Pitch, 0.54f}, {slot::Octave, 1}}, 932.32752, 1},
-        {"and down",                      57, {{slot::Pitch, 0.45f}, {slot::Octave, 0}}, 48.999429, 1},
-        {"oscillator 1 pitch and detune", 57, {{slot::Osc1Pitch, 1}, {slot::Osc1Detune, 1}}, 1760 * 1.0293022, 1},
-        {"oscillator 2 alone",            57, {{slot::MixOsc2, 1}, {slot::Osc2Pitch, 0.75f}}, 220 * 2.8284271, 1},
-        {"oscillator 3, a quarter",       57, {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}}, 27.5, 0.25},
-        {"bent up two semitones",         57, {}, 246.94165, 1, 1.0f},
-        {"bent down an octave",           57, {{slot::BendRange, 1}}, 110, 1, -1.0f},
-        {"bent up five semitones",        57, {{slot::BendRange, 0.45f}}, 293.66477, 1, 1.0f},
-        {"never beyond half the rate",    57, {}, 22045.59, 1, 100.0f},
-        {"synced at twice the pitch",     57, {{slot::Modulation, 0.33333334f}}, 440, 1},
-        {"synced at three times",         57, {{slot::Modulation, 0.66666667f}}, 660, 1},
-        {"synced by an LFO",              57, {{slot::LfoDestination, 0.34f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 0.57735027f}}, 440, 1},
-        {"LFO an octave up",              57, {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}}, 440, 1},
-        {"envelope an octave up",         57, {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}}, 440, 1},
+    struct Case { const char* what; VoiceRig::Values values; double hz, gain; float bend = 0; int note = 57; };
+    const Case cases[] = {
+        {"note 57",         {}, 220, 1},                  {"note 76", {}, 659.2551, 1, 0, 76},
+        {"bent up two",     {}, 246.94165, 1, 1.0f},      {"never beyond half the rate", {}, 22045.59, 1, 100.0f},
+        {"bent down by 12", {{slot::BendRange, 1}}, 110, 1, -1.0f},
+        {"bent up by five", {{slot::BendRange, 0.45f}}, 293.66477, 1, 1.0f},
+        {"pitch up",        {{slot::Pitch, 1}, {slot::Octave, 0.74f}}, 880, 1},
+        {"in semitones",    {{slot::Pitch, 0.54f}, {slot::Octave, 1}}, 932.32752, 1},
+        {"and down",        {{slot::Pitch, 0.45f}, {slot::Octave, 0}}, 48.999429, 1},
+        {"detuned",         {{slot::Osc1Pitch, 1}, {slot::Osc1Detune, 1}}, 1760 * 1.0293022, 1},
+        {"oscillator 2",    {{slot::MixOsc2, 1}, {slot::Osc2Pitch, 0.75f}}, 220 * 2.8284271, 1},
+        {"a quarter of 3",  {{slot::MixOsc3, 0.5f}, {slot::Osc3Pitch, 0}, {slot::Osc1Pitch, 1}}, 27.5, 0.25},
+        {"synced at twice", {{slot::Modulation, 0.33333334f}}, 440, 1},
+        {"at three times",  {{slot::Modulation, 0.66666667f}}, 660, 1},
+        {"LFO syncs", {{slot::LfoDestination, 0.34f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 0.57735027f}}, 440, 1},
+        {"LFO up",          {{slot::LfoDestination, 0.67f}, {slot::LfoShape, 0.34f}, {slot::LfoAmount, 1}}, 440, 1},
+        {"envelope up",     {{slot::EnvelopeDestination, 0.67f}, {slot::EnvelopeAmount, 0.70710678f}}, 440, 1},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -72,9 +71,9 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
             rig.channel.Render(128, VoiceRig::kTempo);
             out.insert(out.end(), voice.left, voice.left + 128);
         }
-        const double hertz = Frequency(out, c.hertz);
-        EXPECT_NEAR(1200 * std::log2(hertz / c.hertz), 0, 1);
-        EXPECT_NEAR(Decibels(std::abs(LineOf(out, hertz)) / (0.5 * 0.005 * c.level)), 0, 0.1);
+        const double hertz = Frequency(out, c.hz);
+        EXPECT_NEAR(1200 * std::log2(hertz / c.hz), 0, 1);
+        EXPECT_NEAR(Decibels(std::abs(LineOf(out, hertz)) / (0.5 * 0.005 * c.gain)), 0, 0.1);
     }
 }
 
@@ -115,17 +114,17 @@ TEST(SynthVoice, ModulatesOscillator1)
 {
     constexpr float kThird = 0.34f; // destination: the modulation amount; LFO shape: triangle
     // clang-format off
-    const struct { const char* what; float (*wave)(int, int); std::vector<VoiceRig::Value> values; double gain, degrees; } cases[] = {
+    const struct { const char* what; float (*wave)(int, int); VoiceRig::Values values; double gain, turn; } cases[] = {
         {"phase",                Half, {{slot::ModKind, 1}, {slot::Modulation, 0.2f}}, 1, 27},
         {"more phase",           Half, {{slot::ModKind, 1}, {slot::Modulation, 0.4f}}, 1, 108},
         {"phase, inverted",      Half, {{slot::ModKind, 1}, {slot::Modulation, 0.2f}, {slot::Osc2Invert, 1}}, 1, -27},
         {"amplitude",            Half, {{slot::ModKind, 2}, {slot::Modulation, 0.2f}}, 0.94, 0},
         {"more amplitude",       Half, {{slot::ModKind, 2}, {slot::Modulation, 0.5f}}, 0.625, 0},
         {"amplitude, inverted",  Half, {{slot::ModKind, 2}, {slot::Modulation, 0.5f}, {slot::Osc2Invert, 1}}, 1.375, 0},
-        {"LFO 2 takes from it",  Half, {{slot::ModKind, 2}, {slot::LfoDestination + 1, kThird}, {slot::LfoShape + 1, 1}, {slot::LfoAmount + 1, 0.4f},
-                                        {slot::LfoInvert + 1, 1}}, 1.24, 0},
-        {"envelope 2 takes",     Half, {{slot::ModKind, 2}, {slot::EnvelopeDestination + 1, kThird}, {slot::EnvelopeAmount + 1, 0.4f},
-                                        {slot::EnvelopeInvert + 1, 1}}, 1.24, 0},
+        {"LFO 2 takes from it",  Half, {{slot::ModKind, 2}, {slot::LfoDestination + 1, kThird}, {slot::LfoShape + 1, 1},
+                                        {slot::LfoAmount + 1, 0.4f}, {slot::LfoInvert + 1, 1}}, 1.24, 0},
+        {"envelope 2 takes",     Half, {{slot::ModKind, 2}, {slot::EnvelopeDestination + 1, kThird},
+                                        {slot::EnvelopeAmount + 1, 0.4f}, {slot::EnvelopeInvert + 1, 1}}, 1.24, 0},
         {"half its offset",      Sine, {{slot::MixOsc2, 1}, {slot::PhaseOffsetOsc2, 0.5f}}, 1, 90},
         {"a quarter of it",      Sine, {{slot::MixOsc2, 1}, {slot::PhaseOffsetOsc2, 0.25f}}, 1, 45},
     };
@@ -137,11 +136,11 @@ TEST(SynthVoice, ModulatesOscillator1)
             rig.GiveWave(0, Sine);
             rig.GiveWave(1, c.wave);
             rig.Set({{slot::UnisonRetrig, 1}, {slot::LfoRate, 1}, {slot::LfoRate + 1, 1}, {slot::ModKind, 1}});
-            rig.Start(modulated ? c.values : std::vector<VoiceRig::Value>{}, 57, 2000);
+            rig.Start(modulated ? c.values : VoiceRig::Values{}, 57, 2000);
             return LineOf(rig.Play(4096).left, 220);
         };
         const auto response = line(true) / line(false);
-        EXPECT_NEAR(std::abs(response - std::polar(c.gain, c.degrees / 180 * std::numbers::pi)), 0, 0.01) << response;
+        EXPECT_NEAR(std::abs(response - std::polar(c.gain, c.turn / 180 * std::numbers::pi)), 0, 0.01) << response;
     }
 }
 
@@ -154,7 +153,8 @@ TEST(SynthVoice, SpreadsUnisonInPitchAndStereo)
         {1.1f/15,  0.5f, 0.25f, 1.15, {{-0.02, 0.75, 1}, { 0.02, 1,   0.75}}},
         {1.1f/15,  0.7f, 1,     1.15, {{-0.0392, 0,  1}, {0.0392, 1,  0}}},
         {2.1f/15,  0.5f, 0.25f, 1.3,  {{-0.02, 1,    1}, { 0.0,  1,   0.75}, {0.02, 0.75, 1}}},
-        {4.1f/15,  0.7f, 0.5f,  1.6,  {{-0.0392, 1, 1}, {-0.0196, 1, 0.5}, {0, 0.5, 1}, {0.0196, 1, 0.5}, {0.0392, 0.5, 1}}},
+        {4.1f/15,  0.7f, 0.5f,  1.6,  {{-0.0392, 1,  1}, {-0.0196, 1, 0.5}, {0, 0.5, 1}, {0.0196, 1, 0.5},
+                                       {0.0392, 0.5, 1}}},
         {1,        0,    0,     3.25, {{0.0, 16, 16}}},
     };
     // clang-format on

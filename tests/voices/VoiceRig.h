@@ -39,7 +39,8 @@ struct VoiceRig {
     }
 
     using Value = std::pair<int, float>; // slot
-    void Set(const std::vector<Value>& values)
+    using Values = std::vector<Value>;
+    void Set(const Values& values)
     {
         for (const auto& [slot, value] : values) channel.params[slot] = value;
     }
@@ -83,7 +84,7 @@ struct VoiceRig {
     }
 
     /// Plays a live note with these values and lets it settle.
-    void Start(const std::vector<Value>& values, int note, int frames = 200)
+    void Start(const Values& values, int note, int frames = 200)
     {
         Set(values);
         channel.NoteOn(note, 0, 1);
