@@ -40,11 +40,13 @@ std::intptr_t HostCallback(AEffect* effect, std::int32_t opcode, std::int32_t in
 
 class Bridge : public testing::Test {
 protected:
-    Bridge() { host = {}, calls.clear(); }
+    void SetUp() override { ASSERT_TRUE(module) << dlerror(); }
     ~Bridge() override
     {
         if (effect) Ask(request::Close);
-        dlclose(module);
+        if (module) dlclose(module);
+        host = {};
+        calls.clear();
     }
     AEffect* Make(const char* entry = "VSTPluginMain", AudioMasterCallback callback = HostCallback)
     {
@@ -97,27 +99,33 @@ TEST_F(Bridge, IsMadeInOrder)
 {
     _MM_SET_FLUSH_ZERO_MODE(_MM_FLUSH_ZERO_OFF);
     host.version = 0;
-    EXPECT_TRUE(!Make("VSTPluginMain", nullptr) && !Make() && calls.size() == 1);
-    host.version = 2400, calls.clear();
+    EXPECT_EQ(Make("VSTPluginMain", nullptr), nullptr);
+    EXPECT_EQ(Make(), nullptr);
+    EXPECT_EQ(calls.size(), 1u);
+    host.version = 2400;
+    calls.clear();
     // The reports come before the host has the effect from the entry: the record is whole, and a host may act on them.
     host.whenAutomated = [](AEffect* made, int index) {
-        EXPECT_TRUE(made->numOutputs == 28 && made->getParameter(made, index) == calls.back().option);
-        EXPECT_TRUE(made->user == nullptr && made->reserved1 == 0 && made->reserved2 == 0) << "the host's own fields";
+        EXPECT_EQ(made->numOutputs, 28);
+        EXPECT_EQ(made->getParameter(made, index), calls.back().option);
+        // Fields of the host's own.
+        EXPECT_EQ(std::tuple(made->user, made->reserved1, made->reserved2), std::tuple(nullptr, 0, 0));
         void* chunk = nullptr;
         if (index == 0) { EXPECT_GT(made->dispatcher(made, request::GetChunk, 0, 0, &chunk, 0.0f), 0); }
     };
     Open();
-    ASSERT_TRUE(effect && calls.size() == 3 + 154);
+    ASSERT_TRUE(effect);
+    ASSERT_EQ(calls.size(), 3u + param::HostCount);
     EXPECT_EQ(_MM_GET_FLUSH_ZERO_MODE(), 0u + _MM_FLUSH_ZERO_OFF) << "the host's own";
     const int first[] = {host_request::Version, host_request::VendorString, host_request::ProductString};
     for (int n = 0; n < 3; ++n) EXPECT_EQ(calls[n].opcode, first[n]);
-    for (int n = 0; n < 154; ++n) {
+    for (int n = 0; n < param::HostCount; ++n) {
         const Call& call = calls[3 + n];
-        EXPECT_TRUE(call.opcode == host_request::Automate && call.index == n && call.effect == effect) << n;
+        EXPECT_EQ(std::tuple(call.opcode, call.index, call.effect), std::tuple(+host_request::Automate, n, effect));
     }
     const std::vector<int> record = {effect->magic,     effect->uniqueId,   effect->numPrograms, effect->numParams,
                                      effect->numInputs, effect->numOutputs, effect->version,     effect->initialDelay};
-    EXPECT_EQ(record, (std::vector<int>{0x56737450, 0x4B765348, 1, 154, 2, 28, 1, 0})) << "PtsV, HSvK";
+    EXPECT_EQ(record, (std::vector<int>{0x56737450, 0x4B765348, 1, param::HostCount, 2, 28, 1, 0})) << "PtsV, HSvK";
     EXPECT_EQ(effect->flags & ~effect_flag::HasEditor, 0x130);
     EXPECT_EQ(effect->ioRatio, 1.0f);
     EXPECT_EQ(Ask(request::Close), 1);
@@ -132,9 +140,10 @@ TEST_F(Bridge, AnswersItsRequests)
     // Requests that nothing acts on get 0, but where that would tell the host something untrue.
     // clang-format off
     std::map<int, std::intptr_t> answers = {
-        {request::GetProgram, 1}, {request::Identify, FourBytes("fEvN")}, {request::ProcessEvents, 1}, {request::ProgramCategories, 1},
-        {request::ProgramNameByIndex, 1}, {request::ConnectInput, 1}, {request::ConnectOutput, 1}, {request::PlugCategory, 2},
-        {request::SetBlockSizeAndSampleRate, 1}, {request::KeysRequired, 1}, {request::InterfaceVersion, 2400}, {request::CurrentMidiProgram, -1}};
+        {request::GetProgram, 1}, {request::Identify, FourBytes("fEvN")}, {request::ProcessEvents, 1},
+        {request::ProgramCategories, 1}, {request::ProgramNameByIndex, 1}, {request::ConnectInput, 1},
+        {request::ConnectOutput, 1}, {request::PlugCategory, 2}, {request::SetBlockSizeAndSampleRate, 1},
+        {request::KeysRequired, 1}, {request::InterfaceVersion, 2400}, {request::CurrentMidiProgram, -1}};
     // clang-format on
     for (int opcode = -7; opcode < 100; ++opcode) {
         if (opcode == request::Close || opcode == request::CanBeAutomated) continue;
@@ -142,7 +151,8 @@ TEST_F(Bridge, AnswersItsRequests)
     }
     EXPECT_EQ(Ask(request::TotalFrames, 0, 44100), 44100);
     Ask(request::SetProgram);
-    for (const int n : {-1, 0, 153, 154}) EXPECT_EQ(Ask(request::CanBeAutomated, n), n == 0 || n == 153) << n;
+    constexpr int kLast = param::HostCount - 1;
+    for (const int n : {-1, 0, kLast, kLast + 1}) EXPECT_EQ(Ask(request::CanBeAutomated, n), n == 0 || n == kLast) << n;
     for (const std::string ability :
          {"receiveVstEvents", "receiveVstMidiEvent", "receiveVstTimeInfo", "sendVstMidiEvent"})
         EXPECT_EQ(Ask(request::CanDo, 0, 0, const_cast<char*>(ability.c_str())), ability[0] == 'r' ? 1 : -1) << ability;
@@ -160,19 +170,24 @@ TEST_F(Bridge, AnswersItsRequests)
         {request::GetParameterDisplay, ParamOf(slot::MixLevel), "0.0 dB"},
         {request::GetParameterLabel,   ParamOf(slot::MixLevel), ""},
     };
-    constexpr const char* kPairs[] = {"Master",    "Sampler 1", "Sampler 2", "Sampler 3", "Sampler 4", "Sampler 5", "Sampler 6",
-                                      "Sampler 7", "Sampler 8", "Synth 1",   "Synth 2",   "Synth 3",   "Synth 4",   "Synth 5"};
+    constexpr const char* kPairs[] = {
+        "Master",    "Sampler 1", "Sampler 2", "Sampler 3", "Sampler 4", "Sampler 5", "Sampler 6",
+        "Sampler 7", "Sampler 8", "Synth 1",   "Synth 2",   "Synth 3",   "Synth 4",   "Synth 5"};
     // clang-format on
     for (const auto& [opcode, index, expected] : texts) EXPECT_EQ(text(opcode, index), expected) << opcode;
     VstPinProperties pin{};
     for (int output = 0; output < 28; ++output) {
-        EXPECT_TRUE(Ask(request::OutputProperties, output, 0, &pin) == 1 && pin.flags == 3) << output;
-        EXPECT_STREQ(pin.label, kPairs[output / 2]);
+        EXPECT_EQ(Ask(request::OutputProperties, output, 0, &pin), 1) << output;
+        EXPECT_EQ(std::pair(pin.flags, std::string(pin.label)), std::pair(3, std::string(kPairs[output / 2])));
     }
     EXPECT_EQ(Ask(request::OutputProperties, -1, 0, &pin) + Ask(request::OutputProperties, 28, 0, &pin), 0);
     calls.clear();
-    for (const bool on : {true, false}) ASSERT_TRUE(Ask(request::MainsChanged, 0, on) == 0 && calls.size() == 1) << on;
-    EXPECT_TRUE(calls[0].opcode == host_request::WantMidi && calls[0].value == 1);
+    for (const bool on : {true, false}) {
+        EXPECT_EQ(Ask(request::MainsChanged, 0, on), 0) << on;
+        ASSERT_EQ(calls.size(), 1u) << on;
+    }
+    EXPECT_EQ(calls[0].opcode, host_request::WantMidi);
+    EXPECT_EQ(calls[0].value, 1);
 }
 
 TEST_F(Bridge, FollowsTheHostsTime)
@@ -181,7 +196,8 @@ TEST_F(Bridge, FollowsTheHostsTime)
     calls.clear();
     Render(64);
     ASSERT_EQ(calls.size(), 2u);
-    EXPECT_TRUE(calls[0].value == time_flag::TempoValid && calls[1].value == time_flag::PpqPositionValid);
+    EXPECT_EQ(calls[0].value, time_flag::TempoValid);
+    EXPECT_EQ(calls[1].value, time_flag::PpqPositionValid);
     // clang-format off
     const std::pair<int, bool> cases[] = { // what the host tells with the tempo, whether the groove plays
         {time_flag::TransportPlaying, false}, {time_flag::TransportPlaying | time_flag::TransportChanged, true},
@@ -202,7 +218,8 @@ TEST_F(Bridge, PlaysStepsAtTheirFrames)
 {
     // clang-format off
     struct Case { float rate; double tempo; int block, firstStep; };
-    const Case cases[] = {{44100.0f, 120.0, 512, 0}, {48000.0f, 123.0, 1, 0}, {96000.0f, 90.0, 441, 3}, {44100.0f, 123.0, 4096, 2}};
+    const Case cases[] = {
+        {44100.0f, 120.0, 512, 0}, {48000.0f, 123.0, 1, 0}, {96000.0f, 90.0, 441, 3}, {44100.0f, 123.0, 4096, 2}};
     // clang-format on
     for (const auto& [rate, tempo, block, firstStep] : cases) {
         SCOPED_TRACE(testing::Message() << rate << " Hz, blocks of " << block << " from step " << firstStep);
@@ -228,11 +245,11 @@ TEST_F(Bridge, PlaysStepsAtTheirFrames)
 TEST_F(Bridge, PlaysTheHostsEvents)
 {
     // clang-format off
-    struct Case { const char* what; std::int32_t type; std::uint8_t status; bool replacing; int silentFrames; float silence; };
+    struct Case { const char* what; std::int32_t type; std::uint8_t status; bool replacing; int first; float silence; };
     const Case cases[] = {
-        {"note",               VstMidiEvent::kType, 0x90, true,  100, 0.0f},
-        {"added",              VstMidiEvent::kType, 0x9C, false, 100, 9.0f},
-        {"not MIDI",           6,                   0x90, true,  300, 0.0f},
+        {"note",     VstMidiEvent::kType, 0x90, true,  100, 0.0f},
+        {"added",    VstMidiEvent::kType, 0x9C, false, 100, 9.0f},
+        {"not MIDI", 6,                   0x90, true,  300, 0.0f},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -245,7 +262,7 @@ TEST_F(Bridge, PlaysTheHostsEvents)
         Ask(request::ProcessEvents, 0, 0, &events);
         Render(300, c.replacing);
         const auto first = std::find_if(outputs[0].begin(), outputs[0].end(), [](float x) { return x != 0.0f; });
-        EXPECT_EQ(first - outputs[0].begin(), c.silentFrames);
+        EXPECT_EQ(first - outputs[0].begin(), c.first);
         EXPECT_EQ(outputs[2][0], c.silence);
         Ask(request::Close);
     }
@@ -276,7 +293,7 @@ TEST_F(Bridge, SurvivesItsHost)
     for (const int frames : {-5, 0, 1, 127, 128, 129, 65536}) {
         Render(frames);
         for (const auto& output : outputs)
-            EXPECT_TRUE(output.back() == 9.0f && std::count(output.begin(), output.end(), 9.0f) == 1) << frames;
+            EXPECT_EQ(std::find(output.begin(), output.end(), 9.0f), output.end() - 1) << frames;
     }
     for (const auto& process : {effect->processReplacing, effect->process}) process(effect, nullptr, nullptr, 256);
     effect->processDoubleReplacing(effect, nullptr, nullptr, 256);
@@ -286,10 +303,12 @@ TEST_F(Bridge, SurvivesItsHost)
         Ask(opcode, INT32_MAX, -1, nullptr, kNan);
         Ask(opcode, INT32_MIN, INTPTR_MAX, nullptr, INFINITY);
     }
-    for (const int index : {-1, 154, 196, INT32_MAX, INT32_MIN}) effect->setParameter(effect, index, kNan);
+    for (const int index : {-1, +param::HostCount, +param::Count, INT32_MAX, INT32_MIN})
+        effect->setParameter(effect, index, kNan);
     for (VstEvents events{}; events.numEvents <= 2; ++events.numEvents) Ask(request::ProcessEvents, 0, 0, &events);
     for (const auto& [tempo, position] : {std::pair{1.0, 1.0e15}, {999.0, 2.6}, {1.0e30, -1.0e9}, {NAN, 2.6}}) {
-        host.tempo.tempo = tempo, host.position.ppqPosition = position;
+        host.tempo.tempo = tempo;
+        host.position.ppqPosition = position;
         Render(4000);
         for (const auto& output : outputs)
             for (const float x : output) ASSERT_TRUE(std::isfinite(x)) << tempo;

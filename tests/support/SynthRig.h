@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <filesystem>
 #include <memory>
@@ -31,6 +33,14 @@ template <class Field>
 std::string TextOf(const Field& field)
 {
     return Written([&field](auto& text) { field.Get(text); });
+}
+
+/// The largest magnitude.
+inline float Peak(const std::vector<float>& sound)
+{
+    float peak = 0.0f;
+    for (const float x : sound) peak = std::max(peak, std::fabs(x));
+    return peak;
 }
 
 /// Notes that are held.
