@@ -1,9 +1,9 @@
 // Cost of the effects per frame: each unit, the equaliser, the bare reverb, a channel's whole rack.
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <array>
 #include <memory>
+#include <random>
 #include <vector>
 
 #include "engine/FXUnit.h"
@@ -15,24 +15,6 @@ namespace {
 
 constexpr float kRate = 48000.0f, kTempo = 120.0f;
 constexpr int kFrames = 128;
-
-struct Signal {
-    Signal()
-    {
-        std::uint32_t seed = 1;
-        for (float& sample : source) {
-            seed = seed * 196314165u + 907633515u;
-            sample = static_cast<float>(static_cast<std::int32_t>(seed)) / 2147483648.0f * 0.5f;
-        }
-    }
-    void Refill()
-    {
-        std::copy_n(source.begin(), kFrames, left.begin());
-        std::copy_n(source.begin() + kFrames, kFrames, right.begin());
-    }
-    std::array<float, 2 * kFrames> source{};
-    std::array<float, kFrames> left{}, right{};
-};
 
 std::unique_ptr<FXUnit> Playing(FxType type)
 {
@@ -46,8 +28,17 @@ std::unique_ptr<FXUnit> Playing(FxType type)
     return unit;
 }
 
-void PerFrame(benchmark::State& state)
+template <class Process>
+void Measure(benchmark::State& state, const Process& process)
 {
+    std::minstd_rand random(1);
+    std::array<float, 2 * kFrames> noise, block;
+    for (float& x : noise) x = static_cast<float>(random()) / static_cast<float>(random.max()) - 0.5f;
+    for (auto _ : state) {
+        block = noise;
+        process(&block[0], &block[kFrames]);
+        benchmark::DoNotOptimize(block);
+    }
     state.counters["ns/frame"] = benchmark::Counter(static_cast<double>(state.iterations()) * kFrames / 1e9,
                                                     benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
@@ -55,13 +46,7 @@ void PerFrame(benchmark::State& state)
 void Unit(benchmark::State& state)
 {
     auto unit = Playing(static_cast<FxType>(state.range(0)));
-    Signal signal;
-    for (auto _ : state) {
-        signal.Refill();
-        unit->Process(signal.left.data(), signal.right.data(), kFrames, kTempo);
-        benchmark::DoNotOptimize(signal);
-    }
-    PerFrame(state);
+    Measure(state, [&](float* left, float* right) { unit->Process(left, right, kFrames, kTempo); });
 }
 BENCHMARK(Unit)->DenseRange(0, 9)->Arg(11);
 
@@ -71,13 +56,7 @@ void EqualiserOnly(benchmark::State& state)
     unit.Reset(kRate);
     unit.bypass = unit.eqOn = 1;
     unit.eqGains.fill(0.7f);
-    Signal signal;
-    for (auto _ : state) {
-        signal.Refill();
-        unit.Process(signal.left.data(), signal.right.data(), kFrames, kTempo);
-        benchmark::DoNotOptimize(signal);
-    }
-    PerFrame(state);
+    Measure(state, [&](float* left, float* right) { unit.Process(left, right, kFrames, kTempo); });
 }
 BENCHMARK(EqualiserOnly);
 
@@ -85,14 +64,10 @@ void Reverb(benchmark::State& state)
 {
     fxReverb unit;
     unit.SetSampleRate(kRate);
-    Signal signal;
-    float* blocks[] = {signal.left.data(), signal.right.data()};
-    for (auto _ : state) {
-        signal.Refill();
+    Measure(state, [&](float* left, float* right) {
+        float* blocks[] = {left, right};
         unit.ProcessReplacing(blocks, blocks, kFrames);
-        benchmark::DoNotOptimize(signal);
-    }
-    PerFrame(state);
+    });
 }
 BENCHMARK(Reverb);
 
@@ -104,13 +79,9 @@ void Rack(benchmark::State& state)
     rack.back()->eqOn = 1;
     if (state.range(0) == 0)
         for (auto& unit : rack) unit->bypass = 1;
-    Signal signal;
-    for (auto _ : state) {
-        signal.Refill();
-        for (auto& unit : rack) unit->Process(signal.left.data(), signal.right.data(), kFrames, kTempo);
-        benchmark::DoNotOptimize(signal);
-    }
-    PerFrame(state);
+    Measure(state, [&](float* left, float* right) {
+        for (auto& unit : rack) unit->Process(left, right, kFrames, kTempo);
+    });
 }
 BENCHMARK(Rack)->Arg(0)->Arg(1);
 

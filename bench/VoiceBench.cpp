@@ -45,7 +45,8 @@ struct Rig {
                  {slot::Pitch, slot::AmpLevel, slot::Octave, slot::Osc1Pitch, slot::Osc1Detune, slot::Osc2Pitch,
                   slot::Osc2Detune, slot::Osc3Pitch, slot::Osc3Detune, slot::UnisonDetune, slot::FilterCutoff})
                 channel.params[index] = 0.5f;
-            for (int index : {5, 6, slot::EnvelopeDecay + 0, slot::EnvelopeDecay + 1}) channel.params[index] = 1.0f;
+            for (int index : {slot::AmpDecay, slot::AmpSustain, slot::EnvelopeDecay}) channel.params[index] = 1.0f;
+            channel.params[slot::EnvelopeDecay + 1] = 1.0f;
             for (int l = 0; l < kLayers; ++l) {
                 for (int index : {slot::LayerLevel, slot::LayerPan, slot::LayerPitch}) channel.params[index + l] = 0.4f;
                 for (int index : {slot::LayerDecay, slot::LayerHiCut}) channel.params[index + l] = 1.0f;

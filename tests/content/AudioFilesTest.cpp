@@ -39,20 +39,17 @@ TEST_F(AudioFiles, DecodeEveryAcceptedDepth)
     using Frames = std::vector<float>; // of a side from index 0 on; none: the file is mono
     const float low = static_cast<float>(-8388608.0 / 8388607.0), step16 = 1.0f / 32768.0f;
     // clang-format off
-    struct Case { const char* what; Bytes file; double rate; int frames; Frames left, right; };
+    struct Case { const char* what; Bytes file; int frames; Frames left, right; double rate = 44100.0; };
     const Case cases[] = {
-        {"16 bits", Wav(Format(kIntegers, 2, 16, 22050) + Data("\x01\x80\x00\x40\xff\x7f\xff\xff"s)), 22050.0, 2,
-                    {-1.0f + step16, 1.0f - step16}, {0.5f, -step16}},
-        {"24 bits", Wav(Format(kIntegers, 2, 24, 48000) + Data("\xff\xff\x7f\x00\x00\x80"s)), 48e3, 1, {1.0f}, {low}},
-        {"32 bits", Wav(Format(kIntegers, 1, 32) + Data("\0\0\0\xc0\0\0\0\x20"s)), 44.1e3, 2, {-0.5f, 0.25f}, {}},
-        {"floats", Wav(Format(kFloats, 2, 32, 4000000000u) + Data("\0\0\0\x3f\0\0\0\xc0"s)), 4e9, 1, {0.5f}, {-2.0f}},
-        {"AIFF of 16", Aiff(Common(2, 1, 16) + Sound("\x80\x01\x40\x00"s)), 44.1e3, 1,
-                       {0.0f, -1.0f + step16}, {0.0f, 0.5f}},
-        {"AIFF of 24", Aiff(Common(2, 1, 24) + Sound("\x7f\xff\xff\x80\x00\x00"s, 6)), 44.1e3, 1,
-                       {0.0f, 1.0f}, {0.0f, low}},
-        {"96000 Hz", Aiff(Common(1, 1, 16, 0x400F, 0xBB800000u) + Sound("\x40\x00"s)), 96e3, 1, {0.0f, 0.5f}, {}},
-        {"highest rate", Aiff(Common(1, 1, 16, 0x401F, UINT32_MAX) + Sound("\x40\x00"s)), 4294967295.0, 1,
-                         {0.0f, 0.5f}, {}},
+        {"16 bits", Wav(Format(kIntegers, 2, 16, 22050) + Data("\x01\x80\x00\x40\xff\x7f\xff\xff"s)), 2,
+                    {step16 - 1.0f, 1.0f - step16}, {0.5f, -step16}, 22050.0},
+        {"24 bits", Wav(Format(kIntegers, 2, 24, 48000) + Data("\xff\xff\x7f\x00\x00\x80"s)), 1, {1.0f}, {low}, 48e3},
+        {"32 bits", Wav(Format(kIntegers, 1, 32) + Data("\0\0\0\xc0\0\0\0\x20"s)), 2, {-0.5f, 0.25f}, {}},
+        {"floats", Wav(Format(kFloats, 2, 32, 4000000000u) + Data("\0\0\0\x3f\0\0\0\xc0"s)), 1, {0.5f}, {-2.0f}, 4.0e9},
+        {"AIFF of 16", Aiff(Common(2, 1, 16) + Sound("\x80\x01\x40\x00"s)), 1, {0.0f, step16 - 1.0f}, {0.0f, 0.5f}},
+        {"AIFF of 24", Aiff(Common(2, 1, 24) + Sound("\x7f\xff\xff\x80\x00\x00"s, 6)), 1, {0.0f, 1.0f}, {0.0f, low}},
+        {"96000 Hz", Aiff(Common(1, 1, 16, 0x400F, 0xBB800000u) + Sound("\x40\x00"s)), 1, {0.0f, 0.5f}, {}, 96000.0},
+        {"highest", Aiff(Common(1, 1, 16, 0x401F, UINT32_MAX) + Sound("\x40\x00"s)), 1, {0.0f, 0.5f}, {}, 4294967295.0},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -112,24 +109,23 @@ TEST_F(AudioFiles, TakeOddFilesAndRefuseWrongOnes)
     const Case cases[] = {
         {"no format: the defaults", Wav(Data("abcd")), 2}, {"no sound", Wav(format), 0},
         {"empty sound", wav(""), 0}, {"odd chunk", Wav(Chunk("LIST", "abc") + format + Data("ab")), 1},
-        {"behind the form's end", Wav(format) + Data("abcd"), 0}, {"AIFF without sound", Aiff(common), 0},
+        {"behind the form's end", Wav(format) + Data("abcd"), 0}, {"nothing but a header", Wav(""), 0}, {"empty", ""},
         {"long format chunk", Wav(Chunk("fmt ", format.substr(8) + "xx") + Data("ab")), 1},
         {"sound cut off", announced(8), 4}, {"wide channels", Wav(Format(kIntegers, 0x301, 16) + Data("ab")), 1},
         {"a MiB missing", announced(kMost), kMost / 2}, {"AIFF of no frames", Aiff(Common(1, 0, 16) + Sound("")), 0},
-        {"nothing but a header", Wav(""), 0}, {"AIFF, more sound", Aiff(common + Sound("abcdef")), 2},
-        {"empty", ""}, {"other type", Wav("", "RIFF", "AVI ")}, {"other form", Wav(format, "RIFX")},
+        {"AIFF, more sound", Aiff(common + Sound("abcdef")), 2}, {"AIFF, less sound", Aiff(common + Sound("abc"))},
+        {"other type", Wav("", "RIFF", "AVI ")}, {"other form", Wav(format, "RIFX")},
         {"more missing", announced(kMost + 2)}, {"impossible", announced(0x7FFFFFFE)}, {"torn frame", wav("abc")},
         {"tag 2", Wav(Format(2, 1, 16) + Data("ab"))}, {"8 bits", Wav(Format(kIntegers, 1, 8) + Data("ab"))},
         {"byte rate", Wav(otherByteRate + Data("ab"))}, {"floats of 16 bits", Wav(Format(kFloats, 1, 16) + Data("ab"))},
-        {"AIFC", Aiff(common + Sound("abcd"), "AIFC")}, {"3 channels", Wav(Format(kIntegers, 3, 16) + Data("abcdef"))},
+        {"AIFC", Aiff(common + Sound("abcd"), "AIFC")}, {"3 sides", Wav(Format(kIntegers, 3, 16) + Data("abcdef"))},
         {"block align", Wav(Format(kIntegers, 2, 16, 44100, 3) + Data("abc"))},
         {"no channel", Wav(Format(kIntegers, 0, 16, 44100, 2) + Data("ab"))},
         {"short format", Wav(Chunk("fmt ", format.substr(8, 14)) + Data("ab"))},
-        {"AIFF, less sound", Aiff(common + Sound("abc"))}, {"AIFF, 8 bits", Aiff(Common(1, 2, 8) + Sound("ab"))},
-        {"short INST", Aiff(common + SustainLoop(1, 2, 19) + Sound("abcd"))},
+        {"AIFF, no sound", Aiff(common), 0}, {"short INST", Aiff(common + SustainLoop(1, 2, 19) + Sound("abcd"))},
         {"short SSND", Aiff(Common(1, 0, 16) + Chunk("SSND", Bytes(7, '\0'), Big))},
         {"short COMM", Aiff(Chunk("COMM", common.substr(8, 17), Big) + Sound("abcd"))},
-        {"AIFF of 3 channels", Aiff(Common(3, 1, 16) + Sound("abcdef"))},
+        {"3 channels", Aiff(Common(3, 1, 16) + Sound("abcdef"))}, {"AIFF, 8 bits", Aiff(Common(1, 2, 8) + Sound("ab"))},
     };
     // clang-format on
     for (const Case& c : cases) {

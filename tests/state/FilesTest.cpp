@@ -8,7 +8,7 @@ namespace {
 namespace fs = std::filesystem;
 
 struct Files : SynthTest {
-    std::string Name() { return TextOf(Synth().grooveName); }
+    std::string NameAfter(bool success) { return success ? TextOf(Synth().grooveName) : "(refused)"; }
 };
 
 TEST_F(Files, GroovesNameTheGroove)
@@ -18,16 +18,14 @@ TEST_F(Files, GroovesNameTheGroove)
     WriteBytes(root / "default.kvprj", Saved(engine));
     EXPECT_TRUE(Saved(Engine()) == Saved(engine));
     EXPECT_EQ(TextOf(Engine().samplePool->grooveSampleFolder), "");
-    using Result = std::pair<bool, std::string>;
-    EXPECT_EQ((Result{Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str()), Name()}),
-              Result(true, "Default Groove"));
-    EXPECT_EQ((Result{Synth().SaveGrooveFile(Path("two.b.kvprj").c_str()), Name()}), Result(true, "two.b"));
+    EXPECT_EQ(NameAfter(Synth().SaveGrooveWithSamples(Path("one.a.kvprj").c_str())), "Default Groove");
+    EXPECT_EQ(NameAfter(Synth().SaveGrooveFile(Path("two.b.kvprj").c_str())), "two.b");
     Engine().ResetGroove();
-    EXPECT_EQ((Result{Synth().LoadGrooveFile(Path("one.a.kvprj").c_str()), Name()}), Result(true, "one.a"));
+    EXPECT_EQ(NameAfter(Synth().LoadGrooveFile(Path("one.a.kvprj").c_str())), "one.a");
     EXPECT_TRUE(Saved(Engine()) == Saved(engine));
     for (const char* none : {"none.kvprj", "Brassmoor"}) EXPECT_FALSE(Synth().LoadGrooveFile(Path(none).c_str()));
     EXPECT_FALSE(Synth().SaveGrooveFile(Path("nowhere/x.kvprj").c_str()));
-    EXPECT_EQ(Name(), "one.a");
+    EXPECT_EQ(NameAfter(true), "one.a");
     EXPECT_EQ(host.told, param::Count) << "told once, of the one that was loaded";
 }
 

@@ -98,8 +98,8 @@ TEST_F(Image, TakesWildSelections)
     image = Saved(engine);
     EXPECT_EQ(Bytes(image.begin() + 4, image.begin() + 10), (Bytes{12, 7, 0, 9, 1, 0}));
     for (const int n : {0, 1}) engine.SetExtControl(n, 0.5f);
-    EXPECT_EQ(engine.extControls[0].channel, kChannels);
-    EXPECT_EQ(engine.extControls[1].param, 300);
+    EXPECT_EQ((std::vector<int>{engine.extControls[0].channel, engine.extControls[1].param}),
+              (std::vector{kChannels, 300}));
 }
 
 TEST_F(Image, KeepsTheLocksThatActOfAListTooLong)
@@ -108,9 +108,8 @@ TEST_F(Image, KeepsTheLocksThatActOfAListTooLong)
     // Locks announced, there, and of these with an index that acts on nothing.
     struct Case { const char* what; int told, present, wild, kept; };
     const Case cases[] = {
-        {"full",     kChannelSlots, kChannelSlots, 5,   kChannelSlots}, {"negative", -1, 0, 0, 0},
-        {"far over", INT16_MAX,     400,           0,   kChannelSlots}, {"cut",      5,  2, 0, 5},
-        {"too long", 300,           300,           100, 200},           {"none",     0,  0, 0, 0},
+        {"full", kChannelSlots, kChannelSlots, 5, kChannelSlots}, {"far too long", INT16_MAX, 400, 0, kChannelSlots},
+        {"too long", 300, 300, 100, 200}, {"negative", -1, 0, 0, 0}, {"cut", 5, 2, 0, 5}, {"none", 0, 0, 0, 0},
     };
     // clang-format on
     const Bytes empty = Saved(engine);
@@ -222,9 +221,9 @@ TEST_F(Image, TakesWhatItCanOfADamagedPart)
     // An int32 is written into the part, at 0 its tag; the steps that are not taken over stay what they were.
     struct Case { const char* what; int at, value, length, channel; bool accepted; float noteLength; int steps; };
     const Case cases[] = {
-        {"whole", 0, kSampler, kWhole, 7, true, 0.75f, kSteps}, {"other kind", 0, kSampler, kWhole, 8, false, 0.125f, 0},
+        {"whole", 0, kSampler, kWhole, 7, true, 0.75f, kSteps}, {"synth", 0, kSampler, kWhole, 8, false, 0.125f, 0},
         {"wrong tag", 0, 1, kWhole, 2, false, 0.125f, 0}, {"wrong channel tag", 8, 1, kWhole, 2, false, 0.125f, 0},
-        {"no sequence", 0, kSampler, kTag - 4, 2, false, 0.25f, 0}, {"wrong one", kTag, 1, kWhole, 2, false, 0.25f, 0},
+        {"none", 0, kSampler, kTag - 4, 2, false, 0.25f, 0}, {"wrong one", kTag, 1, kWhole, 2, false, 0.25f, 0},
         {"short", kTag - 4, 3, kWhole, 2, false, 0.25f, 0}, {"negative", kTag - 4, -1, kWhole, 2, false, 0.25f, 0},
         {"ten steps",        kTag - 4, 4 + 10 * kRecord, kWhole, 2, false, 0.25f, 10},
         {"cut after a step", 0, kSampler, kSteps0 + kRecord,     2, false, 0.25f, 1},

@@ -59,14 +59,10 @@ TEST(SamplerVoice, EndsWhenNoLayerCanPlay)
 {
     // clang-format off
     const struct { const char* what; int frames; VoiceRig::Values values; bool plays; } cases[] = { // -1: no sample
-        {"a sample",                    100, {}, true},
-        {"no sample",                    -1, {}, false},
-        {"a sample without frames",       0, {}, false},
-        {"bypassed",                    100, {{slot::LayerBypass, 0.5f}}, false},
-        {"still waiting",                10, {{slot::LayerDelay, 1.0f}},  true},
-        {"starts at the end",           100, {{slot::LayerStart, 1.0f}},  false},
-        {"starts far beyond",           100, {{slot::LayerStart, 1e30f}},  false},
-        {"runs far beyond at once",     100, {{slot::Pitch, 1e30f}},       false},
+        {"a sample", 100, {}, true}, {"no sample", -1, {}, false}, {"a sample without frames", 0, {}, false},
+        {"bypassed", 100, {{slot::LayerBypass, 0.5f}}, false}, {"still waiting", 10, {{slot::LayerDelay, 1.0f}}, true},
+        {"starts at end", 100, {{slot::LayerStart, 1.0f}}, false}, {"far off", 100, {{slot::LayerStart, 1e30f}}, false},
+        {"runs far beyond at once",     100, {{slot::Pitch, 1e30f}}, false},
         {"goes backwards from the end", 100, {{slot::LayerReverse, 1.0f}, {slot::LayerPitch, 1.0f}}, true},
     };
     // clang-format on

@@ -42,8 +42,7 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
     const Case cases[] = {
         {"note 57",         {}, 220, 1},                  {"note 76", {}, 659.2551, 1, 0, 76},
         {"bent up two",     {}, 246.94165, 1, 1.0f},      {"never beyond half the rate", {}, 22045.59, 1, 100.0f},
-        {"bent down by 12", {{slot::BendRange, 1}}, 110, 1, -1.0f},
-        {"bent up by five", {{slot::BendRange, 0.45f}}, 293.66477, 1, 1.0f},
+        {"by -12", {{slot::BendRange, 1}}, 110, 1, -1.0f}, {"by 5", {{slot::BendRange, 0.45f}}, 293.66477, 1, 1.0f},
         {"pitch up",        {{slot::Pitch, 1}, {slot::Octave, 0.74f}}, 880, 1},
         {"in semitones",    {{slot::Pitch, 0.54f}, {slot::Octave, 1}}, 932.32752, 1},
         {"and down",        {{slot::Pitch, 0.45f}, {slot::Octave, 0}}, 48.999429, 1},
