@@ -12,31 +12,30 @@ namespace {
 // Left and right at three frames, by a model in double that was written from the rules.
 TEST(SamplerVoice, PlaysALayerAsItIsSet)
 {
+    using namespace slot;
     constexpr int kFrames[] = {60, 300, 480};
     // clang-format off
     const struct { const char* what; int channels; VoiceRig::Values values; double expected[3][2]; } cases[] = {
-        {"as it is",       1, {}, {{0.4448, 0.4448}, {-0.0720, -0.0720}, {-0.2341, -0.2341}}},
-        {"stereo",         2, {}, {{0.4448, 0.3792}, {-0.0720, 0.3509}, {-0.2341, -0.5246}}},
-        {"far up",         1, {{slot::LayerPitch, 1}}, {{0.1699, 0.1699}, {0, 0}, {0, 0}}},
-        {"far down",       2, {{slot::LayerPitch, 0}}, {{0.1436, 0.3846}, {0.2227, -0.0112}, {-0.0929, -0.3574}}},
-        {"semitones up",   1, {{slot::Pitch, 0.5f + 7.9f / 48}},
-            {{0.4484, 0.4484}, {0.1290, 0.1290}, {0.5007, 0.5007}}},
-        {"from middle",    1, {{slot::LayerStart, 0.5f}}, {{-0.4258, -0.4258}, {-0.2438, -0.2438}, {0.4705, 0.4705}}},
-        {"backwards",      2, {{slot::LayerReverse, 1}, {slot::LayerStart, 0.25f}},
+        {"as it is",  1, {}, {{0.4448, 0.4448}, {-0.0720, -0.0720}, {-0.2341, -0.2341}}},
+        {"stereo",    2, {}, {{0.4448, 0.3792}, {-0.0720, 0.3509}, {-0.2341, -0.5246}}},
+        {"far up",    1, {{LayerPitch, 1}}, {{0.1699, 0.1699}, {0, 0}, {0, 0}}},
+        {"far down",  2, {{LayerPitch, 0}}, {{0.1436, 0.3846}, {0.2227, -0.0112}, {-0.0929, -0.3574}}},
+        {"semitones", 1, {{Pitch, 0.5f + 7.9f / 48}}, {{0.4484, 0.4484}, {0.1290, 0.1290}, {0.5007, 0.5007}}},
+        {"halfway",   1, {{LayerStart, 0.5f}}, {{-0.4258, -0.4258}, {-0.2438, -0.2438}, {0.4705, 0.4705}}},
+        {"backwards", 2, {{LayerReverse, 1}, {LayerStart, 0.25f}},
             {{0.4049, 0.4313}, {0.2994, -0.1341}, {-0.5008, -0.1763}}},
-        {"slow backwards", 1, {{slot::LayerReverse, 1}, {slot::LayerPitch, 0.25f}},
+        {"slowly",    1, {{LayerReverse, 1}, {LayerPitch, 0.25f}},
             {{0.0918, 0.0918}, {0.1738, 0.1738}, {0.2025, 0.2025}}},
-        {"late",           1, {{slot::LayerDelay, 0.25f}}, {{0.1781, 0.1781}, {-0.4866, -0.4866}, {0.2218, 0.2218}}},
-        {"left, half",     1, {{slot::LayerPan, 0}, {slot::LayerLevel, 0.25f}},
-            {{0.2224, 0}, {-0.0360, 0}, {-0.1171, 0}}},
-        {"right, louder",  1, {{slot::LayerPan, 0.75f}, {slot::LayerLevel, 0.7f}},
+        {"late",      1, {{LayerDelay, 0.25f}}, {{0.1781, 0.1781}, {-0.4866, -0.4866}, {0.2218, 0.2218}}},
+        {"left",      1, {{LayerPan, 0}, {LayerLevel, 0.25f}}, {{0.2224, 0}, {-0.0360, 0}, {-0.1171, 0}}},
+        {"right",     1, {{LayerPan, 0.75f}, {LayerLevel, 0.7f}},
             {{0.4359, 1.3078}, {-0.0706, -0.2118}, {-0.2294, -0.6883}}},
-        {"upside down",    1, {{slot::LayerInvert, 1}}, {{-0.4448, -0.4448}, {0.0720, 0.0720}, {0.2341, 0.2341}}},
-        {"filters",        2, {{slot::LayerLoCut, 0.5f}, {slot::LayerHiCut, 0.5f}, {slot::LayerBandwidth, 0.5f}},
+        {"inverted",  1, {{LayerInvert, 1}}, {{-0.4448, -0.4448}, {0.0720, 0.0720}, {0.2341, 0.2341}}},
+        {"filters",   2, {{LayerLoCut, 0.5f}, {LayerHiCut, 0.5f}, {LayerBandwidth, 0.5f}},
             {{-0.0649, -0.1032}, {0.0212, -0.0118}, {-0.0026, 0.0286}}},
-        {"sharper",        1, {{slot::LayerLoCut, 0.3f}, {slot::LayerHiCut, 0.1f}, {slot::LayerBandwidth, 0.8f}},
+        {"sharper",   1, {{LayerLoCut, 0.3f}, {LayerHiCut, 0.1f}, {LayerBandwidth, 0.8f}},
             {{0.4310, 0.4310}, {0.9824, 0.9824}, {-1.6475, -1.6475}}},
-        {"attack to decay", 1, {{slot::LayerAttack, 0.05f}, {slot::LayerHold, 0.05f}, {slot::LayerDecay, 0.1f}},
+        {"envelope",  1, {{LayerAttack, 0.05f}, {LayerHold, 0.05f}, {LayerDecay, 0.1f}},
             {{0.4449, 0.4449}, {0, 0}, {0, 0}}},
     };
     // clang-format on
