@@ -23,12 +23,6 @@ constexpr int kRate = 44100, kTenth = kRate / 10;
 
 class Golden : public testing::TestWithParam<fs::path> {
 protected:
-    Golden()
-    {
-        for (const auto& entry : fs::directory_iterator(KORVANE_BUNDLE))
-            if (entry.is_directory()) fs::create_directory_symlink(entry, root.path / entry.path().filename());
-    }
-
     static Levels Rendered(PluginHost& host, int tenths, const std::function<void(int)>& play)
     {
         Levels levels;
@@ -50,7 +44,7 @@ protected:
         EXPECT_EQ(Difference(Levels::Load(kept), levels), "") << name;
     }
 
-    const ContentRoot root;
+    const BundleRoot root;
     PluginHost host{KORVANE_BUNDLE "/korvane.so", kRate, kTenth};
 };
 

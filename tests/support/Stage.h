@@ -101,12 +101,6 @@ protected:
     std::vector<float>& Left(int c) { return out[static_cast<std::size_t>(2 + 2 * c)]; }
     std::vector<float>& Right(int c) { return out[static_cast<std::size_t>(3 + 2 * c)]; }
 
-    static float Peak(const std::vector<float>& sound)
-    {
-        float peak = 0.0f;
-        for (const float x : sound) peak = std::max(peak, std::fabs(x));
-        return peak;
-    }
     /// The first frame that is not silent, -1 when there is none.
     static int Onset(const std::vector<float>& sound)
     {
