@@ -24,13 +24,12 @@ protected:
 // A source that was moved drives the parameter that was turned next.
 TEST_F(MidiMapping, LinksDriveParameters)
 {
-    constexpr int kLevel = ParamOf(slot::MixLevel);
     // clang-format off
     struct Case { std::uint8_t status, data1, data2; const char* texts; int parameter; float low, high; };
     const Case cases[] = {
-        {0xB0, 7,   10,  "CC 7, CHN: Mix Level",            kLevel,                      0.0f,  1.0f},
-        {0xE0, 64,  64,  "Pitch Wheel, CHN: Panning",     ParamOf(slot::Panning),      -1.0f, 1.0f},
-        {0x90, 60,  127, "Key 60 Velocity, Filter Cutoff", ParamOf(slot::FilterCutoff), 0.0f,  1.0f}, // a release writes 0
+        {0xB0, 7,  10,  "CC 7, CHN: Mix Level",           ParamOf(slot::MixLevel),     0.0f,  1.0f},
+        {0xE0, 64, 64,  "Pitch Wheel, CHN: Panning",      ParamOf(slot::Panning),      -1.0f, 1.0f},
+        {0x90, 60, 127, "Key 60 Velocity, Filter Cutoff", ParamOf(slot::FilterCutoff), 0.0f,  1.0f}, // a release: 0
     };
     // clang-format on
     KVSynth& synth = Synth();
@@ -83,7 +82,9 @@ TEST_F(MidiMapping, LinksSurviveInTheirFile)
     const std::vector<std::uint8_t> file = ReadBytes(root / "linkmap");
     std::vector<std::uint8_t> expected(771, 0xFF); // 257 links of two bytes, then a flag of each
     std::fill_n(expected.begin() + 514, 257, std::uint8_t{0});
-    expected[14] = ParamOf(slot::MixLevel), expected[15] = 0, expected[514 + 7] = 1;
+    expected[2 * 7] = ParamOf(slot::MixLevel);
+    expected[2 * 7 + 1] = 0;
+    expected[514 + 7] = 1;
     EXPECT_EQ(file, expected);
     Synth();
     Close();
@@ -94,7 +95,8 @@ TEST_F(MidiMapping, LinksSurviveInTheirFile)
         WriteBytes(root / "linkmap", std::vector<std::uint8_t>(size, 0x7E));
         EXPECT_EQ(Synth().links[7], size < 16 ? -1 : 0x7E7E) << size;
         EXPECT_EQ(Synth().ignoreValue[200], size < 771 ? 0 : 0x7E) << size;
-        for (std::uint8_t n = 0; n < 128; ++n) Send(0xB0, n, n), Send(0x90, n, 100), Send(0xE0, n, n);
+        for (const auto status : std::initializer_list<std::uint8_t>{0xB0, 0x90, 0xE0})
+            for (std::uint8_t n = 0; n < 128; ++n) Send(status, n, 100);
         Close();
     }
     std::filesystem::remove(root / "linkmap");

@@ -66,7 +66,6 @@ protected:
         Engine().RefreshChannel(c);
     }
 
-    GrooveEngine& Engine() { return *Synth().engine; }
     void Set(int parameter, float value) { Synth().SetParameter(parameter, value); }
     void Set(const Writes& writes)
     {

@@ -16,14 +16,17 @@ protected:
     {
         return Written([&](char* text) { Synth().GetParameterDisplay(index, text); });
     }
-    GrooveEngine& Engine() { return *Synth().engine; }
+    void Press(int button)
+    {
+        for (const float value : {1.0f, 0.0f}) Synth().SetParameter(button, value);
+    }
     std::vector<float> Settings() { return {std::begin(Engine().storedParams[8]), std::end(Engine().storedParams[8])}; }
     /// Envelope and LFO 2, layer 4, effect 5.
     void ChooseLastPages()
     {
-        for (const int page : {+param::EnvelopeNumber, +param::LfoNumber, +param::LayerNumber, param::Fx1 + 4})
+        for (const int page : {param::EnvelopeNumber, param::LfoNumber, param::LayerNumber})
             Synth().SetParameter(page, 1.0f);
-        Synth().SetParameter(param::Fx1 + 4, 0.0f);
+        Press(param::Fx1 + 4);
     }
 };
 
@@ -34,7 +37,7 @@ TEST_F(Parameters, HaveTheirPublishedNames)
     const std::pair<int, const char*> names[] = {
         {0,   "Shuffle Amuont"},         {11,  "Solo Currrent Track"},        {33,  "CHANNEL 13: Synth 5"},
         {123, "SYNTH: Mix Oscllator 2"}, {153, "SAMPLER: Layer Reset Start"}, {178, "SEQ Step Bar 8"},
-        {67,  "unknown"}, {179, "unknown"}, {195, "unknown"}, {196, "unknown"}, {-1, "unknown"}};
+        {67,  "unknown"}, {179, "unknown"}, {195, "unknown"}, {param::Count, "unknown"}, {-1, "unknown"}};
     // clang-format on
     for (const auto& [index, name] : names) {
         EXPECT_EQ(Written([&, n = index](char* text) { Synth().GetParameterName(n, text); }), name) << index;
@@ -53,8 +56,8 @@ TEST_F(Parameters, ShowTheirValue)
         {slot::AmpLevel, 1.0f, "25.0 dB"}, {slot::FxLfoRate, 0.5f, "3/4"}, {slot::FxLfoRate, 1.0f, "8/1"},
         {slot::FxLfoRate, -1.0f, "1/8"}, {slot::LfoRate, 0.89f, "8/1"}, {slot::UnisonVoices, 0.99f, "15"},
         {slot::UnisonVoices, 1.0f, "16"}, {slot::Osc1Pitch, 0.0f, "-36"}, {slot::Osc1Detune, 0.996f, "49"},
-        {slot::AmpDecay, 0.123f, "12.3 %"}, {slot::VelocityAmount, 0.25f, "-50.0 %"}, {slot::BendRange, 1.0f / 6.0f, "2 smt"},
-        {slot::EqGain, 0.0f, "-12.00 dB"}, {slot::EqGain + 4, 1.0f, "12.00 dB"},
+        {slot::AmpDecay, 0.123f, "12.3 %"}, {slot::VelocityAmount, 0.25f, "-50.0 %"}, {slot::EqGain, 0.0f, "-12.00 dB"},
+        {slot::BendRange, 1.0f / 6.0f, "2 smt"}, {slot::EqGain + 4, 1.0f, "12.00 dB"},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -62,7 +65,7 @@ TEST_F(Parameters, ShowTheirValue)
         EXPECT_EQ(Display(ParamOf(c.setting)), c.text) << c.setting << " at " << c.value;
     }
     EXPECT_EQ(Display(-1), "0.0 %");
-    EXPECT_EQ(Display(196), "0.0 %");
+    EXPECT_EQ(Display(param::Count), "0.0 %");
 }
 
 // The value that a reset gives and the one that a new channel has are two columns.
@@ -75,7 +78,7 @@ TEST_F(Parameters, HaveTwoColumnsOfDefaults)
         EXPECT_EQ(Synth().GetParameterDefault(ParamOf(setting)), reset) << setting;
         EXPECT_EQ(Synth().GetParameter(ParamOf(setting)), fresh) << setting;
     }
-    Synth().SetParameter(param::Channel1, 1.0f), Synth().SetParameter(param::Channel1, 0.0f);
+    Press(param::Channel1);
     EXPECT_EQ(Synth().GetParameter(ParamOf(slot::FilterCutoff)), 0.0f) << "samplers start with the high-pass at 0";
     EXPECT_EQ(Synth().GetParameter(ParamOf(slot::FilterType)), 1.0f);
 }
@@ -86,16 +89,16 @@ TEST_F(Parameters, ActByTheirKind)
     // clang-format off
     struct Case { const char* what; std::vector<std::pair<int, float>> writes; int read; float value; };
     const Case cases[] = {
-        {"a trigger acts on its edge", {{kSwitch, 1.0f}, {kSwitch, 1.0f}},               kType,                 0.5f},
-        {"and on the next one",        {{kSwitch, 0.0f}, {kSwitch, 0.5f}},               kType,                 1.0f},
-        {"followers ask the engine",   {{param::Play, 1.0f}, {param::Play, 0.3f}},       param::Play,           1.0f},
-        {"any write ends a bar loop",  {{param::PlayBar, 1.0f}, {param::PlayBar, 1.0f}}, param::PlayBar,        0.0f},
-        {"pages are whole",            {{param::EnvelopeNumber, 0.99f}},                 param::EnvelopeNumber, 0.0f},
-        {"layers come in thirds",      {{param::LayerNumber, 0.5f}},                     param::LayerNumber,    1.0f / 3.0f},
-        {"beyond the last layer",      {{param::LayerNumber, 9.0f}},                     param::LayerNumber,    1.0f},
-        {"steps know no edge",         {{param::Step1, 1.0f}, {param::Step1, 0.25f}},    param::Step1,          0.25f},
-        {"what has no name is stored", {{67, 1.0f}, {153, 1.0f}, {154, 1.0f}, {179, 1.0f}, {181, 1.0f}}, 67,    1.0f},
-        {"what is not there is 0",     {{-1, 1.0f}, {196, 1.0f}, {1 << 30, 1.0f}},       196,                   0.0f},
+        {"triggers act on an edge",  {{kSwitch, 1.0f}, {kSwitch, 1.0f}},               kType,                 0.5f},
+        {"and on the next",          {{kSwitch, 0.0f}, {kSwitch, 0.5f}},               kType,                 1.0f},
+        {"followers ask the engine", {{param::Play, 1.0f}, {param::Play, 0.3f}},       param::Play,           1.0f},
+        {"writes end a bar loop",    {{param::PlayBar, 1.0f}, {param::PlayBar, 1.0f}}, param::PlayBar,        0.0f},
+        {"pages are whole",          {{param::EnvelopeNumber, 0.99f}},                 param::EnvelopeNumber, 0.0f},
+        {"layers come in thirds",    {{param::LayerNumber, 0.5f}},                     param::LayerNumber,    1.0f / 3},
+        {"beyond the last layer",    {{param::LayerNumber, 9.0f}},                     param::LayerNumber,    1.0f},
+        {"steps know no edge",       {{param::Step1, 1.0f}, {param::Step1, 0.25f}},    param::Step1,          0.25f},
+        {"no name: stored", {{67, 1.0f}, {153, 1.0f}, {param::HostCount, 1.0f}, {179, 1.0f}, {181, 1.0f}}, 67, 1.0f},
+        {"what is not there is 0",   {{-1, 1.0f}, {param::Count, 1.0f}, {1 << 30, 1.0f}}, param::Count, 0.0f},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -154,9 +157,9 @@ TEST_F(Parameters, SwitchesTurnOneSetting)
     // clang-format off
     struct Case { int button, setting, last; };
     const Case cases[] = {
-        {param::FilterTypeSwitch,          slot::FilterType,         2}, {param::LfoSyncSwitch,   slot::LfoSync + 1,  2},
-        {param::FxLfoShapeSwitch,          slot::FxLfoShape + 4,     3}, {param::FxLfoSyncSwitch, slot::FxLfoSync + 4, 1},
-        {param::LfoDestinationSwitch,      slot::LfoDestination + 1, 3}, {param::LfoShapeSwitch,  slot::LfoShape + 1, 3},
+        {param::FilterTypeSwitch,     slot::FilterType,         2}, {param::LfoSyncSwitch,   slot::LfoSync + 1,   2},
+        {param::FxLfoShapeSwitch,     slot::FxLfoShape + 4,     3}, {param::FxLfoSyncSwitch, slot::FxLfoSync + 4, 1},
+        {param::LfoDestinationSwitch, slot::LfoDestination + 1, 3}, {param::LfoShapeSwitch,  slot::LfoShape + 1,  3},
         {param::EnvelopeDestinationSwitch, slot::EnvelopeDestination + 1, 3},
     };
     // clang-format on
@@ -166,7 +169,7 @@ TEST_F(Parameters, SwitchesTurnOneSetting)
             std::vector<float> expected = Settings();
             expected[static_cast<std::size_t>(c.setting)] =
                 static_cast<float>(press % (c.last + 1)) / static_cast<float>(c.last);
-            Synth().SetParameter(c.button, 1.0f), Synth().SetParameter(c.button, 0.0f);
+            Press(c.button);
             EXPECT_EQ(Settings(), expected) << c.button;
         }
 }

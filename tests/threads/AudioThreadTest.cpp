@@ -50,7 +50,7 @@ protected:
         for (auto& output : outputs) output.resize(kFrames);
         Synth().SetSampleRate(48000.0);
         Synth().SetProgram(0);
-        GrooveEngine& engine = *Synth().engine;
+        GrooveEngine& engine = Engine();
         for (int c = 0; c < kChannels; ++c) {
             for (int k = 0; k < kEffects; ++k) engine.storedParams[c][slot::FxGlue + k] = 1.0f;
             engine.storedParams[c][slot::EqOn] = 1.0f;
@@ -87,7 +87,7 @@ TEST_F(AudioThread, AllocatesNothing)
         const auto key = static_cast<std::uint8_t>(30 + n % 60);
         Synth().QueueEvent(n % 2 ? 0x80 : 0x90, key, 100, 0, n % kFrames);
         Synth().QueueEvent(0xB0, static_cast<std::uint8_t>(n % 120), key, 0, kFrames - 1);
-        Synth().SetParameter(n % 196, 0.5f);
+        Synth().SetParameter(n % param::Count, 0.5f);
         Block();
     }
     watched = false;
@@ -112,9 +112,9 @@ TEST_F(AudioThread, SharesTheEngineWithTheOthers)
     std::vector<std::uint8_t> state;
     for (int n = 0; n < 400; ++n) {
         for (int k = 0; k < 20; ++k)
-            Synth().SetParameter(static_cast<int>(random() % 196), static_cast<float>(random() % 5) / 4.0f);
+            Synth().SetParameter(static_cast<int>(random() % param::Count), static_cast<float>(random() % 5) / 4.0f);
         char text[256];
-        Synth().GetParameterDisplay(static_cast<int>(random() % 196), text);
+        Synth().GetParameterDisplay(static_cast<int>(random() % param::Count), text);
         if (n % 20 == 3) {
             state.resize(static_cast<std::size_t>(Synth().GetBankChunk(nullptr)));
             Synth().GetBankChunk(state.data());
