@@ -18,11 +18,11 @@ TEST_F(Live, ControllersMoveTheSelectedChannel)
     // clang-format off
     struct Case { const char* what; int status, data1, data2; double pitch; };
     const Case cases[] = {
-        {"bent up",       kBend,       127, 127, 1.12246}, {"bent down",   kBend,       0, 0,   0.8909}, // two semitones
-        {"in the middle", kBend,       0,   64,  1.0},     {"wheel",       kController, 1, 127, 0.0}, // closes the filter
-        {"wheel back",    kController, 1,   0,   1.0},     {"pressure",    kPressure, 127, 0,   0.0},
-        {"pressure back", kPressure,   0,   0,   1.0},     {"wheel again", kController, 1, 127, 0.0},
-        {"all back",      kController, 121, 0,   1.0},     {"another one", kController, 2, 127, 1.0},
+        {"bent up",       kBend,       127, 127, 1.12246}, {"bent down",   kBend,       0,   0,   0.8909}, // a tone
+        {"in the middle", kBend,       0,   64,  1.0},     {"wheel",       kController, 1,   127, 0.0}, // filter closed
+        {"wheel back",    kController, 1,   0,   1.0},     {"pressure",    kPressure,   127, 0,   0.0},
+        {"pressure back", kPressure,   0,   0,   1.0},     {"wheel again", kController, 1,   127, 0.0},
+        {"all back",      kController, 121, 0,   1.0},     {"another one", kController, 2,   127, 1.0},
     };
     // clang-format on
     for (const int c : {8, 9}) {
@@ -116,6 +116,10 @@ TEST_F(Live, LearntControlsDriveTheirKnob)
     Select(8);
     Set(kLevel, 0.25f);
     EXPECT_EQ(Synth().GetParameter(kExt), 0.25f) << "the control follows its knob";
+    Set(param::LfoNumber, 1.0f);
+    Set(learn);
+    Set({{ParamOf(slot::LfoAmount), 0.5f}, {kExt + 1, 0.75f}});
+    EXPECT_EQ(Synth().GetParameter(ParamOf(slot::LfoAmount)), 0.75f) << "of the page on which it was learnt";
 }
 
 // A reset ends every sound and lets the keys go, unless the pedal holds them; the sequencer goes on.
@@ -132,28 +136,29 @@ TEST_F(Live, ResetsEndSoundsAndKeys)
         {"a program switch",      [](KVSynth& s) { s.SetProgram(0); },            false, kRate,     kC5, kStep},
     };
     // clang-format on
-    constexpr int kEcho = 6;
     GiveSine(8);
     for (const int step : {0, 8}) PutStep(9, step, 0.5f);
-    Engine().storedParams[9][slot::FxGlue + kEcho] = 1.0f;
+    Engine().storedParams[9][slot::FxGlue + static_cast<int>(FxType::Echo)] = 1.0f;
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         Synth().SetSampleRate(kRate);
+        Set(ParamOf(slot::SlideEnable), 0.0f);
         Queue(kController, 64, 0);
         Queue(kController, 123, 0);
         Play(1);
         Synth().SetPlaying(true);
         Queue(kController, 64, c.pedal ? 127 : 0);
-        Queue(kNoteOn, kAnyKey, 127);
+        for (const int key : {kAnyKey, kAnyKey + 7}) Queue(kNoteOn, key, 127);
         Play(4 * kStep);
         EXPECT_GT(std::min(Peak(Left(8)), Peak(Left(9))), 0.001f);
         c.reset(Synth());
         EXPECT_EQ(Engine().Channel(8).peakLeft + Engine().Channel(9).peakRight, 0.0f);
         Play(3 * kStep);
         for (const auto& output : out) EXPECT_EQ(Onset(output), -1) << "voices and echoes are gone";
+        Set({{ParamOf(slot::SlideEnable), 1.0f}, {ParamOf(slot::SlideTime), 1.0f}});
         Queue(kNoteOn, kAnyKey, 127);
         Play(6 * kStep);
-        EXPECT_NEAR(Pitch(Left(8), c.rate), c.nextPitch, 1.0) << "the key, if it was let go";
+        EXPECT_NEAR(Pitch(Left(8), c.rate), c.nextPitch, 1.0) << "the key, if it was let go; nothing to slide from";
         EXPECT_EQ(Onset(Left(9)), c.nextNote) << "the clock goes on";
     }
 }

@@ -47,11 +47,11 @@ TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
     // clang-format off
     struct Case { const char* what; Writes writes; int steps, position, pattern; };
     const Case cases[] = {
-        {"start",               {{param::Play, 1.0f}},    3, 2,  0}, {"bar 2",           {{param::PlayBar, 1.0f}}, 2,  20, 0},
-        {"a pattern once",      {{param::PlayBar, 0.0f}}, 1, 5,  0}, {"of one bar",      second,                   10, 15, 1},
-        {"where the song stands", {},                     1, 16, 0}, {"the last step",   {},                       15, 31, 0},
-        {"too late for its end", second,                  1, 0,  1}, {"so to the next",  {},                       15, 15, 1},
-        {"and back",            {},                       1, 16, 0},
+        {"start",           {{param::Play, 1.0f}},    3, 2,  0}, {"bar 2",      {{param::PlayBar, 1.0f}}, 2,  20, 0},
+        {"a pattern once",  {{param::PlayBar, 0.0f}}, 1, 5,  0}, {"of one bar", second,                   10, 15, 1},
+        {"back in time",    {},                       1, 16, 0}, {"to its end", {},                       15, 31, 0},
+        {"too late to end", second,                   1, 0,  1}, {"then next",  {},                       15, 15, 1},
+        {"and back",        {},                       1, 16, 0},
     };
     // clang-format on
     Put(0, {{17, 2u}});
@@ -66,13 +66,14 @@ TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
 // Edit mode: a sampler's steps go on, edited, off; a synth's step takes a chord; bars are marked.
 TEST_F(Sequencer, EditsSteps)
 {
-    constexpr int kStep1 = param::Step1, kBar3 = kStep1 + 18;
+    constexpr int kStep1 = param::Step1, kBar3 = param::Bar1 + 2;
     // clang-format off
     struct Case { const char* what; std::vector<int> presses; int edited, bar, mark; Steps notes; };
     const Case cases[] = {
-        {"on",         {kStep1 + 5},             -1, 0, -1, {{5, 0x20u}}}, {"edited",      {kStep1 + 5},          5,  0, -1, {{5, 0x20u}}},
-        {"off",        {kStep1 + 5},             -1, 0, -1, {}},           {"a bar",       {kBar3},               -1, 2, 2,  {}},
-        {"its mark",   {kBar3},                  -1, 2, -1, {}},           {"of a synth",  {param::Channel1 + 8, kStep1 + 3}, 3, 2, -1, {}},
+        {"on",         {kStep1 + 5},    -1, 0, -1, {{5, 0x20u}}}, {"edited", {kStep1 + 5}, 5,  0, -1, {{5, 0x20u}}},
+        {"off",        {kStep1 + 5},    -1, 0, -1, {}},           {"a bar",  {kBar3},      -1, 2, 2,  {}},
+        {"its mark",   {kBar3},         -1, 2, -1, {}},
+        {"of a synth", {param::Channel1 + 8, kStep1 + 3}, 3, 2, -1, {}},
         {"a chord",    {kStep1, kStep1 + 7, kStep1 + 23, kStep1 + 7}, 3, 2, -1, {{35, 0x800001u}}},
         {"next step",  {param::Forward},         4,  2, -1, {{35, 0x800001u}}},
         {"bar before", std::vector(5, +param::Back), 15, 1, -1, {{35, 0x800001u}}},
@@ -98,7 +99,8 @@ TEST_F(Sequencer, EditedStepTakesLocks)
     constexpr int kPan = ParamOf(slot::Panning), kLevel = ParamOf(slot::MixLevel),
                   kCutoff = ParamOf(slot::FilterCutoff);
     Put(8, {{17, 1u}, {19, 1u}});
-    engine.editStep = 1, engine.selectedBar = 1;
+    engine.editStep = 1;
+    engine.selectedBar = 1;
     Set({{kLevel, 0.5f}, {kPan, 0.25f}, {kCutoff, 0.5f}, {kPan, 1.0f}});
     EXPECT_FLOAT_EQ(Synth().GetParameter(kPan), 1.0f);
     Set(kCutoff, 1.0f); // as stored: no lock
@@ -113,16 +115,22 @@ TEST_F(Sequencer, EditedStepTakesLocks)
     Play(kStep);
     EXPECT_NEAR(Left(8).back(), 5.0f * locked, 0.01f * locked);
     EXPECT_EQ(Right(8).back(), Left(8).back());
+    Play(30 * kStep); // to the locked step again
+    Set({{param::Play, 0.0f}, {param::Play, 1.0f}});
+    EXPECT_EQ(engine.Channel(8).params[slot::Panning], 0.5f) << "a new start finds no lock of the last one";
 }
 
 TEST_F(Sequencer, CopiesPastesAndClears)
 {
-    Put(8, {{1, 5u}}), Put(0, {{1, 2u}}), Put(2, {{20, 16u}});
+    Put(8, {{1, 5u}});
+    Put(0, {{1, 2u}});
+    Put(2, {{20, 16u}});
     Locks(8, 1).Set(slot::NoteLength, 0.25f);
     engine.ToggleEdit();
     engine.editStep = 1;
     engine.Copy();
-    engine.selectedBar = 4, engine.editStep = 7;
+    engine.selectedBar = 4;
+    engine.editStep = 7;
     engine.channelMarked[0] = engine.channelMarked[3] = true;
     engine.Paste();
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}}));
@@ -134,7 +142,7 @@ TEST_F(Sequencer, CopiesPastesAndClears)
     EXPECT_EQ(Notes(2, 5), Notes(2));
     engine.selectedBar = 0;
     engine.Copy();
-    Press(param::Step1 + 16 + 6);
+    Press(param::Bar1 + 6);
     engine.Paste();
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}, {97, 5u}}));
     engine.Clear();

@@ -10,7 +10,6 @@ class Transport : public StageTest {
 protected:
     void StartAt(double position)
     {
-        Synth().SetPlaying(false);
         Synth().Reset();
         Synth().songPosition = position;
         Synth().SetPlaying(true);
@@ -26,16 +25,18 @@ TEST_F(Transport, FollowsHostAndButtons)
     // clang-format off
     struct Case { const char* what; Writes before; Host host; Writes after; const char* left; };
     const Case cases[] = {
-        {"start",               {},             Start,  {}, "P.S."},                      {"stop",       play,  Stop,  {}, "...."},
-        {"stop twice",          {},             Stop,   {}, "...."},                      {"restart",    play,  Start, {}, "P.S."},
-        {"armed, then started", arm,            Start,  {}, "PR.M"},                      {"armed",      arm,   Stop,  {}, ".R.."},
-        {"recording, stop",     overdub,        Stop,   {}, "...."},                      {"to overdub", overdub, Silent, {}, "PRS."},
-        {"recording, restart",  overdub,        Start,  {}, "P.S."},                      {"no more",    overdub, Silent, {{param::Record, 0.0f}}, "P.S."},
-        {"counting in, stop",   fromStandstill, Stop,   {}, "...."},                      {"edit mode",  overdub, Silent, {{param::Edit, 1.0f}}, "P.S."},
-        {"from standstill",     fromStandstill, Silent, {{param::Record, 0.0f}}, "...."}, {"counting in", fromStandstill, Silent, {}, "PR.M"},
-        {"the stop button",     fromStandstill, Silent, {{param::Play, 0.0f}}, "...."},
-        {"another pattern",     overdub,        Silent, {{param::Pattern1 + 1, 1.0f}}, "P.S."},
-        {"editing",             fromStandstill, Silent, {{param::Edit, 1.0f}}, "P.S."},
+        {"start",               {},      Start,  {}, "P.S."}, {"stop",       play,    Stop,   {}, "...."},
+        {"stop twice",          {},      Stop,   {}, "...."}, {"restart",    play,    Start,  {}, "P.S."},
+        {"armed, then started", arm,     Start,  {}, "PR.M"}, {"armed",      arm,     Stop,   {}, ".R.."},
+        {"recording, stop",     overdub, Stop,   {}, "...."}, {"to overdub", overdub, Silent, {}, "PRS."},
+        {"recording, restart",  overdub, Start,  {}, "P.S."},
+        {"recording no more",   overdub, Silent, {{param::Record, 0.0f}}, "P.S."},
+        {"edit mode",           overdub, Silent, {{param::Edit, 1.0f}}, "P.S."},
+        {"another pattern",     overdub, Silent, {{param::Pattern1 + 1, 1.0f}}, "P.S."},
+        {"counting in, stop", fromStandstill, Stop, {}, "...."}, {"counting in", fromStandstill, Silent, {}, "PR.M"},
+        {"from standstill",   fromStandstill, Silent, {{param::Record, 0.0f}}, "...."},
+        {"the stop button",   fromStandstill, Silent, {{param::Play, 0.0f}}, "...."},
+        {"editing",           fromStandstill, Silent, {{param::Edit, 1.0f}}, "P.S."},
     };
     // clang-format on
     PutStep(8, 0);
@@ -56,8 +57,8 @@ TEST_F(Transport, FollowsHostAndButtons)
     }
 }
 
-// A start lands on the host's position; a step already begun is left to the next one. Shuffle delays odd steps by up
-// to half a step, heard with the block that follows.
+// A start, or a restart, lands on the host's position; a step already begun is left to the next one. Shuffle delays odd
+// steps by up to half a step, heard with the block that follows.
 TEST_F(Transport, StepsComeInTime)
 {
     constexpr int kBlock = 50;
@@ -65,17 +66,18 @@ TEST_F(Transport, StepsComeInTime)
     // clang-format off
     struct Case { const char* what; double position; int step; Writes writes; int frame; };
     const Case cases[] = {
-        {"the first",               0.0,   0,  {}, 0},       {"the second",                0.0,            1,  {}, kStep},
-        {"on a step of the song",   2.5,   10, {}, 0},       {"less than a hundredth in",  2.502,          10, {}, 0},
-        {"inside a step",           2.625, 11, {}, 3000},    {"late inside a step",        2.6875,         11, {}, 1500},
-        {"the pattern begins anew", 4.25,  1,  {}, 0},       {"far away",                  1.0e9 + 0.25,   1,  {}, 0},
-        {"before zero",             -3.0,  0,  {}, 0},       {"nowhere",                   std::nan(""),   0,  {}, 0},
+        {"the first",               0.0,   0,  {}, 0},       {"the second",                0.0,      1,  {}, kStep},
+        {"on a step of the song",   2.5,   10, {}, 0},       {"less than a hundredth in",  2.502,    10, {}, 0},
+        {"inside a step",           2.625, 11, {}, 3000},    {"a sixteenth in",            2.515625, 11, {}, 5625},
+        {"late inside a step",      2.6875, 11, {}, 1500},   {"far away",                  1e9 + 0.25, 1, {}, 0},
+        {"the pattern begins anew", 4.25,  1,  {}, 0},       {"nowhere",                   std::nan(""), 0, {}, 0},
+        {"before zero",             -3.0,  0,  {}, 0},
         {"not for this one",        0.0,   1,  {{param::ShuffleAmount, 1.0f}}, kStep},
         {"all shuffle",             0.0,   1,  {{enable, 1.0f}}, 9000},
         {"which is for odd steps",  0.0,   2,  {}, 2 * kStep},
         {"half the shuffle",        0.0,   1,  {{param::ShuffleAmount, 0.5f}}, 7500},
         {"beyond its end",          0.0,   1,  {{param::ShuffleAmount, 7.0f}}, 9000},
-        {"straight in a recording", 0.0,   1,  {{param::Record, 1.0f}}, 17 * kStep},
+        {"straight in a recording", 0.0,   1,  {{param::Play, 0.0f}, {param::Record, 1.0f}}, 17 * kStep},
         {"no shuffle",              0.0,   1,  {{param::ShuffleAmount, 0.0f}}, kStep},
         {"the bar that is looped",  4.25,  33, {{param::Forward, 1.0f}, {param::Forward, 0.0f},
                                                 {param::Forward, 1.0f}, {param::PlayBar, 1.0f}}, 0},
@@ -84,7 +86,6 @@ TEST_F(Transport, StepsComeInTime)
     for (const Case& c : cases) {
         Engine().Pattern().Clear();
         PutStep(8, c.step);
-        Synth().SetPlaying(false);
         Set(c.writes);
         StartAt(c.position);
         Play(c.frame + 2 * kBlock, kBlock);
@@ -101,16 +102,17 @@ bool Repeats(const std::vector<float>& sound, int slice)
     return std::equal(from, to, from + slice, alike) || std::equal(from, to, from + slice + 1, alike);
 }
 
-// A stutter button takes the selected channel's sound from the next step on.
+// A stutter button takes the selected channel's sound from the next step on, until a stop.
 TEST_F(Transport, StutterButtonsLoopFromTheNextStep)
 {
     // clang-format off
     const std::pair<Writes, int> cases[] = { // presses, length of the loop in frames
-        {{{param::Stutter1_1, 1.0f}}, 24000}, {{{param::Stutter3_4, 1.0f}}, 18000}, {{{param::Stutter1_2, 1.0f}}, 12000},
-        {{{param::Stutter3_8, 1.0f}}, 9000},  {{{param::Stutter1_4, 1.0f}}, 6000},
+        {{{param::Stutter1_1, 1.0f}}, 24000}, {{{param::Stutter3_4, 1.0f}}, 18000},
+        {{{param::Stutter1_2, 1.0f}}, 12000}, {{{param::Stutter3_8, 1.0f}}, 9000},
         {{{param::Stutter3_8, 1.0f}, {param::Stutter1_4, 1.0f}}, 3000},
         {{{param::Stutter1_4, 1.0f}, {param::Stutter1_4, 0.0f}}, 0},
         {{{ParamOf(slot::FxBypassStutter), 1.0f}, {param::Stutter1_4, 1.0f}}, 0},
+        {{{param::Stutter1_4, 1.0f}}, 6000},
     };
     // clang-format on
     for (const int c : {9, 8}) {
@@ -118,29 +120,36 @@ TEST_F(Transport, StutterButtonsLoopFromTheNextStep)
         Set(ParamOf(slot::NoiseMix), 1.0f);
         PutStep(c, 0);
     }
-    for (const auto& [presses, frames] : cases) {
-        StartAt(0.0);
-        Play(kStep - 100);
-        Set(presses);
-        Play(100);
-        Play(52000);
-        int shortest = 0;
-        for (const int slice : {24000, 18000, 12000, 9000, 6000, 3000})
-            if (Repeats(Left(8), slice)) shortest = slice;
-        EXPECT_EQ(shortest, frames);
-        EXPECT_FALSE(Repeats(Left(9), 6000)) << "not selected";
-        for (const auto& [parameter, value] : presses) Set(parameter, 0.0f);
+    for (const int rate : {1, 2}) { // the last stutter sounds on while the rate changes
+        Synth().SetSampleRate(rate * kRate);
+        for (const auto& [presses, frames] : cases) {
+            StartAt(0.0);
+            Play(rate * kStep - 100);
+            Set(presses);
+            Play(100);
+            Play(rate * 52000);
+            int shortest = 0;
+            for (const int slice : {24000, 18000, 12000, 9000, 6000, 3000})
+                if (Repeats(Left(8), rate * slice)) shortest = slice;
+            EXPECT_EQ(shortest, frames) << rate;
+            EXPECT_FALSE(Repeats(Left(9), rate * 6000)) << "not selected";
+            for (const auto& [parameter, value] : presses) Set(parameter, 0.0f);
+        }
     }
+    Synth().SetPlaying(false);
+    Queue(0x90, kAnyKey, 127);
+    Play(4 * kStep);
+    Play(8 * kStep);
+    EXPECT_FALSE(Repeats(Left(8), 2 * 6000)) << "stopped";
 }
 
 // An effect's LFO stands where the song stands, whatever went before.
 TEST_F(Transport, EffectLfosFollowTheSong)
 {
-    constexpr int kPanner = 8;
-    Press(param::Fx1 + kPanner);
+    Press(param::Fx1 + static_cast<int>(FxType::Panner));
     Set({{ParamOf(slot::FxGlue), 1.0f},
          {ParamOf(slot::FxLfoAmount), 1.0f},
-         {ParamOf(slot::FxLfoRate), 0.8f}}); // four beats
+         {ParamOf(slot::FxLfoRate), 1.0f}}); // eight beats, twice the pattern
     PutStep(9, 0);
     const auto after = [this](int idle, double position) {
         StartAt(position);
@@ -150,12 +159,12 @@ TEST_F(Transport, EffectLfosFollowTheSong)
         Play(idle);
         Set(param::Play, 1.0f);
         Play(kStep);
-        return Left(8).back();
+        return Right(8).back();
     };
     const float first = after(1000, 0.0);
     EXPECT_NEAR(after(40000, 0.0) / first, 1.0f, 0.01f);
-    EXPECT_NEAR(after(40000, 8.0) / first, 1.0f, 0.01f) << "two periods on";
-    EXPECT_GT(std::fabs(after(40000, 1.0) / first - 1.0f), 0.1f) << "a quarter of a period on";
+    EXPECT_NEAR(after(40000, 16.0) / first, 1.0f, 0.01f) << "two periods on";
+    EXPECT_GT(std::fabs(after(40000, 6.0) / first - 1.0f), 0.1f) << "three quarters of a period on";
 }
 
 // A press belongs to the nearer step, of the channel that it plays, with the time that it is held. It is not played
@@ -166,9 +175,9 @@ TEST_F(Transport, RecordsOnTheNearerStep)
     // clang-format off
     struct Case { const char* what; bool standstill; int selected, frame, button, channel, step; std::uint32_t word; };
     const Case cases[] = {
-        {"first half",      false, 8, 700,               7,  8, 0, 1u << 7},  {"second half",     false, 8, 800, 7,  8, 1, 1u << 7},
-        {"the end",         false, 8, 15 * kShort + 800, 7,  8, 0, 1u << 7},  {"a bar button",    false, 9, 100, 20, 9, 0, 1u << 20},
-        {"a sampler's pad", false, 0, 2 * kShort + 100,  14, 1, 2, 1u << 2},  {"a pad of nobody", false, 3, 800, 13, 3, 1, 1u << 1},
+        {"first half",  false, 8, 700, 7, 8, 0, 1u << 7}, {"a pad of nobody", false, 3, 800, 13, 3, 1, 1u << 1},
+        {"second half", false, 8, 800, 7, 8, 1, 1u << 7}, {"a sampler", false, 0, 2 * kShort + 100, 14, 1, 2, 1u << 2},
+        {"the end", false, 8, 15 * kShort + 800, 7, 8, 0, 1u << 7}, {"a bar button", false, 9, 100, 20, 9, 0, 1u << 20},
         {"in the count-in", true,  8, 8 * kShort + 800,  7,  8, 0, 1u << 7},
         {"a second bar",    true,  8, kCountIn + 16 * kShort + 100, 7, 8, 16, 1u << 7},
     };

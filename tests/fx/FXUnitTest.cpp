@@ -32,6 +32,7 @@ TEST(FXUnit, ActsOnASineAsItIsSet)
         {FxType::Decimator,  0.3f, 0.7f, -0.4f,   0.5f, 2,  600,  8640, {1.92, -34.0}, {1.92, -34.0}},
         {FxType::Chorus,     0.2f, 0.9f,  0.0f,   1.0f, 0, 1500,  9600, {12.92, 93.4}, {12.92, 93.4}},
         {FxType::Chorus,     0.8f, 0.5f,  0.0f,   1.0f, 0, 1500,     0, {0.14, 67.0}, {0.14, 67.0}},
+        {FxType::Chorus,     1.0f, 0.5f,  0.0f,   1.0f, 0, 5000,  9600, {-3.06, -159.0}, {-3.06, -159.0}},
         {FxType::Chorus,     0.4f, 0.5f,  0.4f,   1.0f, 2,  700, 14400, {9.90, -28.3}, {9.90, -28.3}},
         {FxType::Chorus,     0.5f, 0.5f, -0.3f,   0.5f, 0,  400,  9600, {4.89, -6.8}, {4.89, -6.8}},
         {FxType::Phaser,     0.5f, 0.7f,  0.0f,   1.0f, 0, 5000,  9600, {-4.66, -30.6}, {-4.66, -30.6}},
@@ -44,7 +45,7 @@ TEST(FXUnit, ActsOnASineAsItIsSet)
         {FxType::LowPass,    1.0f, 0.5f,  0.0f,   1.0f, 0, 9000,  9600, {4.84, -57.0}, {4.84, -57.0}},
         {FxType::HighPass,   0.3f, 0.9f,  0.0f,   1.0f, 0,  200,  9600, {11.50, -150.0}, {11.50, -150.0}},
         {FxType::HighPass,   0.4f, 0.5f,  0.3f,   1.0f, 2,  700,  9600, {-1.19, -122.6}, {-1.19, -122.6}},
-        {FxType::HighPass,   0.6f, 0.5f, -0.3f,   0.5f, 1,  400,  4800, {0.46, 152.6}, {0.46, 152.6}},
+        {FxType::HighPass,   0.6f, 0.5f, -0.3f,   0.5f, 1,  400,  9600, {-10.69, 9.3}, {-10.69, 9.3}},
         {FxType::Echo,       0.8f, 0.5f,  0.0f,  0.25f, 0,  500, 19200, {-5.33, 11.5}, {-5.33, 11.5}},
         {FxType::Echo,       0.7f, 0.3f,  0.0f,   0.5f, 0, 1000, 14400, {3.03, -10.4}, {3.03, -10.4}},
         {FxType::Echo,       0.7f, 0.8f,  0.0f,  0.25f, 0,  400, 14400, {0.10, 2.5}, {0.10, 2.5}},
@@ -151,29 +152,30 @@ TEST(FXUnit, TailsRingOutAndEnd)
     }
 }
 
-// Reset makes a used unit sound as a new one does.
+// Reset makes a used unit sound as a new one does, at the rate that it is given.
 TEST(FXUnit, ForgetsEverythingAtAReset)
 {
-    for (const FxType type : kAllTypes) {
-        SCOPED_TRACE(Named(type));
-        Played used(type, 0.7f, 0.7f), fresh(type, 0.7f, 0.7f);
-        for (FXUnit* unit : {&used, &fresh}) {
-            unit->lfoAmount = 0.4f;
-            unit->lfoBeats = 0.25f;
-            unit->eqOn = 1;
-            unit->eqGains.fill(0.7f);
+    for (const FxType type : kAllTypes)
+        for (const float rate : {kRate, 44100.0f}) {
+            SCOPED_TRACE(Named(type) << ", before at " << rate);
+            Played used(type, 0.7f, 0.7f, rate), fresh(type, 0.7f, 0.7f);
+            for (FXUnit* unit : {&used, &fresh}) {
+                unit->lfoAmount = 0.4f;
+                unit->lfoBeats = 0.25f;
+                unit->eqOn = 1;
+                unit->eqGains.fill(0.7f);
+            }
+            const Sound input = Noise(20000);
+            Sound before = input, after = input, expected = input;
+            used.x = 0.2f;
+            used.Run(before);
+            used.Reset(kRate);
+            used.x = fresh.x;
+            EXPECT_FALSE(used.HasTail());
+            used.Run(after);
+            fresh.Run(expected);
+            EXPECT_TRUE(after.left == expected.left && after.right == expected.right);
         }
-        const Sound input = Noise(20000);
-        Sound before = input, after = input, expected = input;
-        used.x = 0.2f;
-        used.Run(before);
-        used.Reset(0.0f);
-        used.x = fresh.x;
-        EXPECT_FALSE(used.HasTail());
-        used.Run(after);
-        fresh.Run(expected);
-        EXPECT_TRUE(after.left == expected.left && after.right == expected.right);
-    }
 }
 
 // One silent block for a bad number or an overflow, then the unit works as a fresh one would, at any rate.

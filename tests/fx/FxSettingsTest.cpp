@@ -17,6 +17,7 @@ struct Rack {
             params[slot::FxLfoAmount + k] = 0.5f;
         }
     }
+    FXUnit& Unit(FxType type) { return *units[static_cast<std::size_t>(type)]; }
     void Update() { UpdateFxSettings(params, active, units, stutter); }
 
     Shared<float> params[kChannelSlots];
@@ -27,45 +28,46 @@ struct Rack {
 
 TEST(FxSettings, TurnParametersIntoFields)
 {
+    using enum FxType;
     // clang-format off
-    const auto x = [](const FXUnit& u) { return u.x; };
-    const auto y = [](const FXUnit& u) { return u.y; };
-    const auto beats = [](const FXUnit& u) { return u.lfoBeats; };
-    const auto amount = [](const FXUnit& u) { return u.lfoAmount; };
-    const auto shape = [](const FXUnit& u) { return static_cast<float>(u.lfoShape); };
-    const auto bypass = [](const FXUnit& u) { return static_cast<float>(u.bypass); };
-    const struct { int k, base; float value; const char* field; float expected; float (*read)(const FXUnit&); } cases[] = {
-        {3, slot::FxX,         0.25f,      "x",      0.25f,   x},      {3, slot::FxX,         2.0f,   "x",      1.0f,  x},
-        {9, slot::FxY,         0.75f,      "y",      0.75f,   y},      {9, slot::FxY,        -1.0f,   "y",      0.0f,  y},
-        {0, slot::FxLfoRate,   0.0f,       "beats",  0.125f,  beats},  {0, slot::FxLfoRate,   0.2f,   "beats",  0.25f, beats},
-        {0, slot::FxLfoRate,   0.3f,       "beats",  0.375f,  beats},  {0, slot::FxLfoRate,   0.4f,   "beats",  0.5f,  beats},
-        {0, slot::FxLfoRate,   0.5f,       "beats",  0.75f,   beats},  {0, slot::FxLfoRate,   0.557f, "beats",  1.0f,  beats},
-        {0, slot::FxLfoRate,   0.7f,       "beats",  2.0f,    beats},  {0, slot::FxLfoRate,   0.8f,   "beats",  4.0f,  beats},
-        {9, slot::FxLfoRate,   1.0f,       "beats",  8.0f,    beats},  {0, slot::FxLfoRate,   1e30f,  "beats",  8.0f,  beats},
-        {9, slot::FxLfoSync,   0.1f,       "beats",  0.5f,    beats},
-        {2, slot::FxLfoAmount, 0.75f,      "amount", 0.25f,   amount}, {2, slot::FxLfoAmount, 0.25f,  "amount", -0.25f, amount},
-        {2, slot::FxLfoAmount, 0.5f,       "amount", 0.0f,    amount}, {2, slot::FxLfoAmount, 9.0f,   "amount", 1.0f,  amount},
-        {2, slot::FxLfoShape,  0.334f,     "shape",  1.0f,    shape},  {2, slot::FxLfoShape,  0.99f,  "shape",  2.0f,  shape},
-        {2, slot::FxLfoShape,  7.0f,       "shape",  3.0f,    shape},  {2, slot::FxLfoShape, -7.0f,   "shape",  0.0f,  shape},
-        {5, slot::FxGlue,      0.1f,       "glued",  0.0f,    bypass}, {5, slot::FxGlue,      0.0f,  "released", 1.0f, bypass},
+    struct Field { const char* name; float (*read)(const FXUnit&); };
+    const Field x{"x", [](const FXUnit& u) { return u.x; }}, y{"y", [](const FXUnit& u) { return u.y; }},
+        beats{"beats", [](const FXUnit& u) { return u.lfoBeats; }},
+        amount{"amount", [](const FXUnit& u) { return u.lfoAmount; }},
+        shape{"shape", [](const FXUnit& u) { return static_cast<float>(u.lfoShape); }},
+        bypass{"bypass", [](const FXUnit& u) { return static_cast<float>(u.bypass); }};
+    const struct { FxType type; int base; float value; Field field; float expected; } cases[] = {
+        {Phaser,     slot::FxX,         0.25f,  x,      0.25f},  {Phaser,     slot::FxX,         2.0f,   x,      1.0f},
+        {Pump,       slot::FxY,         0.75f,  y,      0.75f},  {Pump,       slot::FxY,         -1.0f,  y,      0.0f},
+        {Distortion, slot::FxLfoRate,   0.0f,   beats,  0.125f}, {Distortion, slot::FxLfoRate,   0.2f,   beats,  0.25f},
+        {Distortion, slot::FxLfoRate,   0.3f,   beats,  0.375f}, {Distortion, slot::FxLfoRate,   0.4f,   beats,  0.5f},
+        {Distortion, slot::FxLfoRate,   0.5f,   beats,  0.75f},  {Distortion, slot::FxLfoRate,   0.557f, beats,  1.0f},
+        {Distortion, slot::FxLfoRate,   0.7f,   beats,  2.0f},   {Distortion, slot::FxLfoRate,   0.8f,   beats,  4.0f},
+        {Pump,       slot::FxLfoRate,   1.0f,   beats,  8.0f},   {Distortion, slot::FxLfoRate,   1e30f,  beats,  8.0f},
+        {Pump,       slot::FxLfoSync,   0.1f,   beats,  0.5f},   {Chorus,     slot::FxLfoAmount, 0.0f,   amount, -1.0f},
+        {Chorus, slot::FxLfoAmount, 0.75f,  amount, 0.25f}, {Chorus, slot::FxLfoAmount, 0.25f,  amount, -0.25f},
+        {Chorus,     slot::FxLfoAmount, 0.5f,   amount, 0.0f},   {Chorus,     slot::FxLfoAmount, 9.0f,   amount, 1.0f},
+        {Chorus,     slot::FxLfoShape,  0.334f, shape,  1.0f},   {Chorus,     slot::FxLfoShape,  0.99f,  shape,  2.0f},
+        {Chorus,     slot::FxLfoShape,  7.0f,   shape,  3.0f},   {Chorus,     slot::FxLfoShape,  -7.0f,  shape,  0.0f},
+        {HighPass,   slot::FxGlue,      0.1f,   bypass, 0.0f},   {HighPass,   slot::FxGlue,      0.0f,   bypass, 1.0f},
     };
     // clang-format on
     for (const auto& c : cases) {
         Rack rack;
-        rack.params[c.base + c.k] = c.value;
+        rack.params[c.base + static_cast<int>(c.type)] = c.value;
         rack.Update();
-        EXPECT_EQ(c.read(*rack.units[c.k]), c.expected) << c.field << " from " << c.value;
+        EXPECT_EQ(c.field.read(rack.Unit(c.type)), c.expected) << c.field.name << " from " << c.value;
     }
     Rack rack;
-    rack.active[4] = true;
+    rack.active[static_cast<int>(LowPass)] = true;
     rack.Update();
-    for (int k = 0; k < kEffects; ++k) EXPECT_EQ(rack.units[k]->bypass, k != 4);
+    for (const auto& unit : rack.units) EXPECT_EQ(unit->bypass, unit->type != LowPass);
 }
 
 TEST(FxSettings, MarkChangedEqualiserBandsAndBypassTheStutter)
 {
     Rack rack;
-    FXUnit& pump = *rack.units[9];
+    FXUnit& pump = rack.Unit(FxType::Pump);
     for (int n = 0; n < 5; ++n) rack.params[slot::EqGain + n] = 0.5f;
     rack.Update();
     pump.eqChanged = {};
@@ -86,7 +88,8 @@ TEST(SyncLfo, PutsThePhaseWhereTheSongIs)
 {
     // clang-format off
     const struct { float beats; int step; double phase; } cases[] = {
-        {1.0f, 0, 0.0}, {1.0f, 5, 0.25}, {0.125f, 3, 0.0}, {0.375f, 2, 1.0 / 3.0}, {32.0f, 127, 127.0 / 128.0}, {0.0f, 5, 0.7}};
+        {1.0f,   0, 0.0},       {1.0f,  5,   0.25},          {0.125f, 3, 0.0},
+        {0.375f, 2, 1.0 / 3.0}, {32.0f, 127, 127.0 / 128.0}, {0.0f,   5, 0.7}};
     // clang-format on
     for (const auto& c : cases) {
         FXUnit unit(FxType::Chorus);
