@@ -17,43 +17,34 @@ struct Range {
 };
 
 // clang-format off
+// Several from one slot on: of all pages, layers or effects, of the oscillators that follow.
 constexpr Range kRanges[] = {
-    {slot::MixLevel, 1, 0.62f, 0.72f},          {slot::Panning, 1, 0.25f, 0.75f},
-    {slot::Pitch, 1, 0.25f, 0.75f},             {slot::NoteLength, 1, 0.2f, 0.6f},
-    {slot::AmpAttack, 1, 0.0f, 0.15f},          {slot::AmpDecay, 1, 0.3f, 0.8f},
-    {slot::AmpSustain, 1, 0.3f, 1.0f},          {slot::AmpRelease, 1, 0.0f, 0.3f},
-    {slot::AmpLevel, 1, 0.35f, 0.45f},          {slot::ShuffleEnable, 1, 0.0f, 1.0f, 2},
-    {slot::SlideTime, 1, 0.0f, 0.5f},           {slot::SlideEnable, 1, 0.0f, 1.0f, 2},
-    {slot::FilterResonance, 1, 0.0f, 0.8f},     {slot::FilterTracking, 1, 0.0f, 1.0f},
-    {slot::FilterType, 1, 0.0f, 1.0f, 3},       {slot::EnvelopeAmount, 2, 0.1f, 0.5f},
-    {slot::EnvelopeInvert, 2, 0.0f, 1.0f, 2},   {slot::EnvelopeAttack, 2, 0.0f, 0.4f},
-    {slot::EnvelopeDecay, 2, 0.2f, 0.6f},       {slot::EnvelopeDestination, 2, 0.0f, 1.0f, 4},
-    {slot::LfoRetrig, 2, 0.0f, 1.0f, 2},        {slot::LfoAmount, 2, 0.1f, 0.6f},
-    {slot::LfoInvert, 2, 0.0f, 1.0f, 2},        {slot::LfoShape, 2, 0.0f, 1.0f, 4},
-    {slot::LfoRate, 2, 0.0f, 1.0f},             {slot::LfoSync, 2, 0.0f, 1.0f, 3},
-    {slot::LfoDestination, 2, 0.0f, 1.0f, 4},   {slot::MonoVoice, 1, 0.0f, 1.0f, 2},
-    {slot::UnisonVoices, 1, 0.0f, 1.0f, 16},    {slot::UnisonDetune, 1, 0.0f, 1.0f},
-    {slot::UnisonStereo, 1, 0.0f, 1.0f},        {slot::Octave, 1, 0.25f, 0.75f, 3},
-    {slot::NoiseMix, 1, 0.0f, 0.5f},            {slot::UnisonPhase, 1, 0.0f, 1.0f},
-    {slot::UnisonRetrig, 1, 0.0f, 1.0f, 2},     {slot::MixOsc2, 2, 0.0f, 1.0f}, // and of oscillator 3
-    {slot::Modulation, 1, 0.1f, 0.8f},          {slot::ModKind, 1, 0.0f, 2.0f, 3},
-    {slot::PhaseOffsetOsc2, 1, 0.0f, 1.0f},     {slot::PhaseRetrigOsc2, 1, 0.0f, 1.0f, 2},
-    {slot::Osc2Invert, 1, 0.0f, 1.0f, 2},       {slot::Osc1Pitch, 6, 0.3f, 0.7f}, // and detunes
-    {slot::LayerLevel, 4, 0.3f, 0.8f},          {slot::LayerPan, 4, 0.0f, 1.0f},
-    {slot::LayerPitch, 4, 0.3f, 0.7f},          {slot::LayerAttack, 4, 0.0f, 0.3f},
-    {slot::LayerHold, 4, 0.0f, 0.5f},           {slot::LayerDecay, 4, 0.4f, 1.0f},
-    {slot::LayerLoCut, 4, 0.0f, 0.3f},          {slot::LayerHiCut, 4, 0.6f, 1.0f},
-    {slot::LayerBandwidth, 4, 0.0f, 1.0f},      {slot::LayerDelay, 4, 0.0f, 0.3f},
-    {slot::LayerStart, 4, 0.0f, 0.2f},          {slot::LayerInvert, 4, 0.0f, 1.0f, 2},
-    {slot::LayerReverse, 4, 0.0f, 1.0f, 2},     {slot::FxX, 10, 0.2f, 0.8f},
-    {slot::FxY, 10, 0.2f, 0.8f},                {slot::FxLfoRate, 10, 0.0f, 0.8f},
-    {slot::FxLfoShape, 10, 0.0f, 1.0f, 4},      {slot::FxLfoSync, 10, 0.0f, 1.0f, 2},
-    {slot::FxLfoAmount, 10, 0.2f, 0.8f},        {slot::VelocityAmount, 1, 0.0f, 1.0f},
+    {slot::MixLevel, 1, 0.62f, 0.72f}, {slot::Panning, 1, 0.25f, 0.75f}, {slot::Pitch, 1, 0.25f, 0.75f},
+    {slot::NoteLength, 1, 0.2f, 0.6f}, {slot::AmpAttack, 1, 0.0f, 0.15f}, {slot::AmpDecay, 1, 0.3f, 0.8f},
+    {slot::AmpSustain, 1, 0.3f, 1.0f}, {slot::AmpRelease, 1, 0.0f, 0.3f}, {slot::AmpLevel, 1, 0.35f, 0.45f},
+    {slot::ShuffleEnable, 1, 0.0f, 1.0f, 2}, {slot::SlideTime, 1, 0.0f, 0.5f}, {slot::SlideEnable, 1, 0.0f, 1.0f, 2},
+    {slot::FilterResonance, 1, 0.0f, 0.8f}, {slot::FilterTracking, 1, 0.0f, 1.0f}, {slot::FilterType, 1, 0.0f, 1.0f, 3},
+    {slot::EnvelopeAmount, 2, 0.1f, 0.5f}, {slot::EnvelopeInvert, 2, 0.0f, 1.0f, 2},
+    {slot::EnvelopeAttack, 2, 0.0f, 0.4f}, {slot::EnvelopeDecay, 2, 0.2f, 0.6f},
+    {slot::EnvelopeDestination, 2, 0.0f, 1.0f, 4}, {slot::LfoRetrig, 2, 0.0f, 1.0f, 2},
+    {slot::LfoAmount, 2, 0.1f, 0.6f}, {slot::LfoInvert, 2, 0.0f, 1.0f, 2}, {slot::LfoShape, 2, 0.0f, 1.0f, 4},
+    {slot::LfoRate, 2, 0.0f, 1.0f}, {slot::LfoSync, 2, 0.0f, 1.0f, 3}, {slot::LfoDestination, 2, 0.0f, 1.0f, 4},
+    {slot::MonoVoice, 1, 0.0f, 1.0f, 2}, {slot::UnisonVoices, 1, 0.0f, 1.0f, 16}, {slot::UnisonDetune, 1, 0.0f, 1.0f},
+    {slot::UnisonStereo, 1, 0.0f, 1.0f}, {slot::Octave, 1, 0.25f, 0.75f, 3}, {slot::NoiseMix, 1, 0.0f, 0.5f},
+    {slot::UnisonPhase, 1, 0.0f, 1.0f}, {slot::UnisonRetrig, 1, 0.0f, 1.0f, 2}, {slot::MixOsc2, 2, 0.0f, 1.0f},
+    {slot::Modulation, 1, 0.1f, 0.8f}, {slot::ModKind, 1, 0.0f, 2.0f, 3}, {slot::PhaseOffsetOsc2, 1, 0.0f, 1.0f},
+    {slot::PhaseRetrigOsc2, 1, 0.0f, 1.0f, 2}, {slot::Osc2Invert, 1, 0.0f, 1.0f, 2}, {slot::Osc1Pitch, 6, 0.3f, 0.7f},
+    {slot::LayerLevel, 4, 0.3f, 0.8f}, {slot::LayerPan, 4, 0.0f, 1.0f}, {slot::LayerPitch, 4, 0.3f, 0.7f},
+    {slot::LayerAttack, 4, 0.0f, 0.3f}, {slot::LayerHold, 4, 0.0f, 0.5f}, {slot::LayerDecay, 4, 0.4f, 1.0f},
+    {slot::LayerLoCut, 4, 0.0f, 0.3f}, {slot::LayerHiCut, 4, 0.6f, 1.0f}, {slot::LayerBandwidth, 4, 0.0f, 1.0f},
+    {slot::LayerDelay, 4, 0.0f, 0.3f}, {slot::LayerStart, 4, 0.0f, 0.2f}, {slot::LayerInvert, 4, 0.0f, 1.0f, 2},
+    {slot::LayerReverse, 4, 0.0f, 1.0f, 2}, {slot::FxX, 10, 0.2f, 0.8f}, {slot::FxY, 10, 0.2f, 0.8f},
+    {slot::FxLfoRate, 10, 0.0f, 0.8f}, {slot::FxLfoShape, 10, 0.0f, 1.0f, 4}, {slot::FxLfoSync, 10, 0.0f, 1.0f, 2},
+    {slot::FxLfoAmount, 10, 0.2f, 0.8f}, {slot::VelocityAmount, 1, 0.0f, 1.0f},
     {slot::VelocityDestination, 1, 0.0f, 21.0f, 22}, {slot::VelocitySensitivity, 1, 0.0f, 1.0f, 2},
-    {slot::WheelAmount, 1, 0.0f, 1.0f},         {slot::WheelDestination, 1, 0.0f, 21.0f, 22},
-    {slot::PressureAmount, 1, 0.0f, 1.0f},      {slot::PressureDestination, 1, 0.0f, 21.0f, 22},
-    {slot::BendRange, 1, 0.1f, 1.0f},           {slot::EqOn, 1, 0.0f, 1.0f, 2},
-    {slot::EqGain, 5, 0.2f, 0.8f},
+    {slot::WheelAmount, 1, 0.0f, 1.0f}, {slot::WheelDestination, 1, 0.0f, 21.0f, 22},
+    {slot::PressureAmount, 1, 0.0f, 1.0f}, {slot::PressureDestination, 1, 0.0f, 21.0f, 22},
+    {slot::BendRange, 1, 0.1f, 1.0f}, {slot::EqOn, 1, 0.0f, 1.0f, 2}, {slot::EqGain, 5, 0.2f, 0.8f},
 };
 constexpr const char* kDrums[kSamplerChannels] = {"Volt Kick", "Volt Snare", "Oak Ride", "Volt Hat Open",
                                                   "Volt Tom Low", "Forge Spring", "Deep Conga Low", "Oak Tambourine"};
@@ -124,47 +115,37 @@ std::vector<std::uint8_t> CornersGroove()
 void PlayCorners(render::PluginHost& host, int tenth)
 {
     // clang-format off
-    struct Act { int tenth; enum { Set, Midi, Tempo, Play } what; int a, b, c; }; // Set, Tempo: b in hundredths
+    enum What { Set, Midi, Tempo, Play };
+    struct Act { int tenth; What what; int a, b = 0, c = 0; }; // Set, Tempo: b in hundredths
     static constexpr Act kActs[] = {
-        {0,   Act::Play, 1, 0, 0},                      {4,   Act::Midi, 0x90, 40, 100}, // on Synth 1
-        {6,   Act::Midi, 0xE0, 0, 110},                 {7,   Act::Midi, 0xB0, 1, 100},
-        {8,   Act::Midi, 0xD0, 90, 0},                  {9,   Act::Midi, 0xE0, 0, 20},
-        {10,  Act::Midi, 0x80, 40, 0},                  {11,  Act::Set, param::Channel1 + 2, 100, 0},
-        {12,  Act::Set, param::Channel1 + 2, 0, 0},     {12,  Act::Midi, 0xB0, 64, 127},
-        {13,  Act::Midi, 0x90, 45, 80},                 {14,  Act::Midi, 0x80, 45, 0},
-        {17,  Act::Midi, 0xB0, 64, 0},                  {18,  Act::Set, param::Fx1 + 2, 100, 0},
-        {18,  Act::Set, param::Fx1 + 6, 100, 0},        {18,  Act::Set, param::FxActivate, 100, 0},
-        {20,  Act::Set, ParamOf(slot::FxX), 85, 0},     {21,  Act::Set, ParamOf(slot::FxY), 30, 0},
-        {24,  Act::Set, param::FxActivate, 0, 0},       {24,  Act::Set, param::Fx1 + 2, 0, 0},
-        {25,  Act::Set, param::Fx1 + 6, 0, 0},          {26,  Act::Set, param::Pattern1 + 1, 100, 0},
-        {30,  Act::Set, param::Stutter1_4, 100, 0},     {33,  Act::Set, param::Stutter1_2, 100, 0},
-        {36,  Act::Set, param::Stutter1_4, 0, 0},       {38,  Act::Set, param::Stutter1_2, 0, 0},
-        {40,  Act::Tempo, 0, 9750, 0},                  {44,  Act::Set, param::Solo, 100, 0},
-        {47,  Act::Set, param::Solo, 0, 0},             {48,  Act::Set, param::Enable1 + 9, 0, 0},
-        {52,  Act::Set, param::Pattern1 + 2, 100, 0},   {54,  Act::Set, param::Enable1 + 9, 100, 0},
-        {56,  Act::Set, param::Ext1, 20, 0},            {56,  Act::Set, param::ExtLearn, 100, 0},
-        {57,  Act::Set, ParamOf(slot::FilterCutoff), 90, 0}, {58,  Act::Set, param::Ext1, 40, 0},
-        {60,  Act::Tempo, 0, 14100, 0},                 {62,  Act::Set, param::LfoShapeSwitch, 100, 0},
-        {63,  Act::Set, param::FxLfoSyncSwitch, 100, 0},{64,  Act::Set, param::PlayBar, 100, 0},
-        {68,  Act::Set, param::PlayBar, 0, 0},          {70,  Act::Set, param::Channel1 + 10, 100, 0},
-        {71,  Act::Set, param::Channel1 + 10, 0, 0},    {72,  Act::Set, param::Record, 100, 0},
-        {73,  Act::Midi, 0x90, 52, 90},                 {76,  Act::Midi, 0x80, 52, 0},
-        {78,  Act::Midi, 0x90, 59, 120},                {82,  Act::Midi, 0x80, 59, 0},
-        {84,  Act::Set, param::Record, 0, 0},           {90,  Act::Play, 0, 0, 0},
-        {94,  Act::Set, param::Record, 100, 0},         {95,  Act::Play, 1, 0, 0}, // counts in
-        {116, Act::Play, 0, 0, 0},
+        {0, Play, 1}, {4, Midi, 0x90, 40, 100}, {6, Midi, 0xE0, 0, 110}, {7, Midi, 0xB0, 1, 100}, {8, Midi, 0xD0, 90},
+        {9, Midi, 0xE0, 0, 20}, {10, Midi, 0x80, 40}, {11, Set, param::Channel1 + 2, 100},
+        {12, Set, param::Channel1 + 2}, {12, Midi, 0xB0, 64, 127}, {13, Midi, 0x90, 45, 80}, {14, Midi, 0x80, 45},
+        {17, Midi, 0xB0, 64}, {18, Set, param::Fx1 + 2, 100}, {18, Set, param::Fx1 + 6, 100},
+        {18, Set, param::FxActivate, 100}, {20, Set, ParamOf(slot::FxX), 85}, {21, Set, ParamOf(slot::FxY), 30},
+        {24, Set, param::FxActivate}, {24, Set, param::Fx1 + 2}, {25, Set, param::Fx1 + 6},
+        {26, Set, param::Pattern1 + 1, 100}, {30, Set, param::Stutter1_4, 100}, {33, Set, param::Stutter1_2, 100},
+        {36, Set, param::Stutter1_4}, {38, Set, param::Stutter1_2}, {40, Tempo, 0, 9750}, {44, Set, param::Solo, 100},
+        {47, Set, param::Solo}, {48, Set, param::Enable1 + 9}, {52, Set, param::Pattern1 + 2, 100},
+        {54, Set, param::Enable1 + 9, 100}, {56, Set, param::Ext1, 20}, {56, Set, param::ExtLearn, 100},
+        {57, Set, ParamOf(slot::FilterCutoff), 90}, {58, Set, param::Ext1, 40}, {60, Tempo, 0, 14100},
+        {62, Set, param::LfoShapeSwitch, 100}, {63, Set, param::FxLfoSyncSwitch, 100}, {64, Set, param::PlayBar, 100},
+        {68, Set, param::PlayBar}, {70, Set, param::Channel1 + 10, 100}, {71, Set, param::Channel1 + 10},
+        {72, Set, param::Record, 100}, {73, Midi, 0x90, 52, 90}, {76, Midi, 0x80, 52}, {78, Midi, 0x90, 59, 120},
+        {82, Midi, 0x80, 59}, {84, Set, param::Record}, {90, Play, 0}, {94, Set, param::Record, 100}, {95, Play, 1},
+        {116, Play, 0},
     };
     // clang-format on
     for (const Act& act : kActs) {
         if (act.tenth != tenth) continue;
         switch (act.what) {
-        case Act::Set: host.SetParameter(act.a, static_cast<float>(act.b) / 100.0f); break;
-        case Act::Midi:
+        case Set: host.SetParameter(act.a, static_cast<float>(act.b) / 100.0f); break;
+        case Midi:
             host.QueueMidi(100, static_cast<std::uint8_t>(act.a), static_cast<std::uint8_t>(act.b),
                            static_cast<std::uint8_t>(act.c));
             break;
-        case Act::Tempo: host.SetTempo(act.b / 100.0); break;
-        case Act::Play: host.SetPlaying(act.a == 1); break;
+        case Tempo: host.SetTempo(act.b / 100.0); break;
+        case Play: host.SetPlaying(act.a == 1); break;
         }
     }
 }

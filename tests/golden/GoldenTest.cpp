@@ -74,15 +74,13 @@ TEST_P(Golden, GrooveSoundsAsKept)
             }));
 }
 
-// A groove that is gone is missed.
+// A groove that is gone is missed; one that is not kept fails by itself.
 TEST_F(Golden, KnowsEveryGroove)
 {
-    std::vector<fs::path> grooves = FactoryGrooves(), kept;
-    grooves.insert(grooves.begin(), "Corners");
+    std::size_t kept = 0;
     for (const auto& entry : fs::directory_iterator(KORVANE_SOURCE "/tests/golden"))
-        if (entry.path().extension() == ".levels") kept.push_back(entry.path().stem());
-    for (fs::path& groove : grooves) groove = groove.stem();
-    EXPECT_TRUE(std::is_permutation(kept.begin(), kept.end(), grooves.begin(), grooves.end()));
+        kept += entry.path().extension() == ".levels";
+    EXPECT_EQ(kept, FactoryGrooves().size() + 1) << "the factory's and Corners";
 }
 
 // Twelve seconds in which a player and a host do whatever can be done.

@@ -122,8 +122,7 @@ TEST_F(Library, IsComplete)
         for (const fs::path& file : files) {
             EXPECT_TRUE(names.insert(file.filename()).second) << file << " has a twin";
             const std::string bytes = ReadBytes<std::string>(file);
-            for (const std::string& place :
-                 {EnginePath(KORVANE_SOURCE), EnginePath(KORVANE_BUNDLE), std::string(KORVANE_SOURCE)})
+            for (const std::string& place : {std::string(KORVANE_SOURCE), EnginePath(KORVANE_SOURCE)})
                 EXPECT_EQ(bytes.find(place), std::string::npos) << file << " knows where it was made";
         }
     }
@@ -153,14 +152,13 @@ TEST_F(Library, SamplesAreFitForUse)
         SCOPED_TRACE(file.filename());
         const std::vector<float> wave = read(file).at(0);
         ASSERT_EQ(wave.size(), 2048u);
-        double mean = 0.0, sine = 0.0, cosine = 0.0;
+        double sine = 0.0, cosine = 0.0;
         for (int n = 0; n < 2048; ++n) {
             const double x = static_cast<double>(wave[n]), angle = 2.0 * std::numbers::pi * n / 2048.0;
-            mean += x / 2048.0;
             sine += x * std::sin(angle);
             cosine += x * std::cos(angle);
         }
-        EXPECT_TRUE(std::fabs(mean) < 1e-6 && Peak(wave) > 0.99f) << mean;
+        EXPECT_TRUE(std::fabs(Mean(wave)) < 1e-6 && Peak(wave) > 0.99f) << Mean(wave);
         EXPECT_NEAR(std::atan2(cosine, sine), 0.0, 1e-3) << "the first harmonic is a sine";
     }
 }

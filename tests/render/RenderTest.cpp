@@ -211,8 +211,7 @@ TEST_F(Render, WritesTheMixAndTheStems)
     EXPECT_EQ(Run("--midi silence.mid --tail 0 --format 24 none.wav").status, 0) << "a file without a frame";
     const Answer answer = Run("--bars 1 --tail 0.5 --rate 48000 --format 24 --stems stems mix.wav");
     ASSERT_EQ(answer.status, 0) << answer.errors;
-    for (const char* part : {"Sampler 8", "times faster than real time"})
-        EXPECT_TRUE(answer.Says(part)) << part << answer.output;
+    EXPECT_TRUE(answer.Says("times faster than real time")) << answer.output;
     EXPECT_EQ(Read("mix.wav").size() / 2, 48000u * 5 / 2);
     EXPECT_EQ(format, SF_FORMAT_WAV | SF_FORMAT_PCM_24);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "stems"), fs::directory_iterator{}), 13);
