@@ -45,7 +45,7 @@ TEST(FxSettings, TurnParametersIntoFields)
         {Distortion, slot::FxLfoRate,   0.7f,   beats,  2.0f},   {Distortion, slot::FxLfoRate,   0.8f,   beats,  4.0f},
         {Pump,       slot::FxLfoRate,   1.0f,   beats,  8.0f},   {Distortion, slot::FxLfoRate,   1e30f,  beats,  8.0f},
         {Pump,       slot::FxLfoSync,   0.1f,   beats,  0.5f},   {Chorus,     slot::FxLfoAmount, 0.0f,   amount, -1.0f},
-        {Chorus, slot::FxLfoAmount, 0.75f,  amount, 0.25f}, {Chorus, slot::FxLfoAmount, 0.25f,  amount, -0.25f},
+        {Chorus,     slot::FxLfoAmount, 0.75f,  amount, 0.25f},  {Chorus,     slot::FxLfoAmount, 0.25f,  amount, -.25f},
         {Chorus,     slot::FxLfoAmount, 0.5f,   amount, 0.0f},   {Chorus,     slot::FxLfoAmount, 9.0f,   amount, 1.0f},
         {Chorus,     slot::FxLfoShape,  0.334f, shape,  1.0f},   {Chorus,     slot::FxLfoShape,  0.99f,  shape,  2.0f},
         {Chorus,     slot::FxLfoShape,  7.0f,   shape,  3.0f},   {Chorus,     slot::FxLfoShape,  -7.0f,  shape,  0.0f},
