@@ -201,7 +201,6 @@ TEST_F(Render, ReadsWhatTheInstrumentShows)
 TEST_F(Render, TellsAboutItself)
 {
     EXPECT_EQ(Run("--version").output, "korvane-render 1.0.2\n");
-    EXPECT_TRUE(Run("--help").Says("(default 44100)"));
     EXPECT_TRUE(Run("--list").Says("    Night Drive 124\n"));
 }
 
@@ -211,7 +210,6 @@ TEST_F(Render, WritesTheMixAndTheStems)
     EXPECT_EQ(Run("--midi silence.mid --tail 0 --format 24 none.wav").status, 0) << "a file without a frame";
     const Answer answer = Run("--bars 1 --tail 0.5 --rate 48000 --format 24 --stems stems mix.wav");
     ASSERT_EQ(answer.status, 0) << answer.errors;
-    EXPECT_TRUE(answer.Says("times faster than real time")) << answer.output;
     EXPECT_EQ(Read("mix.wav").size() / 2, 48000u * 5 / 2);
     EXPECT_EQ(format, SF_FORMAT_WAV | SF_FORMAT_PCM_24);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder / "stems"), fs::directory_iterator{}), 13);
@@ -225,10 +223,14 @@ TEST_F(Render, WritesTheMixAndTheStems)
     }
 }
 
-// A program sounds on its channel alone, its sides where they belong, and the report tells the levels of the file.
+// Without settings, content is what lies beside the plug-in. A program sounds on its channel alone, its sides where
+// they belong, and the report tells the levels of the file.
 TEST_F(Render, TellsTheLevelsOfWhatItWrites)
 {
-    const Answer answer = Run("--program 'saw bass' --param 'CHN: Panning=-90 %' a.wav");
+    fs::copy(KORVANE_BUNDLE "/korvane.so", root.path);
+    fs::remove(root.path / "Brassmoor/Korvane.conf");
+    const Answer answer =
+        Run("--plugin '" + root.path.string() + "/korvane.so' --program 'saw bass' --param 'CHN: Panning=-90 %' a.wav");
     EXPECT_TRUE(answer.Says("Synth 2            -inf       -inf")) << answer.output << answer.errors;
     const std::vector<float> sound = Read("a.wav");
     double peak = 0.0, sides[2] = {};

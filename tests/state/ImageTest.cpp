@@ -115,8 +115,8 @@ TEST_F(Image, KeepsTheLocksThatActOfAListTooLong)
     const Bytes empty = Saved(engine);
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        Bytes image(empty.begin(), empty.begin() + kPatternsAt + 8); // then one record and no more patterns
-        image.resize(image.size() + static_cast<std::size_t>((1 + c.present) * kRecord));
+        Bytes image(static_cast<std::size_t>(kPatternsAt + 8 + (1 + c.present) * kRecord)); // and no more patterns
+        std::copy_n(empty.begin(), kPatternsAt + 8, image.begin());
         Put(image, kPatternsAt, static_cast<int>(image.size()) - kPatternsAt - 4);
         Put(image, kPatternsAt + 12, static_cast<std::int16_t>(c.told));
         for (int n = 0; n < c.present; ++n) {
