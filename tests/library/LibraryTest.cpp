@@ -5,7 +5,6 @@
 #include <cmath>
 #include <map>
 #include <numbers>
-#include <numeric>
 #include <set>
 
 #include "content/CWaveSample.h"

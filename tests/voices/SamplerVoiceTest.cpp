@@ -1,8 +1,6 @@
 // Sample layers: what reaches the voice's buffers, and when a voice is over.
 #include <gtest/gtest.h>
 
-#include <vector>
-
 #include "engine/SamplerVoice.h"
 #include "voices/VoiceRig.h"
 
