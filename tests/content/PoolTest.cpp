@@ -42,7 +42,7 @@ TEST_F(Pool, SharesAFileAmongItsUsers)
 // Where it was, then beside the groove, then in the default folder of its kind, always by its name.
 TEST_F(Pool, LooksForAFileInThreePlaces)
 {
-    for (const char* name : {"Drum Samples/a.wav", "Synth Waves/a.wav", "Drum Samples/b.wav", "G/Samples/a.wav",
+    for (const char* name : {"Drum Samples/a.wav", "Synth Waves/a.wav", "Drum Samples/drum.wav", "G/Samples/a.wav",
                              "G/Waveforms/w.wav", "Synth Waves/w.wav", "a.wav"})
         WriteWav(name, {0.5f});
     // clang-format off
@@ -50,10 +50,10 @@ TEST_F(Pool, LooksForAFileInThreePlaces)
     const Case cases[] = {
         {"a sample elsewhere",   "D:\\old\\a.wav", kind::Sample,   "Drum Samples/a.wav", "G/Samples//a.wav"},
         {"a waveform",           "D:/old/w.wav",   kind::Waveform, "Synth Waves/w.wav",  "G/Waveforms//w.wav"},
-        {"not beside the groove", "D:/old/b.wav",  kind::Sample,   "Drum Samples/b.wav", "Drum Samples/b.wav"},
+        {"not beside the groove", "D:/old/drum.wav", kind::Sample, "Drum Samples/drum.wav", "Drum Samples/drum.wav"},
         {"of the other kind",    "D:/old/a.wav",   kind::Waveform, "Synth Waves/a.wav",  "Synth Waves/a.wav"},
         {"where it was",         Path("a.wav"),    kind::Sample,   "a.wav",              "a.wav"},
-        {"without a folder",     "a.wav",          kind::Sample,   nullptr,              nullptr},
+        {"without a folder",     "drum.wav",       kind::Sample,   nullptr,              nullptr},
         {"nowhere",              "\\c.wav",        kind::Sample,   nullptr,              nullptr},
         {"no name",              "",               kind::Sample,   nullptr,              nullptr},
     };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <sstream>
 #include <string>
@@ -155,7 +156,7 @@ TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
         rendering = true;
         for (buffer[0] = 1.0f; buffer[0] != 0.0f; std::this_thread::yield())
             synth.ProcessBlock(nullptr, outputs.data(), 1, true);
-        for (int n = 0; n < 5000 && !switched; ++n) std::this_thread::yield();
+        std::this_thread::sleep_for(std::chrono::milliseconds(50)); // for one that does not wait
         switchedTooEarly = switched;
     };
     std::thread host([&] {
