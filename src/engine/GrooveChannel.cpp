@@ -6,11 +6,11 @@
 #include <cmath>
 #include <cstddef>
 
-#include "engine/FxSettings.h"
-#include "engine/Modulation.h"
-#include "engine/SamplerVoice.h"
-#include "engine/SynthVoice.h"
-#include "engine/VoiceLife.h"
+#include "engine/fx/FxSettings.h"
+#include "engine/voice/Modulation.h"
+#include "engine/voice/SamplerVoice.h"
+#include "engine/voice/SynthVoice.h"
+#include "engine/voice/VoiceLife.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 

@@ -7,11 +7,11 @@
 
 #include "content/SamplePool.h"
 #include "content/SampleSlot.h"
-#include "engine/ChannelVoice.h"
-#include "engine/FXUnit.h"
-#include "engine/Lfo.h"
-#include "engine/Limits.h"
-#include "engine/RandomGenerator.h"
+#include "engine/fx/FXUnit.h"
+#include "engine/voice/ChannelVoice.h"
+#include "engine/voice/Lfo.h"
+#include "engine/voice/RandomGenerator.h"
+#include "framework/Limits.h"
 #include "platform/Shared.h"
 #include "platform/SharedText.h"
 

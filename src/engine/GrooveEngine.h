@@ -9,11 +9,11 @@
 
 #include "content/SamplePool.h"
 #include "engine/GrooveChannel.h"
-#include "engine/GroovePattern.h"
-#include "engine/Limits.h"
-#include "engine/RandomGenerator.h"
-#include "engine/StutterButtons.h"
-#include "engine/VoiceCommands.h"
+#include "engine/sequencer/GroovePattern.h"
+#include "engine/sequencer/StutterButtons.h"
+#include "engine/voice/RandomGenerator.h"
+#include "engine/voice/VoiceCommands.h"
+#include "framework/Limits.h"
 #include "platform/Shared.h"
 
 namespace korvane {

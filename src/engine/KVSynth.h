@@ -7,7 +7,7 @@
 #include "content/CFileList.h"
 #include "content/CPresetList.h"
 #include "content/ContentFolders.h"
-#include "content/ImageFile.h"
+#include "content/state/ImageFile.h"
 #include "engine/GrooveEngine.h"
 #include "framework/CSynthesizer.h"
 #include "framework/ParameterTable.h"

@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "engine/GrooveEngine.h"
-#include "engine/VoiceFilter.h"
+#include "engine/voice/VoiceFilter.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 

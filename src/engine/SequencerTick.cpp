@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <array>
 
-#include "engine/FxSettings.h"
 #include "engine/GrooveEngine.h"
+#include "engine/fx/FxSettings.h"
 #include "framework/ParameterTable.h"
 
 namespace korvane {

@@ -7,7 +7,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "content/ImageLayout.h"
+#include "content/state/ImageLayout.h"
 #include "render/Failure.h"
 #include "render/Names.h"
 #include "render/ParseNumber.h"

@@ -1,0 +1,124 @@
+// The whole groove as one image, for groove files and hosts.
+#include <algorithm>
+#include <initializer_list>
+
+#include "content/state/ImageLayout.h"
+
+namespace korvane {
+
+namespace {
+
+void WriteHeader(ByteWriter& out, const GrooveEngine& engine)
+{
+    out.Tag(tag::kGroove);
+    for (const int selection :
+         std::initializer_list<int>{engine.selectedChannel, engine.selectedBar, engine.currentPattern,
+                                    engine.selectedFx, engine.envelopeNumber, engine.lfoNumber})
+        out.Write(static_cast<std::int8_t>(selection));
+    for (const bool flag : engine.muted) out.Write(static_cast<std::int8_t>(flag));
+    for (const bool flag : engine.playOnce) out.Write(static_cast<std::int8_t>(flag));
+    out.Write(static_cast<float>(engine.shuffleAmount));
+    for (const auto& control : engine.extControls) {
+        out.Write(static_cast<float>(control.value));
+        out.Write(static_cast<std::int32_t>(control.channel));
+        out.Write(static_cast<std::int32_t>(control.param));
+    }
+}
+
+/// A selection of 0..count - 1; everything that indexes by it relies on the range.
+template <class T>
+void ReadSelection(ByteReader& in, Shared<T>& field, int count)
+{
+    std::int8_t value = 0;
+    if (in.Read(value)) field = static_cast<T>(std::clamp<int>(value, 0, count - 1));
+}
+
+template <std::size_t kCount>
+void ReadFlags(ByteReader& in, Shared<bool> (&flags)[kCount])
+{
+    for (auto& flag : flags) {
+        std::int8_t value = 0;
+        if (in.Read(value)) flag = value != 0;
+    }
+}
+
+/// Whoever follows an assignment looks whether it leads anywhere.
+void ReadExtControl(ByteReader& in, GrooveEngine::ExtControl& control)
+{
+    const auto value = in.Read<float>();
+    const auto channel = in.Read<std::int32_t>();
+    const auto param = in.Read<std::int32_t>();
+    if (!in.Ok()) return;
+    control.value = value;
+    control.channel = channel;
+    control.param = param;
+}
+
+/// The fields that are there are taken over, also when the header is cut.
+bool ReadHeader(ByteReader& in, GrooveEngine& engine)
+{
+    ReadSelection(in, engine.selectedChannel, kChannels);
+    ReadSelection(in, engine.selectedBar, kBars);
+    ReadSelection(in, engine.currentPattern, kPatterns);
+    ReadSelection(in, engine.selectedFx, kEffects);
+    ReadSelection(in, engine.envelopeNumber, 2);
+    ReadSelection(in, engine.lfoNumber, 2);
+    ReadFlags(in, engine.muted);
+    ReadFlags(in, engine.playOnce);
+    float shuffle = 0.0f;
+    if (in.Read(shuffle)) engine.shuffleAmount = shuffle;
+    for (auto& control : engine.extControls) ReadExtControl(in, control);
+    return in.Ok();
+}
+
+void WritePattern(ByteWriter& out, const GroovePattern& pattern)
+{
+    out.Tag(tag::kPattern);
+    for (int channel = 0; channel < kChannels; ++channel)
+        for (int step = 0; step < kSteps; ++step) WriteStepRecord(out, pattern, channel, step);
+}
+
+/// Leaves an unknown chunk's pattern empty and a cut one's with the steps up to the cut.
+void ReadPattern(ByteReader in, GroovePattern& pattern)
+{
+    if (!in.Tag(tag::kPattern)) return;
+    for (int channel = 0; channel < kChannels; ++channel)
+        for (int step = 0; step < kSteps; ++step)
+            if (!ReadStepRecord(in, pattern, channel, step)) return;
+}
+
+} // namespace
+
+void WriteState(ByteWriter& out, const GrooveEngine& engine)
+{
+    WriteHeader(out, engine);
+    for (int channel = 0; channel < kChannels; ++channel) out.Chunk([&] { WriteChannelChunk(out, engine, channel); });
+    for (const auto& pattern : engine.patterns) out.Chunk([&] { WritePattern(out, *pattern); });
+}
+
+std::int32_t GrooveEngine::SaveState(std::uint8_t* buffer) const
+{
+    ByteWriter out(buffer);
+    WriteState(out, *this);
+    return out.Size();
+}
+
+bool GrooveEngine::LoadState(const std::uint8_t* data, std::int32_t length)
+{
+    ByteReader in(data, length);
+    if (!in.Tag(tag::kGroove)) return false;
+    ResetGroove();
+    if (!ReadHeader(in, *this)) return false;
+    for (int channel = 0; channel < kChannels; ++channel) {
+        const ByteReader chunk = in.Chunk();
+        if (!LoadChannelChunk(chunk.Rest(), chunk.Left(), channel)) return false;
+    }
+    for (auto& pattern : patterns) {
+        const ByteReader chunk = in.Chunk();
+        if (!in.Ok()) return false;
+        ReadPattern(chunk, *pattern);
+    }
+    return true;
+}
+
+} // namespace korvane

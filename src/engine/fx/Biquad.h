@@ -1,0 +1,90 @@
+// Second-order sections of the effects: resonant lowpass and highpass, and the general form of the equaliser's bands.
+#pragma once
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+#include "platform/StereoFrame.h"
+
+namespace korvane {
+
+/// Lowpass y = b (x + 2 x1 + x2) − a1 y1 − a2 y2; highpass with −2 x1.
+struct FilterCoefficients {
+    float b, a1, a2;
+};
+
+/// Radians per frame, kept below π, where the sections would stop being stable.
+inline float FilterAngle(float frequencyHz, float rate)
+{
+    constexpr float kHighestAngle = 3.1f;
+    return std::min(2.0f * std::numbers::pi_v<float> * frequencyHz / rate, kHighestAngle);
+}
+
+/// sign  −1 lowpass, +1 highpass
+inline FilterCoefficients ResonantCoefficients(float frequencyHz, float q, float rate, float sign)
+{
+    const float w = FilterAngle(frequencyHz, rate);
+    const float sine = std::sin(w);
+    const float cosine = std::cos(w);
+    return {Flushed((1.0f + sign * cosine) / (sine / q + 2.0f)), Flushed(-2.0f * q * cosine / (q + sine)),
+            Flushed((q - sine) / (q + sine))};
+}
+
+inline FilterCoefficients LowPassCoefficients(float frequencyHz, float q, float rate)
+{
+    return ResonantCoefficients(frequencyHz, q, rate, -1.0f);
+}
+
+inline FilterCoefficients HighPassCoefficients(float frequencyHz, float q, float rate)
+{
+    return ResonantCoefficients(frequencyHz, q, rate, 1.0f);
+}
+
+/// y = b0 x + b1 x1 + b2 x2 − a1 y1 − a2 y2, normalised by a0.
+struct BandCoefficients {
+    float b0, b1, b2, a1, a2;
+};
+
+/// kSections sections in series. Each takes its past input from the past output of the one before, which is the same
+/// number. S is float or a vector of floats; every lane of the vector form gives the bits of the float form.
+template <class S, int kSections>
+struct BiquadChain {
+    /// All sections with the same coefficients.
+    template <bool highPass>
+    S Step(S x, const FilterCoefficients& c)
+    {
+        return Run(x, [&c](int, S in, S x1, S x2, S y1, S y2) {
+            const S sum = highPass ? in - 2.0f * x1 + x2 : in + 2.0f * x1 + x2;
+            return c.b * sum - c.a1 * y1 - c.a2 * y2;
+        });
+    }
+
+    S Step(S x, const BandCoefficients* bands)
+    {
+        return Run(x, [bands](int n, S in, S x1, S x2, S y1, S y2) {
+            const BandCoefficients& c = bands[n];
+            return c.b0 * in + c.b1 * x1 + c.b2 * x2 - c.a1 * y1 - c.a2 * y2;
+        });
+    }
+
+    S past[kSections + 1]{}, beforePast[kSections + 1]{}; // input, then the output of each section
+
+private:
+    template <class Section>
+    S Run(S x, Section section)
+    {
+        S in = Flushed(x);
+        for (int n = 0; n < kSections; ++n) {
+            const S out = Flushed(section(n, x, past[n], beforePast[n], past[n + 1], beforePast[n + 1]));
+            beforePast[n] = past[n];
+            past[n] = in;
+            x = in = out;
+        }
+        beforePast[kSections] = past[kSections];
+        past[kSections] = x;
+        return x;
+    }
+};
+
+} // namespace korvane

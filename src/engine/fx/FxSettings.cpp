@@ -1,0 +1,76 @@
+// Effect settings: channel parameters and step clock into unit fields.
+#include "engine/fx/FxSettings.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "engine/voice/Lfo.h"
+#include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr float kSyncFactor = 4.0f; // LFO periods count bars instead of beats
+
+struct StutterSetting {
+    float beats;
+    std::uint8_t reverse;
+};
+constexpr StutterSetting kStutterSettings[] = {
+    {1.0f, 0}, {0.75f, 0}, {0.5f, 0}, {0.375f, 0}, {0.25f, 0}, {1.0f, 1}, {0.75f, 1}, {0.5f, 1}, {0.125f, 0},
+};
+
+void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
+{
+    unit.eqOn = params[slot::EqOn] != 0.0f;
+    for (std::size_t band = 0; band < kEqBands; ++band) {
+        const float gain = params[slot::EqGain + band];
+        if (gain == unit.eqGains[band]) continue;
+        unit.eqGains[band] = gain;
+        unit.eqChanged[band] = 1;
+    }
+}
+
+} // namespace
+
+void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
+                      const std::array<std::unique_ptr<FXUnit>, kEffects>& units, FXUnit& stutter)
+{
+    for (std::size_t k = 0; k < units.size(); ++k) {
+        FXUnit& unit = *units[k];
+        unit.bypass = !fxActive[k] && params[slot::FxGlue + k] == 0.0f;
+        unit.x = Clamp<float>(params[slot::FxX + k], 0.0f, 1.0f);
+        unit.y = Clamp<float>(params[slot::FxY + k], 0.0f, 1.0f);
+        const float amount = Clamp(2.0f * params[slot::FxLfoAmount + k] - 1.0f, -1.0f, 1.0f);
+        unit.lfoAmount = std::copysign(amount * amount, amount);
+        unit.lfoShape = Clamp(Truncate(params[slot::FxLfoShape + k] * 3.0f), 0, 3);
+        unit.lfoBeats =
+            SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
+        if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);
+    }
+    if (params[slot::FxBypassStutter] != 0.0f) stutter.bypass = 1;
+}
+
+void SetStutter(FXUnit& stutter, std::int8_t& code)
+{
+    if (code < 0) {
+        stutter.Reset(0.0f);
+        code = static_cast<std::int8_t>(-code);
+    }
+    stutter.bypass = code < 1 || code > 9;
+    if (stutter.bypass) return;
+    const StutterSetting& setting = kStutterSettings[code - 1];
+    stutter.lfoBeats = setting.beats;
+    stutter.reverse = setting.reverse;
+}
+
+void SyncLfo(FXUnit& unit, int stepCounter)
+{
+    if (!(unit.lfoBeats > 0.0f)) return;
+    const double periods = stepCounter / (static_cast<double>(unit.lfoBeats) * 4.0);
+    unit.lfoPhase = periods - std::floor(periods);
+}
+
+} // namespace korvane

@@ -1,0 +1,128 @@
+// Reverb: parameters, coefficients when they change, meters, and the two processes.
+#include "engine/fx/fxReverb.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstddef>
+#include <cstring>
+
+namespace korvane {
+
+namespace {
+
+constexpr float kLowestRate = 1.0f, kHighestRate = 1.0e6f; // Hz
+constexpr std::int32_t kClipBlocks = 6;
+
+bool Known(std::int32_t index) { return index >= 0 && index < reverb::Count; }
+
+void Watch(fxReverb::Meter& meter, const float* samples, int frames)
+{
+    std::int32_t bits = 0; // magnitudes of floats have the order of their bits
+    for (int n = 0; n < frames; ++n) bits = std::max(bits, std::bit_cast<std::int32_t>(samples[n]) & 0x7fffffff);
+    meter.peak = std::bit_cast<float>(bits);
+    meter.clippedBlocks = !(meter.peak <= 1.0f) ? kClipBlocks : std::max(meter.clippedBlocks - 1, 0);
+}
+
+} // namespace
+
+fxReverb::fxReverb() : AudioEffect(nullptr, 1, reverb::Count)
+{
+    record.numInputs = record.numOutputs = 2;
+    for (const ReverbParameter& row : kReverbParameters) SetParameter(row.index, row.initial);
+    SetSampleRate(sampleRate);
+}
+
+void fxReverb::SetParameter(std::int32_t index, float value)
+{
+    if (!Known(index)) return;
+    values[static_cast<std::size_t>(index)] = value;
+    const int step = ReverbStep(index, value);
+    int& present = steps[static_cast<std::size_t>(index)];
+    changed = changed || step != present;
+    present = step;
+}
+
+float fxReverb::GetParameter(std::int32_t index)
+{
+    return Known(index) ? values[static_cast<std::size_t>(index)] : 0.0f;
+}
+
+void fxReverb::GetParameterLabel(std::int32_t index, char* text)
+{
+    std::strcpy(text, Known(index) ? kReverbParameters[static_cast<std::size_t>(index)].label : "");
+}
+
+void fxReverb::GetParameterDisplay(std::int32_t index, char* text)
+{
+    *text = '\0';
+    if (Known(index)) ReverbText(index, steps[static_cast<std::size_t>(index)], text);
+}
+
+void fxReverb::GetParameterName(std::int32_t index, char* text)
+{
+    std::strcpy(text, Known(index) ? kReverbParameters[static_cast<std::size_t>(index)].name : "");
+}
+
+void fxReverb::SetSampleRate(float newRate)
+{
+    if (!(newRate >= kLowestRate && newRate <= kHighestRate)) return;
+    sampleRate = newRate;
+    tank.Allocate(sampleRate);
+    coefficients = ComputeReverb(steps, sampleRate);
+    tank.Fit(coefficients, false);
+    lastRoomSize = steps[reverb::RoomSize];
+    changed = false;
+    level = -1.0f;
+}
+
+void fxReverb::Reset()
+{
+    tank.Reset();
+    level = -1.0f;
+}
+
+void fxReverb::Process(float** inputs, float** outputs, std::int32_t frames) { Render<true>(inputs, outputs, frames); }
+
+void fxReverb::ProcessReplacing(float** inputs, float** outputs, std::int32_t frames)
+{
+    Render<false>(inputs, outputs, frames);
+}
+
+void fxReverb::UpdateCoefficients()
+{
+    if (!changed) return;
+    changed = false;
+    coefficients = ComputeReverb(steps, sampleRate);
+    tank.Fit(coefficients, steps[reverb::RoomSize] != lastRoomSize);
+    lastRoomSize = steps[reverb::RoomSize];
+}
+
+template <bool adding>
+void fxReverb::Render(float** inputs, float** outputs, std::int32_t frames)
+{
+    UpdateCoefficients();
+    if (level < 0.0f) level = coefficients.reverbTarget;
+    for (std::size_t side = 0; side < 2; ++side) Watch(inputMeters[side], inputs[side], frames);
+
+    std::array<float, ReverbTank::kLongestRun> left, right, wetLeft, wetRight;
+    for (int done = 0; done < frames; done += tank.RunLimit()) {
+        const int run = std::min(frames - done, tank.RunLimit());
+        for (int n = 0; n < run; ++n) {
+            left[static_cast<std::size_t>(n)] = inputs[0][done + n] * coefficients.inputGain;
+            right[static_cast<std::size_t>(n)] = inputs[1][done + n] * coefficients.inputGain;
+        }
+        tank.Run(coefficients, left.data(), right.data(), wetLeft.data(), wetRight.data(), run, level);
+        for (int n = 0; n < run; ++n) {
+            const std::size_t at = static_cast<std::size_t>(n);
+            const float middle = wetLeft[at] + wetRight[at];
+            const float side = (wetLeft[at] - wetRight[at]) * coefficients.width;
+            const float outLeft = middle + side + coefficients.dryGain * left[at];
+            const float outRight = middle - side + coefficients.dryGain * right[at];
+            outputs[0][done + n] = adding ? outputs[0][done + n] + outLeft : outLeft;
+            outputs[1][done + n] = adding ? outputs[1][done + n] + outRight : outRight;
+        }
+    }
+    for (std::size_t side = 0; side < 2; ++side) Watch(outputMeters[side], outputs[side], frames);
+}
+
+} // namespace korvane

@@ -1,0 +1,34 @@
+// One pattern: eight bars of steps for thirteen channels.
+#pragma once
+
+#include <cstdint>
+
+#include "engine/sequencer/StepLockList.h"
+#include "framework/Limits.h"
+#include "platform/Shared.h"
+
+namespace korvane {
+
+/// Steps and their parameter locks, channel by channel, step = bar × 16 + step in the bar. Eight per engine and one
+/// clipboard. Host, editor and MIDI write; the audio thread reads.
+class GroovePattern {
+public:
+    /// Length 16, every step word 0, every lock list empty.
+    void Clear();
+    void CopyFrom(const GroovePattern& other);
+
+    void ClearStep(int channel, int step);
+    void ClearChannel(int channel);
+    /// Copies one step, word and locks, from a step of this or another pattern.
+    void CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep);
+    /// Exchanges two steps of a channel, words and locks.
+    void SwapSteps(int channel, int a, int b);
+    /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps.
+    void UpdateLength();
+
+    Shared<std::uint32_t> steps[kChannels][kSteps]; // bit k (0..23) plays note 48 + k
+    StepLockList locks[kChannels][kSteps];
+    Shared<std::int32_t> length = kStepsPerBar; // 16, 32, 64 or 128 steps
+};
+
+} // namespace korvane

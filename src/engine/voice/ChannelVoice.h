@@ -1,0 +1,67 @@
+// One sounding note of a channel.
+#pragma once
+
+#include <cstdint>
+
+#include "engine/voice/Envelope.h"
+#include "engine/voice/LayerFilters.h"
+#include "framework/Limits.h"
+
+namespace korvane {
+
+inline constexpr float kSourceScale = 0.005f; // full scale of the sources; the voice's output gain undoes it
+
+/// One layer of a sampler voice; fixed at note start but for position, increment, delay, hold, envelope and filters.
+struct SamplerLayer {
+    bool bypassed = false;
+    bool reverse = false;
+    double position = 0.0;        // read position in frames of the sample; kept when a note starts without one
+    double increment = 1.0;       // frames of the sample per output frame, 2^(semitones / 12)
+    float semitones = 0.0f;       // sounding pitch of the run
+    float pitch = 0.0f;           // the layer's own transposition in semitones
+    std::int32_t delayFrames = 0; // silence left before the layer starts
+    std::int32_t holdFrames = 0;  // full level after the attack
+    float gainLeft = 0.0f, gainRight = 0.0f;
+    float envLevel = 0.0f, envTarget = 0.0f, envRate = 0.0f, decayRate = 0.0f;
+    LayerFilters filters = {};
+};
+
+/// Phases of one of the stacked unison voices; a full cycle is 2^32.
+struct UnisonPhases {
+    std::uint32_t osc1, sync, osc2, osc3;
+};
+
+/// One of the six voices of a channel: what the note is, its envelopes and sources, and its render buffers. Audio
+/// thread only.
+struct ChannelVoice {
+    std::uint32_t age = 0; // stamp from the channel's voiceCounter
+    bool active = false;
+    bool releasing = false;
+    bool fromSequencer = false;
+    bool restartPhases = false;    // oscillators 1 and 2 restart at the voice's next block
+    std::int32_t note = -1;        // -1 none
+    std::int32_t pitchNote = 0;    // note after transposition
+    float velocity = 0.0f;         // 0..1
+    std::int32_t lengthFrames = 0; // frames until the note is released
+
+    Envelope amp; // keeps its level when a note takes the voice over
+    float ampReleaseRate = 0.0f;
+    Envelope env1, env2;
+    float gain = -1.0f, gainTarget = 1.0f; // gain -1: takes the target at first use
+    float glidePitch = 0.0f;               // sounding pitch in semitones, on its way to pitchNote
+    float cutoffOffset = 0.0f;             // added to the channel's cutoff
+    float resonance = 0.0f;
+    float lfo1Out = 0.0f, lfo2Out = 0.0f; // of the last frame
+    float filterState[2][4] = {};         // left, right; four stages
+
+    SamplerLayer layers[kLayers];
+    UnisonPhases phases[kUnison] = {};
+
+    // Of the current run; the voice filter reads them.
+    alignas(64) float left[kMaxRun];
+    alignas(64) float right[kMaxRun];
+    alignas(64) float cutoffFrames[kMaxRun];
+    alignas(64) float gainFrames[kMaxRun];
+};
+
+} // namespace korvane

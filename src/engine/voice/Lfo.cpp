@@ -1,0 +1,59 @@
+// LFO shapes and rates.
+#include "engine/voice/Lfo.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+template <class Shape>
+void RunShape(Lfo& lfo, float* values, int frames, Shape shape)
+{
+    float phase = lfo.phase;
+    for (int n = 0; n < frames; ++n) {
+        values[n] = shape(phase) * lfo.amount;
+        phase += lfo.increment;
+        phase -= std::floor(phase);
+    }
+    lfo.phase = phase;
+}
+
+} // namespace
+
+void Lfo::Run(float* values, int frames)
+{
+    if (amount == 0.0f) return RunShape(*this, values, frames, [](float) { return 0.0f; });
+    switch (shape) {
+    case 0: return RunShape(*this, values, frames, [](float p) { return std::sin(6.2831853f * p); });
+    case 1:
+        return RunShape(*this, values, frames, [](float p) { return 2.0f * p <= 1.0f ? 2.0f * p : 2.0f - 2.0f * p; });
+    case 2: return RunShape(*this, values, frames, [](float p) { return 1.0f - p; });
+    case 3: return RunShape(*this, values, frames, [](float p) { return p < 0.5f ? 1.0f : 0.0f; });
+    default: std::fill_n(values, frames, 0.0f);
+    }
+}
+
+float SyncBeats(float value)
+{
+    constexpr float kBeats[] = {0.125f, 0.25f, 0.375f, 0.5f, 0.75f, 1.0f, 2.0f, 4.0f, 8.0f};
+    return kBeats[Clamp(Truncate(9.0f * value), 0, 8)];
+}
+
+float LfoFrequency(float rateValue, float syncValue, float tempo)
+{
+    const int mode = Truncate(2.0f * syncValue);
+    if (mode < 1) {
+        const float slow = 1.0f - Clamp(rateValue, 0.0f, 1.0f);
+        return slow * slow * 25.0f + 0.01f;
+    }
+    if (!(tempo > 0.0f)) return 0.0f;
+    const float beats = SyncBeats(rateValue) * (mode > 1 ? 4.0f : 1.0f);
+    const float frequency = 1.0f / (beats * 60.0f / tempo);
+    return std::isfinite(frequency) ? frequency : 0.0f;
+}
+
+} // namespace korvane

@@ -1,0 +1,172 @@
+// Per-frame modulation of a channel and its voices.
+#include "engine/voice/Modulation.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/GrooveChannel.h"
+#include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr float kSmoothing = 0.01f; // of cutoff, modulation amount and gain, fraction per frame
+constexpr float kEnvelopeSemitones = 24.0f;
+
+void SetUpLfo(const GrooveChannel& channel, Lfo& lfo, int number, float tempo)
+{
+    const float frequency =
+        LfoFrequency(channel.Modulated(slot::LfoRate + number), channel.Modulated(slot::LfoSync + number), tempo);
+    const float increment = frequency / channel.rate;
+    lfo.increment = std::isfinite(increment) ? increment : 0.0f;
+}
+
+float SignedSquare(float amount, bool inverted) { return inverted ? -(amount * amount) : amount * amount; }
+
+void SetUpRouting(const GrooveChannel& channel, int number, EnvelopeRoute& envelope, Lfo& lfo)
+{
+    const auto value = [&](int index) { return channel.Modulated(index + number); };
+    envelope.destination = Truncate(3.0f * value(slot::EnvelopeDestination));
+    envelope.amount = SignedSquare(value(slot::EnvelopeAmount), value(slot::EnvelopeInvert) != 0.0f);
+    lfo.destination = Truncate(3.0f * value(slot::LfoDestination));
+    lfo.shape = Truncate(3.0f * value(slot::LfoShape));
+    lfo.amount = SignedSquare(value(slot::LfoAmount), value(slot::LfoInvert) != 0.0f);
+}
+
+/// How much of each modulator reaches one destination; an unrouted one has factor 0.
+struct Mix {
+    float env1, env2, lfo1, lfo2;
+
+    float AddTo(float base, float env1Level, float env2Level, float lfo1Out, float lfo2Out) const
+    {
+        return base + env1 * env1Level + env2 * env2Level + lfo1 * lfo1Out + lfo2 * lfo2Out;
+    }
+};
+
+Mix MixFor(const GrooveChannel& channel, int destination)
+{
+    return {channel.env1.destination == destination ? channel.env1.amount : 0.0f,
+            channel.env2.destination == destination ? channel.env2.amount : 0.0f,
+            channel.lfo1.destination == destination ? 1.0f : 0.0f,
+            channel.lfo2.destination == destination ? 1.0f : 0.0f};
+}
+
+struct Levels {
+    alignas(64) float amp[kMaxRun], env1[kMaxRun], env2[kMaxRun];
+};
+
+/// Frames `from` to `to` - 1 of the recurrences.
+void RunLevels(ChannelVoice& voice, float glideRate, Levels& levels, int from, int to)
+{
+    Envelope amp = voice.amp, env1 = voice.env1, env2 = voice.env2;
+    float gain = voice.gain, glidePitch = voice.glidePitch;
+    const float gainTarget = voice.gainTarget, pitchNote = static_cast<float>(voice.pitchNote);
+    for (int n = from; n < to; ++n) {
+        glidePitch += (pitchNote - glidePitch) * glideRate;
+        env1.Step();
+        env2.Step();
+        amp.Step();
+        gain += (gainTarget - gain) * kSmoothing;
+        levels.env1[n] = env1.level;
+        levels.env2[n] = env2.level;
+        levels.amp[n] = amp.level;
+        voice.gainFrames[n] = gain;
+    }
+    voice.amp = amp;
+    voice.env1 = env1;
+    voice.env2 = env2;
+    voice.gain = gain;
+    voice.glidePitch = glidePitch;
+}
+
+/// An LFO as the voice hears it, its depth scaled by the envelope where that is routed to it.
+void ScaleLfo(const float* lfo, const float* envelope, bool scaled, float* out, int frames)
+{
+    if (!scaled) {
+        std::copy_n(lfo, frames, out);
+        return;
+    }
+    for (int n = 0; n < frames; ++n) out[n] = lfo[n] * envelope[n];
+}
+
+} // namespace
+
+void SetUpModulation(GrooveChannel& channel, float tempo)
+{
+    SetUpLfo(channel, channel.lfo1, 0, tempo);
+    SetUpLfo(channel, channel.lfo2, 1, tempo);
+    if (channel.AnyVoiceActive()) {
+        SetUpRouting(channel, 0, channel.env1, channel.lfo1);
+        SetUpRouting(channel, 1, channel.env2, channel.lfo2);
+    }
+    channel.filterType = Clamp(Truncate(2.0f * channel.Modulated(slot::FilterType)), 0, 2);
+    channel.cutoffBase = channel.params[slot::FilterCutoff];
+    if (!(channel.cutoffSmooth >= 0.0f) || !std::isfinite(channel.cutoffSmooth))
+        channel.cutoffSmooth = channel.cutoffBase;
+    if (!std::isfinite(channel.modAmountSmooth)) channel.modAmountSmooth = 0.0f;
+}
+
+void RunChannelModulation(GrooveChannel& channel, float modulation, ChannelFrames& shared, int frames)
+{
+    const float cutoffBase = channel.cutoffBase, modTarget = modulation * modulation;
+    float cutoff = channel.cutoffSmooth, modAmount = channel.modAmountSmooth;
+    for (int n = 0; n < frames; ++n) {
+        cutoff += (cutoffBase - cutoff) * kSmoothing;
+        modAmount += (modTarget - modAmount) * kSmoothing;
+        shared.cutoff[n] = cutoff;
+        shared.modAmount[n] = modAmount;
+    }
+    channel.cutoffSmooth = cutoff;
+    channel.modAmountSmooth = modAmount;
+    channel.lfo1.Run(shared.lfo1, frames);
+    channel.lfo2.Run(shared.lfo2, frames);
+}
+
+void RunVoiceModulation(GrooveChannel& channel, ChannelVoice& voice, const ChannelFrames& shared, float glideRate,
+                        VoiceFrames& own, int frames)
+{
+    Levels levels;
+    int sounding = 0; // frames before the release
+    if (!voice.releasing) {
+        sounding = std::min(frames, std::max(voice.lengthFrames, 1));
+        RunLevels(voice, glideRate, levels, 0, sounding);
+        voice.lengthFrames -= sounding;
+        if (voice.lengthFrames < 1 && sounding > 0) channel.ReleaseNote(voice.note);
+    }
+    RunLevels(voice, glideRate, levels, sounding, frames);
+    if (frames < 1) return;
+
+    alignas(64) float lfo1[kMaxRun], lfo2[kMaxRun];
+    ScaleLfo(shared.lfo1, levels.env1, channel.env1.destination == destination::Depth, lfo1, frames);
+    ScaleLfo(shared.lfo2, levels.env2, channel.env2.destination == destination::Depth, lfo2, frames);
+    voice.lfo1Out = lfo1[frames - 1];
+    voice.lfo2Out = lfo2[frames - 1];
+
+    const Mix toCutoff = MixFor(channel, destination::Cutoff), toModAmount = MixFor(channel, destination::ModAmount),
+              toAmp = MixFor(channel, destination::Amplitude);
+    const float cutoffOffset = voice.cutoffOffset;
+    for (int n = 0; n < frames; ++n) {
+        const float env1 = levels.env1[n], env2 = levels.env2[n];
+        voice.cutoffFrames[n] = toCutoff.AddTo(shared.cutoff[n] + cutoffOffset, env1, env2, lfo1[n], lfo2[n]);
+        own.modAmount[n] = toModAmount.AddTo(shared.modAmount[n], env1, env2, lfo1[n], lfo2[n]);
+        const float amp = levels.amp[n] * levels.amp[n] + toAmp.lfo1 * lfo1[n] + toAmp.lfo2 * lfo2[n];
+        own.amp[n] = amp > 0.0f ? amp : 0.0f;
+    }
+}
+
+float PitchModulation(const GrooveChannel& channel, const ChannelVoice& voice, float lfoSemitones)
+{
+    const Mix mix = MixFor(channel, destination::Pitch);
+    return mix.env1 * voice.env1.level * kEnvelopeSemitones + mix.env2 * voice.env2.level * kEnvelopeSemitones +
+           mix.lfo1 * voice.lfo1Out * lfoSemitones + mix.lfo2 * voice.lfo2Out * lfoSemitones;
+}
+
+float ModulatedAmount(const GrooveChannel& channel, const ChannelVoice& voice, float base)
+{
+    return MixFor(channel, destination::ModAmount)
+        .AddTo(base, voice.env1.level, voice.env2.level, voice.lfo1Out, voice.lfo2Out);
+}
+
+} // namespace korvane

@@ -1,0 +1,199 @@
+// Sample layers.
+#include "engine/voice/SamplerVoice.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/GrooveChannel.h"
+#include "engine/fx/Biquad.h"
+#include "engine/voice/Modulation.h"
+#include "engine/voice/VoiceLife.h"
+#include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr float kHoldLevel = 1.00001f; // beyond full level, so that every frame of the hold finds the attack over
+constexpr float kNoDecay = 0.999f;     // "SAMPLER: Layer Decay" from which a layer stays at full level
+
+float Square(float x) { return x * x; }
+float Fourth(float x) { return Square(x) * Square(x); }
+
+/// The sample of a layer, or null. A file that could not be read is a sample of 0 frames.
+const CWaveSample* SampleOf(const GrooveChannel& channel, int l)
+{
+    const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(kFirstLayerSlot + l)].entry;
+    return entry ? entry->sample.get() : nullptr;
+}
+
+void StartFilters(LayerFilters& filters, float loCut, float hiCut, float bandwidth, float rate)
+{
+    const float q = bandwidth * bandwidth * bandwidth * 16.0f + 0.99f;
+    const FilterCoefficients lo =
+        HighPassCoefficients(std::pow(2.0f, 10.0f * Clamp(loCut, 0.0f, 1.0f) + 4.0f), q, rate);
+    const FilterCoefficients hi = LowPassCoefficients(std::pow(2.0f, 6.3f * Clamp(hiCut, 0.0f, 1.0f) + 8.0f), q, rate);
+    filters = {};
+    for (int lane = 0; lane < 4; ++lane) {
+        const FilterCoefficients& section = lane < 2 ? lo : hi;
+        filters.b0[lane] = section.b;
+        filters.a1[lane] = section.a1;
+        filters.a2[lane] = section.a2;
+    }
+}
+
+} // namespace
+
+void StartLayers(GrooveChannel& channel, ChannelVoice& voice)
+{
+    const float rate = channel.rate;
+    for (int l = 0; l < kLayers; ++l) {
+        const auto value = [&](int index) { return channel.Modulated(index + l); };
+        SamplerLayer& layer = voice.layers[l];
+        layer.bypassed = value(slot::LayerBypass) != 0.0f;
+        layer.reverse = value(slot::LayerReverse) != 0.0f;
+        if (const CWaveSample* sample = SampleOf(channel, l))
+            layer.position = std::max(0.0f, value(slot::LayerStart) * static_cast<float>(sample->numFrames));
+        layer.delayFrames = std::max(0, Truncate(Fourth(value(slot::LayerDelay)) * rate * 0.25f));
+
+        float pitch = Clamp(value(slot::LayerPitch), 0.0f, 1.0f) - 0.5f;
+        if (pitch < 0.0f) pitch = -(pitch * pitch);
+        layer.pitch = 96.0f * pitch;
+
+        const float pan = value(slot::LayerPan), level = value(slot::LayerLevel);
+        const float gain = value(slot::LayerInvert) != 0.0f ? -(2.0f * Square(level)) : 2.0f * Square(level);
+        layer.gainLeft = 2.0f * (1.0f - pan) * gain;
+        layer.gainRight = 2.0f * pan * gain;
+        StartFilters(layer.filters, value(slot::LayerLoCut), value(slot::LayerHiCut), value(slot::LayerBandwidth),
+                     rate);
+
+        const float attack = value(slot::LayerAttack), decay = value(slot::LayerDecay);
+        layer.envLevel = 0.0f;
+        layer.envTarget = kAttackTarget;
+        layer.envRate = EnvelopeRate(attack * attack * attack * 250.0f, rate);
+        layer.holdFrames = Truncate(Square(value(slot::LayerHold)) * rate);
+        layer.decayRate = decay >= kNoDecay ? 0.0f : EnvelopeRate(Fourth(decay) * 50.0f, rate);
+    }
+}
+
+bool LayersCanPlay(const GrooveChannel& channel, const ChannelVoice& voice)
+{
+    for (int l = 0; l < kLayers; ++l) {
+        const CWaveSample* sample = SampleOf(channel, l);
+        if (sample && !voice.layers[l].bypassed && voice.layers[l].position < sample->numFrames) return true;
+    }
+    return false;
+}
+
+void TuneLayers(GrooveChannel& channel, ChannelVoice& voice)
+{
+    const float transpose = static_cast<float>(ChannelTranspose(channel));
+    const float modulation = PitchModulation(channel, voice, 1.0f);
+    for (SamplerLayer& layer : voice.layers) {
+        const float semitones = layer.pitch + transpose + modulation;
+        if (semitones == layer.semitones) continue;
+        layer.semitones = semitones;
+        layer.increment = std::pow(2.0, static_cast<double>(semitones) / 12.0);
+    }
+}
+
+namespace {
+
+/// Frames of one layer on their way through its stages, interleaved left and right.
+struct LayerRun {
+    alignas(64) float stereo[2 * kMaxRun];
+    alignas(64) float envelope[kMaxRun];
+};
+
+/// Reads the sample, with gain applied. Returns the frames that the layer could play before the sample's end; the
+/// position moves on through the whole run.
+template <bool kStereo, bool kReverse>
+int ReadFrames(SamplerLayer& layer, const CWaveSample& sample, float* out, int frames)
+{
+    const float* const data0 = sample.channelData[0].get();
+    const float* const data1 = kStereo ? sample.channelData[1].get() : data0;
+    const std::int32_t numFrames = sample.numFrames;
+    const double end = numFrames, increment = layer.increment;
+    const float gainLeft = layer.gainLeft, gainRight = layer.gainRight;
+    double position = layer.position;
+    int n = 0;
+    for (; n < frames && position < end; ++n) {
+        std::int32_t i = static_cast<std::int32_t>(position);
+        float f = static_cast<float>(position - i);
+        if constexpr (kReverse) {
+            f = 1.0f - f;
+            i = numFrames - i; // up to numFrames; the sample has zeros after its last frame
+        }
+        const float left = data0[i] * (1.0f - f) + data0[i + 1] * f;
+        const float right = kStereo ? data1[i] * (1.0f - f) + data1[i + 1] * f : left;
+        out[2 * n] = Flush(left * gainLeft);
+        out[2 * n + 1] = Flush(right * gainRight);
+        position += increment;
+    }
+    for (int rest = n; rest < frames; ++rest) position += increment;
+    layer.position = position;
+    return n;
+}
+
+int ReadFrames(SamplerLayer& layer, const CWaveSample& sample, float* out, int frames)
+{
+    if (sample.numChannels == 2)
+        return layer.reverse ? ReadFrames<true, true>(layer, sample, out, frames)
+                             : ReadFrames<true, false>(layer, sample, out, frames);
+    return layer.reverse ? ReadFrames<false, true>(layer, sample, out, frames)
+                         : ReadFrames<false, false>(layer, sample, out, frames);
+}
+
+void RunEnvelope(SamplerLayer& layer, float* gains, int frames)
+{
+    float level = layer.envLevel, target = layer.envTarget, rate = layer.envRate;
+    std::int32_t hold = layer.holdFrames;
+    for (int n = 0; n < frames; ++n) {
+        level += (target - level) * rate;
+        if (level > 1.0f) {
+            if (hold > 0) {
+                level = kHoldLevel;
+                --hold;
+            } else {
+                level = 1.0f;
+                target = 0.0f;
+                rate = layer.decayRate;
+            }
+        }
+        gains[n] = level * level * kSourceScale;
+    }
+    layer.envLevel = Flush(level);
+    layer.envTarget = target;
+    layer.envRate = rate;
+    layer.holdFrames = hold;
+}
+
+void RenderLayer(SamplerLayer& layer, const CWaveSample& sample, float* left, float* right, int frames)
+{
+    const int delay = std::min(layer.delayFrames, frames);
+    layer.delayFrames -= delay;
+
+    LayerRun run;
+    const int played = ReadFrames(layer, sample, run.stereo, frames - delay);
+    RunEnvelope(layer, run.envelope, played);
+    FilterLayer(layer.filters, run.stereo, played);
+    for (int n = 0; n < played; ++n) {
+        left[delay + n] += run.stereo[2 * n] * run.envelope[n];
+        right[delay + n] += run.stereo[2 * n + 1] * run.envelope[n];
+    }
+}
+
+} // namespace
+
+void RenderLayers(GrooveChannel& channel, ChannelVoice& voice, int frames)
+{
+    std::fill_n(voice.left, frames, 0.0f);
+    std::fill_n(voice.right, frames, 0.0f);
+    for (int l = 0; l < kLayers; ++l) {
+        const CWaveSample* sample = SampleOf(channel, l);
+        if (sample && !voice.layers[l].bypassed) RenderLayer(voice.layers[l], *sample, voice.left, voice.right, frames);
+    }
+}
+
+} // namespace korvane

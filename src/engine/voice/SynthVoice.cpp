@@ -1,0 +1,132 @@
+// Tuning and start of the synth oscillators.
+#include "engine/voice/SynthVoice.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "engine/GrooveChannel.h"
+#include "engine/voice/Modulation.h"
+#include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr float kNoteOf220 = 57.0f; // sounds at 220 Hz
+constexpr int kRichestTable = 511;
+constexpr std::uint32_t kRestartFrames = 512; // a restarted phase starts up to this many frames into the cycle
+
+float Square(float x) { return x * x; }
+
+void SetUpMix(const GrooveChannel& channel, UnisonMix& mix)
+{
+    const auto value = [&](int index) { return channel.Modulated(index); };
+    const float a = Square(value(slot::MixOsc2)), b = Square(value(slot::MixOsc3)), z = Square(value(slot::NoiseMix));
+    const float levels[kSources] = {(1.0f - a) * (1.0f - b) * (1.0f - z), a * (1.0f - b) * (1.0f - z), b * (1.0f - z),
+                                    z};
+    const float stereo = value(slot::UnisonStereo);
+    const int count = mix.unisonCount;
+    const float norm = kSourceScale / (static_cast<float>(count - 1) * 0.15f + 1.0f);
+    for (int u = 0; u < count; ++u) {
+        const float sign = u == 0 && count % 2 == 1 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
+        const float left = Clamp(1.0f - sign * stereo, 0.0f, 1.0f), right = Clamp(1.0f + sign * stereo, 0.0f, 1.0f);
+        for (int source = 0; source < kSources; ++source) {
+            mix.gainLeft[source][u] = levels[source] * left * norm;
+            mix.gainRight[source][u] = levels[source] * right * norm;
+        }
+    }
+}
+
+int TableOf(float frequency, float rate)
+{
+    if (frequency <= rate / 1024.0f) return kRichestTable;
+    return Clamp(Truncate(rate / (2.0f * frequency)), 0, kRichestTable);
+}
+
+void FillIncrements(float frequency, float rate, const SynthSettings& settings, std::uint32_t* increments)
+{
+    const float limit = 0.4999f * rate;
+    for (int u = 0; u < settings.mix.unisonCount; ++u) {
+        const float cycles = std::min(frequency * settings.detune[u], limit) / rate;
+        increments[u] = static_cast<std::uint32_t>(Truncate(cycles * 0x1p32f));
+    }
+}
+
+void RestartPhases(RandomGenerator& random, ChannelVoice& voice, const UnisonTuning& tuning, int unisonCount)
+{
+    for (int u = 0; u < unisonCount; ++u) {
+        const std::uint32_t frames = (random.Next() + 1u) % kRestartFrames;
+        voice.phases[u].osc1 = tuning.increments[0][u] * frames;
+        voice.phases[u].osc2 = tuning.increments[1][u] * frames;
+    }
+    voice.restartPhases = false;
+}
+
+} // namespace
+
+void SetUpSynth(const GrooveChannel& channel, SynthSettings& settings)
+{
+    const auto value = [&](int index) { return channel.Modulated(index); };
+    const int count = Clamp(Truncate(15.0f * value(slot::UnisonVoices)), 0, kUnison - 1) + 1;
+    const float spread = Square(0.4f * value(slot::UnisonDetune)); // octaves from the lowest to the highest
+    for (int u = 0; u < count; ++u) {
+        const float position = static_cast<float>(u) / static_cast<float>(count - 1) - 0.5f;
+        settings.detune[u] = count == 1 ? 1.0f : std::pow(2.0f, position * spread);
+    }
+    for (int osc = 0; osc < kOscillators; ++osc) {
+        const float semitones = static_cast<float>(Truncate(72.0f * value(slot::Osc1Pitch + 2 * osc) - 36.0f));
+        const float cents = static_cast<float>(Truncate(100.0f * value(slot::Osc1Detune + 2 * osc) - 50.0f));
+        settings.ratios[osc] = std::pow(2.0f, (semitones + 0.01f * cents) / 12.0f);
+    }
+    settings.bendSemitones = static_cast<float>(Truncate(12.0f * value(slot::BendRange)));
+    settings.slides = value(slot::SlideEnable) != 0.0f;
+
+    UnisonMix& mix = settings.mix;
+    mix.unisonCount = count;
+    mix.modulation = static_cast<OscillatorModulation>(Clamp(Truncate(value(slot::ModKind)), 0, 2));
+    mix.phaseOffset2 = PhaseOf(2.0f * value(slot::PhaseOffsetOsc2));
+    mix.invert2 = value(slot::Osc2Invert) != 0.0f;
+    SetUpMix(channel, mix);
+}
+
+void StartOscillators(GrooveChannel& channel, ChannelVoice& voice)
+{
+    if (channel.Modulated(slot::UnisonRetrig) == 0.0f) {
+        voice.restartPhases = channel.Modulated(slot::PhaseRetrigOsc2) != 0.0f;
+        return;
+    }
+    const float spread = channel.Modulated(slot::UnisonPhase);
+    for (int u = 0; u < kUnison; ++u) {
+        const std::uint32_t phase = PhaseOf(4.0f * static_cast<float>(u) * spread);
+        voice.phases[u] = {phase, phase, phase, phase};
+    }
+    voice.restartPhases = false;
+}
+
+void TuneOscillators(GrooveChannel& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning)
+{
+    if (!settings.slides) voice.glidePitch = static_cast<float>(voice.pitchNote);
+    const float pitch =
+        voice.glidePitch + PitchModulation(channel, voice, 12.0f) + settings.bendSemitones * channel.pitchBendIn;
+    const float base = 220.0f * std::pow(2.0f, (pitch - kNoteOf220) / 12.0f);
+    const float rate = channel.rate;
+
+    float frequencies[kOscillators];
+    for (int osc = 0; osc < kOscillators; ++osc) frequencies[osc] = base * settings.ratios[osc];
+    FillIncrements(frequencies[0], rate, settings, tuning.syncIncrements);
+    if (settings.mix.modulation == OscillatorModulation::Sync) {
+        const float amount = ModulatedAmount(channel, voice, channel.Modulated(slot::Modulation));
+        frequencies[0] *= 1.0f + 3.0f * Clamp(amount, 0.0f, 1.0f);
+    }
+    for (int osc = 0; osc < kOscillators; ++osc) {
+        FillIncrements(frequencies[osc], rate, settings, tuning.increments[osc]);
+        const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(osc)].entry;
+        const float* tables = entry ? entry->waveTables.get() : nullptr;
+        tuning.tables[osc] =
+            tables ? tables + kWaveTablePoints * TableOf(frequencies[osc], rate) : channel.samplePool.silentTable;
+    }
+    if (voice.restartPhases) RestartPhases(channel.random, voice, tuning, settings.mix.unisonCount);
+}
+
+} // namespace korvane

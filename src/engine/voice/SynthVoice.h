@@ -1,0 +1,30 @@
+// The synth channel's source: three table oscillators and noise, stacked for unison.
+#pragma once
+
+#include "engine/voice/SynthKernel.h"
+
+namespace korvane {
+
+class GrooveChannel;
+struct ChannelVoice;
+
+/// What a run has in common for all voices of a synth channel.
+struct SynthSettings {
+    float ratios[kOscillators] = {}; // of the oscillators' frequencies to the note's
+    float detune[kUnison] = {};      // frequency factors of the unison voices
+    float bendSemitones = 0.0f;      // at full pitch bend
+    bool slides = false;             // pitch glides from the last note's
+    UnisonMix mix;
+};
+
+/// Reads the settings of the coming run.
+void SetUpSynth(const GrooveChannel& channel, SynthSettings& settings);
+
+/// Sets the phases for the note that starts, or marks them for a restart at its first run.
+void StartOscillators(GrooveChannel& channel, ChannelVoice& voice);
+
+/// Tunes the voice for the coming run and carries out a pending restart of the phases. Pitch is read here, once per
+/// run.
+void TuneOscillators(GrooveChannel& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning);
+
+} // namespace korvane

@@ -1,0 +1,55 @@
+// The channel filter, run once per voice.
+#pragma once
+
+#include <array>
+#include <memory>
+
+#include "content/CutoffTable.h"
+#include "content/SamplePool.h"
+#include "engine/GrooveChannel.h"
+#include "framework/Limits.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+/// Which signal of the ladder is heard.
+enum class FilterType : int { LowPass = 0, BandPass = 1, HighPass = 2 };
+
+inline constexpr int kOversampling = 4;
+
+/// Four-pole resonant ladder (R. A. Moog, "A voltage-controlled low-pass high-pass filter for audio signal processing",
+/// 1965) with the limiter in its feedback path, run four times per frame on the same input. S is float or a vector of
+/// floats; every lane of the vector form gives the bits of the float form. The limiter keeps |u| at or below 2.5, so
+/// the stages stay finite for every finite input.
+template <class S>
+struct Ladder {
+    S s1{}, s2{}, s3{}, s4{};
+    S u{}; // limited input of the last pass
+
+    /// g, k       from the cutoff table
+    /// resonance  0..1
+    void Pass(S x, S g, S k, S resonance)
+    {
+        u = x - s4 * k * resonance;
+        u = u / (1.0f + 0.04f * (u * u)); // bounds the self-oscillation
+        s1 += (u - s1) * g;
+        s2 += (s1 - s2) * g;
+        s3 += (s2 - s3) * g;
+        s4 += (s3 - s4) * g;
+    }
+};
+
+/// Coefficients at a cutoff of 0..1; beyond it, and for NaN, the nearest end.
+inline CutoffPair CutoffAt(const CutoffPair* table, float cutoff)
+{
+    return table[static_cast<int>(Clamp(cutoff * 65536.0f, 0.0f, 65535.0f))];
+}
+
+/// Adds the active voices of all channels to the mix buffers of their channels through their filters: channel by
+/// channel, voice by voice. Voices lie side by side in vectors across channels, as many at a time as the machine can
+/// compute while one of them waits for its own result. Audio thread.
+/// pool    the mix buffers and the cutoff table
+/// frames  0..kMaxRun, of the run that the channels have just rendered
+void FilterVoices(const std::array<std::unique_ptr<GrooveChannel>, kChannels>& channels, SamplePool& pool, int frames);
+
+} // namespace korvane

@@ -1,0 +1,152 @@
+// Start, refresh, release and end of a voice.
+#include "engine/voice/VoiceLife.h"
+
+#include <cmath>
+#include <cstring>
+
+#include "engine/GrooveChannel.h"
+#include "engine/voice/SamplerVoice.h"
+#include "engine/voice/SynthVoice.h"
+#include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr float kSilence = 0.0001f; // gains and levels below it are not heard
+constexpr float kLoudest = 1e9f;    // output gain that only a parameter far outside 0..1 asks for
+constexpr int kFarthest = 1000000;  // semitones, likewise
+
+float Square(float x) { return x * x; }
+float Cube(float x) { return x * x * x; }
+float Fourth(float x) { return Square(x) * Square(x); }
+float Fifth(float x) { return Fourth(x) * x; }
+
+int WholeSemitones(float value) { return Clamp(Truncate(value), -kFarthest, kFarthest); }
+
+/// Envelopes and smoothed values are recurrences: one bad parameter value must not stay in them.
+void Recover(float& value, float fallback)
+{
+    if (!std::isfinite(value)) value = fallback;
+}
+
+void StartEnvelopes(GrooveChannel& channel, ChannelVoice& voice)
+{
+    const auto value = [&](int index) { return channel.Modulated(index); };
+    const float rate = channel.rate;
+
+    voice.amp.Attack(EnvelopeRate(Cube(value(slot::AmpAttack)) * 50.0f, rate));
+    voice.amp.decayRate = EnvelopeRate(Fourth(value(slot::AmpDecay)) * 50.0f, rate);
+    voice.amp.sustain = value(slot::AmpSustain);
+    voice.ampReleaseRate = EnvelopeRate(Cube(0.55f * value(slot::AmpRelease) + 0.1f) * 25.0f, rate);
+
+    Envelope* const envelopes[] = {&voice.env1, &voice.env2};
+    for (int e = 0; e < 2; ++e) {
+        Envelope& envelope = *envelopes[e];
+        envelope.level = 0.0f;
+        envelope.Attack(EnvelopeRate(Fifth(value(slot::EnvelopeAttack + e)) * 300.0f, rate));
+        envelope.decayRate = EnvelopeRate(Fifth(0.8f * value(slot::EnvelopeDecay + e) + 0.2f) * 70.0f, rate);
+    }
+}
+
+bool Faded(const ChannelVoice& voice)
+{
+    return voice.amp.level < kSilence && voice.amp.target == 0.0f && voice.gain < kSilence &&
+           voice.gainTarget < kSilence;
+}
+
+} // namespace
+
+int ChannelTranspose(const GrooveChannel& channel)
+{
+    return WholeSemitones(48.0f * channel.Modulated(slot::Pitch) - 24.0f);
+}
+
+std::int32_t PitchNote(const GrooveChannel& channel, int note)
+{
+    const int octaves = WholeSemitones(4.0f * channel.Modulated(slot::Octave));
+    return Clamp(note, -kFarthest, kFarthest) + ChannelTranspose(channel) - 24 + 12 * octaves;
+}
+
+float LevelGain(float ampLevel)
+{
+    return Clamp(std::pow(10.0f, (50.0f * ampLevel - 25.0f) / 20.0f) / kSourceScale, 0.0f, kLoudest);
+}
+
+void StartVoice(GrooveChannel& channel, ChannelVoice& voice)
+{
+    voice.releasing = false;
+    voice.active = true;
+    voice.lfo1Out = voice.lfo2Out = 0.0f;
+
+    const bool silenced = voice.fromSequencer && channel.muted;
+    voice.gainTarget = silenced ? 0.0f : Clamp(Square(channel.Modulated(slot::AmpLevel)), 0.0f, kLoudest);
+    if (voice.gain < 0.0f) voice.gain = voice.gainTarget;
+
+    StartEnvelopes(channel, voice);
+    if (channel.Modulated(slot::SlideEnable) != 0.0f && channel.lastPitch != -1.0f)
+        voice.glidePitch = channel.lastPitch;
+    if (channel.Modulated(slot::LfoRetrig) != 0.0f) channel.lfo1.phase = 0.0f;
+    if (channel.Modulated(slot::LfoRetrig + 1) != 0.0f) channel.lfo2.phase = 0.0f;
+
+    if (channel.isSampler)
+        StartLayers(channel, voice);
+    else
+        StartOscillators(channel, voice);
+}
+
+bool RefreshVoice(GrooveChannel& channel, ChannelVoice& voice, float levelGain)
+{
+    Recover(voice.amp.level, 0.0f);
+    Recover(voice.env1.level, 0.0f);
+    Recover(voice.env2.level, 0.0f);
+    Recover(voice.gain, 0.0f);
+    Recover(voice.glidePitch, static_cast<float>(voice.pitchNote));
+
+    if (channel.isSampler && !LayersCanPlay(channel, voice)) {
+        ClearVoice(voice);
+        return false;
+    }
+    if (Faded(voice)) {
+        EndVoice(voice);
+        return false;
+    }
+
+    const float tracking = channel.Modulated(slot::FilterTracking);
+    const float trackedCutoff = tracking == 0.0f ? 0.0f : (voice.glidePitch - 57.0f) * 0.0078125f * tracking;
+
+    const bool silenced = voice.fromSequencer && channel.muted;
+    const bool released = voice.amp.level < kSilence && voice.amp.target == 0.0f;
+    const bool followsVelocity = !voice.fromSequencer && channel.Modulated(slot::VelocitySensitivity) != 0.0f;
+    voice.gainTarget = silenced || released ? 0.0f : levelGain * (followsVelocity ? voice.velocity : 1.0f);
+
+    voice.cutoffOffset = trackedCutoff + channel.Modulated(slot::FilterCutoff) - channel.cutoffBase;
+    voice.resonance = Clamp(channel.Modulated(slot::FilterResonance), -kLoudest, kLoudest);
+    voice.pitchNote = PitchNote(channel, voice.note);
+    return true;
+}
+
+void ReleaseVoice(ChannelVoice& voice)
+{
+    voice.releasing = true;
+    voice.amp.rate = voice.ampReleaseRate;
+    voice.amp.target = 0.0f;
+}
+
+void EndVoice(ChannelVoice& voice)
+{
+    voice.note = -1;
+    voice.active = voice.releasing = false;
+    std::memset(voice.filterState, 0, sizeof voice.filterState);
+}
+
+void ClearVoice(ChannelVoice& voice)
+{
+    EndVoice(voice);
+    voice.gain = -1.0f;
+    voice.gainTarget = 1.0f;
+    voice.amp.level = voice.env1.level = voice.env2.level = 0.0f;
+}
+
+} // namespace korvane
