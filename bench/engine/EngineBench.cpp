@@ -44,7 +44,8 @@ struct Rig {
             for (int n = 0; n < kSampleSlots; ++n) {
                 const bool used = n < kFirstLayerSlot + layers;
                 const std::string& file = n < kFirstLayerSlot ? wave : sample;
-                engine.Channel(c).sampleSlots[static_cast<std::size_t>(n)].request.Post(used ? file.c_str() : "!");
+                engine.Channel(c).sound.sampleSlots[static_cast<std::size_t>(n)].request.Post(used ? file.c_str()
+                                                                                                   : "!");
             }
             engine.storedParams[c][slot::UnisonVoices] = unison;
             engine.storedParams[c][slot::LayerPitch] = 0.3f;
@@ -74,7 +75,7 @@ template <class Start>
 void SoundingBlock(benchmark::State& state, Rig& rig, const Start& start)
 {
     for (auto _ : state) {
-        if (!rig.engine.Channel(0).AnyVoiceActive()) {
+        if (!AnyVoiceActive(rig.engine.Channel(0).voices)) {
             state.PauseTiming();
             rig.engine.ResetEngine(0.0f);
             start();

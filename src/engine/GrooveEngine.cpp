@@ -147,7 +147,7 @@ void GrooveEngine::RefreshChannel(int channel, bool withLocks)
         std::copy(std::begin(seen), std::end(seen), block);
         if (withLocks && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
         for (int i = 0; i < kChannelSlots; ++i)
-            Channel(channel).params[i] = Tame(block[i]); // wild values stay in `stored`
+            Channel(channel).sound.params[i] = Tame(block[i]); // wild values stay in `stored`
         if (lastStep[channel] == step && !moved(seen)) break;
     }
     RefreshFxActive(channel);
@@ -201,7 +201,7 @@ void GrooveEngine::RefreshStutterCodes()
 
 void GrooveEngine::ResetGroove()
 {
-    for (int c = 0; c < kSamplerChannels; ++c) Channel(c).isSampler = true;
+    for (int c = 0; c < kSamplerChannels; ++c) Channel(c).sound.isSampler = true;
     samplesToNextStep = 0.0;
     selectedChannel = kSamplerChannels;
     stepCounter = patternStep = std::uint8_t{0};
@@ -232,7 +232,7 @@ void GrooveEngine::InitChannel(int channel)
     for (int n = 0; n < kChannelSlots; ++n)
         storedParams[channel][n] = ChannelBlockDefault(n, channel < kSamplerChannels);
     int n = 0;
-    for (SampleSlot& sampleSlot : Channel(channel).sampleSlots) {
+    for (SampleSlot& sampleSlot : Channel(channel).sound.sampleSlots) {
         const bool oscillator = n++ < kFirstLayerSlot;
         sampleSlot.request.Post(oscillator ? defaultWavePath : "!");
         sampleSlot.path.Set(oscillator ? defaultWavePath : ""); // a state saved before the next block has it already

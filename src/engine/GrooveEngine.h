@@ -186,7 +186,7 @@ public:
     Shared<float> storedParams[kChannels][kChannelSlots];
     std::unique_ptr<GroovePattern> clipboard;
     std::array<std::unique_ptr<GroovePattern>, kPatterns> patterns;
-    std::array<std::unique_ptr<GrooveChannel>, kChannels> channels;
+    Channels channels;
 
     VoiceCommands voiceCommands;
 

@@ -137,7 +137,7 @@ void GrooveEngine::RecordRelease(int k)
     const double held = frameClock / static_cast<double>(sampleRate) * static_cast<double>(tempo) / 60.0;
     const float beats = std::max(static_cast<float>(held), 0.125f);
     const float length = 0.125f * std::log2(8.0f * beats);
-    const float offset = length - Channel(channel).params[slot::NoteLength];
+    const float offset = length - Channel(channel).sound.params[slot::NoteLength];
     Pattern().locks[channel][position].Set(slot::NoteLength, Clamp(offset, -1.0f, 1.0f));
 }
 

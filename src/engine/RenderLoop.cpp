@@ -53,10 +53,10 @@ void GrooveEngine::RenderFrames(float* const* outputs, int frames)
         for (int c = 0; c < kChannels; ++c) {
             GrooveChannel& channel = Channel(c);
             const bool live = c == selected;
-            channel.muted = muted[c] || (soloSelected && !live);
-            channel.modWheelIn = live ? static_cast<float>(liveModWheel) : 0.0f;
-            channel.pitchBendIn = live ? static_cast<float>(livePitchBend) : 0.0f;
-            channel.pressureIn = live ? static_cast<float>(livePressure) : 0.0f;
+            channel.sound.muted = muted[c] || (soloSelected && !live);
+            channel.sound.modWheelIn = live ? static_cast<float>(liveModWheel) : 0.0f;
+            channel.sound.pitchBendIn = live ? static_cast<float>(livePitchBend) : 0.0f;
+            channel.sound.pressureIn = live ? static_cast<float>(livePressure) : 0.0f;
             channel.Render(run, tempo);
         }
         MixChannels(out.data(), run);
@@ -75,7 +75,7 @@ void GrooveEngine::MixChannels(float* const* outputs, int frames)
         std::fill_n(samplePool->ChannelLeft(c), frames, 0.0f);
         std::fill_n(samplePool->ChannelRight(c), frames, 0.0f);
     }
-    FilterVoices(channels, *samplePool, frames);
+    FilterChannels(channels, *samplePool, frames);
     for (int c = 0; c < kChannels; ++c) MixStrip(c, outputs, frames);
 }
 
@@ -94,9 +94,9 @@ void GrooveEngine::MixStrip(int c, float* const* outputs, int frames)
         audible = audible || unit->HasTail();
     }
 
-    const float levelDb = 80.0f * channel.params[slot::MixLevel] - 60.0f;
+    const float levelDb = 80.0f * channel.sound.params[slot::MixLevel] - 60.0f;
     const float gain = Clamp(std::pow(10.0f, levelDb / 20.0f), 0.0f, kGainCeiling);
-    const float pan = channel.params[slot::Panning];
+    const float pan = channel.sound.params[slot::Panning];
     const float targetLeft = std::max(Clamp(1.0f - pan, 0.0f, 1.0f) * gain, kGainFloor);
     const float targetRight = std::max(Clamp(pan, 0.0f, 1.0f) * gain, kGainFloor);
     float gainLeft = channel.outGainLeft;

@@ -71,7 +71,7 @@ void GrooveEngine::PlayStep(int c, bool late, bool recording)
 {
     GrooveChannel& channel = Channel(c);
     const int position = std::min<int>(patternStep, kSteps - 1);
-    const bool shuffled = channel.params[slot::ShuffleEnable] != 0.0f && !(recording && c == selectedChannel);
+    const bool shuffled = channel.sound.params[slot::ShuffleEnable] != 0.0f && !(recording && c == selectedChannel);
     if (!late) {
         const std::int8_t pressed = stutterCode[c];
         std::int8_t code = pressed;

@@ -82,7 +82,7 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
                           {"\\text.wav", "text", "Drum Samples/text.wav", 1}, {"!", "", "", 0},
                           {"\\a.wav",    "a",    "Drum Samples/a.wav",    1}, {"", "a", "Drum Samples/a.wav", 1}};
     // clang-format on
-    SampleSlot& layer = Engine().Channel(0).sampleSlots[kFirstLayerSlot];
+    SampleSlot& layer = Engine().Channel(0).sound.sampleSlots[kFirstLayerSlot];
     for (const Case& c : cases) {
         SCOPED_TRACE(c.request);
         if (*c.request) layer.request.Post("\\other.wav");
@@ -92,7 +92,7 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
         EXPECT_EQ(TextOf(layer.path), *c.path ? Path(c.path) : "");
         EXPECT_EQ(Entries(), c.entries);
     }
-    SampleSlot& oscillator = Engine().Channel(kSamplerChannels).sampleSlots[kFirstLayerSlot - 1];
+    SampleSlot& oscillator = Engine().Channel(kSamplerChannels).sound.sampleSlots[kFirstLayerSlot - 1];
     oscillator.request.Post("\\a.wav");
     Render();
     EXPECT_EQ(TextOf(oscillator.path), Path("Synth Waves/a.wav"));

@@ -75,7 +75,7 @@ void FillChannel(GrooveEngine& engine, int c, Dice& dice)
     for (int n = sampler ? kOscillators : 0; n < (sampler ? kSampleSlots : kOscillators); ++n) {
         const std::string name = sampler ? std::string("Drum Samples\\") + kDrums[(c + n) % kSamplerChannels]
                                          : std::string("Synth Waves\\") + kWaves[(c + n) % std::ssize(kWaves)];
-        engine.Channel(c).sampleSlots[n].path.Set((name + ".wav").c_str());
+        engine.Channel(c).sound.sampleSlots[n].path.Set((name + ".wav").c_str());
     }
 }
 

@@ -83,7 +83,7 @@ protected:
     {
         int count = 0;
         for (int n = 0; n < kChannels * kSampleSlots; ++n)
-            count += !Engine().Channel(n % kChannels).sampleSlots[n / kChannels].path.Empty();
+            count += !Engine().Channel(n % kChannels).sound.sampleSlots[n / kChannels].path.Empty();
         return count;
     }
 

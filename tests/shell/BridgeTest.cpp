@@ -78,7 +78,7 @@ protected:
         WriteText(click, riff::WavOf(std::vector<float>(64, 0.5f)));
         GrooveEngine groove;
         groove.ResetGroove();
-        groove.Channel(0).sampleSlots[kFirstLayerSlot].path.Set(EnginePath(click.c_str()).c_str());
+        groove.Channel(0).sound.sampleSlots[kFirstLayerSlot].path.Set(EnginePath(click.c_str()).c_str());
         for (int s = 0; s < kStepsPerBar; s += 4) groove.patterns[0]->steps[0][s] = 1u << s;
         std::vector<std::uint8_t> chunk(static_cast<std::size_t>(groove.SaveState(nullptr)));
         groove.SaveState(chunk.data());

@@ -122,7 +122,7 @@ private:
     PoolEntry& Entry(int c, int at)
     {
         entries.push_back(std::make_unique<PoolEntry>());
-        Engine().Channel(c).sampleSlots[static_cast<std::size_t>(at)].entry = entries.back().get();
+        Engine().Channel(c).sound.sampleSlots[static_cast<std::size_t>(at)].entry = entries.back().get();
         return *entries.back();
     }
 

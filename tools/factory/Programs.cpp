@@ -21,7 +21,7 @@ Patch& Patch::File(int sampleSlot, const char* name)
 {
     char path[64]; // a file name alone: the instrument finds it in its own folders
     std::snprintf(path, sizeof path, "\\%s.wav", name);
-    engine.Channel(channel).sampleSlots[static_cast<std::size_t>(sampleSlot)].path.Set(path);
+    engine.Channel(channel).sound.sampleSlots[static_cast<std::size_t>(sampleSlot)].path.Set(path);
     return *this;
 }
 

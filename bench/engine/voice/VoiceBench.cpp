@@ -39,18 +39,21 @@ struct Rig {
         for (int c = 0; c < kChannels; ++c) {
             channels[c] = std::make_unique<GrooveChannel>(*pool, random);
             GrooveChannel& channel = *channels[c];
-            channel.isSampler = c < kSamplerChannels;
-            for (int s = 0; s < kSampleSlots; ++s) channel.sampleSlots[s].entry = s < kFirstLayerSlot ? &wave : &drum;
+            channel.sound.isSampler = c < kSamplerChannels;
+            for (int s = 0; s < kSampleSlots; ++s)
+                channel.sound.sampleSlots[s].entry = s < kFirstLayerSlot ? &wave : &drum;
             for (int index :
                  {slot::Pitch, slot::AmpLevel, slot::Octave, slot::Osc1Pitch, slot::Osc1Detune, slot::Osc2Pitch,
                   slot::Osc2Detune, slot::Osc3Pitch, slot::Osc3Detune, slot::UnisonDetune, slot::FilterCutoff})
-                channel.params[index] = 0.5f;
-            for (int index : {slot::AmpDecay, slot::AmpSustain, slot::EnvelopeDecay}) channel.params[index] = 1.0f;
-            channel.params[slot::EnvelopeDecay + 1] = 1.0f;
+                channel.sound.params[index] = 0.5f;
+            for (int index : {slot::AmpDecay, slot::AmpSustain, slot::EnvelopeDecay})
+                channel.sound.params[index] = 1.0f;
+            channel.sound.params[slot::EnvelopeDecay + 1] = 1.0f;
             for (int l = 0; l < kLayers; ++l) {
-                for (int index : {slot::LayerLevel, slot::LayerPan, slot::LayerPitch}) channel.params[index + l] = 0.4f;
-                for (int index : {slot::LayerDecay, slot::LayerHiCut}) channel.params[index + l] = 1.0f;
-                channel.params[slot::LayerBypass + l] = l == 0 ? 0.0f : 1.0f;
+                for (int index : {slot::LayerLevel, slot::LayerPan, slot::LayerPitch})
+                    channel.sound.params[index + l] = 0.4f;
+                for (int index : {slot::LayerDecay, slot::LayerHiCut}) channel.sound.params[index + l] = 1.0f;
+                channel.sound.params[slot::LayerBypass + l] = l == 0 ? 0.0f : 1.0f;
             }
             channel.Reset(44100.0f);
         }
@@ -82,7 +85,7 @@ void BM_VoiceFilter(benchmark::State& state)
     const int voices = static_cast<int>(state.range(0));
     for (int v = 0; v < voices; ++v) rig.Play(v % kChannels, 1);
     for (auto& channel : rig.channels) channel->Render(kFrames, kTempo);
-    for (auto _ : state) FilterVoices(rig.channels, *rig.pool, kFrames);
+    for (auto _ : state) FilterChannels(rig.channels, *rig.pool, kFrames);
     PerFrame(state, voices);
 }
 BENCHMARK(BM_VoiceFilter)->Arg(1)->Arg(8)->Arg(20)->Arg(78);
@@ -91,7 +94,7 @@ void BM_SamplerChannel(benchmark::State& state) // six voices with the given num
 {
     Rig rig;
     const int layers = static_cast<int>(state.range(0));
-    for (int l = 0; l < kLayers; ++l) rig.channels[0]->params[slot::LayerBypass + l] = l < layers ? 0.0f : 1.0f;
+    for (int l = 0; l < kLayers; ++l) rig.channels[0]->sound.params[slot::LayerBypass + l] = l < layers ? 0.0f : 1.0f;
     rig.Play(0, kVoices);
     for (auto _ : state) {
         rig.Rewind();
@@ -105,11 +108,12 @@ void BM_SynthChannel(benchmark::State& state) // six voices; unit: unison voice
 {
     Rig rig;
     GrooveChannel& channel = *rig.channels[kSamplerChannels];
-    channel.params[slot::ModKind] = static_cast<float>(state.range(0));
+    channel.sound.params[slot::ModKind] = static_cast<float>(state.range(0));
     const int unison = static_cast<int>(state.range(1));
-    channel.params[slot::UnisonVoices] = static_cast<float>(unison - 1) / 14.99f;
+    channel.sound.params[slot::UnisonVoices] = static_cast<float>(unison - 1) / 14.99f;
     if (state.range(2) != 0)
-        for (int index : {slot::MixOsc2, slot::MixOsc3, slot::NoiseMix, slot::Modulation}) channel.params[index] = 0.5f;
+        for (int index : {slot::MixOsc2, slot::MixOsc3, slot::NoiseMix, slot::Modulation})
+            channel.sound.params[index] = 0.5f;
     rig.Play(kSamplerChannels, kVoices);
     for (auto _ : state) channel.Render(kFrames, kTempo);
     PerFrame(state, kVoices * unison);
@@ -120,10 +124,10 @@ void BM_HeaviestSynths(benchmark::State& state) // 30 voices × 16, every source
 {
     Rig rig;
     for (int c = kSamplerChannels; c < kChannels; ++c) {
-        rig.channels[c]->params[slot::ModKind] = static_cast<float>(state.range(0));
-        rig.channels[c]->params[slot::UnisonVoices] = 1.0f;
+        rig.channels[c]->sound.params[slot::ModKind] = static_cast<float>(state.range(0));
+        rig.channels[c]->sound.params[slot::UnisonVoices] = 1.0f;
         for (int index : {slot::MixOsc2, slot::MixOsc3, slot::NoiseMix, slot::Modulation})
-            rig.channels[c]->params[index] = 0.5f;
+            rig.channels[c]->sound.params[index] = 0.5f;
         rig.Play(c, kVoices);
     }
     for (auto _ : state)
@@ -137,15 +141,15 @@ void BM_EverythingAtOnce(benchmark::State& state) // 48 sampler voices of four l
     Rig rig;
     for (int c = 0; c < kChannels; ++c) {
         for (int index : {slot::MixOsc2, slot::MixOsc3, slot::NoiseMix, slot::Modulation, slot::LfoAmount})
-            rig.channels[c]->params[index] = 0.5f;
-        rig.channels[c]->params[slot::UnisonVoices] = 1.0f;
-        for (int l = 0; l < kLayers; ++l) rig.channels[c]->params[slot::LayerBypass + l] = 0.0f;
+            rig.channels[c]->sound.params[index] = 0.5f;
+        rig.channels[c]->sound.params[slot::UnisonVoices] = 1.0f;
+        for (int l = 0; l < kLayers; ++l) rig.channels[c]->sound.params[slot::LayerBypass + l] = 0.0f;
         rig.Play(c, kVoices);
     }
     for (auto _ : state) {
         rig.Rewind();
         for (auto& channel : rig.channels) channel->Render(kFrames, kTempo);
-        FilterVoices(rig.channels, *rig.pool, kFrames);
+        FilterChannels(rig.channels, *rig.pool, kFrames);
     }
     PerFrame(state, 1);
 }
@@ -156,7 +160,7 @@ void BM_IdleChannels(benchmark::State& state)
     Rig rig;
     for (auto _ : state) {
         for (auto& channel : rig.channels) channel->Render(kFrames, kTempo);
-        FilterVoices(rig.channels, *rig.pool, kFrames);
+        FilterChannels(rig.channels, *rig.pool, kFrames);
     }
     PerFrame(state, 1);
 }

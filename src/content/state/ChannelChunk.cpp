@@ -8,7 +8,7 @@ void WriteChannelChunk(ByteWriter& out, const GrooveEngine& engine, int channel)
     const GrooveChannel& source = engine.Channel(channel);
     char path[kImagePathBytes];
     out.Tag(tag::kChannel);
-    for (const SampleSlot& slot : source.sampleSlots) {
+    for (const SampleSlot& slot : source.sound.sampleSlots) {
         slot.path.Get(path);
         out.Text(path);
     }
@@ -31,7 +31,7 @@ bool GrooveEngine::LoadChannelChunk(const std::uint8_t* data, std::int32_t lengt
     InitChannel(channel);
 
     char path[kImagePathBytes];
-    for (SampleSlot& slot : Channel(channel).sampleSlots) {
+    for (SampleSlot& slot : Channel(channel).sound.sampleSlots) {
         if (!in.Text(path)) return false;
         slot.request.Post(*path ? path : "!");
         slot.path.Set(path);

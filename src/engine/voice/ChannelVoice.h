@@ -1,7 +1,9 @@
 // One sounding note of a channel.
 #pragma once
 
+#include <array>
 #include <cstdint>
+#include <memory>
 
 #include "engine/voice/Envelope.h"
 #include "engine/voice/LayerFilters.h"
@@ -63,5 +65,7 @@ struct ChannelVoice {
     alignas(64) float cutoffFrames[kMaxRun];
     alignas(64) float gainFrames[kMaxRun];
 };
+
+using ChannelVoices = std::array<std::unique_ptr<ChannelVoice>, kVoices>; // of one channel
 
 } // namespace korvane

@@ -4,7 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/GrooveChannel.h"
+#include "engine/voice/ChannelSound.h"
+#include "engine/voice/VoiceLife.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -15,7 +16,7 @@ namespace {
 constexpr float kSmoothing = 0.01f; // of cutoff, modulation amount and gain, fraction per frame
 constexpr float kEnvelopeSemitones = 24.0f;
 
-void SetUpLfo(const GrooveChannel& channel, Lfo& lfo, int number, float tempo)
+void SetUpLfo(const ChannelSound& channel, Lfo& lfo, int number, float tempo)
 {
     const float frequency =
         LfoFrequency(channel.Modulated(slot::LfoRate + number), channel.Modulated(slot::LfoSync + number), tempo);
@@ -25,7 +26,7 @@ void SetUpLfo(const GrooveChannel& channel, Lfo& lfo, int number, float tempo)
 
 float SignedSquare(float amount, bool inverted) { return inverted ? -(amount * amount) : amount * amount; }
 
-void SetUpRouting(const GrooveChannel& channel, int number, EnvelopeRoute& envelope, Lfo& lfo)
+void SetUpRouting(const ChannelSound& channel, int number, EnvelopeRoute& envelope, Lfo& lfo)
 {
     const auto value = [&](int index) { return channel.Modulated(index + number); };
     envelope.destination = Truncate(3.0f * value(slot::EnvelopeDestination));
@@ -45,7 +46,7 @@ struct Mix {
     }
 };
 
-Mix MixFor(const GrooveChannel& channel, int destination)
+Mix MixFor(const ChannelSound& channel, int destination)
 {
     return {channel.env1.destination == destination ? channel.env1.amount : 0.0f,
             channel.env2.destination == destination ? channel.env2.amount : 0.0f,
@@ -93,11 +94,11 @@ void ScaleLfo(const float* lfo, const float* envelope, bool scaled, float* out, 
 
 } // namespace
 
-void SetUpModulation(GrooveChannel& channel, float tempo)
+void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
 {
     SetUpLfo(channel, channel.lfo1, 0, tempo);
     SetUpLfo(channel, channel.lfo2, 1, tempo);
-    if (channel.AnyVoiceActive()) {
+    if (voicesSound) {
         SetUpRouting(channel, 0, channel.env1, channel.lfo1);
         SetUpRouting(channel, 1, channel.env2, channel.lfo2);
     }
@@ -108,7 +109,7 @@ void SetUpModulation(GrooveChannel& channel, float tempo)
     if (!std::isfinite(channel.modAmountSmooth)) channel.modAmountSmooth = 0.0f;
 }
 
-void RunChannelModulation(GrooveChannel& channel, float modulation, ChannelFrames& shared, int frames)
+void RunChannelModulation(ChannelSound& channel, float modulation, ChannelFrames& shared, int frames)
 {
     const float cutoffBase = channel.cutoffBase, modTarget = modulation * modulation;
     float cutoff = channel.cutoffSmooth, modAmount = channel.modAmountSmooth;
@@ -124,8 +125,8 @@ void RunChannelModulation(GrooveChannel& channel, float modulation, ChannelFrame
     channel.lfo2.Run(shared.lfo2, frames);
 }
 
-void RunVoiceModulation(GrooveChannel& channel, ChannelVoice& voice, const ChannelFrames& shared, float glideRate,
-                        VoiceFrames& own, int frames)
+void RunVoiceModulation(const ChannelSound& channel, ChannelVoices& voices, ChannelVoice& voice,
+                        const ChannelFrames& shared, float glideRate, VoiceFrames& own, int frames)
 {
     Levels levels;
     int sounding = 0; // frames before the release
@@ -133,7 +134,7 @@ void RunVoiceModulation(GrooveChannel& channel, ChannelVoice& voice, const Chann
         sounding = std::min(frames, std::max(voice.lengthFrames, 1));
         RunLevels(voice, glideRate, levels, 0, sounding);
         voice.lengthFrames -= sounding;
-        if (voice.lengthFrames < 1 && sounding > 0) channel.ReleaseNote(voice.note);
+        if (voice.lengthFrames < 1 && sounding > 0) ReleaseNote(voices, voice.note);
     }
     RunLevels(voice, glideRate, levels, sounding, frames);
     if (frames < 1) return;
@@ -156,14 +157,14 @@ void RunVoiceModulation(GrooveChannel& channel, ChannelVoice& voice, const Chann
     }
 }
 
-float PitchModulation(const GrooveChannel& channel, const ChannelVoice& voice, float lfoSemitones)
+float PitchModulation(const ChannelSound& channel, const ChannelVoice& voice, float lfoSemitones)
 {
     const Mix mix = MixFor(channel, destination::Pitch);
     return mix.env1 * voice.env1.level * kEnvelopeSemitones + mix.env2 * voice.env2.level * kEnvelopeSemitones +
            mix.lfo1 * voice.lfo1Out * lfoSemitones + mix.lfo2 * voice.lfo2Out * lfoSemitones;
 }
 
-float ModulatedAmount(const GrooveChannel& channel, const ChannelVoice& voice, float base)
+float ModulatedAmount(const ChannelSound& channel, const ChannelVoice& voice, float base)
 {
     return MixFor(channel, destination::ModAmount)
         .AddTo(base, voice.env1.level, voice.env2.level, voice.lfo1Out, voice.lfo2Out);

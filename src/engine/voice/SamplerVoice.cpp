@@ -4,8 +4,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/GrooveChannel.h"
 #include "engine/fx/Biquad.h"
+#include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/VoiceLife.h"
 #include "framework/ParameterTable.h"
@@ -22,7 +22,7 @@ float Square(float x) { return x * x; }
 float Fourth(float x) { return Square(x) * Square(x); }
 
 /// The sample of a layer, or null. A file that could not be read is a sample of 0 frames.
-const CWaveSample* SampleOf(const GrooveChannel& channel, int l)
+const CWaveSample* SampleOf(const ChannelSound& channel, int l)
 {
     const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(kFirstLayerSlot + l)].entry;
     return entry ? entry->sample.get() : nullptr;
@@ -45,7 +45,7 @@ void StartFilters(LayerFilters& filters, float loCut, float hiCut, float bandwid
 
 } // namespace
 
-void StartLayers(GrooveChannel& channel, ChannelVoice& voice)
+void StartLayers(ChannelSound& channel, ChannelVoice& voice)
 {
     const float rate = channel.rate;
     for (int l = 0; l < kLayers; ++l) {
@@ -77,7 +77,7 @@ void StartLayers(GrooveChannel& channel, ChannelVoice& voice)
     }
 }
 
-bool LayersCanPlay(const GrooveChannel& channel, const ChannelVoice& voice)
+bool LayersCanPlay(const ChannelSound& channel, const ChannelVoice& voice)
 {
     for (int l = 0; l < kLayers; ++l) {
         const CWaveSample* sample = SampleOf(channel, l);
@@ -86,7 +86,7 @@ bool LayersCanPlay(const GrooveChannel& channel, const ChannelVoice& voice)
     return false;
 }
 
-void TuneLayers(GrooveChannel& channel, ChannelVoice& voice)
+void TuneLayers(ChannelSound& channel, ChannelVoice& voice)
 {
     const float transpose = static_cast<float>(ChannelTranspose(channel));
     const float modulation = PitchModulation(channel, voice, 1.0f);
@@ -186,7 +186,7 @@ void RenderLayer(SamplerLayer& layer, const CWaveSample& sample, float* left, fl
 
 } // namespace
 
-void RenderLayers(GrooveChannel& channel, ChannelVoice& voice, int frames)
+void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames)
 {
     std::fill_n(voice.left, frames, 0.0f);
     std::fill_n(voice.right, frames, 0.0f);

@@ -3,21 +3,21 @@
 
 namespace korvane {
 
-class GrooveChannel;
+struct ChannelSound;
 struct ChannelVoice;
 
 /// Sets up the four layers for the note that starts: gain, pitch, delay, envelope, filters, start point.
-void StartLayers(GrooveChannel& channel, ChannelVoice& voice);
+void StartLayers(ChannelSound& channel, ChannelVoice& voice);
 
 /// Whether a layer still has sample to play, after a delay perhaps.
-bool LayersCanPlay(const GrooveChannel& channel, const ChannelVoice& voice);
+bool LayersCanPlay(const ChannelSound& channel, const ChannelVoice& voice);
 
 /// Tunes the layers for the coming run. The note number plays no part: pitch is the layer's own plus the channel's
 /// plus modulation, and at 0 semitones one sample frame goes into each output frame, whatever the sample's rate.
-void TuneLayers(GrooveChannel& channel, ChannelVoice& voice);
+void TuneLayers(ChannelSound& channel, ChannelVoice& voice);
 
 /// Renders the layers into the voice's buffers. Linear interpolation, a low-cut and a high-cut section per side,
 /// squared attack-hold-decay envelope.
-void RenderLayers(GrooveChannel& channel, ChannelVoice& voice, int frames);
+void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames);
 
 } // namespace korvane

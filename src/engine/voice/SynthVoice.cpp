@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/GrooveChannel.h"
+#include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
@@ -19,7 +19,7 @@ constexpr std::uint32_t kRestartFrames = 512; // a restarted phase starts up to 
 
 float Square(float x) { return x * x; }
 
-void SetUpMix(const GrooveChannel& channel, UnisonMix& mix)
+void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
     const float a = Square(value(slot::MixOsc2)), b = Square(value(slot::MixOsc3)), z = Square(value(slot::NoiseMix));
@@ -65,7 +65,7 @@ void RestartPhases(RandomGenerator& random, ChannelVoice& voice, const UnisonTun
 
 } // namespace
 
-void SetUpSynth(const GrooveChannel& channel, SynthSettings& settings)
+void SetUpSynth(const ChannelSound& channel, SynthSettings& settings)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
     const int count = Clamp(Truncate(15.0f * value(slot::UnisonVoices)), 0, kUnison - 1) + 1;
@@ -90,7 +90,7 @@ void SetUpSynth(const GrooveChannel& channel, SynthSettings& settings)
     SetUpMix(channel, mix);
 }
 
-void StartOscillators(GrooveChannel& channel, ChannelVoice& voice)
+void StartOscillators(ChannelSound& channel, ChannelVoice& voice)
 {
     if (channel.Modulated(slot::UnisonRetrig) == 0.0f) {
         voice.restartPhases = channel.Modulated(slot::PhaseRetrigOsc2) != 0.0f;
@@ -104,7 +104,7 @@ void StartOscillators(GrooveChannel& channel, ChannelVoice& voice)
     voice.restartPhases = false;
 }
 
-void TuneOscillators(GrooveChannel& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning)
+void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning)
 {
     if (!settings.slides) voice.glidePitch = static_cast<float>(voice.pitchNote);
     const float pitch =

@@ -5,7 +5,7 @@
 
 namespace korvane {
 
-class GrooveChannel;
+struct ChannelSound;
 struct ChannelVoice;
 
 /// What a run has in common for all voices of a synth channel.
@@ -18,13 +18,13 @@ struct SynthSettings {
 };
 
 /// Reads the settings of the coming run.
-void SetUpSynth(const GrooveChannel& channel, SynthSettings& settings);
+void SetUpSynth(const ChannelSound& channel, SynthSettings& settings);
 
 /// Sets the phases for the note that starts, or marks them for a restart at its first run.
-void StartOscillators(GrooveChannel& channel, ChannelVoice& voice);
+void StartOscillators(ChannelSound& channel, ChannelVoice& voice);
 
 /// Tunes the voice for the coming run and carries out a pending restart of the phases. Pitch is read here, once per
 /// run.
-void TuneOscillators(GrooveChannel& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning);
+void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning);
 
 } // namespace korvane

@@ -17,13 +17,6 @@ constexpr int kVoicesPerVector = 2;
 constexpr int kMaxVectors = 6;
 constexpr int kChunk = 32; // frames whose lanes are kept in the first-level cache
 
-/// One voice to filter and where its output goes.
-struct Job {
-    ChannelVoice* voice;
-    FilterType type;
-    float *mixLeft, *mixRight;
-};
-
 /// Lanes of a chunk: inputs and coefficients of every vector, frame after frame; the outputs replace the inputs.
 template <int kVectors>
 struct Lanes {
@@ -46,7 +39,7 @@ float* StageOf(Ladder<Float4>& ladder, int stage)
 }
 
 template <int kVectors>
-void LoadVoices(Group<kVectors>& group, const Job* jobs, int count)
+void LoadVoices(Group<kVectors>& group, const FilterJob* jobs, int count)
 {
     for (int v = 0; v < count; ++v) {
         const int vector = v / kVoicesPerVector;
@@ -62,7 +55,7 @@ void LoadVoices(Group<kVectors>& group, const Job* jobs, int count)
 }
 
 template <int kVectors>
-void StoreVoices(Group<kVectors>& group, const Job* jobs, int count)
+void StoreVoices(Group<kVectors>& group, const FilterJob* jobs, int count)
 {
     for (int v = 0; v < count; ++v)
         for (int side = 0; side < 2; ++side)
@@ -72,7 +65,7 @@ void StoreVoices(Group<kVectors>& group, const Job* jobs, int count)
 }
 
 template <int kVectors>
-void FillLanes(Lanes<kVectors>& lanes, const Job& job, int v, const CutoffPair* table, int from, int frames)
+void FillLanes(Lanes<kVectors>& lanes, const FilterJob& job, int v, const CutoffPair* table, int from, int frames)
 {
     const ChannelVoice& voice = *job.voice;
     const int vector = v / kVoicesPerVector, lane = v % kVoicesPerVector * 2;
@@ -113,7 +106,7 @@ void RunLanes(Group<kVectors>& group, int frames)
 }
 
 template <int kVectors>
-void AddOutput(const Lanes<kVectors>& lanes, const Job& job, int v, int from, int frames)
+void AddOutput(const Lanes<kVectors>& lanes, const FilterJob& job, int v, int from, int frames)
 {
     const int vector = v / kVoicesPerVector, lane = v % kVoicesPerVector * 2;
     const float* gain = job.voice->gainFrames + from;
@@ -125,7 +118,7 @@ void AddOutput(const Lanes<kVectors>& lanes, const Job& job, int v, int from, in
 
 /// Filters up to kVectors times two voices.
 template <int kVectors>
-void FilterGroup(const Job* jobs, int count, const CutoffPair* table, int frames)
+void FilterGroup(const FilterJob* jobs, int count, const CutoffPair* table, int frames)
 {
     Group<kVectors> group;
     if (count % kVoicesPerVector != 0) group.lanes = {}; // nothing fills the last voice's neighbour
@@ -146,23 +139,15 @@ static_assert(std::size(kGroupFunctions) == kMaxVectors);
 
 } // namespace
 
-void FilterVoices(const std::array<std::unique_ptr<GrooveChannel>, kChannels>& channels, SamplePool& pool, int frames)
+void FilterVoices(const FilterJob* jobs, int count, const CutoffPair* table, int frames)
 {
     if (frames < 1) return;
-    Job jobs[kChannels * kVoices];
-    int count = 0;
-    for (int c = 0; c < kChannels; ++c) {
-        const GrooveChannel& channel = *channels[static_cast<std::size_t>(c)];
-        const FilterType type = static_cast<FilterType>(channel.filterType);
-        for (const auto& voice : channel.voices)
-            if (voice->active) jobs[count++] = {voice.get(), type, pool.ChannelLeft(c), pool.ChannelRight(c)};
-    }
     int vectors = (count + kVoicesPerVector - 1) / kVoicesPerVector;
     int groups = (vectors + kMaxVectors - 1) / kMaxVectors; // of nearly the same size
     for (int first = 0; groups > 0; --groups) {
         const int size = (vectors + groups - 1) / groups;
         const int voices = std::min(size * kVoicesPerVector, count - first);
-        kGroupFunctions[size - 1](jobs + first, voices, pool.engineTable, frames);
+        kGroupFunctions[size - 1](jobs + first, voices, table, frames);
         first += voices;
         vectors -= size;
     }

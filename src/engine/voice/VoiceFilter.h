@@ -1,12 +1,8 @@
 // The channel filter, run once per voice.
 #pragma once
 
-#include <array>
-#include <memory>
-
 #include "content/CutoffTable.h"
-#include "content/SamplePool.h"
-#include "engine/GrooveChannel.h"
+#include "engine/voice/ChannelVoice.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 
@@ -45,11 +41,18 @@ inline CutoffPair CutoffAt(const CutoffPair* table, float cutoff)
     return table[static_cast<int>(Clamp(cutoff * 65536.0f, 0.0f, 65535.0f))];
 }
 
-/// Adds the active voices of all channels to the mix buffers of their channels through their filters: channel by
-/// channel, voice by voice. Voices lie side by side in vectors across channels, as many at a time as the machine can
-/// compute while one of them waits for its own result. Audio thread.
-/// pool    the mix buffers and the cutoff table
-/// frames  0..kMaxRun, of the run that the channels have just rendered
-void FilterVoices(const std::array<std::unique_ptr<GrooveChannel>, kChannels>& channels, SamplePool& pool, int frames);
+/// One voice to filter and the mix buffers that it is added to.
+struct FilterJob {
+    ChannelVoice* voice;
+    FilterType type;
+    float *mixLeft, *mixRight;
+};
+
+/// Filters voices and adds them to their mix buffers, in order. They lie side by side in vectors, as many at a time as
+/// the machine can compute while one of them waits for its own result. Audio thread.
+/// jobs    at most kChannels * kVoices
+/// table   of the cutoff
+/// frames  0..kMaxRun, of the run that the voices have just rendered
+void FilterVoices(const FilterJob* jobs, int count, const CutoffPair* table, int frames);
 
 } // namespace korvane

@@ -1,10 +1,11 @@
 // Start, refresh, release and end of a voice.
 #include "engine/voice/VoiceLife.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
-#include "engine/GrooveChannel.h"
+#include "engine/voice/ChannelSound.h"
 #include "engine/voice/SamplerVoice.h"
 #include "engine/voice/SynthVoice.h"
 #include "framework/ParameterTable.h"
@@ -31,7 +32,7 @@ void Recover(float& value, float fallback)
     if (!std::isfinite(value)) value = fallback;
 }
 
-void StartEnvelopes(GrooveChannel& channel, ChannelVoice& voice)
+void StartEnvelopes(ChannelSound& channel, ChannelVoice& voice)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
     const float rate = channel.rate;
@@ -58,12 +59,12 @@ bool Faded(const ChannelVoice& voice)
 
 } // namespace
 
-int ChannelTranspose(const GrooveChannel& channel)
+int ChannelTranspose(const ChannelSound& channel)
 {
     return WholeSemitones(48.0f * channel.Modulated(slot::Pitch) - 24.0f);
 }
 
-std::int32_t PitchNote(const GrooveChannel& channel, int note)
+std::int32_t PitchNote(const ChannelSound& channel, int note)
 {
     const int octaves = WholeSemitones(4.0f * channel.Modulated(slot::Octave));
     return Clamp(note, -kFarthest, kFarthest) + ChannelTranspose(channel) - 24 + 12 * octaves;
@@ -74,7 +75,7 @@ float LevelGain(float ampLevel)
     return Clamp(std::pow(10.0f, (50.0f * ampLevel - 25.0f) / 20.0f) / kSourceScale, 0.0f, kLoudest);
 }
 
-void StartVoice(GrooveChannel& channel, ChannelVoice& voice)
+void StartVoice(ChannelSound& channel, ChannelVoice& voice)
 {
     voice.releasing = false;
     voice.active = true;
@@ -96,7 +97,7 @@ void StartVoice(GrooveChannel& channel, ChannelVoice& voice)
         StartOscillators(channel, voice);
 }
 
-bool RefreshVoice(GrooveChannel& channel, ChannelVoice& voice, float levelGain)
+bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain)
 {
     Recover(voice.amp.level, 0.0f);
     Recover(voice.env1.level, 0.0f);
@@ -132,6 +133,29 @@ void ReleaseVoice(ChannelVoice& voice)
     voice.releasing = true;
     voice.amp.rate = voice.ampReleaseRate;
     voice.amp.target = 0.0f;
+}
+
+bool AnyVoiceActive(const ChannelVoices& voices)
+{
+    return std::any_of(voices.begin(), voices.end(), [](const auto& voice) { return voice->active; });
+}
+
+void ReleaseNote(ChannelVoices& voices, int note)
+{
+    for (auto& voice : voices)
+        if (voice->note == note) ReleaseVoice(*voice);
+}
+
+void ReleaseLive(ChannelVoices& voices)
+{
+    for (auto& voice : voices)
+        if (!voice->fromSequencer) ReleaseVoice(*voice);
+}
+
+void ReleaseSequenced(ChannelVoices& voices)
+{
+    for (auto& voice : voices)
+        if (voice->fromSequencer) ReleaseVoice(*voice);
 }
 
 void EndVoice(ChannelVoice& voice)

@@ -37,7 +37,7 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     WriteText(root / "F/Samples/kick.wav", wave);
     WriteText(root / "Synth Waves/Saw.wav", wave);
     const auto kept = [&](const char* name) { return ReadBytes<std::string>(root / name) == wave; };
-    auto& slot = Engine().Channel(0).sampleSlots[kFirstLayerSlot];
+    auto& slot = Engine().Channel(0).sound.sampleSlots[kFirstLayerSlot];
     slot.request.Post(Path("F/Samples/kick.wav").c_str());
     Render();
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("F/g.kvprj").c_str()));
@@ -136,7 +136,7 @@ TEST_F(Files, WildGroovesPlayFiniteSound)
                 for (const auto loud : {slot::LfoAmount, slot::MixLevel, slot::EqGain}) params[loud] = wild;
                 params[slot::LfoDestination] = 1.0f; // the level
                 params[slot::EqOn] = static_cast<float>(c % 2);
-                for (auto& slot : Engine().Channel(c).sampleSlots) slot.path.Set(Path("a.wav").c_str());
+                for (auto& slot : Engine().Channel(c).sound.sampleSlots) slot.path.Set(Path("a.wav").c_str());
                 for (auto& word : Engine().Pattern().steps[c]) word = 0xffffu;
             }
             ASSERT_EQ(Synth().SetBankChunk(Saved(Engine()).data(), kEmptyGroove), kEmptyGroove);

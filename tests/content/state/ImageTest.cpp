@@ -29,7 +29,7 @@ TEST_F(Image, EveryFieldHasItsPlace)
         {"last EXT",    83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [&ext = engine.extControls[4]] {
             return ext.value == 1.0f && ext.channel == 12 && ext.param == kChannelSlots - 1; }},
         {"last path",   kHeader + 8 + 6 * 512, {'C', ':', '\\', 'k'}, [&] {
-            return TextOf(e.Channel(0).sampleSlots[6].path) == "C:\\k"; }},
+            return TextOf(e.Channel(0).sound.sampleSlots[6].path) == "C:\\k"; }},
         {"note length", kLength, {0, 0, 0, 0xc0}, [&] { return e.storedParams[1][slot::NoteLength] == -2.0f; }},
         {"program",     kPatternsAt - 512, {'D', ':', '\\', 'p'}, [&] {
             return TextOf(e.Channel(12).programPath) == "D:\\p"; }},
@@ -170,7 +170,7 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
     engine.storedParams[2][slot::MixLevel] = 0.25f;
     engine.storedParams[2][kLast] = 0.75f;
     GrooveChannel &source = engine.Channel(2), &channel = engine.Channel(11);
-    for (const int n : {0, 6}) source.sampleSlots[n].path.Set((std::string("D:\\") + std::to_string(n)).c_str());
+    for (const int n : {0, 6}) source.sound.sampleSlots[n].path.Set((std::string("D:\\") + std::to_string(n)).c_str());
     source.programPath.Set("D:\\p");
     Bytes chunk(5000);
     ASSERT_EQ(engine.SaveChannelChunk(chunk.data(), 2), kChannelChunk);
@@ -179,18 +179,19 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
         SCOPED_TRACE(c.what);
         for (auto& value : engine.storedParams[11]) value = 0.125f;
         engine.RefreshChannel(11);
-        for (auto& sampleSlot : channel.sampleSlots) sampleSlot.path.Set("old");
-        for (auto& sampleSlot : channel.sampleSlots) sampleSlot.request.Post("old");
+        for (auto& sampleSlot : channel.sound.sampleSlots) sampleSlot.path.Set("old");
+        for (auto& sampleSlot : channel.sound.sampleSlots) sampleSlot.request.Post("old");
         channel.programPath.Set("old");
         EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.size, 11), c.taken);
         char requests[2][LoadRequest::kPathBytes] = {};
-        for (const int n : {0, 1}) channel.sampleSlots[n].request.Take(requests[n]);
+        for (const int n : {0, 1}) channel.sound.sampleSlots[n].request.Take(requests[n]);
         if (c.taken) { EXPECT_STREQ(requests[1], "!") << "an empty path clears the slot"; }
-        EXPECT_EQ((std::vector<std::string>{TextOf(channel.sampleSlots[0].path), TextOf(channel.sampleSlots[6].path),
-                                            TextOf(channel.programPath), requests[0]}),
+        EXPECT_EQ((std::vector<std::string>{TextOf(channel.sound.sampleSlots[0].path),
+                                            TextOf(channel.sound.sampleSlots[6].path), TextOf(channel.programPath),
+                                            requests[0]}),
                   c.texts);
         const auto& stored = engine.storedParams[11];
-        EXPECT_EQ((std::vector<float>{stored[slot::MixLevel], stored[kLast], channel.params[slot::MixLevel]}),
+        EXPECT_EQ((std::vector<float>{stored[slot::MixLevel], stored[kLast], channel.sound.params[slot::MixLevel]}),
                   c.values);
     }
     EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, kChannels));
@@ -246,7 +247,7 @@ TEST_F(Image, TakesWhatItCanOfADamagedPart)
         auto& steps = engine.Pattern().steps[c.channel];
         for (auto& word : steps) word = 3u;
         EXPECT_EQ(engine.LoadPart(image.data(), c.length), c.accepted);
-        EXPECT_EQ((c.accepted ? engine.Channel(c.channel).params : params)[slot::NoteLength], c.noteLength);
+        EXPECT_EQ((c.accepted ? engine.Channel(c.channel).sound.params : params)[slot::NoteLength], c.noteLength);
         EXPECT_EQ(std::count(std::begin(steps), std::end(steps), 9u), c.steps);
     }
 }

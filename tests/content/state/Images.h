@@ -55,7 +55,7 @@ inline void FillGroove(GrooveEngine& engine, unsigned seed)
     for (int c = 0; c < kChannels; ++c) {
         for (auto& value : engine.storedParams[c]) value = static_cast<float>(below(1000)) / 999.0f;
         engine.storedParams[c][below(kChannelSlots)] = NAN;
-        for (auto& slot : engine.Channel(c).sampleSlots)
+        for (auto& slot : engine.Channel(c).sound.sampleSlots)
             if (below(2)) slot.path.Set(("D:\\sounds\\" + std::to_string(below(99)) + ".wav").c_str());
         engine.Channel(c).programPath.Set(("D:\\programs\\" + std::to_string(c)).c_str());
     }

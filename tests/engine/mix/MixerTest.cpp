@@ -135,7 +135,7 @@ TEST_F(Mixer, WildImagesStayFinite)
         for (const int setting : {slot::NoiseMix, slot::LfoDestination}) Engine().storedParams[8][setting] = 1.0f;
         for (const int setting : settings) Engine().storedParams[8][setting] = value;
         Engine().RefreshChannel(8);
-        for (const float rendered : Engine().Channel(8).params) ASSERT_LE(std::fabs(rendered), 1000.0f) << value;
+        for (const float rendered : Engine().Channel(8).sound.params) ASSERT_LE(std::fabs(rendered), 1000.0f) << value;
         Engine().NoteOn(8, 60, 1.0f);
         Play(8192);
         for (const auto& output : out)

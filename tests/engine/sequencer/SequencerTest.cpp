@@ -117,7 +117,7 @@ TEST_F(Sequencer, EditedStepTakesLocks)
     EXPECT_EQ(Right(8).back(), Left(8).back());
     Play(30 * kStep); // to the locked step again
     Set({{param::Play, 0.0f}, {param::Play, 1.0f}});
-    EXPECT_EQ(engine.Channel(8).params[slot::Panning], 0.5f) << "a new start finds no lock of the last one";
+    EXPECT_EQ(engine.Channel(8).sound.params[slot::Panning], 0.5f) << "a new start finds no lock of the last one";
 }
 
 TEST_F(Sequencer, CopiesPastesAndClears)

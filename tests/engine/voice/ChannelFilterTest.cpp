@@ -26,7 +26,7 @@ struct FilterRig {
     void Play(int c, int v)
     {
         ChannelVoice& voice = *channels[c]->voices[v];
-        channels[c]->filterType = c % 3;
+        channels[c]->sound.filterType = c % 3;
         voice.active = true;
         voice.resonance = Value();
         for (auto& side : voice.filterState)
@@ -59,8 +59,8 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
         SCOPED_TRACE(c.what);
         FilterRig rig;
         GrooveChannel& channel = *rig.channels[3];
-        channel.rate = kRate;
-        channel.params[slot::FilterType] = c.type;
+        channel.sound.rate = kRate;
+        channel.sound.params[slot::FilterType] = c.type;
         channel.Render(0, kTempo);
         ChannelVoice& voice = *channel.voices[0];
         voice.active = true;
@@ -73,7 +73,7 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
             std::copy_n(&input.left[from], kMaxRun, voice.left);
             for (int n = 0; n < kMaxRun; ++n) voice.right[n] = 4.0f * voice.left[n];
             for (float* mix : {rig.pool->ChannelLeft(3), rig.pool->ChannelRight(3)}) std::fill_n(mix, kMaxRun, 0.0f);
-            FilterVoices(rig.channels, *rig.pool, kMaxRun);
+            FilterChannels(rig.channels, *rig.pool, kMaxRun);
             std::copy_n(rig.pool->ChannelLeft(3), kMaxRun, &sound.left[from]);
             std::copy_n(rig.pool->ChannelRight(3), kMaxRun, &sound.right[from]);
         }
@@ -109,10 +109,10 @@ TEST(ChannelFilter, VoicesSideBySideGiveTheBitsOfEachAlone)
             for (int v = 0; v < voices; ++v) {
                 const int c = v * 5 % kChannels;
                 for (FilterRig* rig : {&together, &alone}) rig->Play(c, v / kChannels);
-                FilterVoices(alone.channels, *alone.pool, frames);
+                FilterChannels(alone.channels, *alone.pool, frames);
                 alone.channels[c]->voices[v / kChannels]->active = false;
             }
-            FilterVoices(together.channels, *together.pool, frames);
+            FilterChannels(together.channels, *together.pool, frames);
             ASSERT_EQ(Results(alone), Results(together)) << voices << " voices, " << frames << " frames";
         }
 }

@@ -12,7 +12,7 @@ struct NoteRig : VoiceRig {
     NoteRig() : VoiceRig(false)
     {
         GiveWave(0, [](int, int) { return 0.5f; });
-        channel.sampleSlots[1].entry = channel.sampleSlots[2].entry = channel.sampleSlots[0].entry;
+        channel.sound.sampleSlots[1].entry = channel.sound.sampleSlots[2].entry = channel.sound.sampleSlots[0].entry;
     }
 
     std::vector<int> Notes() const
@@ -121,7 +121,7 @@ TEST(Notes, GainFollowsLevelVelocityAndMute)
         SCOPED_TRACE(c.what);
         NoteRig rig;
         rig.Set({{slot::AmpLevel, c.level}, {slot::VelocitySensitivity, c.sensitive}});
-        rig.channel.muted = c.mute;
+        rig.channel.sound.muted = c.mute;
         rig.channel.NoteOn(50, c.tempo, c.velocity);
         EXPECT_EQ(rig.Last().gain, c.start);
         rig.channel.Render(1, VoiceRig::kTempo);
@@ -141,20 +141,21 @@ TEST(Modulation, SourcesReachTheirTarget)
         -1, slot::AmpAttack, slot::AmpDecay, -1};
     // clang-format on
     NoteRig rig;
-    rig.channel.velocityIn = 0.5f;
-    rig.channel.modWheelIn = 1.0f;
-    for (int i = 0; i < kChannelSlots; ++i) rig.channel.params[i] = 0.25f;
+    rig.channel.sound.velocityIn = 0.5f;
+    rig.channel.sound.modWheelIn = 1.0f;
+    for (int i = 0; i < kChannelSlots; ++i) rig.channel.sound.params[i] = 0.25f;
     rig.Set({{slot::VelocityAmount, 0.6f}, {slot::WheelAmount, 0.1f}});
     rig.Set({{slot::WheelDestination, 0}, {slot::PressureDestination, 0}});
     for (int code = 0; code < static_cast<int>(std::size(targets)); ++code) {
         rig.Set({{slot::VelocityDestination, static_cast<float>(code)}});
         for (int i = 0; i < slot::VelocityAmount; ++i)
-            ASSERT_NEAR(rig.channel.Modulated(i), i == targets[code] ? 0.35f : 0.25f, 1e-6f) << code << " on " << i;
+            ASSERT_NEAR(rig.channel.sound.Modulated(i), i == targets[code] ? 0.35f : 0.25f, 1e-6f)
+                << code << " on " << i;
     }
     rig.Set({{slot::VelocityDestination, 1}, {slot::WheelDestination, 1}});
-    EXPECT_EQ(rig.channel.Modulated(slot::FilterCutoff), 0.0f); // 0.35 - 0.8, clamped
-    EXPECT_EQ(rig.channel.Modulated(-1), 0.0f);
-    EXPECT_EQ(rig.channel.Modulated(kChannelSlots), 0.0f);
+    EXPECT_EQ(rig.channel.sound.Modulated(slot::FilterCutoff), 0.0f); // 0.35 - 0.8, clamped
+    EXPECT_EQ(rig.channel.sound.Modulated(-1), 0.0f);
+    EXPECT_EQ(rig.channel.sound.Modulated(kChannelSlots), 0.0f);
 }
 
 TEST(Modulation, LfosRunAtTheirRateFromWhereANoteFindsThem)
@@ -169,13 +170,13 @@ TEST(Modulation, LfosRunAtTheirRateFromWhereANoteFindsThem)
     for (const auto& c : cases)
         EXPECT_NEAR(LfoFrequency(c.rate, c.sync, c.tempo), c.hertz, 1e-4f * c.hertz) << c.rate << " " << c.sync;
     NoteRig rig;
-    rig.channel.lfo1.phase = rig.channel.lfo2.phase = 0.5f;
+    rig.channel.sound.lfo1.phase = rig.channel.sound.lfo2.phase = 0.5f;
     rig.Set({{slot::LfoRate, 0.5f}, {slot::LfoRate + 1, 1}, {slot::LfoSync + 1, 0.5f}, {slot::LfoRetrig + 1, 1}});
     rig.channel.NoteOn(50, 0, 1);
-    EXPECT_EQ(std::pair(rig.channel.lfo1.phase, rig.channel.lfo2.phase), std::pair(0.5f, 0.0f));
+    EXPECT_EQ(std::pair(rig.channel.sound.lfo1.phase, rig.channel.sound.lfo2.phase), std::pair(0.5f, 0.0f));
     rig.Render(1);
-    EXPECT_NEAR(rig.channel.lfo1.increment * VoiceRig::kRate, 6.26f, 1e-3f);
-    EXPECT_NEAR(rig.channel.lfo2.increment * VoiceRig::kRate, 0.25f, 1e-3f);
+    EXPECT_NEAR(rig.channel.sound.lfo1.increment * VoiceRig::kRate, 6.26f, 1e-3f);
+    EXPECT_NEAR(rig.channel.sound.lfo2.increment * VoiceRig::kRate, 0.25f, 1e-3f);
 }
 
 // Amplitude and cutoff in one frame of a note whose envelopes stand at 0.75 and 0.5; both LFOs are at the given phase.
@@ -206,7 +207,7 @@ TEST(Modulation, ReachesAmplitudeAndCutoff)
         NoteRig rig;
         rig.Set({{slot::FilterCutoff, 0.25f}});
         rig.Start(c.values, 57, 500);
-        rig.channel.lfo1.phase = rig.channel.lfo2.phase = c.phase;
+        rig.channel.sound.lfo1.phase = rig.channel.sound.lfo2.phase = c.phase;
         rig.Last().env1 = {.level = 0.75f};
         rig.Last().env2 = {.level = 0.5f};
         rig.channel.Render(1, VoiceRig::kTempo);
@@ -224,7 +225,7 @@ TEST(Modulation, RunsGiveTheBitsOfSingleFrames)
             SCOPED_TRACE(testing::Message() << (isSampler ? "sampler, " : "synth, ") << setting);
             const auto bit = [setting](int n) { return static_cast<float>(setting >> n & 1); };
             for (NoteRig* rig : {&whole, &single}) {
-                rig->channel.isSampler = isSampler;
+                rig->channel.sound.isSampler = isSampler;
                 for (int osc = 0; osc < kOscillators && setting == 0; ++osc)
                     rig->GiveWave(osc, [](int, int i) { return static_cast<float>(i % 32) / 32; });
                 for (int l = 0; l < kLayers; ++l) rig->GiveSample(l, 900, 2, Wobble);

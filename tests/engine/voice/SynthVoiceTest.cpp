@@ -60,12 +60,12 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
         SCOPED_TRACE(c.what);
         VoiceRig rig(false);
         for (int osc = 0; osc < kOscillators; ++osc) rig.GiveWave(osc, Sine);
-        rig.channel.pitchBendIn = c.bend;
+        rig.channel.sound.pitchBendIn = c.bend;
         rig.Start(c.values, c.note);
         ChannelVoice& voice = rig.Last();
         std::vector<float> out;
         for (int n = 0; n < 16384; n += 128) {
-            voice.lfo1Out = rig.channel.lfo1.amount; // both modulators rest at their peak
+            voice.lfo1Out = rig.channel.sound.lfo1.amount; // both modulators rest at their peak
             voice.env1.level = c.values.empty() ? 0 : 1;
             rig.channel.Render(128, VoiceRig::kTempo);
             out.insert(out.end(), voice.left, voice.left + 128);

@@ -23,7 +23,7 @@ struct VoiceRig {
 
     explicit VoiceRig(bool isSampler)
     {
-        channel.isSampler = isSampler;
+        channel.sound.isSampler = isSampler;
         Set({{slot::Pitch, 0.5f},          {slot::NoteLength, 0.5f},      {slot::AmpDecay, 1.0f},
              {slot::AmpSustain, 1.0f},     {slot::AmpRelease, 0.1f},      {slot::AmpLevel, 0.5f},
              {slot::FilterCutoff, 1.0f},   {slot::EnvelopeDecay, 1.0f},   {slot::EnvelopeDecay + 1, 1.0f},
@@ -42,7 +42,7 @@ struct VoiceRig {
     using Values = std::vector<Value>;
     void Set(const Values& values)
     {
-        for (const auto& [slot, value] : values) channel.params[slot] = value;
+        for (const auto& [slot, value] : values) channel.sound.params[slot] = value;
     }
 
     CWaveSample& GiveSample(int layer, int frames, int channels, const std::function<float(int, int)>& value)
@@ -71,7 +71,7 @@ struct VoiceRig {
     PoolEntry& Entry(int slot)
     {
         entries.push_back(std::make_unique<PoolEntry>());
-        channel.sampleSlots[static_cast<std::size_t>(slot)].entry = entries.back().get();
+        channel.sound.sampleSlots[static_cast<std::size_t>(slot)].entry = entries.back().get();
         return *entries.back();
     }
 
