@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <memory>
 
+#include "platform/SharedText.h"
+
 namespace korvane {
 
 /// Base of programs; holds the name and the link of the engine's list.
@@ -23,7 +25,8 @@ public:
     virtual void GetParameterName(int, char* buffer) const { std::snprintf(buffer, 32, "<unknown>"); }
     virtual void InitDefaults() {}
 
-    char name[256] = "noname";
+    static constexpr int kNameBytes = 256;
+    SharedText<kNameBytes> name{"noname"}; // any thread writes and reads
     std::unique_ptr<CProgram> next;
 };
 

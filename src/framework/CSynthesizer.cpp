@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdio>
 #include <cstring>
 
 #include "framework/ParameterTable.h"
@@ -86,16 +85,14 @@ void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, boo
     if (!EnterBlock()) return;
     audioThread = std::this_thread::get_id();
     RenderChunks(in.data(), out.data(), frames);
-    pendingEvent = -1;
-    eventCount = nextEvent = lastDelta = 0;
+    ClearEvents();
     LeaveBlock();
 }
 
 void CSynthesizer::RenderChunks(float** inputs, float** outputs, int frames)
 {
     while (frames > 0) {
-        if (pendingEvent >= 0) Dispatch(events[static_cast<std::size_t>(pendingEvent)]);
-        pendingEvent = -1;
+        DispatchPending();
         for (std::int64_t gap = NextGap(frames); gap > 0;) {
             const int chunk = static_cast<int>(std::min<std::int64_t>({kMaxChunk, frames, gap}));
             if (chunk < 1) return;
@@ -107,102 +104,6 @@ void CSynthesizer::RenderChunks(float** inputs, float** outputs, int frames)
             frames -= chunk;
             gap -= chunk;
         }
-    }
-}
-
-/// Takes the next event; frames until it, or the rest of the block when there is none or it lies in the past.
-std::int64_t CSynthesizer::NextGap(std::int64_t rest)
-{
-    if (nextEvent >= eventCount) return rest;
-    const std::int64_t gap =
-        static_cast<std::int64_t>(events[static_cast<std::size_t>(nextEvent)].deltaFrames) - lastDelta;
-    if (gap < 0) {
-        nextEvent = eventCount; // unsorted: it and all after it are lost
-        return rest;
-    }
-    lastDelta = events[static_cast<std::size_t>(nextEvent)].deltaFrames;
-    pendingEvent = nextEvent++;
-    return gap;
-}
-
-// Events
-
-void CSynthesizer::Dispatch(const MidiEvent& event)
-{
-    Key& key = keys[event.data1];
-    switch (event.status) {
-    case 0x80: NoteOff(event.data1); break;
-    case 0x90:
-        if (event.data2 == 0) {
-            NoteOff(event.data1);
-        } else if (key.velocity == 0) {
-            key.velocity = key.held = event.data2;
-            NotifyKey(event.data1, event.data2);
-        }
-        break;
-    case 0xA0: key.pressure = event.data2 / 127.0; break;
-    case 0xB0: Controller(event.data1, event.data2); break;
-    case 0xC0: ProgramChangeReceived(event.data1); break;
-    case 0xD0:
-        channelPressure = event.data1 / 127.0;
-        ChannelPressureChanged();
-        break;
-    case 0xE0:
-        pitchBend = 2.0 * (event.data1 + 128 * event.data2) / 16383.0 - 1.0;
-        PitchBendChanged();
-        break;
-    default: break;
-    }
-}
-
-void CSynthesizer::NotifyKey(int key, std::uint8_t velocity)
-{
-    if (voiceHook) VoiceNoteOn(static_cast<std::int8_t>(key), static_cast<std::int8_t>(velocity));
-    NoteEvent(static_cast<std::int8_t>(key), static_cast<std::int8_t>(velocity));
-}
-
-void CSynthesizer::ReleaseKey(int key)
-{
-    if (keys[static_cast<std::size_t>(key)].velocity == 0) return;
-    keys[static_cast<std::size_t>(key)].velocity = 0;
-    NotifyKey(key, 0);
-}
-
-void CSynthesizer::NoteOff(int key)
-{
-    keys[static_cast<std::size_t>(key)].held = 0;
-    if (!Sustained()) ReleaseKey(key);
-}
-
-void CSynthesizer::ReleaseAll()
-{
-    for (int key = 0; key < kKeys; ++key) NoteOff(key);
-}
-
-void CSynthesizer::Controller(std::uint8_t number, std::uint8_t value)
-{
-    controllers[number] = value / 127.0;
-    switch (number) {
-    case 32:
-        if (!BankSelectReceived(value)) ControllerChanged(32);
-        break;
-    case 64:
-        controllers[64] = value < 65 ? 0.0 : 1.0;
-        if (value >= 65) break;
-        for (int key = 0; key < kKeys; ++key)
-            if (keys[static_cast<std::size_t>(key)].held == 0) ReleaseKey(key);
-        break;
-    case 121: ResetControllers(); break;
-    case 123: ReleaseAll(); break;
-    default: ControllerChanged(static_cast<std::int8_t>(number)); break;
-    }
-}
-
-void CSynthesizer::ResetControllers()
-{
-    for (int n = 0; n < kKeys; ++n) {
-        controllers[n] = n == 7 ? 1.0 : n == 10 ? 0.5 : 0.0;
-        ControllerChanged(static_cast<std::int8_t>(n));
     }
 }
 
@@ -241,7 +142,7 @@ bool CSynthesizer::SetProgramName(int index, const char* text)
 {
     CProgram* program = ProgramAt(index);
     if (!text || !program) return false;
-    std::snprintf(program->name, sizeof program->name, "%s", text);
+    program->name.Set(text);
     return true;
 }
 
@@ -249,7 +150,9 @@ bool CSynthesizer::GetProgramName(int index, char* buffer)
 {
     const CProgram* program = ProgramAt(index);
     if (!buffer || !program) return false;
-    std::strcpy(buffer, program->name);
+    char name[CProgram::kNameBytes]; // the caller's may be as short as what the name needs
+    program->name.Get(name);
+    std::strcpy(buffer, name);
     return true;
 }
 

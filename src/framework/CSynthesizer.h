@@ -14,8 +14,11 @@ namespace korvane {
 
 /// Host-independent engine base. A bridge constructs it through the definition, calls SetSampleRate and SetProgram (0),
 /// then per block: SetTempo, songPosition, SetPlaying when the host says so, and ProcessBlock. Events are queued before
-/// their block. ProcessBlock belongs to the audio thread; parameter, program and state calls come from any other.
-/// Text buffers have 256 bytes.
+/// their block.
+///
+/// Threads: ProcessBlock and what goes with it belong to the audio thread. Program and state calls come from the
+/// others, parameter calls from any, the audio thread included: MIDI links make them there. Text buffers have 256
+/// bytes.
 class CSynthesizer : public CMidiController {
 public:
     static constexpr int kMaxChunk = 128; // frames
@@ -23,13 +26,7 @@ public:
     explicit CSynthesizer(CPluginWrapper* bridge) : wrapper(bridge) {}
 
     // clang-format off
-    virtual void NoteEvent(std::int8_t, std::int8_t) {}          // velocity 0: release
-    virtual void VoiceNoteOn(std::int8_t, std::int8_t) {}
-    virtual void PitchBendChanged() {}
-    virtual void ControllerChanged(std::int8_t) {}
-    virtual void ChannelPressureChanged() {}
-    virtual void ProgramChangeReceived(int) {}
-    virtual bool BankSelectReceived(int) { return false; }       // whether it was handled
+    // Slots 1 to 7 are the notifications of CMidiController.
     virtual ~CSynthesizer();
     virtual void Destroy() { delete this; }
     virtual bool SetProgramName(int index, const char* text);
@@ -49,7 +46,7 @@ public:
     virtual void Reserved24(float*, float*, float*, float*, int) {}
     virtual void Reserved25(float*, float*, float*, float*, int) {}
     virtual void Reserved26(float*, float*, float*, float*, int) {}
-    virtual void ProcessMultiOut(float**, float**, int) {}       // adds one chunk of at most kMaxChunk frames
+    virtual void ProcessMultiOut(float**, float**, int) {}       // renders at most kMaxChunk frames into the outputs
     virtual void ParameterChanged(int, float) {}
     virtual void Reset();
     virtual void SetSampleRate(double newRate);
@@ -91,7 +88,8 @@ public:
 
     int CurrentProgram() const { return programIndex; }
 
-    Shared<double> songPosition;        // quarter notes; the bridge writes it before each block
+    // The audio thread writes position and tempo before each block, a switch the rate; every thread reads.
+    Shared<double> songPosition;        // quarter notes
     Shared<double> sampleRate = 1000.0; // Hz, until a bridge sets it
     Shared<double> tempo = 120.0;       // beats per minute, at least 1
 
@@ -107,21 +105,13 @@ private:
     bool EnterBlock();
     void LeaveBlock();
     void RenderChunks(float** inputs, float** outputs, int frames);
-    std::int64_t NextGap(std::int64_t rest);
-    void Dispatch(const MidiEvent& event);
-    void NoteOff(int key);
-    void Controller(std::uint8_t number, std::uint8_t value);
-    void ReleaseKey(int key);
-    void NotifyKey(int key, std::uint8_t velocity);
-    void ResetControllers();
-    void ReleaseAll();
 
     std::unique_ptr<CProgram> programs;
     int programCount = 0;
-    Shared<CProgram*> currentProgram = nullptr;
-    Shared<int> programIndex = 0;
-    Shared<std::thread::id> audioThread; // rendered the last block; nobody before the first
-    std::atomic<bool> processing{false}; // somebody has the engine to itself
+    Shared<CProgram*> currentProgram = nullptr; // a switch writes, every thread reads; programs live as long as this
+    Shared<int> programIndex = 0;               // likewise
+    Shared<std::thread::id> audioThread;        // rendered the last block; nobody before the first
+    std::atomic<bool> processing{false};        // somebody has the engine to itself
     std::atomic<int> programChanges{0};
 };
 

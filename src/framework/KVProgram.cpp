@@ -31,7 +31,7 @@ void KVProgram::GetParameterName(int index, char* buffer) const
 void KVProgram::InitDefaults()
 {
     for (int n = 0; n < param::Count; ++n) values[n] = GetParameterDefault(n);
-    std::snprintf(name, sizeof name, "<noname>");
+    name.Set("<noname>");
 }
 
 } // namespace korvane

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "framework/CSynthesizer.h"
+#include "platform/Shared.h"
 #include "shell/CPluginWrapper.h"
 #include "shell/CVstEditor.h"
 #include "shell/vst2/AudioEffectX.h"
@@ -59,8 +60,9 @@ private:
 
     std::unique_ptr<CSynthesizer, EngineEnd> engine;
     std::unique_ptr<CVstEditor> editor;
-    std::vector<std::uint8_t> chunk; // handed to the host by the last get-chunk request
-    std::int32_t programNumber = 0;
+    // Handed to the host by the last get-chunk request, and the host's until the next one: it asks from one thread.
+    std::vector<std::uint8_t> chunk;
+    Shared<std::int32_t> programNumber; // as the host gave it; any of its threads sets and asks
 };
 
 } // namespace korvane
