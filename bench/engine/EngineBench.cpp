@@ -7,6 +7,9 @@
 #include <random>
 
 #include "engine/GrooveEngine.h"
+#include "engine/RenderLoop.h"
+#include "engine/SequencerTick.h"
+#include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
 #include "support/Riff.h"
@@ -55,7 +58,7 @@ struct Rig {
         Block();
     }
 
-    void Block() { engine.RenderFrames(out.data(), kFrames); }
+    void Block() { RenderFrames(engine, out.data(), kFrames); }
 
     void Notes(int perSampler, int perSynth)
     {
@@ -114,10 +117,10 @@ void SilentBlock(benchmark::State& state)
 void Tick(benchmark::State& state)
 {
     Rig rig(1, 0.0f);
-    rig.engine.TogglePlay();
+    TogglePlay(rig.engine);
     for (int c = 0; c < kChannels; ++c)
-        for (int s = 0; s < kSteps; ++s) rig.engine.patterns[0]->steps[c][s] = 1u;
-    for (auto _ : state) rig.engine.SequencerTick(false);
+        for (int s = 0; s < kSteps; ++s) rig.engine.score.patterns[0]->steps[c][s] = 1u;
+    for (auto _ : state) SequencerTick(rig.engine, false);
 }
 
 BENCHMARK(SilentBlock);

@@ -109,6 +109,19 @@ void GrooveChannel::RenderVoices(int frames)
     }
 }
 
+bool GrooveChannel::ProcessEffects(float* left, float* right, int frames, float tempo)
+{
+    bool audible = soundedThisBlock;
+    stutterUnit->Process(left, right, frames, tempo);
+    audible = audible || stutterUnit->HasTail();
+    for (auto& unit : fxUnits) {
+        if (!audible) unit->bypass = 1;
+        unit->Process(left, right, frames, tempo);
+        audible = audible || unit->HasTail();
+    }
+    return audible;
+}
+
 ChannelVoice& GrooveChannel::VoiceForNote()
 {
     if (sound.Modulated(slot::MonoVoice) != 0.0f) return *voices[0];
@@ -140,9 +153,7 @@ void GrooveChannel::NoteOn(int note, float tempo, float velocity)
 void GrooveChannel::Reset(float newRate)
 {
     if (newRate != 0.0f) sound.rate = newRate;
-    peakLeft = 0.0f;
-    peakRight = 0.0f;
-    outGainLeft = outGainRight = -1.0f;
+    strip.Reset();
     for (auto& unit : fxUnits) unit->Reset(newRate);
     stutterUnit->Reset(newRate);
     voiceCounter = 0;

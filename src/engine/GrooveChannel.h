@@ -7,6 +7,7 @@
 
 #include "content/SamplePool.h"
 #include "engine/fx/FXUnit.h"
+#include "engine/mix/MixerStrip.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/ChannelVoice.h"
 #include "engine/voice/RandomGenerator.h"
@@ -35,9 +36,8 @@ public:
     /// velocity  0..1
     void NoteOn(int note, float tempo, float velocity);
 
-    void ReleaseNote(int note) { korvane::ReleaseNote(voices, note); }
-    void ReleaseLive() { korvane::ReleaseLive(voices); }
-    void ReleaseSequenced() { korvane::ReleaseSequenced(voices); }
+    /// Runs the stutter and the effects over the channel's mix, in place; whether anything of it can be heard.
+    bool ProcessEffects(float* left, float* right, int frames, float tempo);
 
     /// Silences every voice, refills its phases from the generator, clears effects, meters and smoothed gains. Audio
     /// thread or under the program-switch handshake.
@@ -53,9 +53,7 @@ public:
     std::uint32_t voiceCounter = 0;
     bool soundedThisBlock = false;
 
-    // Mixer strip.
-    float outGainLeft = -1.0f, outGainRight = -1.0f; // -1 before first use
-    Shared<float> peakLeft, peakRight;               // audio raises them, the meter zeroes them
+    MixerStrip strip;
 
 private:
     void RefreshVoices();

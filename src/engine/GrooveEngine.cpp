@@ -1,4 +1,4 @@
-// The engine core: data, parameters, life cycle.
+// The engine core: data, parameters, notes, life cycle.
 #include "engine/GrooveEngine.h"
 
 #include <algorithm>
@@ -12,8 +12,6 @@ namespace korvane {
 
 namespace {
 
-constexpr std::int8_t kDefaultPadKeys[kSamplerChannels] = {12, 14, 15, 18, 20, 17, 19, 23};
-
 /// Highest position of a stepped parameter.
 int LastPosition(int base)
 {
@@ -25,12 +23,6 @@ int LastPosition(int base)
     }
 }
 
-template <class T, std::size_t kCount, class V>
-void Fill(Shared<T> (&values)[kCount], V value)
-{
-    for (auto& entry : values) entry = static_cast<T>(value);
-}
-
 /// What may render. Values far outside 0..1 come from images and hosts; powers of them must not overflow before the
 /// mixer, and what they ask for is beyond every end of its range at a thousand already.
 float Tame(float value)
@@ -39,74 +31,59 @@ float Tame(float value)
     return std::isfinite(value) ? Clamp(value, -kWildest, kWildest) : 0.0f;
 }
 
+/// Whether a block has changed since it was read.
+bool Moved(const Shared<float> (&block)[kChannelSlots], const float* seen)
+{
+    for (int n = 0; n < kChannelSlots; ++n)
+        if (std::bit_cast<std::uint32_t>(static_cast<float>(block[n])) != std::bit_cast<std::uint32_t>(seen[n]))
+            return true;
+    return false;
+}
+
 } // namespace
 
-GrooveEngine::GrooveEngine(const Shared<std::thread::id>* newBlockThread)
-    : samplePool(std::make_unique<SamplePool>()), clipboard(std::make_unique<GroovePattern>()),
-      blockThread(newBlockThread)
+GrooveEngine::GrooveEngine(const Shared<std::thread::id>* newOwner)
+    : samplePool(std::make_unique<SamplePool>()), owner(newOwner)
 {
-    clipboard->Clear();
-    for (auto& pattern : patterns) {
-        pattern = std::make_unique<GroovePattern>();
-        pattern->Clear();
-    }
     for (auto& channel : channels) channel = std::make_unique<GrooveChannel>(*samplePool, random);
-    Fill(lastStep, -1);
 }
 
 GrooveEngine::~GrooveEngine() = default;
 
-int GrooveEngine::ChannelIndexOf(int base) const
-{
-    switch (BankOf(base)) {
-    case Bank::Envelope: return base + envelopeNumber;
-    case Bank::Lfo: return base + lfoNumber;
-    case Bank::Layer: return base + layerNumber;
-    case Bank::Fx: return base + selectedFx;
-    case Bank::None: break;
-    }
-    return base;
-}
+// Parameters
 
 void GrooveEngine::SetChannelParameter(int base, float value)
 {
-    const int index = ChannelIndexOf(base);
+    const int index = selection.ChannelIndexOf(base);
     const bool valid = index >= 0 && index < kChannelSlots;
-    const int selected = selectedChannel;
-    const int edited = editStep;
+    const int selected = selection.selectedChannel;
+    const int edited = selection.editStep;
     if (edited != -1) {
         const float stored = valid ? static_cast<float>(storedParams[selected][index]) : 0.0f;
-        Pattern().locks[selected][selectedBar * kStepsPerBar + edited].Set(index, value - stored);
+        score.Current().locks[selected][selection.StepInPattern(edited)].Set(index, value - stored);
     } else {
         for (int c = 0; c < kChannels; ++c) {
-            if (c != selected && !channelHeld[c]) continue;
-            if (base >= slot::FxX) {
-                for (int effect = 0; effect < kEffects; ++effect)
-                    if (fxOn[effect] && base + effect < kChannelSlots) storedParams[c][base + effect] = value;
-            }
+            if (!buttons.Reaches(c, selected)) continue;
+            // Held effects take the value too. Where the base is no effect's first parameter, as of the equaliser, it
+            // spills into the slots behind it: so the instrument always did, and grooves were made with it.
+            for (int effect = 0; base >= slot::FxX && effect < kEffects; ++effect)
+                if (buttons.fxOn[effect] && base + effect < kChannelSlots) storedParams[c][base + effect] = value;
             if (valid) storedParams[c][index] = value;
             RefreshChannel(c);
         }
     }
-    if (extLearn) {
-        ExtControl& control = extControls[extIndex];
-        control.channel = selected;
-        control.param = index;
-        extLearn = false;
-    }
-    for (auto& control : extControls)
-        if (control.channel == selected && control.param == index) control.value = value;
+    ext.Written(selected, index, value);
 }
 
 float GrooveEngine::GetChannelParameter(int base) const
 {
-    int index = ChannelIndexOf(base);
+    int index = selection.ChannelIndexOf(base);
     if (index < 0 || index >= kChannelSlots) index = 0;
-    const int selected = selectedChannel;
+    const int selected = selection.selectedChannel;
     const float stored = storedParams[selected][index];
-    const int edited = editStep;
+    const int edited = selection.editStep;
     if (edited == -1) return stored;
-    return stored + Pattern().locks[selected][selectedBar * kStepsPerBar + edited].Offset(index);
+    return stored + score.Current().locks[selected][selection.StepInPattern(edited)].Offset(index);
 }
 
 void GrooveEngine::CycleSwitch(int base)
@@ -119,8 +96,8 @@ void GrooveEngine::CycleSwitch(int base)
 
 void GrooveEngine::SetExtControl(int n, float value)
 {
-    extIndex = n;
-    ExtControl& control = extControls[n];
+    ext.extIndex = n;
+    ExtControl& control = ext.extControls[n];
     const float clamped = Clamp(value, 0.0f, 1.0f);
     control.value = clamped;
     const int channel = control.channel;
@@ -130,101 +107,95 @@ void GrooveEngine::SetExtControl(int n, float value)
     RefreshChannel(channel);
 }
 
-void GrooveEngine::RefreshChannel(int channel, bool withLocks)
+void GrooveEngine::RefreshChannel(int channel)
 {
     const auto& stored = storedParams[channel];
-    const auto moved = [&stored](const float* seen) {
-        for (int n = 0; n < kChannelSlots; ++n)
-            if (std::bit_cast<std::uint32_t>(static_cast<float>(stored[n])) != std::bit_cast<std::uint32_t>(seen[n]))
-                return true;
-        return false;
-    };
     constexpr int kTries = 3; // another thread's write, or step, is not to be lost under this copy
     for (int n = 0; n < kTries; ++n) {
-        const int step = lastStep[channel];
+        const int step = clock.playing ? static_cast<int>(score.lastStep[channel]) : -1;
         float seen[kChannelSlots], block[kChannelSlots];
         std::copy(std::begin(stored), std::end(stored), seen);
         std::copy(std::begin(seen), std::end(seen), block);
-        if (withLocks && step >= 0) Pattern().locks[channel][step].ApplyTo(block);
+        if (step >= 0) score.Current().locks[channel][step].ApplyTo(block);
         for (int i = 0; i < kChannelSlots; ++i)
             Channel(channel).sound.params[i] = Tame(block[i]); // wild values stay in `stored`
-        if (lastStep[channel] == step && !moved(seen)) break;
+        if ((step < 0 || score.lastStep[channel] == step) && !Moved(stored, seen)) break;
     }
     RefreshFxActive(channel);
 }
 
 void GrooveEngine::RefreshFxActive(int channel)
 {
-    const bool chosen = channel == selectedChannel || channelHeld[channel];
-    const int padEffect = fxPad ? static_cast<int>(selectedFx) : -1;
+    const bool reached = buttons.Reaches(channel, selection.selectedChannel);
+    const int padEffect = buttons.fxPad ? static_cast<int>(selection.selectedFx) : -1;
     for (int effect = 0; effect < kEffects; ++effect)
-        Channel(channel).fxActive[effect] = chosen && (fxOn[effect] || effect == padEffect);
+        Channel(channel).fxActive[effect] = reached && (buttons.fxOn[effect] || effect == padEffect);
 }
 
-void GrooveEngine::RefreshAllFxActive()
+void GrooveEngine::RefreshFxActive()
 {
     for (int c = 0; c < kChannels; ++c) RefreshFxActive(c);
 }
 
-void GrooveEngine::SetFxButton(int effect, bool held)
+// Notes
+
+void GrooveEngine::NoteOn(int channel, int note, float velocity)
 {
-    const bool anyHeld =
-        std::any_of(std::begin(fxOn), std::end(fxOn), [](const Shared<bool>& on) -> bool { return on; });
-    if (held && !anyHeld) selectedFx = effect;
-    fxOn[effect] = held;
-    RefreshAllFxActive();
+    Do({VoiceCommand::Kind::NoteOn, static_cast<std::uint8_t>(channel), static_cast<std::int16_t>(note), velocity});
 }
 
-void GrooveEngine::SetFxPad(bool held)
+void GrooveEngine::ReleaseNote(int channel, int note)
 {
-    fxPad = held;
-    RefreshAllFxActive();
+    Do({VoiceCommand::Kind::ReleaseNote, static_cast<std::uint8_t>(channel), static_cast<std::int16_t>(note), 0.0f});
 }
 
-void GrooveEngine::SetStutterButton(int button, bool held)
+void GrooveEngine::ReleaseLive(int channel)
 {
-    if (held)
-        stutterButtons.Press(button);
-    else
-        stutterButtons.Release(button);
-    RefreshStutterCodes();
+    Do({VoiceCommand::Kind::ReleaseLive, static_cast<std::uint8_t>(channel), 0, 0.0f});
 }
 
-void GrooveEngine::RefreshStutterCodes()
+void GrooveEngine::ReleaseSequenced()
 {
-    const int pressed = stutterButtons.Code();
-    for (int c = 0; c < kChannels; ++c) {
-        const int code = c == selectedChannel || channelHeld[c] ? pressed : 0;
-        if (code != std::abs(stutterCode[c])) stutterCode[c] = static_cast<std::int8_t>(-code);
+    for (auto& channel : channels) korvane::ReleaseSequenced(channel->voices);
+}
+
+void GrooveEngine::Do(const VoiceCommand& command)
+{
+    if (!MayTouchVoices()) {
+        commands.voices.Push(command);
+        return;
+    }
+    ServeVoices(); // what came before comes first
+    Execute(command);
+}
+
+void GrooveEngine::ServeVoices()
+{
+    for (VoiceCommand command; commands.voices.Pop(command);) Execute(command);
+}
+
+void GrooveEngine::Execute(const VoiceCommand& command)
+{
+    GrooveChannel& channel = Channel(command.channel);
+    switch (command.kind) {
+    case VoiceCommand::Kind::NoteOn: channel.NoteOn(command.note, 0.0f, command.velocity); break;
+    case VoiceCommand::Kind::ReleaseNote: korvane::ReleaseNote(channel.voices, command.note); break;
+    case VoiceCommand::Kind::ReleaseLive: korvane::ReleaseLive(channel.voices); break;
     }
 }
+
+// Life cycle
 
 void GrooveEngine::ResetGroove()
 {
     for (int c = 0; c < kSamplerChannels; ++c) Channel(c).sound.isSampler = true;
-    samplesToNextStep = 0.0;
-    selectedChannel = kSamplerChannels;
-    stepCounter = patternStep = std::uint8_t{0};
-    editMode = recordMode = playing = playBar = false;
-    selectedBar = currentPattern = nextPattern = patternRepeats = 0;
-    Fill(playOnce, false);
-    Fill(stutterCode, 0);
-    stutterButtons.Clear();
-    selectedFx = 0;
-    envelopeNumber = lfoNumber = layerNumber = std::int8_t{0};
-    soloSelected = muteModifier = false;
-    editStep = selectedBarMark = selectedPatternMark = -1;
-    Fill(channelHeld, false);
-    Fill(channelMarked, false);
-    Fill(muted, false);
-    Fill(fxOn, false);
-    Fill(stepHeld, false);
-    for (auto& control : extControls) control.param = -1;
-    std::copy(std::begin(kDefaultPadKeys), std::end(kDefaultPadKeys), padKeys);
-    extIndex = 0;
-    extLearn = false;
+    clock.Reset();
+    selection.Reset();
+    buttons.Reset();
+    mixer.Reset();
+    ext.Reset();
+    score.Reset();
     for (int c = 0; c < kChannels; ++c) InitChannel(c);
-    for (auto& pattern : patterns) pattern->Clear();
 }
 
 void GrooveEngine::InitChannel(int channel)
@@ -243,20 +214,19 @@ void GrooveEngine::InitChannel(int channel)
 
 void GrooveEngine::ResetSelectedChannel()
 {
-    Pattern().ClearChannel(selectedChannel);
-    InitChannel(selectedChannel);
+    score.Current().ClearChannel(selection.selectedChannel);
+    InitChannel(selection.selectedChannel);
 }
 
 void GrooveEngine::ResetEngine(float newRate)
 {
-    for (VoiceCommand dropped; voiceCommands.Pop(dropped);) {} // their notes would end here
-    hostPosition = 0.0;
-    clickPhase = clickLevel = clickIncrement = 0.0f;
-    if (newRate != 0.0f) sampleRate = static_cast<double>(newRate);
+    for (VoiceCommand dropped; commands.voices.Pop(dropped);) {} // their notes would end here
+    clock.hostPosition = 0.0;
+    mixer.click.Silence();
+    if (newRate != 0.0f) clock.sampleRate = static_cast<double>(newRate);
     for (auto& channel : channels) channel->Reset(newRate);
-    nextPattern = static_cast<int>(currentPattern);
-    Fill(lastStep, -1);
-    for (auto& channel : channels) channel->ReleaseSequenced();
+    score.Restart();
+    ReleaseSequenced();
 }
 
 } // namespace korvane

@@ -1,13 +1,18 @@
-// The instrument as its bridges see it: construction, parameters, rendering.
+// The groove engine as a synthesizer: host parameters and MIDI into the engine core.
 #include "engine/KVSynth.h"
 
-#include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 #include "content/LastSampleFolder.h"
+#include "engine/ParameterBindings.h"
+#include "engine/RenderLoop.h"
+#include "engine/StepButtons.h"
+#include "engine/Transport.h"
 #include "framework/KVProgram.h"
 #include "platform/Numbers.h"
 #include "shell/CPluginDefinition.h"
+#include "shell/CPluginEditor.h"
 
 namespace korvane {
 
@@ -31,43 +36,31 @@ KVSynth::KVSynth(CPluginWrapper* bridge) : CSynthesizer(bridge)
     std::snprintf(pool.waveFolder, sizeof pool.waveFolder, "%s", folders.synthWaves);
     std::snprintf(engine->defaultWavePath, sizeof engine->defaultWavePath, "%s", folders.defaultWave);
     engine->ResetGroove();
-
-    synthPrograms = std::make_unique<CPresetList>(folders.synthPrograms, "kvsynth");
-    samplerPrograms = std::make_unique<CPresetList>(folders.samplerPrograms, "kvsmp");
-    synthPrograms->Refresh();
-    samplerPrograms->Refresh();
-    waveforms = std::make_unique<CFileList>();
-    for (const char* extension : {"wav", "aif", "aiff"}) waveforms->AddFilter(extension, false);
-    waveforms->Scan(folders.synthWaves);
-
-    for (auto& link : links) link = std::int16_t{-1};
-    ReadLinkMap();
-    LoadDefaultGroove();
+    links.Read(folders.root);
 }
 
-KVSynth::~KVSynth() { WriteLinkMap(); }
+KVSynth::~KVSynth() { links.Write(folders.root); }
+
+// Blocks
 
 void KVSynth::ProcessMultiOut(float**, float** outputs, int frames)
 {
-    FollowHost();
-    engine->RenderFrames(outputs, frames);
+    FollowHostTime();
+    RenderFrames(*engine, outputs, frames);
 }
 
-void KVSynth::FollowHost()
+void KVSynth::FollowHostTime()
 {
-    engine->tempo = static_cast<float>(Clamp<double>(tempo, 1.0, kFastestTempo * engine->sampleRate));
-    engine->hostPosition = static_cast<double>(songPosition);
+    Clock& clock = engine->clock;
+    clock.tempo = static_cast<float>(Clamp<double>(tempo, 1.0, kFastestTempo * clock.sampleRate));
+    clock.hostPosition = static_cast<double>(songPosition);
 }
 
 void KVSynth::SetPlaying(bool running)
 {
     const BetweenBlocks exclusive(*this);
-    FollowHost();
-    if (engine->playing) {
-        if (engine->recordMode) engine->ToggleRecord();
-        if (engine->playing) engine->TogglePlay(); // leaving a recording from standstill has stopped it already
-    }
-    if (running) engine->TogglePlay();
+    if (engine->MayTouchVoices()) FollowHostTime(); // a start that waits takes its block's
+    FollowHost(*engine, running);
 }
 
 void KVSynth::Reset()
@@ -83,6 +76,16 @@ void KVSynth::SetSampleRate(double newRate)
     ProgramSwitch exclusive(*this);
     engine->ResetEngine(static_cast<float>(newRate));
     CSynthesizer::SetSampleRate(newRate);
+}
+
+// Parameters
+
+float KVSynth::GetParameter(int index)
+{
+    if (index < 0 || index >= param::Count) return 0.0f;
+    const ParameterBinding& row = BindingOf(index);
+    if (!row.read) return CSynthesizer::GetParameter(index); // what the program stores
+    return row.read(*engine, row.target + index - row.first);
 }
 
 float KVSynth::GetParameterDefault(int index)
@@ -103,155 +106,90 @@ void KVSynth::GetParameterDisplay(int index, char* buffer)
                   buffer);
 }
 
-float KVSynth::GetParameter(int index)
+void KVSynth::GetLastParameterText(char* buffer)
 {
-    if (index < 0 || index >= param::Count) return 0.0f;
-    const ParameterInfo& info = kParameters[static_cast<std::size_t>(index)];
-    if (info.slotBase >= 0) return engine->GetChannelParameter(info.slotBase);
-    const auto flag = [](bool on) { return on ? 1.0f : 0.0f; };
-    switch (index) {
-    case param::ShuffleAmount: return engine->shuffleAmount;
-    case param::Play: return flag(engine->playing);
-    case param::PlayBar: return flag(engine->playBar);
-    case param::Record: return flag(engine->recordMode);
-    case param::Edit: return flag(engine->editMode);
-    case param::Solo: return flag(engine->soloSelected);
-    case param::PlayOnce: return flag(engine->playOnce[engine->currentPattern]);
-    case param::EnvelopeNumber: return engine->envelopeNumber;
-    case param::LfoNumber: return engine->lfoNumber;
-    case param::LayerNumber: return static_cast<float>(engine->layerNumber) / 3.0f;
-    case param::Stutter1_4: return flag(engine->stutterButtons.Held(4));
-    case param::EngineFlag: return flag(engine->muteModifier);
-    default: break;
-    }
-    if (index >= param::Enable1 && index < param::Enable1 + kChannels)
-        return flag(!engine->muted[index - param::Enable1]);
-    if (index >= param::Stutter1_1 && index < param::Stutter1_1 + 4)
-        return flag(engine->stutterButtons.Held(index - param::Stutter1_1));
-    if (index >= param::Ext1 && index < param::Ext1 + kExtControls)
-        return engine->extControls[index - param::Ext1].value;
-    return CSynthesizer::GetParameter(index); // what the program stores
+    const int parameter = links.lastParameter;
+    std::strcpy(buffer, "---");
+    if (parameter >= 0) GetParameterName(parameter, buffer);
 }
 
-bool KVSynth::Edge(int index, bool on)
+void KVSynth::ReportParameters()
 {
-    if (index >= param::HostCount) return false;
-    const bool changed = switchStates[index] != on;
-    switchStates[index] = on;
-    return changed;
+    if (!wrapper) return;
+    for (int index = 0; index < param::Count; ++index) wrapper->ParameterAutomated(index, GetParameter(index));
 }
+
+void KVSynth::RefreshEditor()
+{
+    if (CPluginEditor* editor = wrapper ? wrapper->GetEditor() : nullptr) editor->RefreshAll();
+}
+
+bool KVSynth::Edge(int index, bool on) { return index < param::HostCount && switchStates[index].Replace(!on, on); }
 
 void KVSynth::ParameterChanged(int index, float value)
 {
     if (index < 0 || index >= param::Count) return;
     const BetweenBlocks exclusive(*this);
-    lastParameter = index;
+    links.lastParameter = index;
     if (!keyTrigger) engine->liveVelocity = 1.0f;
 
-    const ParameterInfo& info = kParameters[static_cast<std::size_t>(index)];
+    const ParameterBinding& row = BindingOf(index);
     const bool on = value != 0.0f;
-    const bool changed = Edge(index, on);
-    switch (info.kind) {
-    case Kind::Value: WriteValue(info, value); break;
-    case Kind::Follow: Follow(index, on); break;
-    case Kind::Trigger:
-        if (on && changed) Trigger(index);
-        break;
-    case Kind::Change:
-        if (changed) Change(index, on);
-        break;
-    case Kind::Press: Press(index, on, changed); break;
-    case Kind::Select: Select(index, value); break;
-    case Kind::None: break;
+    const bool edge = Edge(index, on);
+    const bool acts =
+        row.acts == Acts::Always || (edge && (row.acts == Acts::OnEdge || (row.acts == Acts::OnPress && on)));
+    if (acts) row.write(*engine, row.target + index - row.first, value);
+}
+
+// MIDI
+
+void KVSynth::NoteEvent(std::int8_t key, std::int8_t velocity)
+{
+    if (key < 0) return;
+    const float value = static_cast<float>(velocity) / 127.0f;
+    if (velocity > 0) {
+        engine->liveVelocity = value;
+        links.lastSource = source::FirstKey + key;
+    }
+    const int linked = links.links[source::FirstKey + key];
+    const int pad = key - kFirstNote;
+    if (linked >= 0) {
+        SetParameter(linked, value);
+    } else if (pad >= 0 && pad < kNotes) {
+        keyTrigger = true; // the pad sounds at the key's velocity
+        SetParameter(param::Step1 + pad, value);
+        keyTrigger = false;
+    } else if (velocity > 0) {
+        StepButton(*engine, pad);
+    } else {
+        engine->ReleaseNote(engine->selection.selectedChannel, key);
     }
 }
 
-void KVSynth::WriteValue(const ParameterInfo& info, float value)
+void KVSynth::PitchBendChanged()
 {
-    if (info.slotBase >= 0)
-        engine->SetChannelParameter(info.slotBase, value);
-    else if (info.index == param::ShuffleAmount)
-        engine->shuffleAmount = value;
-    else
-        engine->SetExtControl(info.index - param::Ext1, value);
+    links.lastSource = source::PitchWheel;
+    const float bend = static_cast<float>(pitchBend);
+    engine->livePitchBend = bend;
+    if (const int linked = links.links[source::PitchWheel]; linked >= 0) SetParameter(linked, bend);
 }
 
-void KVSynth::Follow(int index, bool on)
+void KVSynth::ControllerChanged(std::int8_t number)
 {
-    switch (index) {
-    case param::Play:
-        if (on != engine->playing) engine->TogglePlay();
-        break;
-    case param::Record:
-        if (on != engine->recordMode) engine->ToggleRecord();
-        break;
-    case param::Edit:
-        if (on != engine->editMode) engine->ToggleEdit();
-        break;
-    case param::PlayBar: engine->playBar = !engine->playBar && on; break; // any write ends it
-    case param::Solo: engine->soloSelected = on; break;
-    case param::PlayOnce: engine->playOnce[engine->currentPattern] = on; break;
-    default: engine->muted[index - param::Enable1] = !on; break;
+    if (number < 0) return;
+    links.lastSource = number;
+    const float value = static_cast<float>(controllers[number]);
+    if (number == controller::ModWheel) engine->liveModWheel = value;
+    const int linked = links.links[number];
+    if (linked < 0) return;
+    if (links.ignoreValue[number]) {
+        SetParameter(linked, 1.0f);
+        SetParameter(linked, 0.0f);
+    } else {
+        SetParameter(linked, value);
     }
 }
 
-void KVSynth::Trigger(int index)
-{
-    switch (index) {
-    case param::Back: engine->Back(); break;
-    case param::Forward: engine->Forward(); break;
-    case param::Clear: engine->Clear(); break;
-    case param::Copy: engine->Copy(); break;
-    case param::Paste: engine->Paste(); break;
-    case param::ExtLearn: engine->extLearn = !engine->extLearn; break;
-    case param::FilterTypeSwitch: engine->CycleSwitch(slot::FilterType); break;
-    case param::EnvelopeDestinationSwitch: engine->CycleSwitch(slot::EnvelopeDestination); break;
-    case param::LfoSyncSwitch: engine->CycleSwitch(slot::LfoSync); break;
-    case param::LfoDestinationSwitch: engine->CycleSwitch(slot::LfoDestination); break;
-    case param::LfoShapeSwitch: engine->CycleSwitch(slot::LfoShape); break;
-    case param::FxLfoShapeSwitch: engine->CycleSwitch(slot::FxLfoShape); break;
-    case param::FxLfoSyncSwitch: engine->CycleSwitch(slot::FxLfoSync); break;
-    default: engine->SelectPattern(index - param::Pattern1); break;
-    }
-}
-
-void KVSynth::Change(int index, bool on)
-{
-    switch (index) {
-    case param::MuteSelected: engine->SetMuteModifier(on); break;
-    case param::Stutter1_4: engine->SetStutterButton(4, on); break;
-    default: engine->SetStutterButton(index - param::Stutter1_1, on); break;
-    }
-}
-
-void KVSynth::Press(int index, bool on, bool changed)
-{
-    if (index >= param::Step1) {
-        if (on)
-            engine->StepButton(index - param::Step1);
-        else
-            engine->StepButtonRelease(index - param::Step1);
-    } else if (changed && index >= param::Fx1) {
-        engine->SetFxButton(index - param::Fx1, on);
-    } else if (changed) {
-        if (on)
-            engine->ChannelPress(index - param::Channel1);
-        else
-            engine->ChannelRelease(index - param::Channel1);
-    }
-}
-
-void KVSynth::Select(int index, float value)
-{
-    const auto position = [value](float scale, int last) {
-        return static_cast<std::int8_t>(std::clamp(Truncate(value * scale), 0, last));
-    };
-    switch (index) {
-    case param::EnvelopeNumber: engine->envelopeNumber = position(1.0f, 1); break;
-    case param::LfoNumber: engine->lfoNumber = position(1.0f, 1); break;
-    case param::LayerNumber: engine->layerNumber = position(3.0f, kLayers - 1); break;
-    default: engine->SetFxPad(value != 0.0f); break;
-    }
-}
+void KVSynth::ChannelPressureChanged() { engine->livePressure = static_cast<float>(channelPressure); }
 
 } // namespace korvane

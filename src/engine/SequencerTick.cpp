@@ -1,8 +1,8 @@
-// The engine core's sequencer: what happens at each tick of the step clock.
-#include <algorithm>
-#include <array>
+// What happens at each tick of the step clock.
+#include "engine/SequencerTick.h"
 
-#include "engine/GrooveEngine.h"
+#include <algorithm>
+
 #include "engine/fx/FxSettings.h"
 #include "framework/ParameterTable.h"
 
@@ -10,88 +10,80 @@ namespace korvane {
 
 namespace {
 
-constexpr float kClickLevel = 3.0f;
-constexpr double kClickHz = 500.0, kBarClickHz = 1000.0;
+/// The step that plays now, the pattern's length, the click.
+void AdvancePosition(GrooveEngine& engine)
+{
+    Clock& clock = engine.clock;
+    const bool recording = clock.Recording();
+    engine.score.ReturnFromPlayOnce(clock.patternStep, clock.playBar || recording);
+    GroovePattern& pattern = engine.score.Current();
+    int step = clock.stepCounter;
+    pattern.UpdateLength();
+    if (!clock.CountingIn()) {
+        step %= pattern.length;
+    } else {
+        int beat = step;
+        if (clock.countIn > 0) {
+            clock.samplesToNextStep = 0.0;
+            clock.stepCounter = std::uint8_t{0};
+            step = 0;
+            beat = clock.countIn;
+        }
+        engine.mixer.click.Arm(beat, clock.sampleRate);
+    }
+    if (clock.playBar && !recording) step = engine.selection.StepInPattern(step % kStepsPerBar);
+    clock.patternStep = static_cast<std::uint8_t>(step);
+}
+
+/// The channel's stutter and its effects' LFOs follow the steps.
+void SyncEffects(GrooveEngine& engine, int c)
+{
+    GrooveChannel& channel = engine.Channel(c);
+    const std::int8_t pressed = engine.buttons.stutterCode[c];
+    std::int8_t code = pressed;
+    SetStutter(*channel.stutterUnit, code);
+    if (code != pressed) engine.buttons.stutterCode[c].Replace(pressed, code); // a button pressed meanwhile stands
+    for (auto& unit : channel.fxUnits) SyncLfo(*unit, engine.clock.stepCounter);
+}
+
+void PlayStep(GrooveEngine& engine, int c, bool late)
+{
+    GrooveChannel& channel = engine.Channel(c);
+    const Clock& clock = engine.clock;
+    const int position = std::min<int>(clock.patternStep, kSteps - 1);
+    const bool recorded = clock.Recording() && c == engine.selection.selectedChannel; // heard straight
+    const bool shuffled = channel.sound.params[slot::ShuffleEnable] != 0.0f && !recorded;
+    if (!late) SyncEffects(engine, c);
+    const std::uint32_t word = engine.score.Current().steps[c][position];
+    if (word == 0) return;
+    if (!late) {
+        engine.score.lastStep[c] = position;
+        engine.RefreshChannel(c);
+    }
+    const bool odd = (clock.patternStep & 1) != 0;
+    const bool sounds = shuffled ? late || !odd : !late; // shuffled channels sound late on odd steps
+    if (!sounds) return;
+    ReleaseSequenced(channel.voices);
+    const std::uint32_t sounding = engine.recorder.playedThisStep[c];
+    for (int k = 0; k < kNotes; ++k)
+        if ((word & ~sounding) >> k & 1u) channel.NoteOn(kFirstNote + k, clock.tempo, 1.0f);
+}
 
 } // namespace
 
-void GrooveEngine::SequencerTick(bool late)
+void SequencerTick(GrooveEngine& engine, bool late)
 {
-    if (!playing) {
-        for (auto& channel : channels) channel->stutterUnit->bypass = 1;
+    Clock& clock = engine.clock;
+    if (!clock.playing) {
+        for (auto& channel : engine.channels) channel->stutterUnit->bypass = 1;
         return;
     }
-    if (!late) AdvancePosition();
-    const bool silent = CountingIn() && countIn > 0;
-    if (!silent) {
-        const bool recording = Recording();
-        for (int c = 0; c < kChannels; ++c) PlayStep(c, late, recording);
-    }
+    if (!late) AdvancePosition(engine);
+    const bool silent = clock.CountingIn() && clock.countIn > 0;
+    for (int c = 0; !silent && c < kChannels; ++c) PlayStep(engine, c, late);
     if (late) return;
-    for (auto& notes : playedThisStep) notes = 0u;
-    if (countIn < 1) {
-        countIn = std::int8_t{-1};
-        stepCounter = static_cast<std::uint8_t>((stepCounter + 1) & (kSteps - 1)); // eight bars, the longest pattern
-    } else {
-        patternStep = stepCounter = std::uint8_t{0};
-        countIn = static_cast<std::int8_t>(countIn - 1);
-    }
-}
-
-void GrooveEngine::AdvancePosition()
-{
-    const bool recording = Recording();
-    if (patternRepeats > 0)
-        patternRepeats = patternRepeats - 1;
-    else if (playOnce[currentPattern] && !playBar && !recording && patternStep == Pattern().length - 1)
-        currentPattern = static_cast<int>(nextPattern);
-    GroovePattern& pattern = Pattern();
-    int step = stepCounter;
-    pattern.UpdateLength();
-    if (!CountingIn()) {
-        step %= pattern.length;
-    } else {
-        int click = step;
-        if (countIn > 0) {
-            samplesToNextStep = 0.0;
-            stepCounter = std::uint8_t{0};
-            step = 0;
-            click = countIn;
-        }
-        if (click % 4 == 0) {
-            clickLevel = kClickLevel;
-            clickIncrement = static_cast<float>((click % kStepsPerBar == 0 ? kBarClickHz : kClickHz) / sampleRate);
-        }
-    }
-    if (playBar && !recording) step = step % kStepsPerBar + kStepsPerBar * selectedBar;
-    patternStep = static_cast<std::uint8_t>(step);
-}
-
-void GrooveEngine::PlayStep(int c, bool late, bool recording)
-{
-    GrooveChannel& channel = Channel(c);
-    const int position = std::min<int>(patternStep, kSteps - 1);
-    const bool shuffled = channel.sound.params[slot::ShuffleEnable] != 0.0f && !(recording && c == selectedChannel);
-    if (!late) {
-        const std::int8_t pressed = stutterCode[c];
-        std::int8_t code = pressed;
-        SetStutter(*channel.stutterUnit, code);
-        if (code != pressed) stutterCode[c].Replace(pressed, code); // a button pressed meanwhile stands
-        for (auto& unit : channel.fxUnits) SyncLfo(*unit, stepCounter);
-    }
-    const std::uint32_t word = Pattern().steps[c][position];
-    if (word == 0) return;
-    if (!late) {
-        lastStep[c] = position;
-        RefreshChannel(c);
-    }
-    const bool odd = (patternStep & 1) != 0;
-    const bool sounds = shuffled ? late || !odd : !late; // shuffled channels sound late on odd steps
-    if (!sounds) return;
-    channel.ReleaseSequenced();
-    const std::uint32_t sounding = playedThisStep[c];
-    for (int k = 0; k < kNotes; ++k)
-        if ((word & ~sounding) >> k & 1u) channel.NoteOn(kFirstNote + k, tempo, 1.0f);
+    Fill(engine.recorder.playedThisStep, 0u);
+    clock.Advance();
 }
 
 } // namespace korvane

@@ -1,112 +1,108 @@
-// The engine core's transport: play, record, and notes asked for by other threads.
-#include <cmath>
-
-#include "engine/GrooveEngine.h"
+// The transport: play, record, edit, and a host that starts and stops.
+#include "engine/Transport.h"
 
 namespace korvane {
 
-void GrooveEngine::TogglePlay()
+namespace {
+
+void Execute(GrooveEngine& engine, const TransportCommand& command)
 {
-    const bool start = !playing;
-    if (!start) playing = false;
-    for (int c = 0; c < kChannels; ++c) RefreshChannel(c, start);
-
-    if (start) {
-        const double position = hostPosition > 0.0 ? static_cast<double>(hostPosition) : 0.0;
-        hostPosition = position;
-        const double steps = 4.0 * position;
-        const double whole = std::floor(steps);
-        const double fraction = steps - whole;
-        const bool between = fraction > 0.01;
-        const double next = between ? whole + 1.0 : whole;
-        samplesToNextStep = between ? (1.0 - fraction) * StepFrames() : 0.0;
-        patternRepeats = 0;
-        patternStep = std::uint8_t{0};
-        if (recordMode && !editMode) {
-            samplesToNextStep = 0.0;
-            stepCounter = std::uint8_t{0};
-        } else {
-            stepCounter = static_cast<std::uint8_t>(std::fmod(next, kSteps));
-        }
-    }
-
-    stutterButtons.Clear();
-    for (auto& code : stutterCode) code = std::int8_t{0};
-    nextPattern = static_cast<int>(currentPattern);
-    for (auto& step : lastStep) step = -1;
-    if (!start) ReleaseSequenced();
-
-    if (!recordMode) {
-        countIn = std::int8_t{0};
-    } else if (!start) {
-        countIn = std::int8_t{0};
-        ToggleRecord();
-    } else {
-        countIn = std::int8_t{kStepsPerBar};
-    }
-    if (start) playing = true; // last: the clock runs while stopped, and a tick must find the new position
-}
-
-void GrooveEngine::ToggleRecord()
-{
-    const bool nowRecording = !recordMode;
-    recordMode = nowRecording;
-    if (nowRecording) {
-        if (editMode) ToggleEdit();
-        recordStartedWhilePlaying = static_cast<bool>(playing);
-    } else if (playing && !recordStartedWhilePlaying) {
-        TogglePlay();
-    }
-    recordStep = recordBar = -1;
-    for (auto& notes : playedThisStep) notes = 0u;
-}
-
-void GrooveEngine::NoteOn(int channel, int note, float velocity)
-{
-    Command(
-        {VoiceCommand::Kind::NoteOn, static_cast<std::uint8_t>(channel), static_cast<std::int16_t>(note), velocity});
-}
-
-void GrooveEngine::ReleaseNote(int channel, int note)
-{
-    Command(
-        {VoiceCommand::Kind::ReleaseNote, static_cast<std::uint8_t>(channel), static_cast<std::int16_t>(note), 0.0f});
-}
-
-void GrooveEngine::ReleaseLive(int channel)
-{
-    Command({VoiceCommand::Kind::ReleaseLive, static_cast<std::uint8_t>(channel), 0, 0.0f});
-}
-
-void GrooveEngine::ReleaseSequenced() { Command({VoiceCommand::Kind::ReleaseSequenced, 0, 0, 0.0f}); }
-
-void GrooveEngine::Command(const VoiceCommand& command)
-{
-    if (!InBlock()) {
-        voiceCommands.Push(command);
-        return;
-    }
-    ExecuteVoiceCommands(); // what came before comes first
-    Execute(command);
-}
-
-void GrooveEngine::ExecuteVoiceCommands()
-{
-    VoiceCommand command;
-    while (voiceCommands.Pop(command)) Execute(command);
-}
-
-void GrooveEngine::Execute(const VoiceCommand& command)
-{
-    GrooveChannel& channel = Channel(command.channel);
+    const Clock& clock = engine.clock;
     switch (command.kind) {
-    case VoiceCommand::Kind::NoteOn: channel.NoteOn(command.note, 0.0f, command.velocity); break;
-    case VoiceCommand::Kind::ReleaseNote: channel.ReleaseNote(command.note); break;
-    case VoiceCommand::Kind::ReleaseLive: channel.ReleaseLive(); break;
-    case VoiceCommand::Kind::ReleaseSequenced:
-        for (auto& each : channels) each->ReleaseSequenced();
+    case TransportCommand::Kind::Play:
+        if (clock.playing != command.on) TogglePlay(engine);
+        break;
+    case TransportCommand::Kind::Record:
+        if (clock.recordMode != command.on) ToggleRecord(engine);
+        break;
+    case TransportCommand::Kind::Host:
+        if (clock.playing && clock.recordMode) ToggleRecord(engine);
+        if (clock.playing) TogglePlay(engine); // leaving a recording from standstill has stopped it already
+        if (command.on) TogglePlay(engine);
         break;
     }
+}
+
+void Do(GrooveEngine& engine, TransportCommand::Kind kind, bool on, Shared<std::int8_t>* asked)
+{
+    const TransportCommand command{kind, on};
+    if (engine.MayTouchVoices()) {
+        ServeTransport(engine); // what came before comes first
+        Execute(engine, command);
+        return;
+    }
+    if (asked) *asked = static_cast<std::int8_t>(on);
+    if (!engine.commands.transport.Push(command) && asked) *asked = std::int8_t{-1};
+}
+
+bool Shown(std::int8_t asked, bool is) { return asked < 0 ? is : asked != 0; }
+
+} // namespace
+
+void TogglePlay(GrooveEngine& engine)
+{
+    Clock& clock = engine.clock;
+    const bool start = !clock.playing;
+    clock.playing = start;
+    for (int c = 0; c < kChannels; ++c) engine.RefreshChannel(c);
+    if (start) {
+        clock.Locate();
+        engine.score.patternRepeats = 0;
+    }
+    engine.buttons.ClearStutter();
+    engine.score.Restart();
+    if (!start) engine.ReleaseSequenced();
+    clock.countIn = static_cast<std::int8_t>(start && clock.recordMode ? kStepsPerBar : 0);
+    if (!start && clock.recordMode) ToggleRecord(engine);
+}
+
+void ToggleRecord(GrooveEngine& engine)
+{
+    Clock& clock = engine.clock;
+    const bool on = clock.recordMode.Toggle();
+    if (on) {
+        if (clock.editMode) ToggleEdit(engine);
+        clock.recordStartedWhilePlaying = static_cast<bool>(clock.playing);
+    } else if (clock.playing && !clock.recordStartedWhilePlaying) {
+        TogglePlay(engine);
+    }
+    engine.recorder.Clear();
+}
+
+void ServeTransport(GrooveEngine& engine)
+{
+    EngineCommands& commands = engine.commands;
+    TransportCommand command;
+    if (!commands.transport.Pop(command)) return;
+    do Execute(engine, command);
+    while (commands.transport.Pop(command));
+    commands.playAsked = commands.recordAsked = std::int8_t{-1};
+}
+
+void SetPlay(GrooveEngine& engine, bool on)
+{
+    Do(engine, TransportCommand::Kind::Play, on, &engine.commands.playAsked);
+}
+
+void SetRecord(GrooveEngine& engine, bool on)
+{
+    Do(engine, TransportCommand::Kind::Record, on, &engine.commands.recordAsked);
+}
+
+void FollowHost(GrooveEngine& engine, bool running) { Do(engine, TransportCommand::Kind::Host, running, nullptr); }
+
+bool PlayShown(const GrooveEngine& engine) { return Shown(engine.commands.playAsked, engine.clock.playing); }
+
+bool RecordShown(const GrooveEngine& engine) { return Shown(engine.commands.recordAsked, engine.clock.recordMode); }
+
+void ToggleEdit(GrooveEngine& engine)
+{
+    if (engine.clock.editMode.Toggle()) {
+        engine.clock.recordMode = false;
+        return;
+    }
+    engine.selection.editStep = engine.selection.selectedBarMark = engine.selection.selectedPatternMark = -1;
+    engine.selection.ClearMarks();
 }
 
 } // namespace korvane

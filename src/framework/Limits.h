@@ -8,6 +8,7 @@ inline constexpr int kChannels = 13;
 inline constexpr int kChannelSlots = 212; // values in a channel's parameter block
 inline constexpr int kPatterns = 8;
 inline constexpr int kBars = 8; // of a pattern
+inline constexpr int kStepsPerBeat = 4;
 inline constexpr int kStepsPerBar = 16;
 inline constexpr int kSteps = kBars * kStepsPerBar;
 inline constexpr int kFirstNote = 48;  // bit 0 of a step word

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <cstddef>
 
 namespace korvane {
 
@@ -20,14 +21,44 @@ public:
         return next;
     }
     T operator=(const Shared& other) { return *this = static_cast<T>(other); }
-    /// Stores `next` only while the value is still the expected one.
+    /// Stores `next` only while the value is still the expected one; whether it was.
     bool Replace(T expected, T next)
     {
         return value.compare_exchange_strong(expected, next, std::memory_order_relaxed);
+    }
+    /// Reads, changes and writes in one: no other thread's write in between is lost. Answers what it stored.
+    template <class Change>
+    T Update(Change change)
+    {
+        T seen = *this;
+        for (;;) {
+            const T next = change(seen);
+            if (value.compare_exchange_weak(seen, next, std::memory_order_relaxed)) return next;
+        }
+    }
+    /// A flag, the other way; what it is now.
+    bool Toggle()
+    {
+        return Update([](T on) { return !on; });
     }
 
 private:
     std::atomic<T> value;
 };
+
+template <class T, std::size_t kCount>
+void Fill(Shared<T> (&values)[kCount], T value)
+{
+    for (auto& entry : values) entry = value;
+}
+
+/// Whether a flag of them is set.
+template <std::size_t kCount>
+bool Any(const Shared<bool> (&flags)[kCount])
+{
+    for (const bool flag : flags)
+        if (flag) return true;
+    return false;
+}
 
 } // namespace korvane

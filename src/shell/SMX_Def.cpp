@@ -5,7 +5,7 @@
 #include <cstring>
 #include <exception>
 
-#include "engine/KVSynth.h"
+#include "content/state/KVInstrument.h"
 #include "framework/ParameterTable.h"
 
 namespace korvane {
@@ -35,7 +35,7 @@ SMX_Def::SMX_Def()
 CSynthesizer* SMX_Def::CreateSynth(CPluginWrapper* wrapper)
 {
     try {
-        return new KVSynth(wrapper);
+        return new KVInstrument(wrapper);
     } catch (const std::exception&) {
         return nullptr;
     }

@@ -134,8 +134,8 @@ TEST_F(Pool, LibrariesListWhatTheyKnow)
                              "A/folder.kvsynth/6.kvsynth", "B/y.txt", "loose.kvsynth"})
         WriteText(root / "Synth Programs" / name, "x");
     for (const char* name : {"a.wav", "b.aif", "c.aiff", "A.WAV", "d.mp3"}) WriteText(root / "Synth Waves" / name, "x");
-    EXPECT_EQ(Synth().waveforms->Count(), 3);
-    CPresetList& list = *Synth().synthPrograms;
+    EXPECT_EQ(Synth().waveforms.Count(), 3);
+    CPresetList& list = Synth().synthPrograms;
     EXPECT_EQ(list.folders.Count(), 2);
     EXPECT_EQ(std::string(list.fileName) + list.folderName, "<noname><user>");
     EXPECT_FALSE(list.NextEntry());

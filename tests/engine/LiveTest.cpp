@@ -28,7 +28,7 @@ TEST_F(Live, ControllersMoveTheSelectedChannel)
     for (const int c : {8, 9}) {
         GiveSine(c);
         PutStep(c, 0);
-        Engine().Pattern().steps[c][0] = 1u << 23; // B4
+        Engine().score.Current().steps[c][0] = 1u << 23; // B4
         Select(c);
         Set({{ParamOf(slot::WheelDestination), kCutoffCode}, {ParamOf(slot::WheelAmount), 0.0f}});
         Set({{ParamOf(slot::PressureDestination), kCutoffCode}, {ParamOf(slot::PressureAmount), 0.0f}});
@@ -152,7 +152,7 @@ TEST_F(Live, ResetsEndSoundsAndKeys)
         Play(4 * kStep);
         EXPECT_GT(std::min(Peak(Left(8)), Peak(Left(9))), 0.001f);
         c.reset(Synth());
-        EXPECT_EQ(Engine().Channel(8).peakLeft + Engine().Channel(9).peakRight, 0.0f);
+        EXPECT_EQ(Engine().Channel(8).strip.peakLeft + Engine().Channel(9).strip.peakRight, 0.0f);
         Play(3 * kStep);
         for (const auto& output : out) EXPECT_EQ(Onset(output), -1) << "voices and echoes are gone";
         Set({{ParamOf(slot::SlideEnable), 1.0f}, {ParamOf(slot::SlideTime), 1.0f}});

@@ -11,13 +11,13 @@ class MidiMapping : public SynthTest {
 protected:
     std::string LastMoved()
     {
-        return Written([this](char* text) { Synth().GetLastSourceText(text); }) + ", " +
+        return Written([this](char* text) { Synth().links.GetLastSourceText(text); }) + ", " +
                Written([this](char* text) { Synth().GetLastParameterText(text); });
     }
     void LinkTo(int parameter)
     {
         Synth().SetParameter(parameter, Synth().GetParameter(parameter));
-        Synth().Link(true);
+        Synth().links.Link(true);
     }
 };
 
@@ -33,7 +33,7 @@ TEST_F(MidiMapping, LinksDriveParameters)
     };
     // clang-format on
     KVSynth& synth = Synth();
-    synth.Link(true);
+    synth.links.Link(true);
     EXPECT_EQ(LastMoved(), "---, ---");
     for (const Case& c : cases) {
         Send(c.status, c.data1, c.data2);
@@ -49,7 +49,7 @@ TEST_F(MidiMapping, LinksDriveParameters)
     }
     EXPECT_EQ(synth.engine->livePitchBend, 1.0f);
     EXPECT_EQ(synth.engine->Channel(8).voiceCounter, 1u) << "once linked, a key plays no pad";
-    synth.Link(false);
+    synth.links.Link(false);
     Send(0x80, 60);
     EXPECT_EQ(synth.GetParameter(ParamOf(slot::FilterCutoff)), 1.0f);
 }
@@ -64,12 +64,12 @@ TEST_F(MidiMapping, PulsesFireTriggers)
     for (const Case& c : cases) {
         Send(c.status, 20, 0);
         LinkTo(param::FilterTypeSwitch);
-        Synth().SetIgnoreValue(c.ignoreValue);
+        Synth().links.SetIgnoreValue(c.ignoreValue);
         for (const float position : c.positions) {
             Send(c.status, 20, 64);
             EXPECT_EQ(Synth().GetParameter(ParamOf(slot::FilterType)), position);
         }
-        Synth().Link(false);
+        Synth().links.Link(false);
     }
 }
 
@@ -77,7 +77,7 @@ TEST_F(MidiMapping, LinksSurviveInTheirFile)
 {
     Send(0xB0, 7, 10);
     LinkTo(ParamOf(slot::MixLevel));
-    Synth().SetIgnoreValue(true);
+    Synth().links.SetIgnoreValue(true);
     Close();
     const std::vector<std::uint8_t> file = ReadBytes(root / "linkmap");
     std::vector<std::uint8_t> expected(771, 0xFF); // 257 links of two bytes, then a flag of each
@@ -93,8 +93,8 @@ TEST_F(MidiMapping, LinksSurviveInTheirFile)
     // Any size, any content: what is there is taken, what points nowhere moves nothing.
     for (std::size_t size : {0, 1, 15, 16, 514, 520, 771, 5000}) {
         WriteBytes(root / "linkmap", std::vector<std::uint8_t>(size, 0x7E));
-        EXPECT_EQ(Synth().links[7], size < 16 ? -1 : 0x7E7E) << size;
-        EXPECT_EQ(Synth().ignoreValue[200], size < 771 ? 0 : 0x7E) << size;
+        EXPECT_EQ(Synth().links.links[7], size < 16 ? -1 : 0x7E7E) << size;
+        EXPECT_EQ(Synth().links.ignoreValue[200], size < 771 ? 0 : 0x7E) << size;
         for (const auto status : std::initializer_list<std::uint8_t>{0xB0, 0x90, 0xE0})
             for (std::uint8_t n = 0; n < 128; ++n) Send(status, n, 100);
         Close();

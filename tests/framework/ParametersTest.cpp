@@ -187,7 +187,7 @@ TEST_F(Parameters, AreReportedAtAProgramSwitch)
     ASSERT_EQ(host.reports.size(), kParameters.size());
     for (std::size_t n = 0; n < host.reports.size(); ++n) EXPECT_EQ(host.reports[n].first, static_cast<int>(n));
     EXPECT_EQ(host.reports[static_cast<std::size_t>(cutoff)].second, 0.25f);
-    EXPECT_EQ(Engine().extIndex, kExtControls - 1) << "applied: the last EXT control written";
+    EXPECT_EQ(Engine().ext.extIndex, kExtControls - 1) << "applied: the last EXT control written";
 }
 
 } // namespace

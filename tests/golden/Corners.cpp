@@ -1,5 +1,6 @@
 // A groove that crosses many corners of the instrument, and how it is played.
 #include "golden/Corners.h"
+#include "content/state/StateImage.h"
 
 #include <random>
 
@@ -85,14 +86,14 @@ void FillPattern(GrooveEngine& engine, std::size_t pattern, int steps, Dice& dic
         for (int step = 0; step < steps; ++step) {
             if (dice.Below(4) > 0) continue;
             const int low = dice.Below(12), high = dice.Below(kNotes);
-            engine.patterns[pattern]->steps[c][step] =
+            engine.score.patterns[pattern]->steps[c][step] =
                 c < kSamplerChannels ? 1u << step % kStepsPerBar : 1u << low | 1u << high;
             for (int locks = dice.Below(4); locks > 0; --locks) {
                 const int slotIndex = dice.Below(kChannelSlots);
-                engine.patterns[pattern]->locks[c][step].Set(slotIndex, dice.Between(-0.3f, 0.3f));
+                engine.score.patterns[pattern]->locks[c][step].Set(slotIndex, dice.Between(-0.3f, 0.3f));
             }
         }
-    engine.patterns[pattern]->UpdateLength();
+    engine.score.patterns[pattern]->UpdateLength();
 }
 
 } // namespace
@@ -105,10 +106,10 @@ std::vector<std::uint8_t> CornersGroove()
     for (int c = 0; c < kChannels; ++c) FillChannel(engine, c, dice);
     for (const auto& [pattern, steps] : {std::pair{0, 32}, {1, 16}, {2, 64}})
         FillPattern(engine, static_cast<std::size_t>(pattern), steps, dice);
-    engine.playOnce[1] = true;
-    engine.shuffleAmount = 0.7f;
-    std::vector<std::uint8_t> state(static_cast<std::size_t>(engine.SaveState(nullptr)));
-    engine.SaveState(state.data());
+    engine.score.playOnce[1] = true;
+    engine.clock.shuffleAmount = 0.7f;
+    std::vector<std::uint8_t> state(static_cast<std::size_t>(SaveState(engine, nullptr)));
+    SaveState(engine, state.data());
     return state;
 }
 

@@ -170,7 +170,7 @@ TEST_F(Library, ProgramsSoundEachInItsOwnWay)
             SCOPED_TRACE(file.filename());
             Engine().ResetGroove();
             Synth().Reset();
-            Engine().selectedChannel = channel;
+            Engine().selection.selectedChannel = channel;
             ASSERT_TRUE(Synth().LoadProgramFile(EnginePath(file.c_str()).c_str()));
             Synth().QueueEvent(0x90, 36, 100, 0, 0);
             const Print print = PrintOf(Play(2.0, 1.0));
@@ -194,7 +194,7 @@ TEST_F(Library, GroovesAndPartsPlay)
         const std::string path = EnginePath(files[n].c_str()), name = files[n].stem();
         SCOPED_TRACE(name);
         Renew();
-        Engine().selectedChannel = ReadBytes(files[n])[1] == 'D' ? 3 : 10;
+        Engine().selection.selectedChannel = ReadBytes(files[n])[1] == 'D' ? 3 : 10;
         ASSERT_TRUE(n < grooves ? Synth().LoadGrooveFile(path.c_str()) : Synth().LoadPartFile(path.c_str()));
         const double tempo = n < grooves && name != "default" ? std::stod(name.substr(name.rfind(' ') + 1)) : 120.0;
         Synth().SetTempo(tempo);
@@ -206,7 +206,7 @@ TEST_F(Library, GroovesAndPartsPlay)
         for (int c = 0; c < kChannels; ++c) heard.push_back(Mean(mix[2 + 2 * c], true) + Mean(mix[3 + 2 * c], true));
         const double loudest = *std::max_element(heard.begin(), heard.end());
         for (int c = 0; c < kChannels; ++c) {
-            const auto* steps = Engine().Pattern().steps[c];
+            const auto* steps = Engine().score.Current().steps[c];
             if (std::all_of(steps, steps + 4 * kStepsPerBar, [](const auto& step) { return step == 0u; })) continue;
             EXPECT_GT(heard[c], 1e-3 * loudest) << "channel " << c << " is buried";
         }

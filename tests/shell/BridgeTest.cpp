@@ -9,6 +9,7 @@
 #include <limits>
 #include <map>
 
+#include "content/state/StateImage.h"
 #include "shell/vst2/AEffect.h"
 #include "support/Parameters.h"
 #include "support/Riff.h"
@@ -79,9 +80,9 @@ protected:
         GrooveEngine groove;
         groove.ResetGroove();
         groove.Channel(0).sound.sampleSlots[kFirstLayerSlot].path.Set(EnginePath(click.c_str()).c_str());
-        for (int s = 0; s < kStepsPerBar; s += 4) groove.patterns[0]->steps[0][s] = 1u << s;
-        std::vector<std::uint8_t> chunk(static_cast<std::size_t>(groove.SaveState(nullptr)));
-        groove.SaveState(chunk.data());
+        for (int s = 0; s < kStepsPerBar; s += 4) groove.score.patterns[0]->steps[0][s] = 1u << s;
+        std::vector<std::uint8_t> chunk(static_cast<std::size_t>(SaveState(groove, nullptr)));
+        SaveState(groove, chunk.data());
         Open();
         EXPECT_EQ(Ask(request::SetBlockSizeAndSampleRate, 0, 512, nullptr, rate), 1);
         EXPECT_EQ(Ask(request::SetChunk, 0, std::ssize(chunk), chunk.data()), std::ssize(chunk));

@@ -82,7 +82,7 @@ protected:
     /// A note that the sequencer plays: of a synth the lowest, of a sampler its step's.
     void PutStep(int c, int step, float noteLength = 1.0f)
     {
-        Engine().Pattern().steps[c][step] = c < kSamplerChannels ? 1u << step % kStepsPerBar : 1u;
+        Engine().score.Current().steps[c][step] = c < kSamplerChannels ? 1u << step % kStepsPerBar : 1u;
         Engine().storedParams[c][slot::NoteLength] = noteLength;
     }
 

@@ -12,7 +12,7 @@
 #include <utility>
 #include <vector>
 
-#include "engine/KVSynth.h"
+#include "content/state/KVInstrument.h"
 #include "platform/Files.h"
 #include "shell/SMX_Def.h"
 #include "support/ContentRoot.h"
@@ -71,9 +71,9 @@ protected:
     SynthTest() { SMX_Def::Install(); }
 
     /// Made at the first call, and anew after Close.
-    KVSynth& Synth()
+    KVInstrument& Synth()
     {
-        if (!owned) owned = std::make_unique<KVSynth>(&host);
+        if (!owned) owned = std::make_unique<KVInstrument>(&host);
         return *owned;
     }
     GrooveEngine& Engine() { return *Synth().engine; }
@@ -89,7 +89,7 @@ protected:
     const ContentRoot content;
     const std::filesystem::path& root = content.path;
     Host host;
-    std::unique_ptr<KVSynth> owned;
+    std::unique_ptr<KVInstrument> owned;
 };
 
 } // namespace korvane

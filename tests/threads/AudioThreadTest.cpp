@@ -57,8 +57,8 @@ protected:
             engine.storedParams[c][slot::UnisonVoices] = 0.4f;
             engine.storedParams[c][slot::NoteLength] = 0.6f;
             for (int s = 0; s < kSteps; ++s) {
-                engine.patterns[0]->steps[c][s] = c < kSamplerChannels ? 1u << s % 16 : 0x91u << s % 12;
-                engine.patterns[0]->locks[c][s].Set(slot::FilterCutoff, -0.01f * static_cast<float>(s % 30));
+                engine.score.patterns[0]->steps[c][s] = c < kSamplerChannels ? 1u << s % 16 : 0x91u << s % 12;
+                engine.score.patterns[0]->locks[c][s].Set(slot::FilterCutoff, -0.01f * static_cast<float>(s % 30));
             }
             engine.RefreshChannel(c);
         }
@@ -122,7 +122,7 @@ TEST_F(AudioThread, SharesTheEngineWithTheOthers)
         if (n % 40 == 13) Synth().SetBankChunk(state.data(), static_cast<int>(state.size()));
         if (n % 40 == 23) Synth().SetProgram(0);
         if (n % 100 == 33) Synth().SetSampleRate(44100.0 + n);
-        Synth().Link(n % 2 == 0);
+        Synth().links.Link(n % 2 == 0);
     }
     done = true;
     audio.join();

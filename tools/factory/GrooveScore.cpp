@@ -46,14 +46,14 @@ public:
         const std::vector<Bar> bars = Bars(clip);
         for (int p = 0; p < kPatterns; ++p)
             for (std::size_t b = 0; (clip.patterns >> p & 1u) && b < bars.size(); ++b)
-                for (const Hit& hit : bars[b]) Place(hit, clip.channel, *engine.patterns[p], static_cast<int>(b));
+                for (const Hit& hit : bars[b]) Place(hit, clip.channel, *engine.score.patterns[p], static_cast<int>(b));
     }
 
     void Place(const Lock& lock)
     {
         for (int p = 0; p < kPatterns; ++p) {
             if (!(lock.patterns >> p & 1u)) continue;
-            GroovePattern& pattern = *engine.patterns[p];
+            GroovePattern& pattern = *engine.score.patterns[p];
             for (int step = lock.first; step <= lock.last; ++step) {
                 if (pattern.steps[lock.channel][step] == 0) continue;
                 const double way =
@@ -71,7 +71,7 @@ public:
 
     void Place(const Handle& handle, int n)
     {
-        auto& control = engine.extControls[n];
+        auto& control = engine.ext.extControls[n];
         control.channel = handle.channel;
         control.param = handle.slotIndex;
         control.value = static_cast<float>(engine.storedParams[handle.channel][handle.slotIndex]);
@@ -115,7 +115,7 @@ private:
 void Write(const Score& score, GrooveEngine& engine)
 {
     Writer writer(engine);
-    engine.shuffleAmount = static_cast<float>(score.shuffle);
+    engine.clock.shuffleAmount = static_cast<float>(score.shuffle);
     for (const Track& track : score.tracks) writer.Place(track);
     for (const Glued& glued : score.effects) writer.Place(glued);
     for (const Knob& knob : score.knobs) writer.Store(knob.channel, knob.slotIndex, knob.value);
@@ -124,8 +124,8 @@ void Write(const Score& score, GrooveEngine& engine)
     int n = 0;
     for (const Handle& handle : score.handles) writer.Place(handle, n++);
     for (int p = 0; p < kPatterns; ++p) {
-        engine.playOnce[p] = (score.playOnce >> p & 1u) != 0;
-        engine.patterns[p]->UpdateLength();
+        engine.score.playOnce[p] = (score.playOnce >> p & 1u) != 0;
+        engine.score.patterns[p]->UpdateLength();
     }
 }
 

@@ -80,7 +80,7 @@ void Write(const Part& part, GrooveEngine& engine)
     auto& stored = engine.storedParams[part.track.channel];
     stored[slot::AmpLevel] = stored[slot::AmpLevel] + static_cast<float>(part.track.levelDb / 50.0);
     stored[slot::MixLevel] = 0.75f; // 0 dB
-    engine.selectedChannel = part.track.channel;
+    engine.selection.selectedChannel = part.track.channel;
 }
 
 } // namespace korvane::factory

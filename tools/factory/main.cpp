@@ -13,6 +13,9 @@
 #include "Programs.h"
 #include "WavFile.h"
 #include "Waves.h"
+#include "content/state/ChannelChunk.h"
+#include "content/state/PartImage.h"
+#include "content/state/StateImage.h"
 
 namespace korvane::factory {
 
@@ -84,7 +87,7 @@ void WritePrograms(Bundle& bundle, const char* library, const char* extension, i
         const fs::path category = folder / row.folder;
         fs::create_directories(category);
         bundle.Image(category / (std::string(row.name) + extension),
-                     ImageOf([&](std::uint8_t* bytes) { return engine.SaveChannelChunk(bytes, channel); }));
+                     ImageOf([&](std::uint8_t* bytes) { return SaveChannelChunk(engine, bytes, channel); }));
     }
 }
 
@@ -95,7 +98,7 @@ void WriteGrooves(Bundle& bundle)
         GrooveEngine engine;
         ResetToBundle(engine);
         groove::Write(row.score(), engine);
-        const auto image = ImageOf([&](std::uint8_t* bytes) { return engine.SaveState(bytes); });
+        const auto image = ImageOf([&](std::uint8_t* bytes) { return SaveState(engine, bytes); });
         bundle.Image(folder / (std::string(row.name) + ".kvprj"), image);
         if (std::strcmp(row.name, kDefaultGroove) == 0) bundle.Image(bundle.root / "default.kvprj", image);
     }
@@ -109,7 +112,7 @@ void WriteParts(Bundle& bundle)
         ResetToBundle(engine);
         Write(part, engine);
         bundle.Image(folder / (std::string(part.name) + ".kvprt"),
-                     ImageOf([&](std::uint8_t* bytes) { return engine.SavePart(bytes); }));
+                     ImageOf([&](std::uint8_t* bytes) { return SavePart(engine, bytes); }));
     }
 }
 

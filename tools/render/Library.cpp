@@ -7,7 +7,9 @@
 #include <filesystem>
 #include <utility>
 
-#include "content/state/ImageLayout.h"
+#include "content/state/ChannelChunk.h"
+#include "content/state/ImageTags.h"
+#include "content/state/StateImage.h"
 #include "render/Failure.h"
 #include "render/Names.h"
 #include "render/ParseNumber.h"

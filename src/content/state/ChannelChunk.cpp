@@ -1,5 +1,8 @@
 // One channel's sound in an image: files, parameters, program path.
-#include "content/state/ImageLayout.h"
+#include "content/state/ChannelChunk.h"
+
+#include "content/ByteReader.h"
+#include "content/state/ImageTags.h"
 
 namespace korvane {
 
@@ -17,30 +20,30 @@ void WriteChannelChunk(ByteWriter& out, const GrooveEngine& engine, int channel)
     out.Text(path);
 }
 
-std::int32_t GrooveEngine::SaveChannelChunk(std::uint8_t* buffer, int channel) const
+std::int32_t SaveChannelChunk(const GrooveEngine& engine, std::uint8_t* buffer, int channel)
 {
     ByteWriter out(buffer);
-    WriteChannelChunk(out, *this, channel);
+    WriteChannelChunk(out, engine, channel);
     return out.Size();
 }
 
-bool GrooveEngine::LoadChannelChunk(const std::uint8_t* data, std::int32_t length, int channel)
+bool LoadChannelChunk(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length, int channel)
 {
     ByteReader in(data, length);
     if (channel < 0 || channel >= kChannels || !in.Tag(tag::kChannel)) return false;
-    InitChannel(channel);
+    engine.InitChannel(channel);
 
     char path[kImagePathBytes];
-    for (SampleSlot& slot : Channel(channel).sound.sampleSlots) {
+    for (SampleSlot& slot : engine.Channel(channel).sound.sampleSlots) {
         if (!in.Text(path)) return false;
         slot.request.Post(*path ? path : "!");
         slot.path.Set(path);
     }
     // What is missing reads as 0. Wild values stand, to be saved again.
-    for (Shared<float>& value : storedParams[channel]) value = in.Read<float>();
+    for (Shared<float>& value : engine.storedParams[channel]) value = in.Read<float>();
     if (!in.Ok()) return false;
-    RefreshChannel(channel);
-    if (in.Left() >= kImagePathBytes && in.Text(path)) Channel(channel).programPath.Set(path);
+    engine.RefreshChannel(channel);
+    if (in.Left() >= kImagePathBytes && in.Text(path)) engine.Channel(channel).programPath.Set(path);
     return true;
 }
 

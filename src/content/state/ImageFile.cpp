@@ -4,7 +4,6 @@
 #include <algorithm>
 
 #include "content/CFileStreamer.h"
-#include "content/state/ImageLayout.h"
 
 namespace korvane {
 

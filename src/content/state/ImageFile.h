@@ -40,6 +40,8 @@ Image MakeImage(Write write)
     }
 }
 
+inline constexpr int kMinImageFileBytes = 5; // shorter files are not looked into
+
 /// Reads a file, or what it has below `limit`. False, and nothing in `image`, when it cannot be opened or has fewer
 /// than five bytes.
 bool ReadImageFile(const char* path, Image& image, std::int32_t limit = INT32_MAX);

@@ -1,5 +1,10 @@
 // One channel with its steps as an image, for part files.
-#include "content/state/ImageLayout.h"
+#include "content/state/PartImage.h"
+
+#include "content/ByteReader.h"
+#include "content/state/ChannelChunk.h"
+#include "content/state/ImageTags.h"
+#include "content/state/StepRecord.h"
 #include "framework/ParameterTable.h"
 
 namespace korvane {
@@ -12,8 +17,8 @@ const char (&PartTag(int channel))[5] { return channel < kSamplerChannels ? tag:
 
 void WritePart(ByteWriter& out, const GrooveEngine& engine)
 {
-    const int channel = engine.selectedChannel;
-    const GroovePattern& pattern = engine.Pattern();
+    const int channel = engine.selection.selectedChannel;
+    const GroovePattern& pattern = engine.score.Current();
     out.Tag(PartTag(channel));
     out.Chunk([&] { WriteChannelChunk(out, engine, channel); });
     out.Chunk([&] {
@@ -23,30 +28,30 @@ void WritePart(ByteWriter& out, const GrooveEngine& engine)
     out.Write(static_cast<float>(engine.storedParams[channel][slot::NoteLength]));
 }
 
-std::int32_t GrooveEngine::SavePart(std::uint8_t* buffer) const
+std::int32_t SavePart(const GrooveEngine& engine, std::uint8_t* buffer)
 {
     ByteWriter out(buffer);
-    WritePart(out, *this);
+    WritePart(out, engine);
     return out.Size();
 }
 
-bool GrooveEngine::LoadPart(const std::uint8_t* data, std::int32_t length)
+bool LoadPart(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length)
 {
-    const int channel = selectedChannel;
+    const int channel = engine.selection.selectedChannel;
     ByteReader in(data, length);
     if (!in.Tag(PartTag(channel))) return false;
     const ByteReader sound = in.Chunk();
-    if (!LoadChannelChunk(sound.Rest(), sound.Left(), channel)) return false;
+    if (!LoadChannelChunk(engine, sound.Rest(), sound.Left(), channel)) return false;
 
     ByteReader sequence = in.Chunk();
     if (!sequence.Tag(tag::kSequence)) return false;
     for (int step = 0; step < kSteps; ++step)
-        if (!ReadStepRecord(sequence, Pattern(), channel, step)) return false;
+        if (!ReadStepRecord(sequence, engine.score.Current(), channel, step)) return false;
 
     float noteLength = 0.0f;
     if (!in.Read(noteLength)) return false;
-    storedParams[channel][slot::NoteLength] = noteLength;
-    RefreshChannel(channel);
+    engine.storedParams[channel][slot::NoteLength] = noteLength;
+    engine.RefreshChannel(channel);
     return true;
 }
 

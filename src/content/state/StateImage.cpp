@@ -1,8 +1,13 @@
 // The whole groove as one image, for groove files and hosts.
+#include "content/state/StateImage.h"
+
 #include <algorithm>
 #include <initializer_list>
 
-#include "content/state/ImageLayout.h"
+#include "content/ByteReader.h"
+#include "content/state/ChannelChunk.h"
+#include "content/state/ImageTags.h"
+#include "content/state/StepRecord.h"
 
 namespace korvane {
 
@@ -10,15 +15,16 @@ namespace {
 
 void WriteHeader(ByteWriter& out, const GrooveEngine& engine)
 {
+    const Selection& selection = engine.selection;
     out.Tag(tag::kGroove);
-    for (const int selection :
-         std::initializer_list<int>{engine.selectedChannel, engine.selectedBar, engine.currentPattern,
-                                    engine.selectedFx, engine.envelopeNumber, engine.lfoNumber})
-        out.Write(static_cast<std::int8_t>(selection));
-    for (const bool flag : engine.muted) out.Write(static_cast<std::int8_t>(flag));
-    for (const bool flag : engine.playOnce) out.Write(static_cast<std::int8_t>(flag));
-    out.Write(static_cast<float>(engine.shuffleAmount));
-    for (const auto& control : engine.extControls) {
+    for (const int shown :
+         std::initializer_list<int>{selection.selectedChannel, selection.selectedBar, engine.score.currentPattern,
+                                    selection.selectedFx, selection.envelopeNumber, selection.lfoNumber})
+        out.Write(static_cast<std::int8_t>(shown));
+    for (const bool flag : engine.mixer.muted) out.Write(static_cast<std::int8_t>(flag));
+    for (const bool flag : engine.score.playOnce) out.Write(static_cast<std::int8_t>(flag));
+    out.Write(static_cast<float>(engine.clock.shuffleAmount));
+    for (const auto& control : engine.ext.extControls) {
         out.Write(static_cast<float>(control.value));
         out.Write(static_cast<std::int32_t>(control.channel));
         out.Write(static_cast<std::int32_t>(control.param));
@@ -43,7 +49,7 @@ void ReadFlags(ByteReader& in, Shared<bool> (&flags)[kCount])
 }
 
 /// Whoever follows an assignment looks whether it leads anywhere.
-void ReadExtControl(ByteReader& in, GrooveEngine::ExtControl& control)
+void ReadExtControl(ByteReader& in, ExtControl& control)
 {
     const auto value = in.Read<float>();
     const auto channel = in.Read<std::int32_t>();
@@ -57,17 +63,17 @@ void ReadExtControl(ByteReader& in, GrooveEngine::ExtControl& control)
 /// The fields that are there are taken over, also when the header is cut.
 bool ReadHeader(ByteReader& in, GrooveEngine& engine)
 {
-    ReadSelection(in, engine.selectedChannel, kChannels);
-    ReadSelection(in, engine.selectedBar, kBars);
-    ReadSelection(in, engine.currentPattern, kPatterns);
-    ReadSelection(in, engine.selectedFx, kEffects);
-    ReadSelection(in, engine.envelopeNumber, 2);
-    ReadSelection(in, engine.lfoNumber, 2);
-    ReadFlags(in, engine.muted);
-    ReadFlags(in, engine.playOnce);
+    ReadSelection(in, engine.selection.selectedChannel, kChannels);
+    ReadSelection(in, engine.selection.selectedBar, kBars);
+    ReadSelection(in, engine.score.currentPattern, kPatterns);
+    ReadSelection(in, engine.selection.selectedFx, kEffects);
+    ReadSelection(in, engine.selection.envelopeNumber, 2);
+    ReadSelection(in, engine.selection.lfoNumber, 2);
+    ReadFlags(in, engine.mixer.muted);
+    ReadFlags(in, engine.score.playOnce);
     float shuffle = 0.0f;
-    if (in.Read(shuffle)) engine.shuffleAmount = shuffle;
-    for (auto& control : engine.extControls) ReadExtControl(in, control);
+    if (in.Read(shuffle)) engine.clock.shuffleAmount = shuffle;
+    for (auto& control : engine.ext.extControls) ReadExtControl(in, control);
     return in.Ok();
 }
 
@@ -93,27 +99,27 @@ void WriteState(ByteWriter& out, const GrooveEngine& engine)
 {
     WriteHeader(out, engine);
     for (int channel = 0; channel < kChannels; ++channel) out.Chunk([&] { WriteChannelChunk(out, engine, channel); });
-    for (const auto& pattern : engine.patterns) out.Chunk([&] { WritePattern(out, *pattern); });
+    for (const auto& pattern : engine.score.patterns) out.Chunk([&] { WritePattern(out, *pattern); });
 }
 
-std::int32_t GrooveEngine::SaveState(std::uint8_t* buffer) const
+std::int32_t SaveState(const GrooveEngine& engine, std::uint8_t* buffer)
 {
     ByteWriter out(buffer);
-    WriteState(out, *this);
+    WriteState(out, engine);
     return out.Size();
 }
 
-bool GrooveEngine::LoadState(const std::uint8_t* data, std::int32_t length)
+bool LoadState(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length)
 {
     ByteReader in(data, length);
     if (!in.Tag(tag::kGroove)) return false;
-    ResetGroove();
-    if (!ReadHeader(in, *this)) return false;
+    engine.ResetGroove();
+    if (!ReadHeader(in, engine)) return false;
     for (int channel = 0; channel < kChannels; ++channel) {
         const ByteReader chunk = in.Chunk();
-        if (!LoadChannelChunk(chunk.Rest(), chunk.Left(), channel)) return false;
+        if (!LoadChannelChunk(engine, chunk.Rest(), chunk.Left(), channel)) return false;
     }
-    for (auto& pattern : patterns) {
+    for (auto& pattern : engine.score.patterns) {
         const ByteReader chunk = in.Chunk();
         if (!in.Ok()) return false;
         ReadPattern(chunk, *pattern);

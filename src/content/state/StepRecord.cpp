@@ -1,5 +1,5 @@
 // One step of one channel in an image: notes and parameter locks.
-#include "content/state/ImageLayout.h"
+#include "content/state/StepRecord.h"
 
 namespace korvane {
 

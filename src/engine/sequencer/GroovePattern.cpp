@@ -26,6 +26,16 @@ void GroovePattern::ClearChannel(int channel)
     for (int s = 0; s < kSteps; ++s) ClearStep(channel, s);
 }
 
+std::uint32_t GroovePattern::SetNotes(int channel, int step, std::uint32_t notes)
+{
+    return steps[channel][step].Update([notes](std::uint32_t word) { return word | notes; });
+}
+
+std::uint32_t GroovePattern::FlipNotes(int channel, int step, std::uint32_t notes)
+{
+    return steps[channel][step].Update([notes](std::uint32_t word) { return word ^ notes; });
+}
+
 void GroovePattern::CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep)
 {
     steps[channel][step] = from.steps[fromChannel][fromStep];

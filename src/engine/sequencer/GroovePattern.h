@@ -19,6 +19,9 @@ public:
 
     void ClearStep(int channel, int step);
     void ClearChannel(int channel);
+    /// Adds notes to a step, or turns them over, in one piece; the word after it.
+    std::uint32_t SetNotes(int channel, int step, std::uint32_t notes);
+    std::uint32_t FlipNotes(int channel, int step, std::uint32_t notes);
     /// Copies one step, word and locks, from a step of this or another pattern.
     void CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep);
     /// Exchanges two steps of a channel, words and locks.

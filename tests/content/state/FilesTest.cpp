@@ -58,11 +58,11 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
 TEST_F(Files, PartsAndProgramsKeepSettingsOfTheirChannel)
 {
     // clang-format off
-    using Operation = bool (KVSynth::*)(const char*);
+    using Operation = bool (KVInstrument::*)(const char*);
     struct Case { const char* name; Operation save, load; std::vector<int> kept; };
     const Case cases[] = {
-        {"F/p.kvprt",   &KVSynth::SavePartFile,    &KVSynth::LoadPartFile,    {slot::MixLevel, slot::Panning}},
-        {"F/p.kvsynth", &KVSynth::SaveProgramFile, &KVSynth::LoadProgramFile, {slot::MixLevel, slot::Panning,
+        {"F/p.kvprt",   &KVInstrument::SavePartFile,    &KVInstrument::LoadPartFile,    {slot::MixLevel, slot::Panning}},
+        {"F/p.kvsynth", &KVInstrument::SaveProgramFile, &KVInstrument::LoadProgramFile, {slot::MixLevel, slot::Panning,
                                                                                slot::NoteLength, slot::ShuffleEnable}},
     };
     // clang-format on
@@ -73,13 +73,13 @@ TEST_F(Files, PartsAndProgramsKeepSettingsOfTheirChannel)
             SCOPED_TRACE(testing::Message() << c.name << ", edited step " << edited);
             auto& params = engine.storedParams[kSamplerChannels];
             const std::string path = Path(c.name);
-            engine.editStep = -1;
-            engine.Pattern().ClearChannel(kSamplerChannels);
+            engine.selection.editStep = -1;
+            engine.score.Current().ClearChannel(kSamplerChannels);
             for (auto& value : params) value = 0.25f;
             ASSERT_TRUE((Synth().*c.save)(path.c_str()));
             EXPECT_EQ(TextOf(engine.Channel(kSamplerChannels).programPath) == path, c.name == cases[1].name);
             for (auto& value : params) value = 0.75f;
-            engine.editStep = edited;
+            engine.selection.editStep = edited;
             host.told = 0;
             ASSERT_TRUE((Synth().*c.load)(path.c_str()));
             for (int n = 0; n < kChannelSlots; ++n) {
@@ -99,7 +99,7 @@ TEST_F(Files, PartsAndProgramsKeepSettingsOfTheirChannel)
 TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
 {
     Bytes program(kChannelChunk);
-    Engine().SaveChannelChunk(program.data(), 8);
+    SaveChannelChunk(Engine(), program.data(), 8);
     for (const char* name : {"Synth Programs/A/1.kvsynth", "Synth Programs/A/2.kvsynth", "Sampler Programs/B/1.kvsmp"})
         WriteBytes(root / name, program);
     Close();
@@ -112,7 +112,7 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
     };
     // clang-format on
     for (const Case& c : cases) {
-        Engine().selectedChannel = c.channel;
+        Engine().selection.selectedChannel = c.channel;
         host.told = 0;
         Send(c.status, c.data1, c.data2);
         EXPECT_EQ(host.told, c.loads * param::Count) << c.what;
@@ -137,7 +137,7 @@ TEST_F(Files, WildGroovesPlayFiniteSound)
                 params[slot::LfoDestination] = 1.0f; // the level
                 params[slot::EqOn] = static_cast<float>(c % 2);
                 for (auto& slot : Engine().Channel(c).sound.sampleSlots) slot.path.Set(Path("a.wav").c_str());
-                for (auto& word : Engine().Pattern().steps[c]) word = 0xffffu;
+                for (auto& word : Engine().score.Current().steps[c]) word = 0xffffu;
             }
             ASSERT_EQ(Synth().SetBankChunk(Saved(Engine()).data(), kEmptyGroove), kEmptyGroove);
             Synth().SetSampleRate(44100.0);
@@ -163,7 +163,7 @@ TEST_F(Files, ChunksNeverOutgrowTheSizeTheHostWasTold)
     Bytes chunk = before;
     chunk.resize(before.size() + kRecord);
     EXPECT_EQ(Synth().GetBankChunk(nullptr), size);
-    engine.patterns[0]->locks[0][0].Append(1, 0.5f);
+    engine.score.patterns[0]->locks[0][0].Append(1, 0.5f);
     EXPECT_EQ(Synth().GetBankChunk(chunk.data()), size);
     EXPECT_TRUE(std::equal(before.begin(), before.end(), chunk.begin()));
     for (void* buffer : {static_cast<void*>(nullptr), static_cast<void*>(chunk.data())})

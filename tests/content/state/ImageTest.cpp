@@ -1,7 +1,9 @@
 // Images of grooves, channels and parts: every byte's place, and what becomes of those that are not as they should be.
 #include <functional>
 
+#include "content/state/ChannelChunk.h"
 #include "content/state/Images.h"
+#include "content/state/PartImage.h"
 
 namespace korvane {
 namespace {
@@ -19,21 +21,21 @@ TEST_F(Image, EveryFieldHasItsPlace)
     // clang-format off
     struct Case { const char* what; int at; Bytes bytes; std::function<bool()> holds; };
     const Case cases[] = {
-        {"channel",     4,  {12}, [&] { return e.selectedChannel == 12; }},
-        {"pattern", 6, {6}, [&] { return e.currentPattern == 6; }}, {"bar", 5, {7}, [&] { return e.selectedBar == 7; }},
-        {"effect",      7,  {9},  [&] { return e.selectedFx == 9; }},
-        {"envelope", 8, {1}, [&] { return e.envelopeNumber == 1; }}, {"LFO", 9, {1}, [&] { return e.lfoNumber == 1; }},
-        {"last mute",   22, {1},  [&] { return e.muted[12] && !e.muted[11]; }},
-        {"play once",   23, {1},  [&] { return e.playOnce[0] && !e.playOnce[1]; }},
-        {"shuffle",     31, {0, 0, 0, 0x3f}, [&] { return e.shuffleAmount == 0.5f; }},
-        {"last EXT",    83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [&ext = engine.extControls[4]] {
+        {"channel",     4,  {12}, [&] { return e.selection.selectedChannel == 12; }},
+        {"pattern", 6, {6}, [&] { return e.score.currentPattern == 6; }}, {"bar", 5, {7}, [&] { return e.selection.selectedBar == 7; }},
+        {"effect",      7,  {9},  [&] { return e.selection.selectedFx == 9; }},
+        {"envelope", 8, {1}, [&] { return e.selection.envelopeNumber == 1; }}, {"LFO", 9, {1}, [&] { return e.selection.lfoNumber == 1; }},
+        {"last mute",   22, {1},  [&] { return e.mixer.muted[12] && !e.mixer.muted[11]; }},
+        {"play once",   23, {1},  [&] { return e.score.playOnce[0] && !e.score.playOnce[1]; }},
+        {"shuffle",     31, {0, 0, 0, 0x3f}, [&] { return e.clock.shuffleAmount == 0.5f; }},
+        {"last EXT",    83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [&ext = engine.ext.extControls[4]] {
             return ext.value == 1.0f && ext.channel == 12 && ext.param == kChannelSlots - 1; }},
         {"last path",   kHeader + 8 + 6 * 512, {'C', ':', '\\', 'k'}, [&] {
             return TextOf(e.Channel(0).sound.sampleSlots[6].path) == "C:\\k"; }},
         {"note length", kLength, {0, 0, 0, 0xc0}, [&] { return e.storedParams[1][slot::NoteLength] == -2.0f; }},
         {"program",     kPatternsAt - 512, {'D', ':', '\\', 'p'}, [&] {
             return TextOf(e.Channel(12).programPath) == "D:\\p"; }},
-        {"step",        kStep, {4, 3, 2, 0x81}, [&] { return e.patterns[7]->steps[12][17] == 0x81020304u; }},
+        {"step",        kStep, {4, 3, 2, 0x81}, [&] { return e.score.patterns[7]->steps[12][17] == 0x81020304u; }},
     };
     // clang-format on
     const Bytes empty = Saved(engine);
@@ -69,7 +71,7 @@ TEST_F(Image, TakesWhatItCanOfADamagedImage)
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
         engine.ResetGroove();
-        for (auto& pattern : engine.patterns) pattern->steps[0][0] = 9u;
+        for (auto& pattern : engine.score.patterns) pattern->steps[0][0] = 9u;
         engine.storedParams[0][slot::MixLevel] = 0.5f;
         engine.storedParams[12][slot::MixLevel] = 0.25f;
         Bytes image = Saved(engine);
@@ -79,7 +81,7 @@ TEST_F(Image, TakesWhatItCanOfADamagedImage)
         engine.storedParams[0][slot::MixLevel] = 0.125f;
         EXPECT_EQ(Load(engine, image), c.accepted);
         std::string steps;
-        for (const auto& pattern : engine.patterns) steps += pattern->steps[0][0] == 9u ? '9' : '.';
+        for (const auto& pattern : engine.score.patterns) steps += pattern->steps[0][0] == 9u ? '9' : '.';
         EXPECT_EQ(steps, c.steps);
         EXPECT_EQ(engine.storedParams[0][slot::MixLevel], c.first);
         EXPECT_EQ(engine.storedParams[12][slot::MixLevel], c.last);
@@ -98,7 +100,7 @@ TEST_F(Image, TakesWildSelections)
     image = Saved(engine);
     EXPECT_EQ(Bytes(image.begin() + 4, image.begin() + 10), (Bytes{12, 7, 0, 9, 1, 0}));
     for (const int n : {0, 1}) engine.SetExtControl(n, 0.5f);
-    EXPECT_EQ((std::vector<int>{engine.extControls[0].channel, engine.extControls[1].param}),
+    EXPECT_EQ((std::vector<int>{engine.ext.extControls[0].channel, engine.ext.extControls[1].param}),
               (std::vector{kChannels, 300}));
 }
 
@@ -125,7 +127,7 @@ TEST_F(Image, KeepsTheLocksThatActOfAListTooLong)
             Put(image, kPatternsAt + 16 + n * kRecord, 0.5f);
         }
         EXPECT_FALSE(Load(engine, image));
-        const StepLockList& locks = engine.patterns[0]->locks[0][0];
+        const StepLockList& locks = engine.score.patterns[0]->locks[0][0];
         ASSERT_EQ(locks.Count(), c.kept);
         for (int n = 0; n < locks.Count(); ++n) EXPECT_EQ(locks.At(n).offset, n < c.present ? 0.5f : 0.0f);
     }
@@ -173,7 +175,7 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
     for (const int n : {0, 6}) source.sound.sampleSlots[n].path.Set((std::string("D:\\") + std::to_string(n)).c_str());
     source.programPath.Set("D:\\p");
     Bytes chunk(5000);
-    ASSERT_EQ(engine.SaveChannelChunk(chunk.data(), 2), kChannelChunk);
+    ASSERT_EQ(SaveChannelChunk(engine, chunk.data(), 2), kChannelChunk);
     chunk[4 + 511] = 'x'; // the first path's field, filled to its end
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
@@ -182,7 +184,7 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
         for (auto& sampleSlot : channel.sound.sampleSlots) sampleSlot.path.Set("old");
         for (auto& sampleSlot : channel.sound.sampleSlots) sampleSlot.request.Post("old");
         channel.programPath.Set("old");
-        EXPECT_EQ(engine.LoadChannelChunk(chunk.data(), c.size, 11), c.taken);
+        EXPECT_EQ(LoadChannelChunk(engine, chunk.data(), c.size, 11), c.taken);
         char requests[2][LoadRequest::kPathBytes] = {};
         for (const int n : {0, 1}) channel.sound.sampleSlots[n].request.Take(requests[n]);
         if (c.taken) { EXPECT_STREQ(requests[1], "!") << "an empty path clears the slot"; }
@@ -194,23 +196,23 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
         EXPECT_EQ((std::vector<float>{stored[slot::MixLevel], stored[kLast], channel.sound.params[slot::MixLevel]}),
                   c.values);
     }
-    EXPECT_FALSE(engine.LoadChannelChunk(chunk.data(), kChannelChunk, kChannels));
+    EXPECT_FALSE(LoadChannelChunk(engine, chunk.data(), kChannelChunk, kChannels));
 }
 
 TEST_F(Image, APartMovesIntoAChannelOfItsKind)
 {
     FillGroove(engine, 3);
-    engine.currentPattern = 4;
-    engine.selectedChannel = 9;
+    engine.score.currentPattern = 4;
+    engine.selection.selectedChannel = 9;
     const Bytes part = SavedPart(engine);
     EXPECT_EQ(std::string(part.begin(), part.begin() + 4), "3StP");
-    engine.selectedChannel = 11;
+    engine.selection.selectedChannel = 11;
     Bytes expected = Saved(engine);
     std::copy_n(part.begin() + 8, kChannelChunk, expected.begin() + kHeader + 11 * kFramedChannel + 4);
-    ASSERT_TRUE(engine.LoadPart(part.data(), static_cast<int>(part.size())));
+    ASSERT_TRUE(LoadPart(engine, part.data(), static_cast<int>(part.size())));
     EXPECT_TRUE(SavedPart(engine) == part);
     EXPECT_EQ(std::memcmp(Saved(engine).data(), expected.data(), kPatternsAt), 0);
-    engine.currentPattern = 5;
+    engine.score.currentPattern = 5;
     EXPECT_FALSE(SavedPart(engine) == part);
 }
 
@@ -231,9 +233,9 @@ TEST_F(Image, TakesWhatItCanOfADamagedPart)
         {"no note length",   0, kSampler, kWhole - 1,            2, false, 0.25f, kSteps},
     };
     // clang-format on
-    engine.selectedChannel = 0;
+    engine.selection.selectedChannel = 0;
     engine.storedParams[0][slot::NoteLength] = 0.25f;
-    for (auto& word : engine.Pattern().steps[0]) word = 9u;
+    for (auto& word : engine.score.Current().steps[0]) word = 9u;
     Bytes part = SavedPart(engine);
     ASSERT_EQ(part.size(), static_cast<std::size_t>(kWhole));
     Put(part, kWhole - 4, 0.75f);
@@ -241,12 +243,12 @@ TEST_F(Image, TakesWhatItCanOfADamagedPart)
         SCOPED_TRACE(c.what);
         Bytes image(part.begin(), part.begin() + c.length);
         Put(image, c.at, c.value);
-        engine.selectedChannel = c.channel;
+        engine.selection.selectedChannel = c.channel;
         auto& params = engine.storedParams[c.channel];
         params[slot::NoteLength] = 0.125f;
-        auto& steps = engine.Pattern().steps[c.channel];
+        auto& steps = engine.score.Current().steps[c.channel];
         for (auto& word : steps) word = 3u;
-        EXPECT_EQ(engine.LoadPart(image.data(), c.length), c.accepted);
+        EXPECT_EQ(LoadPart(engine, image.data(), c.length), c.accepted);
         EXPECT_EQ((c.accepted ? engine.Channel(c.channel).sound.params : params)[slot::NoteLength], c.noteLength);
         EXPECT_EQ(std::count(std::begin(steps), std::end(steps), 9u), c.steps);
     }

@@ -6,6 +6,9 @@
 #include <cstring>
 #include <random>
 
+#include "content/state/ChannelChunk.h"
+#include "content/state/PartImage.h"
+#include "content/state/StateImage.h"
 #include "support/SynthRig.h"
 
 namespace korvane {
@@ -17,18 +20,18 @@ constexpr int kFramedChannel = 4 + kChannelChunk, kPatternsAt = kHeader + kChann
 constexpr int kRecord = 6, kEmptyPattern = 4 + 4 + kChannels * kSteps * kRecord;
 constexpr int kEmptyGroove = kPatternsAt + kPatterns * kEmptyPattern;
 
-inline Bytes Saved(const GrooveEngine& engine, decltype(&GrooveEngine::SaveState) save = &GrooveEngine::SaveState)
+inline Bytes Saved(const GrooveEngine& engine, decltype(&SaveState) save = SaveState)
 {
-    Bytes image(static_cast<std::size_t>((engine.*save)(nullptr)));
-    EXPECT_EQ((engine.*save)(image.data()), static_cast<int>(image.size()));
+    Bytes image(static_cast<std::size_t>(save(engine, nullptr)));
+    EXPECT_EQ(save(engine, image.data()), static_cast<int>(image.size()));
     return image;
 }
 
-inline Bytes SavedPart(const GrooveEngine& engine) { return Saved(engine, &GrooveEngine::SavePart); }
+inline Bytes SavedPart(const GrooveEngine& engine) { return Saved(engine, SavePart); }
 
 inline bool Load(GrooveEngine& engine, const Bytes& image)
 {
-    return engine.LoadState(image.data(), static_cast<std::int32_t>(image.size()));
+    return LoadState(engine, image.data(), static_cast<std::int32_t>(image.size()));
 }
 
 template <class T>
@@ -43,15 +46,15 @@ inline void FillGroove(GrooveEngine& engine, unsigned seed)
     std::mt19937 random(seed);
     const auto below = [&random](int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); };
     engine.ResetGroove();
-    engine.selectedChannel = below(kChannels);
-    engine.selectedBar = below(kBars);
-    engine.currentPattern = below(kPatterns);
-    engine.selectedFx = below(kEffects);
-    engine.envelopeNumber = engine.lfoNumber = 1;
-    engine.muted[below(kChannels)] = engine.playOnce[below(kPatterns)] = true;
-    engine.shuffleAmount = engine.extControls[2].value = 0.25f;
-    engine.extControls[2].channel = 9;
-    engine.extControls[2].param = slot::FilterCutoff;
+    engine.selection.selectedChannel = below(kChannels);
+    engine.selection.selectedBar = below(kBars);
+    engine.score.currentPattern = below(kPatterns);
+    engine.selection.selectedFx = below(kEffects);
+    engine.selection.envelopeNumber = engine.selection.lfoNumber = 1;
+    engine.mixer.muted[below(kChannels)] = engine.score.playOnce[below(kPatterns)] = true;
+    engine.clock.shuffleAmount = engine.ext.extControls[2].value = 0.25f;
+    engine.ext.extControls[2].channel = 9;
+    engine.ext.extControls[2].param = slot::FilterCutoff;
     for (int c = 0; c < kChannels; ++c) {
         for (auto& value : engine.storedParams[c]) value = static_cast<float>(below(1000)) / 999.0f;
         engine.storedParams[c][below(kChannelSlots)] = NAN;
@@ -59,7 +62,7 @@ inline void FillGroove(GrooveEngine& engine, unsigned seed)
             if (below(2)) slot.path.Set(("D:\\sounds\\" + std::to_string(below(99)) + ".wav").c_str());
         engine.Channel(c).programPath.Set(("D:\\programs\\" + std::to_string(c)).c_str());
     }
-    for (auto& pattern : engine.patterns)
+    for (auto& pattern : engine.score.patterns)
         for (int n = 0; n < 60; ++n) {
             const int c = below(kChannels), step = below(kSteps);
             pattern->steps[c][step] = static_cast<std::uint32_t>(random());

@@ -42,13 +42,13 @@ TEST_F(Mixer, StripsShapeWhatIsHeard)
             SCOPED_TRACE(std::string(row.what) + ", channel " + std::to_string(c));
             Set({{ParamOf(slot::MixLevel), row.level}, {ParamOf(slot::Panning), row.pan}});
             Play(1500);
-            channel.peakLeft = channel.peakRight = 0.0f;
+            channel.strip.peakLeft = channel.strip.peakRight = 0.0f;
             Play(64);
             EXPECT_NEAR(Peak(Left(c)) / source, row.left, 0.0002f + 0.001f * row.left);
             EXPECT_NEAR(Peak(Right(c)) / source, row.right, 0.0002f + 0.001f * row.right);
             EXPECT_NEAR(Peak(Left(c + 1)) / neighbour, 1.0f, 0.001f);
-            EXPECT_EQ(channel.peakLeft, Peak(Left(c)));
-            EXPECT_EQ(channel.peakRight, Peak(Right(c)));
+            EXPECT_EQ(channel.strip.peakLeft, Peak(Left(c)));
+            EXPECT_EQ(channel.strip.peakRight, Peak(Right(c)));
             for (const std::size_t side : {0u, 1u}) {
                 float sum = 0.0f;
                 for (std::size_t n = 2 + side; n < out.size(); n += 2) sum += out[n].back();
@@ -67,7 +67,7 @@ TEST_F(Mixer, GainsMoveSmoothlyWhileTheyAreHeard)
     Play(69);
     EXPECT_NEAR(Left(8).back() / before, 0.5f, 0.005f);
     EXPECT_NEAR(Right(8).back() / before, 1.5f, 0.005f);
-    EXPECT_GE(Engine().Channel(8).peakLeft, before) << "the meter keeps the loudest until it is read";
+    EXPECT_GE(Engine().Channel(8).strip.peakLeft, before) << "the meter keeps the loudest until it is read";
     Synth().Reset();
     Play(64);
     Set(ParamOf(slot::Panning), 0.0f);

@@ -3,6 +3,8 @@
 
 #include <map>
 
+#include "engine/PanelButtons.h"
+#include "engine/Transport.h"
 #include "support/Stage.h"
 
 namespace korvane {
@@ -16,15 +18,15 @@ protected:
     {
         Steps notes;
         for (int step = 0; step < kSteps; ++step)
-            if (const std::uint32_t word = engine.patterns[pattern]->steps[channel][step]; word != 0)
+            if (const std::uint32_t word = engine.score.patterns[pattern]->steps[channel][step]; word != 0)
                 notes[step] = word;
         return notes;
     }
     void Put(int channel, const Steps& notes)
     {
-        for (const auto& [step, word] : notes) engine.patterns[0]->steps[channel][step] = word;
+        for (const auto& [step, word] : notes) engine.score.patterns[0]->steps[channel][step] = word;
     }
-    StepLockList& Locks(int channel, int step) { return engine.patterns[0]->locks[channel][step]; }
+    StepLockList& Locks(int channel, int step) { return engine.score.patterns[0]->locks[channel][step]; }
 
     GrooveEngine& engine = Engine();
 };
@@ -34,11 +36,11 @@ TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
     for (const auto& [step, length] :
          {std::pair{0, 16}, {15, 16}, {16, 32}, {40, 64}, {63, 64}, {64, 128}, {127, 128}}) {
         Put(12, {{step, 1u}});
-        engine.Pattern().UpdateLength();
-        EXPECT_EQ(engine.Pattern().length, length);
+        engine.score.Current().UpdateLength();
+        EXPECT_EQ(engine.score.Current().length, length);
     }
-    engine.Pattern().Clear();
-    EXPECT_EQ(engine.Pattern().length, 16);
+    engine.score.Current().Clear();
+    EXPECT_EQ(engine.score.Current().length, 16);
 }
 
 TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
@@ -55,11 +57,12 @@ TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
     };
     // clang-format on
     Put(0, {{17, 2u}});
-    engine.selectedBar = 1;
+    engine.selection.selectedBar = 1;
     for (const Case& c : cases) {
         Set(c.writes);
         Play(c.steps * kStep);
-        EXPECT_EQ(std::pair(+engine.patternStep, +engine.currentPattern), std::pair(c.position, c.pattern)) << c.what;
+        EXPECT_EQ(std::pair(+engine.clock.patternStep, +engine.score.currentPattern), std::pair(c.position, c.pattern))
+            << c.what;
     }
 }
 
@@ -84,13 +87,14 @@ TEST_F(Sequencer, EditsSteps)
     Set(param::Edit, 1.0f);
     for (const Case& c : cases) {
         for (const int button : c.presses) Press(button);
-        EXPECT_EQ((std::vector<int>{engine.editStep, engine.selectedBar, engine.selectedBarMark}),
+        EXPECT_EQ((std::vector<int>{engine.selection.editStep, engine.selection.selectedBar,
+                                    engine.selection.selectedBarMark}),
                   (std::vector<int>{c.edited, c.bar, c.mark}))
             << c.what;
-        EXPECT_EQ(Notes(engine.selectedChannel), c.notes) << c.what;
+        EXPECT_EQ(Notes(engine.selection.selectedChannel), c.notes) << c.what;
     }
     Set(param::Edit, 0.0f);
-    EXPECT_EQ(engine.editStep, -1);
+    EXPECT_EQ(engine.selection.editStep, -1);
 }
 
 // While a step is edited, knobs write its locks and show stored value plus lock; they hold until the next step's note.
@@ -99,14 +103,14 @@ TEST_F(Sequencer, EditedStepTakesLocks)
     constexpr int kPan = ParamOf(slot::Panning), kLevel = ParamOf(slot::MixLevel),
                   kCutoff = ParamOf(slot::FilterCutoff);
     Put(8, {{17, 1u}, {19, 1u}});
-    engine.editStep = 1;
-    engine.selectedBar = 1;
+    engine.selection.editStep = 1;
+    engine.selection.selectedBar = 1;
     Set({{kLevel, 0.5f}, {kPan, 0.25f}, {kCutoff, 0.5f}, {kPan, 1.0f}});
     EXPECT_FLOAT_EQ(Synth().GetParameter(kPan), 1.0f);
     Set(kCutoff, 1.0f); // as stored: no lock
     EXPECT_EQ(Locks(8, 17).Count(), 2);
     EXPECT_FLOAT_EQ(Locks(8, 17).Offset(slot::MixLevel), -0.25f);
-    engine.editStep = -1;
+    engine.selection.editStep = -1;
     EXPECT_EQ(Synth().GetParameter(kPan), 0.5f);
     Synth().SetPlaying(true);
     Play(19 * kStep);
@@ -126,29 +130,29 @@ TEST_F(Sequencer, CopiesPastesAndClears)
     Put(0, {{1, 2u}});
     Put(2, {{20, 16u}});
     Locks(8, 1).Set(slot::NoteLength, 0.25f);
-    engine.ToggleEdit();
-    engine.editStep = 1;
-    engine.Copy();
-    engine.selectedBar = 4;
-    engine.editStep = 7;
-    engine.channelMarked[0] = engine.channelMarked[3] = true;
-    engine.Paste();
+    ToggleEdit(engine);
+    engine.selection.editStep = 1;
+    engine.score.Copy(engine.selection);
+    engine.selection.selectedBar = 4;
+    engine.selection.editStep = 7;
+    engine.selection.channelMarked[0] = engine.selection.channelMarked[3] = true;
+    engine.score.Paste(engine.selection);
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}}));
     EXPECT_EQ(Locks(8, 71).Offset(slot::NoteLength), 0.25f);
     EXPECT_EQ(Notes(0), (Steps{{1, 2u}, {71, 128u}})) << "a sampler's step has its own bit";
     EXPECT_EQ(Notes(3), (Steps{{71, 128u}})) << "on even when the copied one was not";
-    engine.SelectPattern(5);
-    engine.Paste();
+    SelectPattern(engine, 5);
+    engine.score.Paste(engine.selection);
     EXPECT_EQ(Notes(2, 5), Notes(2));
-    engine.selectedBar = 0;
-    engine.Copy();
+    engine.selection.selectedBar = 0;
+    engine.score.Copy(engine.selection);
     Press(param::Bar1 + 6);
-    engine.Paste();
+    engine.score.Paste(engine.selection);
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}, {97, 5u}}));
-    engine.Clear();
+    engine.score.Clear(engine.selection);
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}}));
-    engine.channelMarked[8] = true;
-    engine.Clear();
+    engine.selection.channelMarked[8] = true;
+    engine.score.Clear(engine.selection);
     EXPECT_EQ(Notes(8), Steps{});
     EXPECT_EQ(Notes(0), (Steps{{1, 2u}, {71, 128u}}));
 }
@@ -158,17 +162,17 @@ TEST_F(Sequencer, NudgesHeldSteps)
     Select(1);
     Put(1, {{0, 1u}, {1, 2u}, {2, 4u}, {15, 0x8000u}});
     Locks(1, 1).Set(slot::NoteLength, 0.5f);
-    for (const int held : {1, 2, 15}) engine.stepHeld[held] = true;
-    engine.Forward();
+    for (const int held : {1, 2, 15}) engine.buttons.stepHeld[held] = true;
+    Move(engine, +1);
     const Steps nudged{{0, 1u}, {2, 4u}, {3, 8u}, {15, 0x8000u}}; // the bar's edge holds the last
     EXPECT_EQ(Notes(1), nudged);
     EXPECT_EQ(Locks(1, 2).Offset(slot::NoteLength), 0.5f);
-    for (const int held : {0, 1, 2, 15}) engine.stepHeld[held] = held == 0;
-    engine.Back();
+    for (const int held : {0, 1, 2, 15}) engine.buttons.stepHeld[held] = held == 0;
+    Move(engine, -1);
     EXPECT_EQ(Notes(1), nudged);
-    engine.stepHeld[0] = false;
-    engine.Forward();
-    EXPECT_EQ(engine.selectedBar, 1) << "nothing held: the bar moves";
+    engine.buttons.stepHeld[0] = false;
+    Move(engine, +1);
+    EXPECT_EQ(engine.selection.selectedBar, 1) << "nothing held: the bar moves";
 }
 
 // Pad and stutter take the selected channel and every held one, the pad with the effect that was pressed first.
@@ -179,10 +183,10 @@ TEST_F(Sequencer, ButtonsReachSelectedAndHeldChannels)
     Set({{param::FxActivate, 1.0f}, {param::Channel1 + 7, 1.0f}, {param::Stutter1_2, 1.0f}});
     for (int c = 0; c < kChannels; ++c) {
         EXPECT_EQ(engine.Channel(c).fxActive[4], c == 5 || c == 7) << c;
-        EXPECT_EQ(engine.stutterCode[c], c == 5 || c == 7 ? -3 : 0) << c;
+        EXPECT_EQ(engine.buttons.stutterCode[c], c == 5 || c == 7 ? -3 : 0) << c;
     }
     Set(param::Channel1 + 7, 0.0f); // selects it
-    EXPECT_EQ(std::pair(+engine.stutterCode[5], +engine.stutterCode[7]), std::pair(0, -3));
+    EXPECT_EQ(std::pair(+engine.buttons.stutterCode[5], +engine.buttons.stutterCode[7]), std::pair(0, -3));
 }
 
 } // namespace

@@ -84,7 +84,7 @@ TEST_F(Transport, StepsComeInTime)
     };
     // clang-format on
     for (const Case& c : cases) {
-        Engine().Pattern().Clear();
+        Engine().score.Current().Clear();
         PutStep(8, c.step);
         Set(c.writes);
         StartAt(c.position);
@@ -184,7 +184,7 @@ TEST_F(Transport, RecordsOnTheNearerStep)
     // clang-format on
     Synth().SetTempo(480.0);
     for (const Case& c : cases) {
-        Engine().Pattern().Clear();
+        Engine().score.Current().Clear();
         Select(c.selected);
         Set(param::Record, c.standstill ? 1.0f : 0.0f);
         StartAt(0.0);
@@ -197,12 +197,13 @@ TEST_F(Transport, RecordsOnTheNearerStep)
         Set(param::Step1 + c.button, 0.0f);
         EXPECT_EQ(channel.voiceCounter - before, 1u) << c.what;
         if (c.channel == 8) {
-            EXPECT_NEAR(Engine().Pattern().locks[8][c.step].Offset(slot::NoteLength), 0.375f - 0.4444f, 1e-3f)
+            EXPECT_NEAR(Engine().score.Current().locks[8][c.step].Offset(slot::NoteLength), 0.375f - 0.4444f, 1e-3f)
                 << "a beat";
         }
         for (int n = 0; n < kChannels; ++n)
             for (int step = 0; step < kSteps; ++step)
-                ASSERT_EQ(Engine().Pattern().steps[n][step], n == c.channel && step == c.step ? c.word : 0u) << c.what;
+                ASSERT_EQ(Engine().score.Current().steps[n][step], n == c.channel && step == c.step ? c.word : 0u)
+                    << c.what;
         Set({{param::Record, 0.0f}, {param::Play, 0.0f}});
     }
 }

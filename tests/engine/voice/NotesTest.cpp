@@ -79,7 +79,7 @@ TEST(Notes, FollowTheirEnvelopes)
         SCOPED_TRACE(c.what);
         NoteRig rig;
         rig.Start(c.values, 50, c.release);
-        rig.channel.ReleaseNote(50);
+        ReleaseNote(rig.channel.voices, 50);
         rig.Render(c.frame - c.release);
         const float levels[] = {rig.Last().amp.level, rig.Last().env1.level, rig.Last().env2.level};
         for (int n = 0; n < 3; ++n) EXPECT_NEAR(levels[n], c.levels[n], 5e-4) << n;

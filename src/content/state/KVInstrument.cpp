@@ -1,19 +1,25 @@
-// Groove and part files, the host's chunks and the groove of the start-up.
+// The whole instrument: the synthesizer with its grooves, parts, programs and the host's chunks.
+#include "content/state/KVInstrument.h"
+
 #include <cstring>
+#include <iterator>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "content/PathText.h"
-#include "content/state/ImageFile.h"
-#include "content/state/ImageLayout.h"
-#include "engine/KVSynth.h"
+#include "content/state/ChannelChunk.h"
+#include "content/state/PartImage.h"
+#include "content/state/StateImage.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
 
 namespace korvane {
 
 namespace {
+
+/// What a channel keeps whatever program it plays.
+constexpr int kKeptSettings[] = {slot::MixLevel, slot::Panning, slot::NoteLength, slot::ShuffleEnable};
 
 Image MakeState(const GrooveEngine& engine)
 {
@@ -25,14 +31,27 @@ std::string GrooveName(const std::string& path) { return std::string(StemOf(path
 
 } // namespace
 
-bool KVSynth::SaveGrooveFile(const char* path)
+KVInstrument::KVInstrument(CPluginWrapper* bridge)
+    : KVSynth(bridge), synthPrograms(folders.synthPrograms, "kvsynth"),
+      samplerPrograms(folders.samplerPrograms, "kvsmp")
+{
+    synthPrograms.Refresh();
+    samplerPrograms.Refresh();
+    for (const char* extension : {"wav", "aif", "aiff"}) waveforms.AddFilter(extension, false);
+    waveforms.Scan(folders.synthWaves);
+    LoadDefaultGroove();
+}
+
+// Grooves and parts
+
+bool KVInstrument::SaveGrooveFile(const char* path)
 {
     if (!WriteImageFile(path, MakeState(*engine))) return false;
     grooveName.Set(GrooveName(EnginePath(path)).c_str());
     return true;
 }
 
-bool KVSynth::SaveGrooveWithSamples(const char* path)
+bool KVInstrument::SaveGrooveWithSamples(const char* path)
 {
     if (!WriteImageFile(path, MakeState(*engine))) return false;
     constexpr std::pair<int, const char*> kFolders[] = {{kind::Sample, "Samples"}, {kind::Waveform, "Waveforms"}};
@@ -49,7 +68,7 @@ bool KVSynth::SaveGrooveWithSamples(const char* path)
     return true;
 }
 
-bool KVSynth::LoadGrooveFile(const char* path)
+bool KVInstrument::LoadGrooveFile(const char* path)
 {
     Image image;
     if (!ReadImageFile(path, image)) return false;
@@ -58,7 +77,7 @@ bool KVSynth::LoadGrooveFile(const char* path)
     {
         ProgramSwitch exclusive(*this);
         engine->samplePool->SetGrooveFolders(FolderText(file).c_str());
-        loaded = engine->LoadState(image.bytes.get(), image.size);
+        loaded = LoadState(*engine, image.bytes.get(), image.size);
     }
     if (!loaded) return false;
     grooveName.Set(GrooveName(file).c_str());
@@ -67,12 +86,12 @@ bool KVSynth::LoadGrooveFile(const char* path)
     return true;
 }
 
-bool KVSynth::SavePartFile(const char* path)
+bool KVInstrument::SavePartFile(const char* path)
 {
     return WriteImageFile(path, MakeImage([this](ByteWriter& out) { WritePart(out, *engine); }));
 }
 
-bool KVSynth::LoadPartFile(const char* path)
+bool KVInstrument::LoadPartFile(const char* path)
 {
     Image image;
     if (!ReadImageFile(path, image)) return false;
@@ -82,7 +101,7 @@ bool KVSynth::LoadPartFile(const char* path)
         engine->samplePool->SetGrooveFolders(FolderText(EnginePath(path)).c_str());
         const float level = engine->GetChannelParameter(slot::MixLevel); // as shown: an edited step's lock included
         const float panning = engine->GetChannelParameter(slot::Panning);
-        loaded = engine->LoadPart(image.bytes.get(), image.size);
+        loaded = LoadPart(*engine, image.bytes.get(), image.size);
         for (const auto& [base, value] : {std::pair{slot::MixLevel, level}, {slot::Panning, panning}})
             if (engine->GetChannelParameter(base) != value) engine->SetChannelParameter(base, value);
     }
@@ -92,34 +111,34 @@ bool KVSynth::LoadPartFile(const char* path)
     return true;
 }
 
-void KVSynth::LoadDefaultGroove()
+void KVInstrument::LoadDefaultGroove()
 {
     Image image;
     if (ReadImageFile(folders.defaultGroove, image)) {
         ProgramSwitch exclusive(*this);
-        engine->LoadState(image.bytes.get(), image.size);
+        LoadState(*engine, image.bytes.get(), image.size);
     }
     grooveName.Set("Default Groove");
 }
 
-std::int32_t KVSynth::SetProgramChunk(const void* data, std::int32_t size)
+// Chunks
+
+std::int32_t KVInstrument::SetProgramChunk(const void* data, std::int32_t size)
 {
     bool loaded = false;
     {
         ProgramSwitch exclusive(*this);
         engine->samplePool->ClearGrooveFolders();
-        loaded = engine->LoadState(static_cast<const std::uint8_t*>(data), size);
+        loaded = LoadState(*engine, static_cast<const std::uint8_t*>(data), size);
     }
     if (!loaded) return 0;
     RefreshEditor();
     return size;
 }
 
-std::int32_t KVSynth::SetBankChunk(const void* data, std::int32_t size) { return SetProgramChunk(data, size); }
-
 /// Hosts ask for the size, then for the bytes; in between another thread may add locks. A groove that has outgrown the
 /// size told is given as it was then.
-std::int32_t KVSynth::GetProgramChunk(void* buffer)
+std::int32_t KVInstrument::GetProgramChunk(void* buffer)
 {
     Image image = MakeState(*engine);
     if (!buffer) {
@@ -133,6 +152,53 @@ std::int32_t KVSynth::GetProgramChunk(void* buffer)
     return given.size;
 }
 
-std::int32_t KVSynth::GetBankChunk(void* buffer) { return GetProgramChunk(buffer); }
+// Programs
+
+bool KVInstrument::SaveProgramFile(const char* path)
+{
+    const int channel = engine->selection.selectedChannel;
+    if (!WriteImageFile(path, MakeImage([&](ByteWriter& out) { WriteChannelChunk(out, *engine, channel); })))
+        return false;
+    engine->Channel(channel).programPath.Set(EnginePath(path).c_str());
+    RefreshEditor();
+    return true;
+}
+
+bool KVInstrument::LoadProgramFile(const char* path)
+{
+    Image image;
+    if (!ReadImageFile(path, image, kChannelChunkBytes)) return false; // what may follow is nobody's
+    const std::string file = EnginePath(path);
+    {
+        ProgramSwitch exclusive(*this);
+        engine->samplePool->SetGrooveFolders(std::string(FolderOf(file)).c_str());
+        float kept[std::size(kKeptSettings)]; // as shown: an edited step's locks included
+        for (std::size_t n = 0; n < std::size(kept); ++n) kept[n] = engine->GetChannelParameter(kKeptSettings[n]);
+        const int channel = engine->selection.selectedChannel;
+        const bool loaded = LoadChannelChunk(*engine, image.bytes.get(), image.size, channel);
+        for (std::size_t n = 0; n < std::size(kept); ++n) engine->SetChannelParameter(kKeptSettings[n], kept[n]);
+        if (!loaded) return false;
+        engine->Channel(channel).programPath.Set(file.c_str());
+    }
+    ReportParameters();
+    RefreshEditor();
+    return true;
+}
+
+void KVInstrument::ProgramChangeReceived(int program)
+{
+    CPresetList& list = Library();
+    if (list.SelectEntry(program)) LoadProgramFile(list.filePath);
+}
+
+bool KVInstrument::BankSelectReceived(int bank)
+{
+    CPresetList& list = Library();
+    list.SelectFolder(bank);
+    LoadProgramFile(list.filePath);
+    return true;
+}
+
+CPresetList& KVInstrument::Library() { return engine->selection.OnSampler() ? samplerPrograms : synthPrograms; }
 
 } // namespace korvane

@@ -1,0 +1,237 @@
+// What each parameter does to the engine.
+#include "engine/ParameterBindings.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "engine/PanelButtons.h"
+#include "engine/StepButtons.h"
+#include "engine/Transport.h"
+#include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+using Engine = GrooveEngine;
+using Write = void (*)(Engine&, int, float);
+using Read = float (*)(const Engine&, int);
+
+float Flag(bool on) { return on ? 1.0f : 0.0f; }
+
+// Fields of the engine's values, by themselves or in an array.
+
+template <auto value, auto field>
+void Take(Engine& engine, int, float v)
+{
+    engine.*value.*field = v;
+}
+template <auto value, auto field>
+float Give(const Engine& engine, int)
+{
+    return static_cast<float>(engine.*value.*field);
+}
+template <auto value, auto field>
+void Follow(Engine& engine, int, float v)
+{
+    engine.*value.*field = v != 0.0f;
+}
+template <auto value, auto field>
+float GiveFlag(const Engine& engine, int)
+{
+    return Flag(engine.*value.*field);
+}
+
+/// A page of the panel: the whole part of the value times its last position.
+template <auto field, int kLast>
+void TakePage(Engine& engine, int, float v)
+{
+    engine.selection.*field = static_cast<std::int8_t>(std::clamp(Truncate(v * static_cast<float>(kLast)), 0, kLast));
+}
+template <auto field, int kLast>
+float GivePage(const Engine& engine, int)
+{
+    return static_cast<float>(engine.selection.*field) / static_cast<float>(kLast);
+}
+
+// Operations, with the on state, the target, or both.
+
+template <auto operation>
+void Switch(Engine& engine, int, float v)
+{
+    operation(engine, v != 0.0f);
+}
+template <auto operation>
+void Button(Engine& engine, int target, float v)
+{
+    operation(engine, target, v != 0.0f);
+}
+template <auto operation>
+void At(Engine& engine, int target, float)
+{
+    operation(engine, target);
+}
+template <auto press, auto release>
+void PressAndRelease(Engine& engine, int target, float v)
+{
+    if (v != 0.0f)
+        press(engine, target);
+    else
+        release(engine, target);
+}
+template <auto operation>
+void Edit(Engine& engine, int, float)
+{
+    (engine.score.*operation)(engine.selection);
+}
+template <auto shown>
+float Shown(const Engine& engine, int)
+{
+    return Flag(shown(engine));
+}
+
+// Rules of their own.
+
+void FollowEdit(Engine& engine, int, float v)
+{
+    if (engine.clock.editMode != (v != 0.0f)) ToggleEdit(engine);
+}
+void FollowPlayBar(Engine& engine, int, float v) // any write ends it
+{
+    engine.clock.playBar.Update([v](bool loops) { return !loops && v != 0.0f; });
+}
+void FollowPlayOnce(Engine& engine, int, float v) { engine.score.playOnce[engine.score.currentPattern] = v != 0.0f; }
+float GivePlayOnce(const Engine& engine, int) { return Flag(engine.score.playOnce[engine.score.currentPattern]); }
+void FollowEnabled(Engine& engine, int channel, float v) { engine.mixer.muted[channel] = v == 0.0f; }
+float GiveEnabled(const Engine& engine, int channel) { return Flag(!engine.mixer.muted[channel]); }
+void TakeExt(Engine& engine, int n, float v) { engine.SetExtControl(n, v); }
+float GiveExt(const Engine& engine, int n) { return engine.ext.extControls[n].value; }
+void Learn(Engine& engine, int, float) { engine.ext.extLearn.Toggle(); }
+float GiveStutter(const Engine& engine, int button) { return Flag(engine.buttons.stutterButtons.Held(button)); }
+void Cycle(Engine& engine, int slotBase, float) { engine.CycleSwitch(slotBase); }
+void ToSlot(Engine& engine, int index, float v)
+{
+    engine.SetChannelParameter(kParameters[static_cast<std::size_t>(index)].slotBase, v);
+}
+float OfSlot(const Engine& engine, int index)
+{
+    return engine.GetChannelParameter(kParameters[static_cast<std::size_t>(index)].slotBase);
+}
+
+constexpr auto kClock = &Engine::clock;
+
+constexpr ParameterBinding Nothing(int index) { return {index, 1, Acts::Never, 0, nullptr, nullptr}; }
+constexpr ParameterBinding Slots(int first, int last)
+{
+    return {first, last - first + 1, Acts::Always, first, ToSlot, OfSlot};
+}
+
+// clang-format off
+constexpr ParameterBinding kBindings[] = {
+//   first                              n   acts           target       a write                               a read
+    {param::ShuffleAmount,              1,  Acts::Always,  0,           Take<kClock, &Clock::shuffleAmount>,  Give<kClock, &Clock::shuffleAmount>},
+    {param::Play,                       1,  Acts::Always,  0,           Switch<SetPlay>,                      Shown<PlayShown>},
+    {param::PlayBar,                    1,  Acts::Always,  0,           FollowPlayBar,                        GiveFlag<kClock, &Clock::playBar>},
+    {param::Record,                     1,  Acts::Always,  0,           Switch<SetRecord>,                    Shown<RecordShown>},
+    {param::Back,                       1,  Acts::OnPress, -1,          At<Move>,                             nullptr},
+    {param::Forward,                    1,  Acts::OnPress, +1,          At<Move>,                             nullptr},
+    {param::Edit,                       1,  Acts::Always,  0,           FollowEdit,                           GiveFlag<kClock, &Clock::editMode>},
+    {param::Clear,                      1,  Acts::OnPress, 0,           Edit<&Score::Clear>,                  nullptr},
+    {param::Copy,                       1,  Acts::OnPress, 0,           Edit<&Score::Copy>,                   nullptr},
+    {param::Paste,                      1,  Acts::OnPress, 0,           Edit<&Score::Paste>,                  nullptr},
+    {param::MuteSelected,               1,  Acts::OnEdge,  0,           Switch<SetMuteModifier>,              nullptr},
+    {param::Solo,                       1,  Acts::Always,  0,           Follow<&Engine::mixer, &Mixer::soloSelected>, GiveFlag<&Engine::mixer, &Mixer::soloSelected>},
+    {param::Pattern1,                   8,  Acts::OnPress, 0,           At<SelectPattern>,                    nullptr},
+    {param::PlayOnce,                   1,  Acts::Always,  0,           FollowPlayOnce,                       GivePlayOnce},
+    {param::Channel1,                   13, Acts::OnEdge,  0,           PressAndRelease<ChannelPress, ChannelRelease>, nullptr},
+    {param::Enable1,                    13, Acts::Always,  0,           FollowEnabled,                        GiveEnabled},
+    {param::Ext1,                       5,  Acts::Always,  0,           TakeExt,                              GiveExt},
+    {param::ExtLearn,                   1,  Acts::OnPress, 0,           Learn,                                nullptr},
+    {param::Fx1,                        10, Acts::OnEdge,  0,           Button<SetFxButton>,                  nullptr},
+    {param::Stutter1_1,                 4,  Acts::OnEdge,  0,           Button<SetStutterButton>,             GiveStutter},
+    Nothing(67),
+    {param::Stutter1_4,                 1,  Acts::OnEdge,  4,           Button<SetStutterButton>,             GiveStutter},
+    {param::FxActivate,                 1,  Acts::Always,  0,           Switch<SetFxPad>,                     nullptr},
+    Slots(70, 72),
+    {param::FxLfoShapeSwitch,           1,  Acts::OnPress, slot::FxLfoShape,          Cycle,                  nullptr},
+    Slots(74, 74),
+    {param::FxLfoSyncSwitch,            1,  Acts::OnPress, slot::FxLfoSync,           Cycle,                  nullptr},
+    Slots(76, 95),
+    {param::FilterTypeSwitch,           1,  Acts::OnPress, slot::FilterType,          Cycle,                  nullptr},
+    {param::EnvelopeNumber,             1,  Acts::Always,  0,           TakePage<&Selection::envelopeNumber, 1>, GivePage<&Selection::envelopeNumber, 1>},
+    {param::EnvelopeDestinationSwitch,  1,  Acts::OnPress, slot::EnvelopeDestination, Cycle,                  nullptr},
+    Slots(99, 103),
+    {param::LfoNumber,                  1,  Acts::Always,  0,           TakePage<&Selection::lfoNumber, 1>,   GivePage<&Selection::lfoNumber, 1>},
+    Slots(105, 108),
+    {param::LfoSyncSwitch,              1,  Acts::OnPress, slot::LfoSync,             Cycle,                  nullptr},
+    Slots(110, 110),
+    {param::LfoDestinationSwitch,       1,  Acts::OnPress, slot::LfoDestination,      Cycle,                  nullptr},
+    Slots(112, 112),
+    {param::LfoShapeSwitch,             1,  Acts::OnPress, slot::LfoShape,            Cycle,                  nullptr},
+    Slots(114, 151),
+    {param::LayerNumber,                1,  Acts::Always,  0,           TakePage<&Selection::layerNumber, 3>, GivePage<&Selection::layerNumber, 3>},
+    Nothing(param::LayerResetStart),
+    Nothing(154),
+    {param::Step1,                      24, Acts::Always,  0,           PressAndRelease<StepButton, StepButtonRelease>, nullptr},
+    Nothing(179),
+    {param::EngineFlag,                 1,  Acts::Never,   0,           nullptr,                              GiveFlag<&Engine::buttons, &Buttons::muteModifier>},
+    Nothing(181),
+    Slots(182, 195),
+};
+// clang-format on
+
+/// Every parameter has its one row, in order.
+constexpr bool RowsFollowEachOther()
+{
+    int next = 0;
+    for (const ParameterBinding& row : kBindings) {
+        if (row.first != next || row.count < 1) return false;
+        next += row.count;
+    }
+    return next == param::Count;
+}
+static_assert(RowsFollowEachOther());
+
+constexpr bool Fits(Acts acts, Kind kind)
+{
+    switch (kind) {
+    case Kind::Value:
+    case Kind::Follow:
+    case Kind::Select: return acts == Acts::Always;
+    case Kind::Trigger: return acts == Acts::OnPress;
+    case Kind::Change: return acts == Acts::OnEdge;
+    case Kind::Press: return acts == Acts::OnEdge || acts == Acts::Always; // step buttons take every write
+    case Kind::None: return acts == Acts::Never;
+    }
+    return false;
+}
+
+/// What a row does is what the table of names says of each of its parameters.
+constexpr bool RowsFitTheTable()
+{
+    for (const ParameterBinding& row : kBindings)
+        for (int n = 0; n < row.count; ++n) {
+            const ParameterInfo& info = kParameters[static_cast<std::size_t>(row.first + n)];
+            const int source = row.read == nullptr ? kFromProgram : row.read == OfSlot ? info.slotBase : kEngineState;
+            if (!Fits(row.acts, info.kind) || (row.write == nullptr) != (row.acts == Acts::Never)) return false;
+            if (info.slotBase != source || (row.read == OfSlot) != (info.slotBase >= 0)) return false;
+        }
+    return true;
+}
+static_assert(RowsFitTheTable());
+
+constexpr auto kRowOf = [] {
+    std::array<std::uint8_t, param::Count> rows{};
+    for (std::size_t row = 0; row < std::size(kBindings); ++row)
+        for (int n = 0; n < kBindings[row].count; ++n)
+            rows[static_cast<std::size_t>(kBindings[row].first + n)] = static_cast<std::uint8_t>(row);
+    return rows;
+}();
+
+} // namespace
+
+const ParameterBinding& BindingOf(int index) { return kBindings[kRowOf[static_cast<std::size_t>(index)]]; }
+
+} // namespace korvane

@@ -1,0 +1,70 @@
+// Level, pan and meters of one channel.
+#include "engine/mix/MixerStrip.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr float kGainFloor = 0.0001f;  // -80 dB: smaller gains count as silence
+constexpr float kGainStep = 0.01f;     // share of the distance that a gain moves per frame
+constexpr float kGainCeiling = 1.0e9f; // keeps a wild level finite
+
+/// Where a gain starts the run from.
+float Start(float gain, float target)
+{
+    if (gain < 0.0f) return target;
+    return gain < kGainFloor ? 0.0f : gain;
+}
+
+} // namespace
+
+void MixerStrip::Set(float level, float pan)
+{
+    const float levelDb = 80.0f * level - 60.0f;
+    const float gain = Clamp(std::pow(10.0f, levelDb / 20.0f), 0.0f, kGainCeiling);
+    targetLeft = std::max(Clamp(1.0f - pan, 0.0f, 1.0f) * gain, kGainFloor);
+    targetRight = std::max(Clamp(pan, 0.0f, 1.0f) * gain, kGainFloor);
+}
+
+void MixerStrip::Skip()
+{
+    outGainLeft = targetLeft;
+    outGainRight = targetRight;
+}
+
+void MixerStrip::Mix(const float* left, const float* right, int frames, const StripOutputs& outputs)
+{
+    float gainLeft = Start(outGainLeft, targetLeft), gainRight = Start(outGainRight, targetRight);
+    const float toLeft = targetLeft, toRight = targetRight;
+    const auto [mainLeft, mainRight, directLeft, directRight, first] = outputs;
+    float highestLeft = peakLeft, highestRight = peakRight;
+    for (int n = 0; n < frames; ++n) {
+        gainLeft += (toLeft - gainLeft) * kGainStep;
+        gainRight += (toRight - gainRight) * kGainStep;
+        const float l = left[n] * gainLeft;
+        const float r = right[n] * gainRight;
+        highestLeft = std::max(highestLeft, std::fabs(l));
+        highestRight = std::max(highestRight, std::fabs(r));
+        mainLeft[n] = first ? l : mainLeft[n] + l;
+        mainRight[n] = first ? r : mainRight[n] + r;
+        directLeft[n] = l;
+        directRight[n] = r;
+    }
+    outGainLeft = gainLeft;
+    outGainRight = gainRight;
+    peakLeft = highestLeft;
+    peakRight = highestRight;
+}
+
+void MixerStrip::Reset()
+{
+    peakLeft = peakRight = 0.0f;
+    outGainLeft = outGainRight = -1.0f;
+}
+
+} // namespace korvane

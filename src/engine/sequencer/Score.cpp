@@ -1,0 +1,111 @@
+// The eight patterns, which of them plays, and what copy and paste do to them.
+#include "engine/sequencer/Score.h"
+
+namespace korvane {
+
+Score::Score() : clipboard(std::make_unique<GroovePattern>())
+{
+    clipboard->Clear();
+    for (auto& pattern : patterns) {
+        pattern = std::make_unique<GroovePattern>();
+        pattern->Clear();
+    }
+    Fill(lastStep, -1);
+}
+
+void Score::ReturnFromPlayOnce(int patternStep, bool looping)
+{
+    const int repeats = patternRepeats, current = currentPattern;
+    if (repeats > 0)
+        patternRepeats.Replace(repeats, repeats - 1); // a selection meanwhile counts
+    else if (playOnce[current] && !looping && patternStep == Current().length - 1)
+        currentPattern.Replace(current, nextPattern);
+}
+
+void Score::Restart()
+{
+    nextPattern = static_cast<int>(currentPattern);
+    Fill(lastStep, -1);
+}
+
+void Score::Copy(const Selection& selection)
+{
+    clipboard->CopyFrom(Current());
+    copiedBar = static_cast<int>(selection.selectedBar);
+    if (selection.editStep != -1) copiedStep = static_cast<int>(selection.editStep);
+}
+
+void Score::Paste(Selection& selection)
+{
+    if (const int target = selection.selectedPatternMark; target != -1) {
+        patterns[static_cast<std::size_t>(target)]->CopyFrom(*clipboard);
+        selection.selectedPatternMark = -1;
+        return;
+    }
+    for (int c = 0; c < kChannels; ++c) PasteInto(Current(), c, selection);
+    if (selection.selectedBarMark == -1) selection.editStep = -1;
+}
+
+void Score::PasteInto(GroovePattern& pattern, int c, const Selection& selection)
+{
+    const int fromBar = copiedBar * kStepsPerBar, toBar = selection.StepInPattern(0);
+    const int edited = selection.editStep;
+    if (selection.selectedBarMark != -1) {
+        if (!selection.Chosen(c) || copiedBar < 0) return;
+        for (int s = 0; s < kStepsPerBar; ++s) pattern.CopyStep(c, toBar + s, *clipboard, c, fromBar + s);
+    } else if (edited != -1) {
+        if (!selection.Chosen(c) || copiedBar < 0 || copiedStep < 0) return;
+        pattern.CopyStep(c, toBar + edited, *clipboard, c, fromBar + copiedStep);
+        if (c < kSamplerChannels) pattern.steps[c][toBar + edited] = 1u << edited;
+    } else if (selection.channelMarked[c]) {
+        for (int s = 0; s < kSteps; ++s) pattern.CopyStep(c, s, *clipboard, c, s);
+    }
+}
+
+void Score::Clear(Selection& selection)
+{
+    GroovePattern& pattern = Current();
+    const int bar = selection.StepInPattern(0), edited = selection.editStep;
+    if (edited != -1) {
+        pattern.ClearStep(selection.selectedChannel, bar + edited);
+    } else {
+        for (int c = 0; c < kChannels; ++c) {
+            if (selection.selectedBarMark == -1) {
+                if (selection.channelMarked[c]) pattern.ClearChannel(c);
+            } else if (selection.Chosen(c)) {
+                for (int s = 0; s < kStepsPerBar; ++s) pattern.ClearStep(c, bar + s);
+            }
+        }
+    }
+    selection.editStep = selection.selectedBarMark = -1;
+    selection.ClearMarks();
+}
+
+bool Score::NudgeHeldSteps(const Selection& selection, const Shared<bool>* stepHeld, int direction)
+{
+    GroovePattern& pattern = Current();
+    const int channel = selection.selectedChannel;
+    const int bar = selection.StepInPattern(0);
+    bool any = false;
+    for (int n = 0; n < kStepsPerBar; ++n) {
+        const int step = direction > 0 ? kStepsPerBar - 1 - n : n;
+        const int other = step + direction;
+        if (!stepHeld[step] || pattern.steps[channel][bar + step] == 0) continue;
+        any = true;
+        if (other < 0 || other >= kStepsPerBar) continue;
+        pattern.SwapSteps(channel, bar + step, bar + other);
+        if (channel >= kSamplerChannels) continue;
+        for (const int moved : {step, other})
+            if (pattern.steps[channel][bar + moved] != 0) pattern.steps[channel][bar + moved] = 1u << moved;
+    }
+    return any;
+}
+
+void Score::Reset()
+{
+    currentPattern = nextPattern = patternRepeats = 0;
+    Fill(playOnce, false);
+    for (auto& pattern : patterns) pattern->Clear();
+}
+
+} // namespace korvane

@@ -1,0 +1,65 @@
+// The eight patterns, which of them plays, and what copy and paste do to them.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "engine/sequencer/GroovePattern.h"
+#include "engine/sequencer/Selection.h"
+#include "framework/Limits.h"
+#include "platform/Shared.h"
+
+namespace korvane {
+
+/// What a groove plays. Owned by GrooveEngine; the patterns live as long as it does.
+///
+/// Threads: host, editor and MIDI (on the audio thread) edit, the audio thread reads steps and locks and moves on from
+/// one pattern to the next. A step word is changed in one piece; an edit of many steps may be heard half done for one
+/// tick. `lastStep` is the audio thread's, others read it.
+class Score {
+public:
+    Score();
+
+    GroovePattern& Current() { return *patterns[static_cast<std::size_t>(static_cast<int>(currentPattern))]; }
+    const GroovePattern& Current() const
+    {
+        return *patterns[static_cast<std::size_t>(static_cast<int>(currentPattern))];
+    }
+    /// Goes back from a play-once pattern that is over, or counts down to it. Audio thread, before a regular tick.
+    /// patternStep  of the tick before
+    /// looping      a bar is looped or recorded: nothing comes to its end
+    void ReturnFromPlayOnce(int patternStep, bool looping);
+    /// Forgets pattern changes and played steps: what plays now goes on from here.
+    void Restart();
+
+    /// The current pattern into the clipboard, with the bar and the step that were selected.
+    void Copy(const Selection& selection);
+    /// The clipboard into the marked pattern, else bar, else step, else the marked channels. Takes the pattern's mark
+    /// and the edited step from the selection.
+    void Paste(Selection& selection);
+    /// Empties the edited step, else the marked bar, else the marked channels; ends the marks.
+    void Clear(Selection& selection);
+    /// Moves the held steps that hold notes by one, within the selected bar of the selected channel. False when there
+    /// is none.
+    /// direction  -1 or 1
+    bool NudgeHeldSteps(const Selection& selection, const Shared<bool>* stepHeld, int direction);
+
+    /// As in an empty groove; the clipboard stays.
+    void Reset();
+
+    std::array<std::unique_ptr<GroovePattern>, kPatterns> patterns;
+    Shared<std::int32_t> currentPattern; // 0..7
+    Shared<std::int32_t> nextPattern;    // to return to after a play-once pattern
+    Shared<std::int32_t> patternRepeats; // ticks to wait before the return check
+    Shared<bool> playOnce[kPatterns];
+    Shared<std::int32_t> lastStep[kChannels]; // pattern step that last played, its locks stay applied; -1 none
+    std::unique_ptr<GroovePattern> clipboard;
+    Shared<std::int32_t> copiedBar = -1, copiedStep = -1;
+
+private:
+    void PasteInto(GroovePattern& pattern, int channel, const Selection& selection);
+};
+
+} // namespace korvane
