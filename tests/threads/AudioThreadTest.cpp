@@ -102,6 +102,7 @@ TEST_F(AudioThread, SharesTheEngineWithTheOthers)
         for (int n = 0; !done; ++n) {
             Synth().SetTempo(60.0 + n % 200);
             if (n % 50 == 0) Synth().SetPlaying(n % 100 == 0);
+            if (n % 9 == 0) Synth().SetParameter(param::Play, static_cast<float>(n % 2)); // as a MIDI link does
             Synth().QueueEvent(n % 2 ? 0x80 : 0x90, static_cast<std::uint8_t>(n % 128), 100, 0, 7);
             Block(1 + n % kFrames);
             for (const float sample : outputs[0])
@@ -113,7 +114,12 @@ TEST_F(AudioThread, SharesTheEngineWithTheOthers)
     for (int n = 0; n < 400; ++n) {
         for (int k = 0; k < 20; ++k)
             Synth().SetParameter(static_cast<int>(random() % param::Count), static_cast<float>(random() % 5) / 4.0f);
+        Synth().SetPlaying(n % 3 == 0);
+        for (const int transport : {param::Record, param::Play, param::Edit})
+            Synth().SetParameter(transport, static_cast<float>(random() % 2));
         char text[256];
+        Synth().SetProgramName(0, n % 2 ? "odd" : "a name of more than a word");
+        Synth().GetProgramName(0, text);
         Synth().GetParameterDisplay(static_cast<int>(random() % param::Count), text);
         if (n % 20 == 3) {
             state.resize(static_cast<std::size_t>(Synth().GetBankChunk(nullptr)));
@@ -127,6 +133,25 @@ TEST_F(AudioThread, SharesTheEngineWithTheOthers)
     done = true;
     audio.join();
     EXPECT_TRUE(finite);
+}
+
+// Two host threads name the program and ask for its name: each sees one of the names whole.
+TEST_F(AudioThread, NamesAreWhole)
+{
+    const std::string names[] = {std::string(200, 'a'), std::string(90, 'b')};
+    std::atomic<int> torn{0};
+    const auto rename = [&](const std::string& name) {
+        for (int n = 0; n < 2000; ++n) {
+            Synth().SetProgramName(0, name.c_str());
+            const std::string seen = Written([this](char* text) { Synth().GetProgramName(0, text); });
+            torn += seen != names[0] && seen != names[1];
+        }
+    };
+    Synth().SetProgramName(0, names[0].c_str());
+    std::thread other([&] { rename(names[1]); });
+    rename(names[0]);
+    other.join();
+    EXPECT_EQ(torn, 0);
 }
 
 } // namespace

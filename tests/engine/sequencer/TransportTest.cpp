@@ -1,6 +1,9 @@
 // The transport as it is heard: host and buttons, step times, note lengths, locks, and effects that follow the steps.
 #include <gtest/gtest.h>
 
+#include <thread>
+
+#include "content/state/StateImage.h"
 #include "support/Stage.h"
 
 namespace korvane {
@@ -92,6 +95,57 @@ TEST_F(Transport, StepsComeInTime)
         EXPECT_GE(Onset(Left(8)), c.frame) << c.what;
         EXPECT_LE(Onset(Left(8)), c.frame + (c.frame % kStep ? kBlock : 0)) << c.what;
     }
+}
+
+// Orders of another thread wait for the next block, in order, and are read back at once; a start that comes while a
+// state loads is kept.
+TEST_F(Transport, OrdersOfOtherThreadsWaitForTheNextBlock)
+{
+    const auto elsewhere = [](const auto& act) { std::thread(act).join(); };
+    const auto states = [this] {
+        const Clock& clock = Engine().clock;
+        return std::string{clock.playing ? 'p' : '.', clock.recordMode ? 'r' : '.'} +
+               (Synth().GetParameter(param::Play) != 0.0f ? 'P' : '.') +
+               (Synth().GetParameter(param::Record) != 0.0f ? 'R' : '.');
+    };
+    // clang-format off
+    struct Case { const char* what; Writes writes; const char *before, *after; };
+    const Case cases[] = {
+        {"start",              {{param::Play, 1.0f}},                        "..P.", "p.P."},
+        {"twice is once",      {{param::Play, 1.0f}, {param::Play, 1.0f}},   "p.P.", "p.P."},
+        {"stop and start",     {{param::Play, 0.0f}, {param::Play, 1.0f}},   "p.P.", "p.P."},
+        {"record",             {{param::Record, 1.0f}},                      "p.PR", "prPR"},
+        {"another pattern",    {{param::Pattern1 + 1, 1.0f}},                "prP.", "p.P."},
+        {"start and stop",     {{param::Play, 1.0f}, {param::Play, 0.0f}},   "p...", "...."},
+        {"record, then start", {{param::Record, 1.0f}, {param::Play, 1.0f}}, "..PR", "prPR"},
+    };
+    // clang-format on
+    Play(64);
+    for (const Case& c : cases) {
+        elsewhere([&] { Set(c.writes); });
+        EXPECT_EQ(states(), c.before) << c.what;
+        Play(64);
+        EXPECT_EQ(states(), c.after) << c.what;
+    }
+    EXPECT_EQ(Engine().clock.countIn, kStepsPerBar - 1) << "recorded from standstill";
+
+    std::vector<std::uint8_t> state(static_cast<std::size_t>(Synth().GetBankChunk(nullptr)));
+    Synth().GetBankChunk(state.data());
+    Synth().SetPlaying(false);
+    PutStep(8, 0);
+    elsewhere([&] { Synth().SetPlaying(true); });
+    Synth().Reset();
+    Play(3 * kStep);
+    EXPECT_EQ(Onset(Left(8)), 0) << "a reset lets a start stand, and its first tick comes at once";
+    {
+        const CSynthesizer::ProgramSwitch loading(Synth());
+        elsewhere([&] { Synth().SetPlaying(false); });
+        elsewhere([&] { Synth().SetPlaying(true); });
+        LoadState(Engine(), state.data(), static_cast<std::int32_t>(state.size()));
+    }
+    EXPECT_EQ(states(), "....");
+    Play(64);
+    EXPECT_EQ(states(), "p.P.");
 }
 
 /// The sound comes again after `slice` frames, or one frame later, where the slice's phase may end.
