@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "engine/fx/FXUnit.h"
-#include "engine/fx/fxReverb.h"
+#include "engine/fx/reverb/fxReverb.h"
 
 using namespace korvane;
 

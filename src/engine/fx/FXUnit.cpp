@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "engine/fx/fxReverb.h"
+#include "engine/fx/reverb/fxReverb.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 

@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "engine/fx/FXUnit.h"
-#include "engine/fx/fxReverb.h"
+#include "engine/fx/reverb/fxReverb.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "engine/fx/Signals.h"
-#include "engine/fx/fxReverb.h"
+#include "engine/fx/reverb/fxReverb.h"
 
 namespace korvane {
 namespace {

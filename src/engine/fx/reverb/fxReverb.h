@@ -4,9 +4,9 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/fx/ReverbCoefficients.h"
-#include "engine/fx/ReverbParameters.h"
-#include "engine/fx/ReverbTank.h"
+#include "engine/fx/reverb/ReverbCoefficients.h"
+#include "engine/fx/reverb/ReverbParameters.h"
+#include "engine/fx/reverb/ReverbTank.h"
 #include "shell/vst2/AudioEffect.h"
 
 namespace korvane {

@@ -1,5 +1,5 @@
 // Reverb: delay lines, diffusers, branches and taps, a run at a time.
-#include "engine/fx/ReverbTank.h"
+#include "engine/fx/reverb/ReverbTank.h"
 
 #include <algorithm>
 #include <bit>

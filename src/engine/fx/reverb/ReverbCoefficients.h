@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "engine/fx/ReverbParameters.h"
+#include "engine/fx/reverb/ReverbParameters.h"
 
 namespace korvane {
 

@@ -1,5 +1,5 @@
 // Reverb: parameters, coefficients when they change, meters, and the two processes.
-#include "engine/fx/fxReverb.h"
+#include "engine/fx/reverb/fxReverb.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,5 +1,5 @@
 // Reverb coefficients from parameter steps.
-#include "engine/fx/ReverbCoefficients.h"
+#include "engine/fx/reverb/ReverbCoefficients.h"
 
 #include <algorithm>
 #include <cmath>

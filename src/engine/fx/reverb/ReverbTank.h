@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <memory>
 
-#include "engine/fx/ReverbCoefficients.h"
+#include "engine/fx/reverb/ReverbCoefficients.h"
 #include "platform/StereoFrame.h"
 
 namespace korvane {

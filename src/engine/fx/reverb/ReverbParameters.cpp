@@ -1,5 +1,5 @@
 // Reverb parameters: values into steps, steps into texts.
-#include "engine/fx/ReverbParameters.h"
+#include "engine/fx/reverb/ReverbParameters.h"
 
 #include <cmath>
 #include <cstdio>
