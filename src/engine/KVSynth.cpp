@@ -10,6 +10,7 @@
 #include "engine/StepButtons.h"
 #include "engine/Transport.h"
 #include "framework/KVProgram.h"
+#include "framework/Limits.h"
 #include "platform/Numbers.h"
 #include "shell/CPluginDefinition.h"
 #include "shell/CPluginEditor.h"
@@ -72,7 +73,7 @@ void KVSynth::Reset()
 
 void KVSynth::SetSampleRate(double newRate)
 {
-    if (!(newRate >= 1.0 && newRate <= 1.0e6)) return;
+    if (!UsableRate(newRate)) return;
     ProgramSwitch exclusive(*this);
     engine->ResetEngine(static_cast<float>(newRate));
     CSynthesizer::SetSampleRate(newRate);

@@ -22,7 +22,11 @@ inline constexpr int kFirstLayerSlot = kOscillators;
 inline constexpr int kEffects = 10;
 inline constexpr int kStutterButtons = 5;
 inline constexpr int kExtControls = 5;
-inline constexpr int kMaxRun = 512;                 // frames that one render run may have
-inline constexpr int kLiveLengthFrames = 268435455; // length of a note that no clock ends
+inline constexpr int kMaxRun = 512;                              // frames that one render run may have
+inline constexpr int kLiveLengthFrames = 268435455;              // length of a note that no clock ends
+inline constexpr double kLowestRate = 1.0, kHighestRate = 1.0e6; // sample rates in Hz
+
+/// The engine runs at this sample rate; false for NaN.
+constexpr bool UsableRate(double rate) { return rate >= kLowestRate && rate <= kHighestRate; }
 
 } // namespace korvane

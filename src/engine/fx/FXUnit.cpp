@@ -14,9 +14,8 @@ namespace korvane {
 
 namespace {
 
-constexpr float kLowestRate = 1.0f, kHighestRate = 1.0e6f; // Hz
-constexpr float kShortDelaySeconds = 0.002f;               // chorus and panner
-constexpr float kLongDelaySeconds = 1.5f;                  // echo and stutter
+constexpr float kShortDelaySeconds = 0.002f; // chorus and panner
+constexpr float kLongDelaySeconds = 1.5f;    // echo and stutter
 constexpr int kStutterHoldFrames = 202;
 
 /// LFO value at phase p, 0..1; the sine spans -1..1.
@@ -59,7 +58,7 @@ FXUnit::FXUnit(FxType unitType) : type(unitType), bypass(unitType == FxType::Stu
 
 FXUnit::~FXUnit() = default;
 
-bool FXUnit::Usable() const { return sampleRate >= kLowestRate && sampleRate <= kHighestRate; }
+bool FXUnit::Usable() const { return UsableRate(static_cast<double>(sampleRate)); }
 
 void FXUnit::AllocateBuffers()
 {

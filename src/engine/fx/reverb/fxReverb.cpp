@@ -6,11 +6,12 @@
 #include <cstddef>
 #include <cstring>
 
+#include "framework/Limits.h"
+
 namespace korvane {
 
 namespace {
 
-constexpr float kLowestRate = 1.0f, kHighestRate = 1.0e6f; // Hz
 constexpr std::int32_t kClipBlocks = 6;
 
 bool Known(std::int32_t index) { return index >= 0 && index < reverb::Count; }
@@ -65,7 +66,7 @@ void fxReverb::GetParameterName(std::int32_t index, char* text)
 
 void fxReverb::SetSampleRate(float newRate)
 {
-    if (!(newRate >= kLowestRate && newRate <= kHighestRate)) return;
+    if (!UsableRate(static_cast<double>(newRate))) return;
     sampleRate = newRate;
     tank.Allocate(sampleRate);
     coefficients = ComputeReverb(steps, sampleRate);

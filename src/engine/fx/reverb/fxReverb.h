@@ -21,7 +21,7 @@ public:
 
     /// Empties the delay memory; the reverb level starts at its target.
     void Reset() override;
-    /// Reallocates and empties the delay memory; a rate outside 1..1000000 Hz is ignored.
+    /// Reallocates and empties the delay memory; a rate that is not usable (Limits.h) is ignored.
     void SetSampleRate(float newRate) override;
     void ProcessReplacing(float** inputs, float** outputs, std::int32_t frames) override;
     void SetParameter(std::int32_t index, float value) override; // 0..1; an unknown index is ignored
