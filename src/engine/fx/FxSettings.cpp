@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "engine/voice/Lfo.h"
+#include "framework/Beats.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -12,15 +12,22 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSyncFactor = 4.0f; // LFO periods count bars instead of beats
-
-struct StutterSetting {
-    float beats;
+// clang-format off
+constexpr struct {
+    float lengthBeats;
     std::uint8_t reverse;
+} kStutterSettings[] = { // of the codes 1 to 9
+    {beats::One,           0},
+    {beats::ThreeQuarters, 0},
+    {beats::Half,          0},
+    {beats::ThreeEighths,  0},
+    {beats::Quarter,       0},
+    {beats::One,           1},
+    {beats::ThreeQuarters, 1},
+    {beats::Half,          1},
+    {beats::Eighth,        0},
 };
-constexpr StutterSetting kStutterSettings[] = {
-    {1.0f, 0}, {0.75f, 0}, {0.5f, 0}, {0.375f, 0}, {0.25f, 0}, {1.0f, 1}, {0.75f, 1}, {0.5f, 1}, {0.125f, 0},
-};
+// clang-format on
 
 void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
 {
@@ -47,7 +54,7 @@ void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
         unit.lfoAmount = std::copysign(amount * amount, amount);
         unit.lfoShape = Clamp(Truncate(params[slot::FxLfoShape + k] * 3.0f), 0, 3);
         unit.lfoBeats =
-            SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kSyncFactor : 1.0f);
+            SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kBeatsPerBar : 1.0f);
         if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);
     }
     if (params[slot::FxBypassStutter] != 0.0f) stutter.bypass = 1;
@@ -61,15 +68,15 @@ void SetStutter(FXUnit& stutter, std::int8_t& code)
     }
     stutter.bypass = code < 1 || code > 9;
     if (stutter.bypass) return;
-    const StutterSetting& setting = kStutterSettings[code - 1];
-    stutter.lfoBeats = setting.beats;
+    const auto& setting = kStutterSettings[code - 1];
+    stutter.lfoBeats = setting.lengthBeats;
     stutter.reverse = setting.reverse;
 }
 
 void SyncLfo(FXUnit& unit, int stepCounter)
 {
     if (!(unit.lfoBeats > 0.0f)) return;
-    const double periods = stepCounter / (static_cast<double>(unit.lfoBeats) * 4.0);
+    const double periods = stepCounter / (static_cast<double>(unit.lfoBeats) * kStepsPerBeat);
     unit.lfoPhase = periods - std::floor(periods);
 }
 

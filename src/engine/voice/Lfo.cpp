@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/Beats.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -37,12 +38,6 @@ void Lfo::Run(float* values, int frames)
     }
 }
 
-float SyncBeats(float value)
-{
-    constexpr float kBeats[] = {0.125f, 0.25f, 0.375f, 0.5f, 0.75f, 1.0f, 2.0f, 4.0f, 8.0f};
-    return kBeats[Clamp(Truncate(9.0f * value), 0, 8)];
-}
-
 float LfoFrequency(float rateValue, float syncValue, float tempo)
 {
     const int mode = Truncate(2.0f * syncValue);
@@ -51,7 +46,7 @@ float LfoFrequency(float rateValue, float syncValue, float tempo)
         return slow * slow * 25.0f + 0.01f;
     }
     if (!(tempo > 0.0f)) return 0.0f;
-    const float beats = SyncBeats(rateValue) * (mode > 1 ? 4.0f : 1.0f);
+    const float beats = SyncBeats(rateValue) * (mode > 1 ? kBeatsPerBar : 1.0f);
     const float frequency = 1.0f / (beats * 60.0f / tempo);
     return std::isfinite(frequency) ? frequency : 0.0f;
 }

@@ -24,9 +24,6 @@ struct Lfo {
     void Run(float* values, int frames);
 };
 
-/// Length in beats that a position of a rate knob stands for, one of nine from 1/8 to 8.
-float SyncBeats(float value);
-
 /// Cycles per second, >= 0 and finite.
 /// rateValue  0..1: about 25 Hz down to 0.01 Hz when free, else one of nine lengths from 1/8 to 8 beats
 /// syncValue  below 0.5 free; below 1 tempo, the length is a period in beats; from 1 on in bars of four
