@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <numbers>
 
+#include "engine/fx/Tail.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -31,7 +32,6 @@ constexpr std::array<Band, kEqBands> kBands {{
 // clang-format on
 
 constexpr float kRangeDb = 24.0f;
-constexpr float kRingingAbove = 0.0001f;
 
 BandCoefficients Normalised(float b0, float b1, float b2, float a0, float a1, float a2)
 {
@@ -81,13 +81,7 @@ void Equaliser::Process(float* left, float* right, int frames)
 
 void Equaliser::Clear() { states = {}; }
 
-bool Equaliser::Ringing() const
-{
-    return std::any_of(std::begin(states.past) + 1, std::end(states.past), [](Stereo output) {
-        const Stereo level = Magnitude(output);
-        return level[0] > kRingingAbove || level[1] > kRingingAbove;
-    });
-}
+bool Equaliser::Ringing() const { return std::any_of(std::begin(states.past) + 1, std::end(states.past), CanBeHeard); }
 
 bool Equaliser::Silent() const
 {

@@ -9,7 +9,7 @@ namespace korvane {
 
 namespace {
 
-constexpr int kSeamFrames = 192;
+constexpr int kSeamFrames = 192; // 4 ms at 48 kHz, by ear
 
 } // namespace
 

@@ -6,8 +6,8 @@
 
 namespace korvane {
 
-/// Up to 1.5 s of stereo input since the last restart, and the place where the loop plays it. Audio thread; only
-/// Allocate allocates.
+/// The stereo input since the last restart, as much as there is room for, and the place where the loop plays it. Audio
+/// thread; only Allocate allocates.
 class StutterLoop {
 public:
     void Allocate(int newCapacity); // frames
