@@ -113,11 +113,11 @@ bool GrooveChannel::ProcessEffects(float* left, float* right, int frames, float 
 {
     bool audible = soundedThisBlock;
     stutterUnit->Process(left, right, frames, tempo);
-    audible = audible || stutterUnit->HasTail();
+    audible = audible || stutterUnit->audible;
     for (auto& unit : fxUnits) {
         if (!audible) unit->bypass = 1;
         unit->Process(left, right, frames, tempo);
-        audible = audible || unit->HasTail();
+        audible = audible || unit->audible;
     }
     return audible;
 }

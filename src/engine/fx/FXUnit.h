@@ -50,8 +50,6 @@ public:
     /// tempo   beats per minute
     void Process(float* left, float* right, int frames, float tempo);
 
-    bool HasTail() const { return audible != 0; } // see audible
-
     const FxType type;
 
     /// 1 when the effect ran in the last block, be it that it is on, fading out or ringing: what follows it in the rack

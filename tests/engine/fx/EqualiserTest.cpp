@@ -41,7 +41,7 @@ TEST(Equaliser, RingsAndEnds)
     Sound sound = Impulse(40000);
     int end = 0;
     do unit.Run(sound, end, end + kBlock);
-    while (unit.HasTail() && (end += kBlock) < 20000);
+    while (unit.audible && (end += kBlock) < 20000);
     EXPECT_GT(end, kBlock);
     EXPECT_LT(std::fabs(sound.left[end + kBlock - 1]), 0.00011f);
     unit.Run(sound, end + kBlock);

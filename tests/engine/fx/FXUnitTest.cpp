@@ -105,7 +105,7 @@ TEST(FXUnit, PassesTheSignalUntouchedWhenItDoesNotWork)
             Sound sound = input;
             unit.Run(sound, 0, -1, c.tempo);
             EXPECT_TRUE(sound.left == input.left && sound.right == input.right);
-            EXPECT_EQ(unit.HasTail(), type == FxType::Echo && c.bypass); // its tape turns while the channel sounds
+            EXPECT_EQ(unit.audible, type == FxType::Echo && c.bypass); // its tape turns while the channel sounds
         }
 }
 
@@ -126,7 +126,7 @@ TEST(FXUnit, StopsAfterTheFade)
         unit.bypass = 1;
         for (int block = 10; block < 30; ++block) {
             unit.Run(sound, block * kBlock, (block + 1) * kBlock);
-            EXPECT_EQ(unit.HasTail(), block < 10 + blocks) << block;
+            EXPECT_EQ(unit.audible, block < 10 + blocks) << block;
         }
         for (int n = (10 + blocks) * kBlock; n < sound.Frames(); ++n) ASSERT_EQ(sound.left[n], 0.5f) << n;
     }
@@ -144,7 +144,7 @@ TEST(FXUnit, TailsRingOutAndEnd)
         unit.bypass = 1;
         int end = 24000;
         do unit.Run(sound, end, end + kBlock);
-        while (unit.HasTail() && (end += kBlock) < sound.Frames() - kBlock);
+        while (unit.audible && (end += kBlock) < sound.Frames() - kBlock);
         int last = end;
         while (std::max(std::fabs(sound.left[last]), std::fabs(sound.right[last])) <= 0.0001f) --last;
         EXPECT_NEAR(end, last + hold, kBlock + 1);
@@ -171,7 +171,7 @@ TEST(FXUnit, ForgetsEverythingAtAReset)
             used.Run(before);
             used.Reset(kRate);
             used.x = fresh.x;
-            EXPECT_FALSE(used.HasTail());
+            EXPECT_FALSE(used.audible);
             used.Run(after);
             fresh.Run(expected);
             EXPECT_TRUE(after.left == expected.left && after.right == expected.right);
