@@ -72,7 +72,7 @@ void StartLayers(ChannelSound& channel, ChannelVoice& voice)
         layer.envLevel = 0.0f;
         layer.envTarget = kAttackTarget;
         layer.envRate = EnvelopeRate(attack * attack * attack * 250.0f, rate);
-        layer.holdFrames = Truncate(Square(value(slot::LayerHold)) * rate);
+        layer.plateauFrames = Truncate(Square(value(slot::LayerHold)) * rate);
         layer.decayRate = decay >= kNoDecay ? 0.0f : EnvelopeRate(Fourth(decay) * 50.0f, rate);
     }
 }
@@ -148,7 +148,7 @@ int ReadFrames(SamplerLayer& layer, const CWaveSample& sample, float* out, int f
 void RunEnvelope(SamplerLayer& layer, float* gains, int frames)
 {
     float level = layer.envLevel, target = layer.envTarget, rate = layer.envRate;
-    std::int32_t hold = layer.holdFrames;
+    std::int32_t hold = layer.plateauFrames;
     for (int n = 0; n < frames; ++n) {
         level += (target - level) * rate;
         if (level > 1.0f) {
@@ -166,7 +166,7 @@ void RunEnvelope(SamplerLayer& layer, float* gains, int frames)
     layer.envLevel = Flush(level);
     layer.envTarget = target;
     layer.envRate = rate;
-    layer.holdFrames = hold;
+    layer.plateauFrames = hold;
 }
 
 void RenderLayer(SamplerLayer& layer, const CWaveSample& sample, float* left, float* right, int frames)
