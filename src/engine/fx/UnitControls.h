@@ -18,7 +18,7 @@ struct UnitControls {
     double lfoPhase = 0.0;       // 0..1; stutter: position in the slice; the effect moves it
     double lfoIncrement = 0.0;   // phase per frame
     float mix = 0.0f;            // smoothed on-level, 0..1; the effect moves it
-    std::int32_t holdFrames = 0; // frames of tail still to be produced after release; the effect counts them down
+    std::int32_t holdFrames = 0; // frames of tail still to be produced after release; TailLeft counts them down
 
     static constexpr float kOnStep = 0.01f; // of the way that mix goes per frame: 100 frames, by ear
 

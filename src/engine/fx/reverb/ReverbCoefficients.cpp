@@ -23,12 +23,13 @@ constexpr std::array<int, kReflections> kRightReflections = {837, 1423, 2865, 39
 
 constexpr float kAllpassLimit = 0.9999f; // at 1 an allpass would ring for ever
 
+/// The lowest step of a level, -361, is silence.
 float Level(int tenthsOfDb)
 {
     return tenthsOfDb < -360 ? 0.0f : std::pow(10.0f, static_cast<float>(tenthsOfDb) / 200.0f);
 }
 
-/// One-pole lowpass for a step in hundreds of Hz.
+/// One-pole lowpass for a step in hundreds of Hz; the highest, 221, passes everything.
 float LowPass(int step, float rate)
 {
     if (step == 221) return 1.0f;
@@ -36,6 +37,7 @@ float LowPass(int step, float rate)
     return (1.0f - x) + std::sqrt(x * x - 1.0f);
 }
 
+/// Allpass that takes the low end away; off at the lowest step, 19 Hz.
 float LowCut(int frequencyHz, float rate)
 {
     if (frequencyHz <= 19) return 0.0f;
@@ -56,6 +58,7 @@ void SetLengths(ReverbCoefficients& c, const ReverbSteps& steps, float rate)
     c.predelayFrames = std::max(1, static_cast<int>(static_cast<float>(steps[reverb::Predelay]) * rate / 1000.0f));
 }
 
+/// Levels fall with the distance; the right side is weaker, by ear.
 void SetReflections(ReverbCoefficients& c, const ReverbSteps& steps, float rate)
 {
     const float room = rate * (static_cast<float>(steps[reverb::RoomSize]) + 3.0f) / 103.0f;
@@ -92,6 +95,7 @@ void SetDecay(ReverbCoefficients& c, const ReverbSteps& steps, float rate)
     c.decay = g;
     c.bassBoost = (r - 1.0f) * 0.5f;
     c.crossover = std::clamp((t - std::min(r, 1.0f)) / (t + std::min(r, 1.0f)), -kAllpassLimit, kAllpassLimit);
+    // A short decay weakens the taps, each down to a floor of its own; by ear.
     c.w1 = (1.0f - g) * 0.6f + g;
     c.w2 = (1.0f - g) * 0.25f + g;
     c.w3 = (1.0f - g) * 0.7f + g;
