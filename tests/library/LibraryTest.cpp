@@ -8,7 +8,7 @@
 #include <set>
 
 #include "content/CWaveSample.h"
-#include "factory/Synthesis.h"
+#include "factory/sound/Synthesis.h"
 #include "framework/ParameterTable.h"
 #include "support/SynthRig.h"
 

@@ -3,56 +3,25 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <string>
 #include <vector>
 
-#include "Grooves.h"
-#include "Kits.h"
-#include "Parts.h"
-#include "Programs.h"
-#include "WavFile.h"
-#include "Waves.h"
 #include "content/state/ChannelChunk.h"
 #include "content/state/PartImage.h"
 #include "content/state/StateImage.h"
+#include "engine/GrooveEngine.h"
+#include "factory/Bundle.h"
+#include "factory/drums/Kits.h"
+#include "factory/grooves/Grooves.h"
+#include "factory/grooves/Parts.h"
+#include "factory/programs/Programs.h"
+#include "factory/waves/Waves.h"
 
 namespace korvane::factory {
 
 namespace {
 
 namespace fs = std::filesystem;
-
-/// Writes files below the bundle and remembers whether every one could be written.
-class Bundle {
-public:
-    explicit Bundle(fs::path bundleRoot) : root(std::move(bundleRoot)) {}
-
-    fs::path Folder(const char* name)
-    {
-        fs::remove_all(root / name); // what an older build left is no content
-        fs::create_directories(root / name);
-        return root / name;
-    }
-    void Keep(bool written, const fs::path& path)
-    {
-        if (!written) std::fprintf(stderr, "korvane-factory: cannot write %s\n", path.c_str()), complete = false;
-    }
-    void Wav(const fs::path& folder, const char* name, const Sound& sound)
-    {
-        const fs::path path = folder / (std::string(name) + ".wav");
-        Keep(WriteWav(path.string(), sound), path);
-    }
-    void Image(const fs::path& path, const std::vector<std::uint8_t>& image)
-    {
-        std::ofstream file(path, std::ios::binary | std::ios::trunc);
-        file.write(reinterpret_cast<const char*>(image.data()), static_cast<std::streamsize>(image.size()));
-        Keep(static_cast<bool>(file.flush()), path);
-    }
-
-    fs::path root;
-    bool complete = true;
-};
 
 /// The image that one of the engine's savers makes.
 template <class Save>
