@@ -8,6 +8,7 @@
 namespace korvane::factory {
 
 /// Creates or replaces the file. False when it cannot be written.
+/// sound  peaks at full scale or below
 bool WriteWav(const std::string& path, const Sound& sound);
 
 } // namespace korvane::factory
