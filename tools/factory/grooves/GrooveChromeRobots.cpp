@@ -75,12 +75,12 @@ constexpr Lock kLocks[] = {
     {Bass,   A,         0,    127, slot::Modulation,     -0.06, 0.14}, // harder and harder
     {Bass,   B,         0,    127, slot::Modulation,     0.0,   0.18},
     {Bass,   B,         0,    127, slot::MixLevel,       -2.0,  -2.0},
-    {Bass,   B,         96,   127, GlueOf(Fx::Crush),    1.0,   1.0},
+    {Bass,   B,         96,   127, GlueOf(Fx::Decimator),    1.0,   1.0},
     {Bass,   C,         64,   127, slot::Modulation,     -0.10, 0.20},
-    {Chip,   A,         0,    127, X(Fx::Crush),         0.0,   -0.30},
+    {Chip,   A,         0,    127, X(Fx::Decimator),         0.0,   -0.30},
     {Chip,   C,         0,    127, slot::AmpLevel,       -9.0,  0.0},
     {Chip,   B | C,     0,    127, X(Fx::Echo),          -0.15, 0.20},
-    {Robot,  A | B,     24,   31,  X(Fx::Crush),         0.2,   0.2},
+    {Robot,  A | B,     24,   31,  X(Fx::Decimator),         0.2,   0.2},
     {Hat,    A | B,     0,    127, slot::LayerDecay,     -0.02, 0.01},
     {Hat,    D,         0,    15,  slot::Pitch,          0.0,   8.0},
     {Snare,  C,         112,  127, slot::Pitch,          0.0,   9.0},
@@ -95,7 +95,7 @@ constexpr Lock kLocks[] = {
 
 constexpr Glued kEffects[] = {
     {Snare,  {Fx::Echo, 0.60, 0.45, 0.375}}, // X, Y, beats, LFO
-    {Bass,   {Fx::Crush, 0.62, 0.75}},
+    {Bass,   {Fx::Decimator, 0.62, 0.75}},
     {Bass,   {Fx::HighPass, 0.0, 0.0}}, // frequency modulation leaves DC
     {Bell,   {Fx::Echo, 0.45, 0.45, 0.75}},
     {Laser,  {Fx::Echo, 0.62, 0.50, 0.5}},
@@ -104,14 +104,14 @@ constexpr Glued kEffects[] = {
 };
 
 constexpr Knob kKnobs[] = {
-    {Snare,  GlueOf(Fx::Echo),  0.0}, {Bass,   GlueOf(Fx::Crush), 0.0}, // thrown by the locks
+    {Snare,  GlueOf(Fx::Echo),  0.0}, {Bass,   GlueOf(Fx::Decimator), 0.0}, // thrown by the locks
     {Hat,    slot::LayerDecay,  0.28}, // longer than the program's, and so softer
     {Bass,   slot::SlideTime,   0.55},
     {Arcade, slot::SlideEnable, 0.0},  {Arcade, slot::SlideTime, 0.5}, // only marked notes glide
 };
 
 constexpr Handle kHandles[] = {
-    {Bass, slot::Modulation}, {Bass, GlueOf(Fx::Crush)}, {Chip, X(Fx::Echo)}, {Phase, X(Fx::Phaser)},
+    {Bass, slot::Modulation}, {Bass, GlueOf(Fx::Decimator)}, {Chip, X(Fx::Echo)}, {Phase, X(Fx::Phaser)},
     {Kick, slot::Pitch},
 };
 // clang-format on

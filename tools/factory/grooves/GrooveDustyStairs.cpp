@@ -86,7 +86,7 @@ constexpr Lock kLocks[] = {
 
 constexpr Glued kEffects[] = {
     {Snare,  {Fx::Reverb, 0.60, 0.40}}, // X, Y, beats, LFO
-    {Hat,    {Fx::Crush, 0.85, 0.85}},
+    {Hat,    {Fx::Decimator, 0.85, 0.85}},
     {Keys,   {Fx::Phaser, 0.18, 0.15, 16.0, 0.6}},
     {Vibes,  {Fx::Echo, 0.60, 0.42, 0.75}},
     {Guitar, {Fx::Echo, 0.45, 0.40, 0.5}},
@@ -101,7 +101,7 @@ constexpr Knob kKnobs[] = {
 
 constexpr Handle kHandles[] = {
     {Keys, slot::FilterCutoff}, {Keys, X(Fx::Phaser)}, {Bass, slot::FilterCutoff}, {Vibes, GlueOf(Fx::Echo)},
-    {Hat, X(Fx::Crush)},
+    {Hat, X(Fx::Decimator)},
 };
 // clang-format on
 

@@ -67,7 +67,7 @@ public:
     void Place(const Glued& glued)
     {
         Patch patch(engine, glued.channel);
-        synth::Apply(glued.effect, patch);
+        Glue(patch, glued.effect);
     }
 
     void Place(const Handle& handle, int n)
@@ -78,10 +78,7 @@ public:
         control.value = static_cast<float>(engine.storedParams[handle.channel][handle.slotIndex]);
     }
 
-    void Store(int channel, int slotIndex, double value)
-    {
-        Patch(engine, channel).Set(slotIndex, static_cast<float>(value));
-    }
+    void Store(int channel, int slotIndex, double value) { Patch(engine, channel).Set(slotIndex, value); }
 
 private:
     void Place(const Hit& hit, int channel, GroovePattern& pattern, int bar)

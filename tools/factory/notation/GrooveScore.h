@@ -4,13 +4,12 @@
 #include <span>
 
 #include "engine/GrooveEngine.h"
-#include "factory/words/SynthSound.h"
+#include "factory/words/ChannelWords.h"
 #include "framework/ParameterTable.h"
 
 namespace korvane::factory::groove {
 
-using synth::Fx;
-using enum synth::LfoShape;
+using enum LfoShape;
 
 // The patterns of a groove, added up where a row stands in several.
 inline constexpr unsigned A = 1, B = 2, C = 4, D = 8, E = 16, F = 32;
@@ -65,7 +64,7 @@ struct Knob {
 /// An effect that the program does not have, or not so.
 struct Glued {
     int channel;
-    synth::Effect effect;
+    Effect effect;
 };
 
 /// What one of "EXT Ctrl 1" to "EXT Ctrl 5" turns.

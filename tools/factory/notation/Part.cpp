@@ -9,7 +9,7 @@ void Write(const Part& part, GrooveEngine& engine)
 {
     const Clip clip{part.track.channel, A, part.bars};
     std::vector<Glued> effects;
-    for (const synth::Effect& effect : part.effects) effects.push_back({part.track.channel, effect});
+    for (const Effect& effect : part.effects) effects.push_back({part.track.channel, effect});
     const Knob glide{part.track.channel, slot::SlideEnable, 0.0}; // only marked notes glide
     groove::Write({.tracks = {&part.track, 1},
                    .clips = {&clip, 1},

@@ -12,7 +12,7 @@ struct Part {
     groove::Track track; // on the first sampler or synth channel
     const char* bars;    // as in a clip
     std::vector<groove::Lock> locks;
-    std::vector<synth::Effect> effects;
+    std::vector<Effect> effects;
 };
 
 /// Puts the part into an empty groove, its channel selected.

@@ -9,12 +9,12 @@ using enum FilterType;
 using enum LfoShape;
 
 // clang-format off
-constexpr SynthSound kSounds[] = {
+const SynthSound kSounds[] = {
     {.name = "Electric Piano", .levelDb = 2.0,
      .oscillators = {{"Sine"}, {"Sine", 0, 0, 0.0}, {"FM Tine", 0, 1, 0.35}},
      .unison = {.restarts = true},
      .modulation = {ModKind::Phase, 0.10}, .filter = {LowPass, 0.94, 0.0, 0.6}, .amp = {0.0, 0.72, 0.0, 0.35},
-     .envelopes = {{To::Modulation, 0.36, 0.0, 0.42}, {To::Cutoff, 0.30, 0.0, 0.30}},
+     .envelopes = {{to::ModAmount, 0.36, 0.0, 0.42}, {to::Cutoff, 0.30, 0.0, 0.30}},
      .velocity = {Target::Env1Amount, 0.14}, .wheel = {Target::Modulation, 0.20},
      .effects = {{Fx::Reverb, 0.34, 0.50}}},
 
@@ -22,7 +22,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Sub Round"}, {"Sine", 0, 3, 0.8}, {"Bell Kalimba", 12, 0, 0.30}},
      .unison = {.restarts = true},
      .filter = {LowPass, 0.80, 0.05, 0.7}, .amp = {0.08, 0.76, 0.0, 0.35},
-     .envelopes = {{To::Cutoff, 0.40, 0.0, 0.30}},
+     .envelopes = {{to::Cutoff, 0.40, 0.0, 0.30}},
      .velocity = {Target::Cutoff, 0.10}, .wheel = {Target::Cutoff, 0.15},
      .effects = {{Fx::Panner, 0.5, 0.7, 0.375, 0.60}}},
 
@@ -30,7 +30,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Piano", 0, -1}, {"Piano", 0, 1, 0.9}, {"Triangle", 12, 0, 0.12}}, .noise = 0.015,
      .unison = {.restarts = true},
      .filter = {LowPass, 0.76, 0.0, 0.8}, .amp = {0.0, 0.74, 0.0, 0.30},
-     .envelopes = {{To::Cutoff, 0.46, 0.0, 0.34}},
+     .envelopes = {{to::Cutoff, 0.46, 0.0, 0.34}},
      .velocity = {Target::Cutoff, 0.10}, .wheel = {Target::Cutoff, -0.20},
      .effects = {{Fx::Reverb, 0.38, 0.55}}, .eqDb = {1.0, 0.0, -1.0, 2.0, 0.0}},
 
@@ -38,7 +38,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Piano", 0, -6}, {"Saw", 0, 7, 0.7}, {"Piano", 12, 4, 0.4}}, .noise = 0.01,
      .unison = {3, 0.24, 0.6, true, 0.37},
      .filter = {LowPass, 0.86, 0.05, 0.3}, .amp = {0.06, 0.72, 0.0, 0.22},
-     .envelopes = {{To::Cutoff, 0.40, 0.0, 0.26}},
+     .envelopes = {{to::Cutoff, 0.40, 0.0, 0.26}},
      .velocity = {Target::Cutoff, 0.06}, .wheel = {Target::Cutoff, -0.25},
      .effects = {{Fx::Reverb, 0.40, 0.60}}, .eqDb = {-2.0, 0.0, 1.0, 3.0, 1.0}},
 
@@ -46,7 +46,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Organ Jazz", 12}, {"Organ Ballad", 0, 0, 0.5}, {"Sine", 31, 2, 0.12}},
      .playing = {.dynamic = false},
      .filter = {LowPass, 0.92, 0.0, 0.5}, .amp = {0.05, 0.35, 0.90, 0.10},
-     .lfos = {{To::Pitch, 0.07, Hz(6.4)}, {To::Fourth, -0.30, Hz(6.4), Triangle}},
+     .lfos = {{to::Pitch, 0.07, Hz(6.4)}, {to::Amplitude, -0.30, Hz(6.4), Triangle}},
      .wheel = {Target::Lfo2Amount, 0.20},
      .effects = {{Fx::Panner, 0.5, 0.35, 0.25, 0.5}, {Fx::Reverb, 0.35, 0.50}}},
 
@@ -68,7 +68,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Pulse 12"}, {"Pulse 25", 12, 3, 0.5}},
      .unison = {.restarts = true},
      .filter = {BandPass, 0.72, 0.35, 0.7}, .amp = {0.0, 0.55, 0.0, 0.08},
-     .envelopes = {{To::Cutoff, -0.22, 0.0, 0.24}},
+     .envelopes = {{to::Cutoff, -0.22, 0.0, 0.24}},
      .velocity = {Target::Env1Amount, 0.12}, .wheel = {Target::Cutoff, 0.20},
      .effects = {{Fx::Phaser, 0.35, 0.35, 4.0, 0.6}}, .eqDb = {0.0, 2.0, 0.0, 3.0, 0.0}},
 
@@ -83,7 +83,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Bell Celesta", 12}, {"Sine", 12, 4, 0.4}},
      .unison = {.restarts = true},
      .filter = {LowPass, 0.98, 0.0, 0.5}, .amp = {0.0, 0.66, 0.0, 0.45},
-     .envelopes = {{To::Cutoff, 0.34, 0.0, 0.25}},
+     .envelopes = {{to::Cutoff, 0.34, 0.0, 0.25}},
      .velocity = {Target::Cutoff, 0.06}, .wheel = {Target::AmpDecay, 0.15},
      .effects = {{Fx::Reverb, 0.50, 0.70}}},
 
@@ -98,7 +98,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Sine", 12}, {"Sine", 36, 0, 0.25}, {"Sub Round", 12, 2, 0.4}},
      .unison = {.restarts = true},
      .filter = {LowPass, 0.86, 0.0, 0.5}, .amp = {0.08, 0.78, 0.0, 0.60},
-     .envelopes = {{To::Cutoff, 0.32, 0.0, 0.20}}, .lfos = {{To::Fourth, -0.42, Hz(5.4), Triangle}},
+     .envelopes = {{to::Cutoff, 0.32, 0.0, 0.20}}, .lfos = {{to::Amplitude, -0.42, Hz(5.4), Triangle}},
      .velocity = {Target::Cutoff, 0.08}, .wheel = {Target::Lfo1Amount, 0.20},
      .effects = {{Fx::Reverb, 0.52, 0.60}}},
 
@@ -106,7 +106,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Sine"}, {"Sine", 28, -14, 0.0}, {"Bell Chime", 0, 5, 0.2}},
      .unison = {2, 0.22, 0.8, true},
      .modulation = {ModKind::Phase, 0.18}, .filter = {LowPass, 1.00, 0.0, 0.3}, .amp = {0.0, 0.70, 0.15, 0.50},
-     .envelopes = {{To::Modulation, 0.40, 0.0, 0.32}},
+     .envelopes = {{to::ModAmount, 0.40, 0.0, 0.32}},
      .velocity = {Target::Env1Amount, 0.12}, .wheel = {Target::Modulation, 0.25},
      .effects = {{Fx::Echo, 0.36, 0.55, 0.75}, {Fx::Reverb, 0.55, 0.75}}},
 };

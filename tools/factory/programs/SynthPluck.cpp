@@ -9,12 +9,12 @@ using enum FilterType;
 using enum LfoShape;
 
 // clang-format off
-constexpr SynthSound kSounds[] = {
+const SynthSound kSounds[] = {
     {.name = "Trance Pluck", .levelDb = 8.25,
      .oscillators = {{"Saw"}, {"Saw", 12, 5, 0.6}},
      .unison = {5, 0.38, 0.7},
      .filter = {LowPass, 0.60, 0.20, 0.5}, .amp = {0.0, 0.54, 0.0, 0.30},
-     .envelopes = {{To::Cutoff, 0.62, 0.0, 0.26}},
+     .envelopes = {{to::Cutoff, 0.62, 0.0, 0.26}},
      .velocity = {Target::Env1Amount, 0.08}, .wheel = {Target::Env1Decay, 0.25}, .pressure = {Target::Cutoff, 0.15},
      .effects = {{Fx::Echo, 0.50, 0.45, 0.75}, {Fx::Reverb, 0.48, 0.60}}, .eqDb = {-4.0, 0.0, 0.0, 1.0, 2.0}},
 
@@ -22,7 +22,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Harp"}, {"Triangle", 0, 3, 0.6}}, .noise = 0.02,
      .unison = {.restarts = true},
      .filter = {LowPass, 0.76, 0.0, 0.8}, .amp = {0.0, 0.64, 0.0, 0.55},
-     .envelopes = {{To::Cutoff, 0.42, 0.0, 0.22}},
+     .envelopes = {{to::Cutoff, 0.42, 0.0, 0.22}},
      .velocity = {Target::Cutoff, 0.10}, .wheel = {Target::Cutoff, 0.15},
      .effects = {{Fx::Reverb, 0.55, 0.55}}},
 
@@ -30,7 +30,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Harp"}, {"Soft Saw", 0, -2, 0.8}, {"Dark Bottle", 0, 2, 0.4}}, .noise = 0.05,
      .unison = {.restarts = true},
      .filter = {LowPass, 0.72, 0.15, 0.7}, .amp = {0.05, 0.56, 0.0, 0.25},
-     .envelopes = {{To::Cutoff, 0.48, 0.0, 0.14}, {To::Pitch, 0.12, 0.0, 0.08}},
+     .envelopes = {{to::Cutoff, 0.48, 0.0, 0.14}, {to::Pitch, 0.12, 0.0, 0.08}},
      .velocity = {Target::Env1Amount, 0.10}, .wheel = {Target::Cutoff, 0.20},
      .effects = {{Fx::Reverb, 0.36, 0.40}}, .eqDb = {0.0, 2.0, 0.0, 0.0, 0.0}},
 
@@ -38,7 +38,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Bell Kalimba", 12}, {"Sine", 12, 0, 0.5}}, .noise = 0.03,
      .unison = {.restarts = true},
      .filter = {LowPass, 0.78, 0.05, 0.8}, .amp = {0.0, 0.55, 0.0, 0.40},
-     .envelopes = {{To::Cutoff, 0.55, 0.0, 0.14}},
+     .envelopes = {{to::Cutoff, 0.55, 0.0, 0.14}},
      .velocity = {Target::Cutoff, 0.08}, .wheel = {Target::AmpDecay, 0.15},
      .effects = {{Fx::Reverb, 0.42, 0.50}}},
 
@@ -46,7 +46,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Sine"}, {"Sine", 24, 0, 0.0}, {"Sine", 0, 2, 0.3}},
      .unison = {.restarts = true},
      .modulation = {ModKind::Phase, 0.05}, .filter = {LowPass, 0.80, 0.0, 0.7}, .amp = {0.0, 0.48, 0.0, 0.35},
-     .envelopes = {{To::Modulation, 0.38, 0.0, 0.10}, {To::Cutoff, 0.30, 0.0, 0.08}},
+     .envelopes = {{to::ModAmount, 0.38, 0.0, 0.10}, {to::Cutoff, 0.30, 0.0, 0.08}},
      .velocity = {Target::Env1Amount, 0.10}, .wheel = {Target::AmpDecay, 0.15},
      .effects = {{Fx::Reverb, 0.45, 0.45}}},
 
@@ -54,7 +54,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Strings", 0, 2}, {"Soft Saw", 0, 9, 0.7}, {"Strings", 0, -10, 0.7}}, .noise = 0.04,
      .unison = {3, 0.30, 0.8},
      .filter = {LowPass, 0.72, 0.10, 0.7}, .amp = {0.08, 0.46, 0.0, 0.28},
-     .envelopes = {{To::Cutoff, 0.42, 0.0, 0.14}},
+     .envelopes = {{to::Cutoff, 0.42, 0.0, 0.14}},
      .velocity = {Target::Env1Amount, 0.10}, .wheel = {Target::Cutoff, 0.20},
      .effects = {{Fx::Reverb, 0.60, 0.50}}},
 
@@ -62,7 +62,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Bright Pins"}, {"Pulse 12", 0, 3, 0.5}, {"Harp", 12, -2, 0.4}}, .noise = 0.02,
      .unison = {.restarts = true},
      .filter = {LowPass, 0.78, 0.10, 0.4}, .amp = {0.0, 0.58, 0.0, 0.35},
-     .envelopes = {{To::Cutoff, 0.36, 0.0, 0.20}, {To::Pitch, 0.18, 0.0, 0.14}},
+     .envelopes = {{to::Cutoff, 0.36, 0.0, 0.20}, {to::Pitch, 0.18, 0.0, 0.14}},
      .velocity = {Target::Env2Amount, 0.10}, .wheel = {Target::Cutoff, 0.15},
      .effects = {{Fx::Reverb, 0.45, 0.60}}},
 
@@ -70,7 +70,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Sine", 12}, {"Sine", 31, 12, 0.0}, {"Bell Glass", 12, 4, 0.3}},
      .unison = {2, 0.20, 0.8, true},
      .modulation = {ModKind::Phase, 0.12}, .amp = {0.0, 0.58, 0.0, 0.50},
-     .envelopes = {{To::Modulation, 0.45, 0.0, 0.22}},
+     .envelopes = {{to::ModAmount, 0.45, 0.0, 0.22}},
      .velocity = {Target::Env1Amount, 0.10}, .wheel = {Target::Modulation, 0.30},
      .effects = {{Fx::Echo, 0.48, 0.60, 0.75}, {Fx::Reverb, 0.60, 0.75}}},
 
@@ -78,15 +78,15 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Square", 12}, {"Pulse 25", 12, 0, 0.7}},
      .playing = {.dynamic = false}, .unison = {.restarts = true},
      .amp = {0.0, 0.40, 0.0, 0.10},
-     .envelopes = {{To::Pitch, 0.70, 0.0, 0.02}},
+     .envelopes = {{to::Pitch, 0.70, 0.0, 0.02}},
      .wheel = {Target::AmpDecay, 0.20},
-     .effects = {{Fx::Crush, 0.62, 0.90}, {Fx::Echo, 0.40, 0.50, 0.5}}},
+     .effects = {{Fx::Decimator, 0.62, 0.90}, {Fx::Echo, 0.40, 0.50, 0.5}}},
 
     {.name = "Muted Guitar", .levelDb = 13.75,
      .oscillators = {{"Saw"}, {"Pulse 25", 0, -3, 0.7}, {"Saw", 12, 4, 0.3}}, .noise = 0.03,
      .unison = {.restarts = true},
      .filter = {LowPass, 0.64, 0.30, 0.6}, .amp = {0.0, 0.42, 0.0, 0.16},
-     .envelopes = {{To::Cutoff, 0.55, 0.0, 0.10}},
+     .envelopes = {{to::Cutoff, 0.55, 0.0, 0.10}},
      .velocity = {Target::Env1Amount, 0.10}, .wheel = {Target::Env1Decay, 0.25},
      .effects = {{Fx::Distortion, 0.14, 0.62}, {Fx::Chorus, 0.45, 0.15, 8.0, 0.4}}},
 
@@ -94,7 +94,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Bell Tower", 12}, {"Bell Chime", 0, 6, 0.3}, {"Sine", 12, -4, 0.4}},
      .unison = {.restarts = true},
      .filter = {LowPass, 0.96, 0.0, 0.4}, .amp = {0.0, 0.72, 0.0, 0.75},
-     .envelopes = {{To::Cutoff, 0.30, 0.0, 0.36}},
+     .envelopes = {{to::Cutoff, 0.30, 0.0, 0.36}},
      .velocity = {Target::Cutoff, 0.06}, .wheel = {Target::Cutoff, -0.30},
      .effects = {{Fx::Echo, 0.42, 0.55, 1.0}, {Fx::Reverb, 0.66, 0.65}}},
 
@@ -102,7 +102,7 @@ constexpr SynthSound kSounds[] = {
      .oscillators = {{"Saw"}, {"Saw", 3, 4, 0.9}, {"Saw", 7, -4, 0.9}},
      .unison = {2, 0.25, 0.6},
      .filter = {BandPass, 0.64, 0.45, 0.3}, .amp = {0.0, 0.46, 0.0, 0.30},
-     .envelopes = {{To::Cutoff, 0.40, 0.0, 0.22}},
+     .envelopes = {{to::Cutoff, 0.40, 0.0, 0.22}},
      .velocity = {Target::Cutoff, 0.08}, .wheel = {Target::Cutoff, 0.25},
      .effects = {{Fx::Distortion, 0.30, 0.70}, {Fx::Echo, 0.72, 0.36, 0.75}, {Fx::Reverb, 0.55, 0.40}}},
 };

@@ -1,26 +1,34 @@
 // The channel that a program is written into.
 #include "factory/words/Patch.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace korvane::factory {
 
-Patch& Patch::Set(int slotIndex, float value)
+void Patch::Set(int slotIndex, double value) { engine.storedParams[channel][slotIndex] = static_cast<float>(value); }
+
+void Patch::Whole(int slotIndex, int number, double centre, double span)
 {
-    engine.storedParams[channel][slotIndex] = value;
-    return *this;
+    const double half = number > 0 ? 0.5 : number < 0 ? -0.5 : 0.0;
+    Set(slotIndex, std::fmin(1.0, std::fmax(0.0, (number + half + centre) / span)));
 }
 
-Patch& Patch::Wave(int oscillator, const char* name) { return File(oscillator - 1, name); }
+void Patch::Signed(int knob, int inverting, double amount)
+{
+    Set(knob, std::fabs(amount));
+    Switch(inverting, amount < 0.0);
+}
 
-Patch& Patch::Sample(int layer, const char* name) { return File(kFirstLayerSlot + layer - 1, name); }
+void Patch::Wave(int oscillator, const char* name) { File(oscillator - 1, name); }
 
-Patch& Patch::File(int sampleSlot, const char* name)
+void Patch::Sample(int layer, const char* name) { File(kFirstLayerSlot + layer - 1, name); }
+
+void Patch::File(int sampleSlot, const char* name)
 {
     char path[64]; // a file name alone: the instrument finds it in its own folders
     std::snprintf(path, sizeof path, "\\%s.wav", name);
     engine.Channel(channel).sound.sampleSlots[static_cast<std::size_t>(sampleSlot)].path.Set(path);
-    return *this;
 }
 
 } // namespace korvane::factory

@@ -7,20 +7,26 @@
 
 namespace korvane::factory {
 
-/// Files are named without folder and extension: what is stored resolves through the instrument's search by file name,
-/// wherever the bundle lies.
+/// Sets parameters by slot:: index, banked slots with their bank added. Files are named without folder and extension:
+/// what is stored resolves through the instrument's search by file name, wherever the bundle lies.
 class Patch {
 public:
     Patch(GrooveEngine& owner, int whichChannel) : engine(owner), channel(whichChannel) {}
 
-    /// slotIndex  from slot::, banked slots with their bank added
-    /// value      0..1
-    Patch& Set(int slotIndex, float value);
-    Patch& Wave(int oscillator, const char* name); // oscillator 1..3, a single cycle of "Synth Waves"
-    Patch& Sample(int layer, const char* name);    // layer 1..4, a one-shot of "Drum Samples"
+    void Set(int slotIndex, double value); // 0..1
+    void Switch(int slotIndex, bool on) { Set(slotIndex, on ? 1.0 : 0.0); }
+    /// Position p of a control with positions 0..last.
+    void Position(int slotIndex, int p, int last) { Set(slotIndex, static_cast<double>(p) / last); }
+    /// A whole number that the engine truncates out of value * span - centre; set half a step above it.
+    void Whole(int slotIndex, int number, double centre, double span);
+    /// A knob and the switch that gives it a minus.
+    void Signed(int knob, int inverting, double amount);
+
+    void Wave(int oscillator, const char* name); // oscillator 1..3, a single cycle of "Synth Waves"
+    void Sample(int layer, const char* name);    // layer 1..4, a one-shot of "Drum Samples"
 
 private:
-    Patch& File(int sampleSlot, const char* name);
+    void File(int sampleSlot, const char* name);
 
     GrooveEngine& engine;
     int channel;

@@ -39,11 +39,9 @@ double AmpGain(double db) { return Value(0.5 + db / 50.0); }
 double NoteLength(double beats) { return Value(std::log2(8.0 * beats) / 8.0); }
 double AmpRelease(double seconds) { return Value((std::cbrt(TimeOf(seconds, kFall) / 25.0) - 0.1) / 0.55); }
 
-void Set(Patch& patch, int slotIndex, double value) { patch.Set(slotIndex, static_cast<float>(value)); }
-
 void SetLayer(Patch& patch, int index, const Layer& layer)
 {
-    const auto set = [&patch, index](int bank, double value) { Set(patch, bank + index, value); };
+    const auto set = [&patch, index](int bank, double value) { patch.Set(bank + index, value); };
     patch.Sample(index + 1, layer.sample);
     set(slot::LayerLevel, LayerLevel(layer.level));
     set(slot::LayerPan, Value(0.5 + 0.5 * layer.pan));
@@ -73,11 +71,11 @@ double LfoFree(double hz) { return Value(1.0 - std::sqrt((hz - 0.01) / 25.0)); }
 
 void Apply(const SamplerProgram& program, Patch& patch)
 {
-    Set(patch, slot::AmpLevel, AmpGain(program.gain));
-    Set(patch, slot::NoteLength, NoteLength(program.length));
-    Set(patch, slot::AmpRelease, AmpRelease(program.fade));
+    patch.Set(slot::AmpLevel, AmpGain(program.gain));
+    patch.Set(slot::NoteLength, NoteLength(program.length));
+    patch.Set(slot::AmpRelease, AmpRelease(program.fade));
     for (std::size_t n = 0; n < program.layers.size(); ++n) SetLayer(patch, static_cast<int>(n), program.layers[n]);
-    for (const Setting& setting : program.settings) Set(patch, setting.slotIndex, setting.value);
+    for (const Setting& setting : program.settings) patch.Set(setting.slotIndex, setting.value);
 }
 
 } // namespace korvane::factory

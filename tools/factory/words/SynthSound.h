@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "factory/words/Patch.h"
+#include "engine/voice/SynthKernel.h"
+#include "factory/words/ChannelWords.h"
 
 namespace korvane::factory::synth {
 
@@ -23,8 +24,9 @@ struct Unison {
     double phase = 0.0;    // cycles between neighbouring voices then
 };
 
+using ModKind = OscillatorModulation;
+
 /// Oscillator 2 acting on oscillator 1.
-enum class ModKind { Sync, Phase, Amplitude };
 struct Modulation {
     ModKind kind = ModKind::Sync;
     double amount = 0.0; // knob; sync raises to 4 times the pitch, phase goes up to 12 radians
@@ -33,69 +35,8 @@ struct Modulation {
     bool restarts = false; // oscillators 1 and 2 start near phase 0
 };
 
-enum class FilterType { LowPass, BandPass, HighPass };
-struct Filter {
-    FilterType type = FilterType::LowPass;
-    double cutoff = 1.0; // knob; 12 dB down at 14 Hz for 0, an octave higher every 0.102
-    double resonance = 0.0;
-    double tracking = 0.0; // knob; 1 follows the keys
-};
-
 struct Amplifier { // knobs
     double attack = 0.0, decay = 1.0, sustain = 1.0, release = 0.1;
-};
-
-/// Pitch: 24 semitones times amount squared for an envelope, 12 for an LFO. Fourth: an envelope shapes the depth of the
-/// LFO of the same number, an LFO acts on the level.
-enum class To { Cutoff, Modulation, Pitch, Fourth };
-
-struct EnvelopeSetting {
-    To to = To::Cutoff;
-    double amount = 0.0; // knob, -1..1, squared by the engine with its sign
-    double attack = 0.0; // knob
-    double decay = 1.0;  // knob
-};
-
-/// Hz or beats.
-struct Rate {
-    double hz = 1.0;
-    double beats = 0.0; // 1/8, 1/4, 3/8, 1/2, 3/4, 1, 2, 4, 8 and four times these; 0: free
-};
-constexpr Rate Hz(double hz) { return {hz, 0.0}; }
-constexpr Rate Beats(double beats) { return {0.0, beats}; }
-
-enum class LfoShape { Sine, Triangle, Ramp, Square }; // all but the sine are unipolar; the ramp falls
-
-struct LfoSetting {
-    To to = To::Cutoff;
-    double amount = 0.0; // knob, -1..1, squared by the engine with its sign
-    Rate rate = {};
-    LfoShape shape = LfoShape::Sine;
-    bool restarts = false; // with every note
-};
-
-/// What velocity, wheel and pressure may move.
-enum class Target : int {
-    None = 0,
-    Cutoff = 1,
-    Resonance = 2,
-    Modulation = 4,
-    Env1Attack = 6,
-    Env1Decay = 7,
-    Env1Amount = 8,
-    Env2Attack = 10,
-    Env2Decay = 11,
-    Env2Amount = 12,
-    Lfo1Rate = 14,
-    Lfo1Amount = 15,
-    Lfo2Rate = 17,
-    Lfo2Amount = 18,
-    AmpAttack = 20,
-    AmpDecay = 21,
-};
-struct Route {
-    Target target = Target::None;
-    double amount = 0.0; // -1..1, added to the knob at full velocity, wheel or pressure
 };
 
 struct Playing {
@@ -106,35 +47,23 @@ struct Playing {
     bool dynamic = true; // live notes are as loud as they are struck
 };
 
-/// An effect that is glued on. X and Y as on the pad.
-enum class Fx { None = -1, Distortion, Crush, Chorus, Phaser, LowPass, HighPass, Echo, Reverb, Panner, Pump };
-struct Effect {
-    Fx unit = Fx::None;
-    double x = 0.5, y = 0.5;
-    double beats = 1.0;              // of its LFO, and the echo's time
-    double lfo = 0.0;                // -1..1, squared by the engine with its sign
-    LfoShape shape = LfoShape::Sine; // here the ramp rises
-};
-
 struct SynthSound {
     const char* name;
     double levelDb = 0.0; // "CHN: Amp Level", -25..25
-    Oscillator oscillators[3] = {};
+    Oscillator oscillators[kOscillators] = {};
     double noise = 0.0; // level, as those of the oscillators
     Playing playing = {};
     Unison unison = {};
     Modulation modulation = {};
-    Filter filter = {};
+    FilterSetting filter = {};
     Amplifier amp = {};
     EnvelopeSetting envelopes[2] = {};
     LfoSetting lfos[2] = {};
     Route velocity = {}, wheel = {}, pressure = {};
-    Effect effects[4] = {};
-    double eqDb[5] = {}; // 80 Hz shelf, 220, 1200 and 6000 Hz, 12 kHz shelf; -12..12
+    std::vector<Effect> effects = {};
+    EqDb eqDb = {};
 };
 
-/// Glues the effect on; no other parameter changes.
-void Apply(const Effect& effect, Patch& patch);
 /// Sets a reset channel to the sound.
 void Apply(const SynthSound& sound, Patch& patch);
 
