@@ -71,26 +71,26 @@ constexpr Clip kClips[] = {
 };
 
 constexpr Lock kLocks[] = {
-//   channel patterns   first last slot                  from   to
-    {Bass,   A,         0,    127, slot::Modulation,     -0.06, 0.14}, // harder and harder
-    {Bass,   B,         0,    127, slot::Modulation,     0.0,   0.18},
-    {Bass,   B,         0,    127, slot::MixLevel,       -2.0,  -2.0},
-    {Bass,   B,         96,   127, GlueOf(Fx::Decimator),    1.0,   1.0},
-    {Bass,   C,         64,   127, slot::Modulation,     -0.10, 0.20},
-    {Chip,   A,         0,    127, X(Fx::Decimator),         0.0,   -0.30},
-    {Chip,   C,         0,    127, slot::AmpLevel,       -9.0,  0.0},
-    {Chip,   B | C,     0,    127, X(Fx::Echo),          -0.15, 0.20},
-    {Robot,  A | B,     24,   31,  X(Fx::Decimator),         0.2,   0.2},
-    {Hat,    A | B,     0,    127, slot::LayerDecay,     -0.02, 0.01},
-    {Hat,    D,         0,    15,  slot::Pitch,          0.0,   8.0},
-    {Snare,  C,         112,  127, slot::Pitch,          0.0,   9.0},
-    {Snare,  A | B,     124,  127, GlueOf(Fx::Echo),     1.0,   1.0},
-    {Snare,  A | B,     60,   63,  GlueOf(Fx::Echo),     1.0,   1.0},
-    {Phase,  A | B,     0,    127, X(Fx::Phaser),        -0.15, 0.30},
-    {Phase,  C,         0,    127, slot::FilterCutoff,   -0.30, 0.0},
-    {Tom,    A | B,     0,    127, slot::Panning,        0.0,   0.50},
-    {Tom,    A | B,     120,  127, slot::AmpLevel,       -3.0,  -3.0},
-    {Laser,  B | C,     48,   127, slot::Pitch,          -5.0,  7.0},
+//   channel patterns   first last slot                   from   to
+    {Bass,   A,         0,    127, slot::Modulation,      -0.06, 0.14}, // harder and harder
+    {Bass,   B,         0,    127, slot::Modulation,      0.0,   0.18},
+    {Bass,   B,         0,    127, slot::MixLevel,        -2.0,  -2.0},
+    {Bass,   B,         96,   127, GlueOf(Fx::Decimator), 1.0,   1.0},
+    {Bass,   C,         64,   127, slot::Modulation,      -0.10, 0.20},
+    {Chip,   A,         0,    127, X(Fx::Decimator),      0.0,   -0.30},
+    {Chip,   C,         0,    127, slot::AmpLevel,        -9.0,  0.0},
+    {Chip,   B | C,     0,    127, X(Fx::Echo),           -0.15, 0.20},
+    {Robot,  A | B,     24,   31,  X(Fx::Decimator),      0.2,   0.2},
+    {Hat,    A | B,     0,    127, slot::LayerDecay,      -0.02, 0.01},
+    {Hat,    D,         0,    15,  slot::Pitch,           0.0,   8.0},
+    {Snare,  C,         112,  127, slot::Pitch,           0.0,   9.0},
+    {Snare,  A | B,     124,  127, GlueOf(Fx::Echo),      1.0,   1.0},
+    {Snare,  A | B,     60,   63,  GlueOf(Fx::Echo),      1.0,   1.0},
+    {Phase,  A | B,     0,    127, X(Fx::Phaser),         -0.15, 0.30},
+    {Phase,  C,         0,    127, slot::FilterCutoff,    -0.30, 0.0},
+    {Tom,    A | B,     0,    127, slot::Panning,         0.0,   0.50},
+    {Tom,    A | B,     120,  127, slot::AmpLevel,        -3.0,  -3.0},
+    {Laser,  B | C,     48,   127, slot::Pitch,           -5.0,  7.0},
 };
 
 constexpr Glued kEffects[] = {

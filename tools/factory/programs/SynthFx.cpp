@@ -99,7 +99,8 @@ const SynthSound kSounds[] = {
      .filter = {BandPass, 0.80, 0.35, 0.1}, .amp = {0.0, 1.0, 1.0, 0.10},
      .lfos = {{to::Pitch, 0.40, Hz(0.4), Triangle}, {to::Amplitude, -0.70, Hz(7.3), Square}},
      .wheel = {Target::Cutoff, 0.15},
-     .effects = {{Fx::Decimator, 0.25, 0.70, 0.75, 0.5, Square}, {Fx::Distortion, 0.33, 0.75}, {Fx::HighPass, 0.45, 0.20}}},
+     .effects = {{Fx::Decimator, 0.25, 0.70, 0.75, 0.5, Square}, {Fx::Distortion, 0.33, 0.75},
+                 {Fx::HighPass, 0.45, 0.20}}},
 
     {.name = "Flying Saucer", .levelDb = 0.5,
      .oscillators = {{"Sine", 12}, {"Triangle", 5, 0, 0.0}, {"Sine", 12, 14, 0.6}},

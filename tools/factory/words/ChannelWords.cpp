@@ -1,6 +1,7 @@
 // From the words of a program to the channel's parameters.
 #include "factory/words/ChannelWords.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -26,6 +27,18 @@ SyncedRate Synced(double beats)
 }
 
 } // namespace
+
+double Cutoff(double hz)
+{
+    constexpr double kLowest = 14.04, kOctaves = 9.7736; // of the ladder's coefficient table
+    return std::clamp(std::log2(hz / kLowest) / kOctaves, 0.0, 1.0);
+}
+
+double EnvelopeFall(double seconds)
+{
+    const double time = std::max(0.0, seconds / (6.907755 / 8.82) - 0.001);
+    return std::clamp((std::pow(time / 70.0, 0.2) - 0.2) / 0.8, 0.0, 1.0);
+}
 
 void SetFilter(Patch& patch, const FilterSetting& filter)
 {

@@ -18,12 +18,18 @@ namespace to = destination;
 
 using Fx = FxType;
 
+/// Knob of the filter's cutoff.
+double Cutoff(double hz);
+
 struct FilterSetting {
     FilterType type = FilterType::LowPass;
     double cutoff = 1.0; // knob; 12 dB down at 14 Hz for 0, an octave higher every 0.102
     double resonance = 0.0;
     double tracking = 0.0; // knob; 1 follows the keys
 };
+
+/// Knob of an envelope's decay: what it moves falls to a thousandth.
+double EnvelopeFall(double seconds);
 
 struct EnvelopeSetting {
     int acts = to::Cutoff;

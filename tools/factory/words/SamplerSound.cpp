@@ -43,7 +43,7 @@ void SetLayer(Patch& patch, int index, const Layer& layer)
 {
     const auto set = [&patch, index](int bank, double value) { patch.Set(bank + index, value); };
     patch.Sample(index + 1, layer.sample);
-    set(slot::LayerLevel, LayerLevel(layer.level));
+    set(slot::LayerLevel, LayerLevel(layer.levelDb));
     set(slot::LayerPan, Value(0.5 + 0.5 * layer.pan));
     set(slot::LayerPitch, LayerPitch(layer.semitones));
     set(slot::LayerDelay, LayerDelay(layer.delay));
@@ -59,23 +59,14 @@ void SetLayer(Patch& patch, int index, const Layer& layer)
 
 } // namespace
 
-double Cutoff(double hz)
-{
-    constexpr double kLowest = 14.04, kOctaves = 9.7736; // of the ladder's coefficient table
-    return Value(std::log2(hz / kLowest) / kOctaves);
-}
-
-double EnvelopeFall(double seconds) { return Value((std::pow(TimeOf(seconds, 2.0 * kFall) / 70.0, 0.2) - 0.2) / 0.8); }
-
-double LfoFree(double hz) { return Value(1.0 - std::sqrt((hz - 0.01) / 25.0)); }
-
 void Apply(const SamplerProgram& program, Patch& patch)
 {
-    patch.Set(slot::AmpLevel, AmpGain(program.gain));
-    patch.Set(slot::NoteLength, NoteLength(program.length));
+    patch.Set(slot::AmpLevel, AmpGain(program.levelDb));
+    patch.Set(slot::NoteLength, NoteLength(program.beats));
     patch.Set(slot::AmpRelease, AmpRelease(program.fade));
+    patch.Set(slot::AmpAttack, program.attack);
     for (std::size_t n = 0; n < program.layers.size(); ++n) SetLayer(patch, static_cast<int>(n), program.layers[n]);
-    for (const Setting& setting : program.settings) patch.Set(setting.slotIndex, setting.value);
+    SetShared(patch, program);
 }
 
 } // namespace korvane::factory
