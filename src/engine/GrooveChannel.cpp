@@ -12,6 +12,7 @@
 #include "engine/voice/SynthVoice.h"
 #include "engine/voice/VoiceFilter.h"
 #include "engine/voice/VoiceLife.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -85,8 +86,7 @@ void GrooveChannel::RenderVoices(int frames)
 {
     ChannelFrames shared;
     RunChannelModulation(sound, sound.Modulated(slot::Modulation), shared, frames);
-    const float slideTime = sound.Modulated(slot::SlideTime);
-    const float glideRate = EnvelopeRate(2.0f * (slideTime * slideTime * slideTime), sound.rate);
+    const float glideRate = law::EnvelopeRate(law::SlideSeconds(sound.Modulated(slot::SlideTime)), sound.rate);
     SynthSettings synth;
     if (!sound.isSampler) SetUpSynth(sound, synth);
 
@@ -141,7 +141,7 @@ void GrooveChannel::NoteOn(int note, float tempo, float velocity)
     voice.age = voiceCounter++;
     voice.fromSequencer = tempo != 0.0f;
     if (voice.fromSequencer) {
-        const float beats = 0.125f * std::pow(2.0f, 8.0f * sound.Modulated(slot::NoteLength));
+        const float beats = law::NoteBeats(sound.Modulated(slot::NoteLength));
         voice.lengthFrames = Truncate(beats * sound.rate * 60.0f / tempo);
     } else {
         voice.lengthFrames = kLiveLengthFrames;

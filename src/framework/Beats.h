@@ -1,6 +1,9 @@
 // Note lengths in beats: what the synchronised LFOs and the stutter choose from.
 #pragma once
 
+#include <array>
+#include <cstddef>
+
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -19,12 +22,33 @@ inline constexpr float Eight = 8.0f;
 
 inline constexpr float kBeatsPerBar = 4.0f;
 
-/// Length in beats that a position of a rate knob stands for, one of nine; outside 0..1 the nearest end.
-inline float SyncBeats(float value)
+struct SyncLength {
+    float beats;
+    const char* text;
+};
+
+// clang-format off
+/// What a synchronised rate knob chooses from.
+inline constexpr std::array<SyncLength, 9> kSyncLengths {{
+    {beats::Eighth,        "1/8"},
+    {beats::Quarter,       "1/4"},
+    {beats::ThreeEighths,  "3/8"},
+    {beats::Half,          "1/2"},
+    {beats::ThreeQuarters, "3/4"},
+    {beats::One,           "1/1"},
+    {beats::Two,           "2/1"},
+    {beats::Four,          "4/1"},
+    {beats::Eight,         "8/1"},
+}};
+// clang-format on
+
+/// The length that a position of a rate knob stands for; outside 0..1 the nearest end.
+inline const SyncLength& SyncLengthOf(float value)
 {
-    using namespace beats;
-    constexpr float kBeats[] = {Eighth, Quarter, ThreeEighths, Half, ThreeQuarters, One, Two, Four, Eight};
-    return kBeats[Clamp(Truncate(9.0f * value), 0, 8)];
+    constexpr int kLengths = static_cast<int>(kSyncLengths.size());
+    return kSyncLengths[static_cast<std::size_t>(Clamp(Truncate(kLengths * value), 0, kLengths - 1))];
 }
+
+inline float SyncBeats(float value) { return SyncLengthOf(value).beats; }
 
 } // namespace korvane

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstddef>
 
+#include "framework/Beats.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -72,7 +71,9 @@ inline float Velocity(int velocity) { return static_cast<float>(velocity) / 127.
 inline constexpr double kEnvelopeSpeed = 8.82;    // distances per time constant
 inline constexpr double kShortestSeconds = 0.001; // on top of every time constant
 
-/// rate  sample rate in Hz
+/// Fraction of the distance that a level moves per frame for a time constant.
+/// seconds  time constant, >= 0
+/// rate     sample rate in Hz
 inline float EnvelopeRate(float seconds, float rate)
 {
     return static_cast<float>(kEnvelopeSpeed) / ((seconds + static_cast<float>(kShortestSeconds)) * rate);
@@ -120,28 +121,12 @@ inline float LfoFreeHz(float value)
 }
 inline double LfoFreeKnob(double hz) { return Knob(1.0 - std::sqrt((hz - 0.01) / 25.0)); }
 
-/// Lengths that a rate knob chooses from when the tempo rules.
-struct SyncLength {
-    float beats;
-    const char* text;
-};
-// clang-format off
-inline constexpr std::array<SyncLength, 9> kSyncLengths {{
-    {0.125f, "1/8"}, {0.25f, "1/4"}, {0.375f, "3/8"}, {0.5f, "1/2"}, {0.75f, "3/4"},
-    {1.0f,   "1/1"}, {2.0f,  "2/1"}, {4.0f,   "4/1"}, {8.0f, "8/1"},
-}};
-// clang-format on
-inline constexpr float kBarBeats = 4.0f; // what the lengths count times, when they count in bars
-
-/// Outside 0..1 the nearest end.
-inline const SyncLength& SyncOf(float value)
-{
-    return kSyncLengths[static_cast<std::size_t>(Clamp(Truncate(9.0f * value), 0, 8))];
-}
-inline float SyncBeats(float value) { return SyncOf(value).beats; }
-/// Knob of a row of kSyncLengths.
+/// Knob of a row of kSyncLengths, the inverse of SyncLengthOf.
 /// within  where in the row's share of the knob, 0..1
-inline double SyncKnob(int row, double within = 0.5) { return Knob((row + within) / 9.0); }
+inline double SyncKnob(int row, double within = 0.5)
+{
+    return Knob((row + within) / static_cast<double>(kSyncLengths.size()));
+}
 
 // Oscillators.
 inline int OscillatorSemitones(float value) { return Truncate(72.0f * value - 36.0f); }
@@ -152,6 +137,10 @@ inline double OscillatorCentsKnob(int cents) { return Knob((InsideStep(cents) + 
 /// How far the mix has faded from the sources so far to the next one, 0..1.
 inline float MixShare(float value) { return Square(value); }
 inline double MixShareKnob(double share) { return Knob(std::sqrt(share)); }
+
+/// "SYNTH: Modulation": how far oscillator 2 moves oscillator 1, 0..1.
+inline float ModulationAmount(float value) { return Square(value); }
+inline double ModulationAmountKnob(double amount) { return Knob(std::sqrt(amount)); }
 
 /// 1..16, a whole number; beyond 0..1 beyond them.
 inline float UnisonVoices(float value) { return std::trunc(15.0f * value) + 1.0f; }
@@ -218,7 +207,7 @@ inline float DriveMakeUp(float drive) { return drive * 0.5f + 0.5f; }
 /// Frames that the decimator holds one.
 /// clean  1 - x
 inline int CrushFrames(float clean) { return Truncate(clean * clean * 64.0f + 3.0f); }
-inline double CrushKnob(int frames) { return Knob(1.0 - std::sqrt((frames + 0.5 - 3.0) / 64.0)); }
+inline double CrushKnob(int frames) { return Knob(1.0 - std::sqrt(InsideStep(frames - 3) / 64.0)); }
 
 inline float ToneHz(float y) { return std::pow(2.0f, y * 4.28f + 10.0f); } // lowpass behind clipper and decimator
 inline double ToneKnob(double hz) { return Knob((std::log2(hz) - 10.0) / 4.28); }

@@ -1,12 +1,12 @@
 // Every control of the instrument that a host, a MIDI link or the editor can move.
 #include "framework/ParameterTable.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <iterator>
 
+#include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -46,8 +46,6 @@ constexpr BlockDefault kBlockDefaults[] = {
     {slot::EqGain, slot::EqGain + 4, 0.5f},
 };
 
-constexpr const char* kSyncTexts[] = {"1/8", "1/4", "3/8", "1/2", "3/4", "1/1", "2/1", "4/1", "8/1"};
-
 } // namespace
 
 Bank BankOf(int base)
@@ -77,27 +75,25 @@ void FormatDisplay(Display display, float v, char* buffer)
         *std::to_chars(digits, std::end(digits) - 1, value, std::chars_format::fixed, decimals).ptr = '\0';
         std::snprintf(buffer, kTextBytes, "%.24s%s", digits, unit);
     };
-    const auto whole = [buffer](float value, const char* unit = "") {
-        std::snprintf(buffer, kTextBytes, "%d%s", Truncate(value), unit);
+    const auto whole = [buffer](int value, const char* unit = "") {
+        std::snprintf(buffer, kTextBytes, "%d%s", value, unit);
     };
     switch (display) {
     case Display::Percent: number(v * 100.0f, 1, " %"); break;
-    case Display::Sync:
-        std::snprintf(buffer, kTextBytes, "%s", kSyncTexts[std::clamp(Truncate(v * 9.0f), 0, 8)]);
-        break;
-    case Display::MixDb: number(v * 80.0f - 60.0f, 1, " dB"); break;
-    case Display::Pan: number((2.0f * v - 1.0f) * 100.0f, 1, ""); break;
-    case Display::Semitones24: whole(v * 48.0f - 24.0f); break;
+    case Display::Sync: std::snprintf(buffer, kTextBytes, "%s", SyncLengthOf(v).text); break;
+    case Display::MixDb: number(law::MixDb(v), 1, " dB"); break;
+    case Display::Pan: number(law::PanPosition(v) * 100.0f, 1, ""); break;
+    case Display::Semitones24: whole(law::Semitones(v)); break;
     case Display::Length: // an eighth shows as 0.13, where the library would round to even
-        number(std::round(100.0 * static_cast<double>(std::pow(2.0f, 8.0f * v) * 0.125f)) / 100.0, 2, "");
+        number(std::round(100.0 * static_cast<double>(law::NoteBeats(v))) / 100.0, 2, "");
         break;
-    case Display::AmpDb: number(v * 50.0f - 25.0f, 1, " dB"); break;
-    case Display::Voices: whole(std::trunc(v * 15.0f) + 1.0f); break;
-    case Display::Semitones36: whole(v * 72.0f - 36.0f); break;
-    case Display::Detune: whole(v * 100.0f - 50.0f); break;
-    case Display::Bipolar: number((v - 0.5f) * 200.0f, 1, " %"); break;
-    case Display::Smt: whole(v * 12.0f, " smt"); break;
-    case Display::GainDb: number((v - 0.5f) * 24.0f, 2, " dB"); break;
+    case Display::AmpDb: number(law::AmpDb(v), 1, " dB"); break;
+    case Display::Voices: whole(Truncate(law::UnisonVoices(v))); break;
+    case Display::Semitones36: whole(law::OscillatorSemitones(v)); break;
+    case Display::Detune: whole(law::OscillatorCents(v)); break;
+    case Display::Bipolar: number(law::SourceAmount(v) * 100.0f, 1, " %"); break;
+    case Display::Smt: whole(law::BendSemitones(v), " smt"); break;
+    case Display::GainDb: number(law::EqDb(v), 2, " dB"); break;
     }
 }
 

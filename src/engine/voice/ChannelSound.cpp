@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -53,7 +54,7 @@ float ChannelSound::Modulated(int index) const
     float value = params[index];
     const auto modulate = [&](int destination, int amount, float source) {
         if (Targets(params[destination], index))
-            value = Clamp(value + (params[amount] - 0.5f) * 2.0f * source, 0.0f, 1.0f);
+            value = Clamp(value + law::SourceAmount(params[amount]) * source, 0.0f, 1.0f);
     };
     modulate(slot::VelocityDestination, slot::VelocityAmount, velocityIn);
     modulate(slot::WheelDestination, slot::WheelAmount, modWheelIn);

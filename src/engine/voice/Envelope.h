@@ -5,11 +5,6 @@ namespace korvane {
 
 inline constexpr float kAttackTarget = 5.0f; // an attack aims beyond full level, so that it arrives
 
-/// Fraction of the distance that a level moves per frame for a time constant.
-/// seconds  time constant, >= 0
-/// rate     sample rate in Hz
-inline float EnvelopeRate(float seconds, float rate) { return 8.82f / ((seconds + 0.001f) * rate); }
-
 /// Level moving toward a target by a fraction of the distance per frame. At full level the attack ends: from there it
 /// decays toward `sustain`.
 struct Envelope {

@@ -4,8 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "framework/Beats.h"
-#include "platform/Numbers.h"
+#include "framework/KnobLaws.h"
 
 namespace korvane {
 
@@ -40,11 +39,8 @@ void Lfo::Run(float* values, int frames)
 
 float LfoFrequency(float rateValue, float syncValue, float tempo)
 {
-    const int mode = Truncate(2.0f * syncValue);
-    if (mode < 1) {
-        const float slow = 1.0f - Clamp(rateValue, 0.0f, 1.0f);
-        return slow * slow * 25.0f + 0.01f;
-    }
+    const int mode = law::Position(syncValue, 2);
+    if (mode < 1) return law::LfoFreeHz(rateValue);
     if (!(tempo > 0.0f)) return 0.0f;
     const float beats = SyncBeats(rateValue) * (mode > 1 ? kBeatsPerBar : 1.0f);
     const float frequency = 1.0f / (beats * 60.0f / tempo);

@@ -6,6 +6,7 @@
 
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/VoiceLife.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -24,16 +25,14 @@ void SetUpLfo(const ChannelSound& channel, Lfo& lfo, int number, float tempo)
     lfo.increment = std::isfinite(increment) ? increment : 0.0f;
 }
 
-float SignedSquare(float amount, bool inverted) { return inverted ? -(amount * amount) : amount * amount; }
-
 void SetUpRouting(const ChannelSound& channel, int number, EnvelopeRoute& envelope, Lfo& lfo)
 {
     const auto value = [&](int index) { return channel.Modulated(index + number); };
-    envelope.destination = Truncate(3.0f * value(slot::EnvelopeDestination));
-    envelope.amount = SignedSquare(value(slot::EnvelopeAmount), value(slot::EnvelopeInvert) != 0.0f);
-    lfo.destination = Truncate(3.0f * value(slot::LfoDestination));
-    lfo.shape = Truncate(3.0f * value(slot::LfoShape));
-    lfo.amount = SignedSquare(value(slot::LfoAmount), value(slot::LfoInvert) != 0.0f);
+    envelope.destination = law::Position(value(slot::EnvelopeDestination), 3);
+    envelope.amount = law::Depth(value(slot::EnvelopeAmount), value(slot::EnvelopeInvert) != 0.0f);
+    lfo.destination = law::Position(value(slot::LfoDestination), 3);
+    lfo.shape = law::Position(value(slot::LfoShape), 3);
+    lfo.amount = law::Depth(value(slot::LfoAmount), value(slot::LfoInvert) != 0.0f);
 }
 
 /// How much of each modulator reaches one destination; an unrouted one has factor 0.
@@ -102,7 +101,7 @@ void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
         SetUpRouting(channel, 0, channel.env1, channel.lfo1);
         SetUpRouting(channel, 1, channel.env2, channel.lfo2);
     }
-    channel.filterType = Clamp(Truncate(2.0f * channel.Modulated(slot::FilterType)), 0, 2);
+    channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), 2), 0, 2);
     channel.cutoffBase = channel.params[slot::FilterCutoff];
     if (!(channel.cutoffSmooth >= 0.0f) || !std::isfinite(channel.cutoffSmooth))
         channel.cutoffSmooth = channel.cutoffBase;
@@ -111,7 +110,7 @@ void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
 
 void RunChannelModulation(ChannelSound& channel, float modulation, ChannelFrames& shared, int frames)
 {
-    const float cutoffBase = channel.cutoffBase, modTarget = modulation * modulation;
+    const float cutoffBase = channel.cutoffBase, modTarget = law::ModulationAmount(modulation);
     float cutoff = channel.cutoffSmooth, modAmount = channel.modAmountSmooth;
     for (int n = 0; n < frames; ++n) {
         cutoff += (cutoffBase - cutoff) * kSmoothing;

@@ -8,6 +8,7 @@
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/VoiceLife.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -16,10 +17,6 @@ namespace korvane {
 namespace {
 
 constexpr float kHoldLevel = 1.00001f; // beyond full level, so that every frame of the hold finds the attack over
-constexpr float kNoDecay = 0.999f;     // "SAMPLER: Layer Decay" from which a layer stays at full level
-
-float Square(float x) { return x * x; }
-float Fourth(float x) { return Square(x) * Square(x); }
 
 /// The sample of a layer, or null. A file that could not be read is a sample of 0 frames.
 const CWaveSample* SampleOf(const ChannelSound& channel, int l)
@@ -30,10 +27,9 @@ const CWaveSample* SampleOf(const ChannelSound& channel, int l)
 
 void StartFilters(LayerFilters& filters, float loCut, float hiCut, float bandwidth, float rate)
 {
-    const float q = bandwidth * bandwidth * bandwidth * 16.0f + 0.99f;
-    const FilterCoefficients lo =
-        HighPassCoefficients(std::pow(2.0f, 10.0f * Clamp(loCut, 0.0f, 1.0f) + 4.0f), q, rate);
-    const FilterCoefficients hi = LowPassCoefficients(std::pow(2.0f, 6.3f * Clamp(hiCut, 0.0f, 1.0f) + 8.0f), q, rate);
+    const float q = law::LayerQ(bandwidth);
+    const FilterCoefficients lo = HighPassCoefficients(law::LayerLoCutHz(loCut), q, rate);
+    const FilterCoefficients hi = LowPassCoefficients(law::LayerHiCutHz(hiCut), q, rate);
     filters = {};
     for (int lane = 0; lane < 4; ++lane) {
         const FilterCoefficients& section = lane < 2 ? lo : hi;
@@ -55,25 +51,22 @@ void StartLayers(ChannelSound& channel, ChannelVoice& voice)
         layer.reverse = value(slot::LayerReverse) != 0.0f;
         if (const CWaveSample* sample = SampleOf(channel, l))
             layer.position = std::max(0.0f, value(slot::LayerStart) * static_cast<float>(sample->numFrames));
-        layer.delayFrames = std::max(0, Truncate(Fourth(value(slot::LayerDelay)) * rate * 0.25f));
+        layer.delayFrames = std::max(0, Truncate(law::LayerDelaySeconds(value(slot::LayerDelay)) * rate));
+        layer.pitch = law::LayerSemitones(value(slot::LayerPitch));
 
-        float pitch = Clamp(value(slot::LayerPitch), 0.0f, 1.0f) - 0.5f;
-        if (pitch < 0.0f) pitch = -(pitch * pitch);
-        layer.pitch = 96.0f * pitch;
-
-        const float pan = value(slot::LayerPan), level = value(slot::LayerLevel);
-        const float gain = value(slot::LayerInvert) != 0.0f ? -(2.0f * Square(level)) : 2.0f * Square(level);
-        layer.gainLeft = 2.0f * (1.0f - pan) * gain;
-        layer.gainRight = 2.0f * pan * gain;
+        const float pan = value(slot::LayerPan), upright = law::LayerGain(value(slot::LayerLevel));
+        const float gain = value(slot::LayerInvert) != 0.0f ? -upright : upright;
+        layer.gainLeft = law::LayerPanLeft(pan) * gain;
+        layer.gainRight = law::LayerPanRight(pan) * gain;
         StartFilters(layer.filters, value(slot::LayerLoCut), value(slot::LayerHiCut), value(slot::LayerBandwidth),
                      rate);
 
-        const float attack = value(slot::LayerAttack), decay = value(slot::LayerDecay);
+        const float decay = value(slot::LayerDecay);
         layer.envLevel = 0.0f;
         layer.envTarget = kAttackTarget;
-        layer.envRate = EnvelopeRate(attack * attack * attack * 250.0f, rate);
-        layer.plateauFrames = Truncate(Square(value(slot::LayerHold)) * rate);
-        layer.decayRate = decay >= kNoDecay ? 0.0f : EnvelopeRate(Fourth(decay) * 50.0f, rate);
+        layer.envRate = law::EnvelopeRate(law::LayerAttackSeconds(value(slot::LayerAttack)), rate);
+        layer.plateauFrames = Truncate(law::LayerHoldSeconds(value(slot::LayerHold)) * rate);
+        layer.decayRate = decay >= law::kNoLayerDecay ? 0.0f : law::EnvelopeRate(law::LayerDecaySeconds(decay), rate);
     }
 }
 

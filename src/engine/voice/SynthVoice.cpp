@@ -6,6 +6,7 @@
 
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -17,12 +18,11 @@ constexpr float kNoteOf220 = 57.0f; // sounds at 220 Hz
 constexpr int kRichestTable = 511;
 constexpr std::uint32_t kRestartFrames = 512; // a restarted phase starts up to this many frames into the cycle
 
-float Square(float x) { return x * x; }
-
 void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
-    const float a = Square(value(slot::MixOsc2)), b = Square(value(slot::MixOsc3)), z = Square(value(slot::NoiseMix));
+    const auto share = [&](int index) { return law::MixShare(value(index)); };
+    const float a = share(slot::MixOsc2), b = share(slot::MixOsc3), z = share(slot::NoiseMix);
     const float levels[kSources] = {(1.0f - a) * (1.0f - b) * (1.0f - z), a * (1.0f - b) * (1.0f - z), b * (1.0f - z),
                                     z};
     const float stereo = value(slot::UnisonStereo);
@@ -30,7 +30,7 @@ void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
     const float norm = kSourceScale / (static_cast<float>(count - 1) * 0.15f + 1.0f);
     for (int u = 0; u < count; ++u) {
         const float sign = u == 0 && count % 2 == 1 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
-        const float left = Clamp(1.0f - sign * stereo, 0.0f, 1.0f), right = Clamp(1.0f + sign * stereo, 0.0f, 1.0f);
+        const float left = law::StereoLeft(sign * stereo), right = law::StereoRight(sign * stereo);
         for (int source = 0; source < kSources; ++source) {
             mix.gainLeft[source][u] = levels[source] * left * norm;
             mix.gainRight[source][u] = levels[source] * right * norm;
@@ -68,18 +68,18 @@ void RestartPhases(RandomGenerator& random, ChannelVoice& voice, const UnisonTun
 void SetUpSynth(const ChannelSound& channel, SynthSettings& settings)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
-    const int count = Clamp(Truncate(15.0f * value(slot::UnisonVoices)), 0, kUnison - 1) + 1;
-    const float spread = Square(0.4f * value(slot::UnisonDetune)); // octaves from the lowest to the highest
+    const int count = Clamp(Truncate(law::UnisonVoices(value(slot::UnisonVoices))), 1, kUnison);
+    const float spread = law::UnisonOctaves(value(slot::UnisonDetune));
     for (int u = 0; u < count; ++u) {
         const float position = static_cast<float>(u) / static_cast<float>(count - 1) - 0.5f;
         settings.detune[u] = count == 1 ? 1.0f : std::pow(2.0f, position * spread);
     }
     for (int osc = 0; osc < kOscillators; ++osc) {
-        const float semitones = static_cast<float>(Truncate(72.0f * value(slot::Osc1Pitch + 2 * osc) - 36.0f));
-        const float cents = static_cast<float>(Truncate(100.0f * value(slot::Osc1Detune + 2 * osc) - 50.0f));
+        const float semitones = static_cast<float>(law::OscillatorSemitones(value(slot::Osc1Pitch + 2 * osc)));
+        const float cents = static_cast<float>(law::OscillatorCents(value(slot::Osc1Detune + 2 * osc)));
         settings.ratios[osc] = std::pow(2.0f, (semitones + 0.01f * cents) / 12.0f);
     }
-    settings.bendSemitones = static_cast<float>(Truncate(12.0f * value(slot::BendRange)));
+    settings.bendSemitones = static_cast<float>(law::BendSemitones(value(slot::BendRange)));
     settings.slides = value(slot::SlideEnable) != 0.0f;
 
     UnisonMix& mix = settings.mix;

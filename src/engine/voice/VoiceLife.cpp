@@ -8,6 +8,7 @@
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/SamplerVoice.h"
 #include "engine/voice/SynthVoice.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -19,13 +20,6 @@ constexpr float kSilence = 0.0001f; // gains and levels below it are not heard
 constexpr float kLoudest = 1e9f;    // output gain that only a parameter far outside 0..1 asks for
 constexpr int kFarthest = 1000000;  // semitones, likewise
 
-float Square(float x) { return x * x; }
-float Cube(float x) { return x * x * x; }
-float Fourth(float x) { return Square(x) * Square(x); }
-float Fifth(float x) { return Fourth(x) * x; }
-
-int WholeSemitones(float value) { return Clamp(Truncate(value), -kFarthest, kFarthest); }
-
 /// Envelopes and smoothed values are recurrences: one bad parameter value must not stay in them.
 void Recover(float& value, float fallback)
 {
@@ -35,19 +29,19 @@ void Recover(float& value, float fallback)
 void StartEnvelopes(ChannelSound& channel, ChannelVoice& voice)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
-    const float rate = channel.rate;
+    const auto rate = [&channel](float seconds) { return law::EnvelopeRate(seconds, channel.rate); };
 
-    voice.amp.Attack(EnvelopeRate(Cube(value(slot::AmpAttack)) * 50.0f, rate));
-    voice.amp.decayRate = EnvelopeRate(Fourth(value(slot::AmpDecay)) * 50.0f, rate);
+    voice.amp.Attack(rate(law::AmpAttackSeconds(value(slot::AmpAttack))));
+    voice.amp.decayRate = rate(law::AmpDecaySeconds(value(slot::AmpDecay)));
     voice.amp.sustain = value(slot::AmpSustain);
-    voice.ampReleaseRate = EnvelopeRate(Cube(0.55f * value(slot::AmpRelease) + 0.1f) * 25.0f, rate);
+    voice.ampReleaseRate = rate(law::AmpReleaseSeconds(value(slot::AmpRelease)));
 
     Envelope* const envelopes[] = {&voice.env1, &voice.env2};
     for (int e = 0; e < 2; ++e) {
         Envelope& envelope = *envelopes[e];
         envelope.level = 0.0f;
-        envelope.Attack(EnvelopeRate(Fifth(value(slot::EnvelopeAttack + e)) * 300.0f, rate));
-        envelope.decayRate = EnvelopeRate(Fifth(0.8f * value(slot::EnvelopeDecay + e) + 0.2f) * 70.0f, rate);
+        envelope.Attack(rate(law::EnvelopeAttackSeconds(value(slot::EnvelopeAttack + e))));
+        envelope.decayRate = rate(law::EnvelopeDecaySeconds(value(slot::EnvelopeDecay + e)));
     }
 }
 
@@ -61,19 +55,16 @@ bool Faded(const ChannelVoice& voice)
 
 int ChannelTranspose(const ChannelSound& channel)
 {
-    return WholeSemitones(48.0f * channel.Modulated(slot::Pitch) - 24.0f);
+    return Clamp(law::Semitones(channel.Modulated(slot::Pitch)), -kFarthest, kFarthest);
 }
 
 std::int32_t PitchNote(const ChannelSound& channel, int note)
 {
-    const int octaves = WholeSemitones(4.0f * channel.Modulated(slot::Octave));
-    return Clamp(note, -kFarthest, kFarthest) + ChannelTranspose(channel) - 24 + 12 * octaves;
+    const int octaves = law::Octaves(channel.Modulated(slot::Octave));
+    return Clamp(note, -kFarthest, kFarthest) + ChannelTranspose(channel) + 12 * octaves;
 }
 
-float LevelGain(float ampLevel)
-{
-    return Clamp(std::pow(10.0f, (50.0f * ampLevel - 25.0f) / 20.0f) / kSourceScale, 0.0f, kLoudest);
-}
+float LevelGain(float ampLevel) { return Clamp(law::AmpGain(ampLevel) / kSourceScale, 0.0f, kLoudest); }
 
 void StartVoice(ChannelSound& channel, ChannelVoice& voice)
 {
@@ -82,7 +73,7 @@ void StartVoice(ChannelSound& channel, ChannelVoice& voice)
     voice.lfo1Out = voice.lfo2Out = 0.0f;
 
     const bool silenced = voice.fromSequencer && channel.muted;
-    voice.gainTarget = silenced ? 0.0f : Clamp(Square(channel.Modulated(slot::AmpLevel)), 0.0f, kLoudest);
+    voice.gainTarget = silenced ? 0.0f : Clamp(law::Square(channel.Modulated(slot::AmpLevel)), 0.0f, kLoudest);
     if (voice.gain < 0.0f) voice.gain = voice.gainTarget;
 
     StartEnvelopes(channel, voice);
