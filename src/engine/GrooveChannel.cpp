@@ -12,8 +12,8 @@
 #include "engine/voice/SynthVoice.h"
 #include "engine/voice/VoiceFilter.h"
 #include "engine/voice/VoiceLife.h"
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
-#include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
 namespace korvane {

@@ -15,58 +15,7 @@ namespace {
 
 constexpr std::size_t kTextBytes = 32;
 
-struct BlockDefault {
-    int first, last;
-    float value;
-};
-
-// Everything that is not listed starts at 0.
-constexpr BlockDefault kBlockDefaults[] = {
-    {slot::MixLevel, slot::MixLevel, 0.75f},
-    {slot::Panning, slot::Pitch, 0.5f},
-    {slot::NoteLength, slot::NoteLength, 0.44444445f},
-    {slot::AmpDecay, slot::AmpSustain, 1.0f},
-    {slot::AmpRelease, slot::AmpRelease, 0.1f},
-    {slot::AmpLevel, slot::AmpLevel, 0.5f},
-    {slot::EnvelopeDecay, slot::EnvelopeDecay + 1, 1.0f},
-    {slot::UnisonDetune, slot::UnisonDetune, 0.25f},
-    {slot::Octave, slot::Octave, 0.5f},
-    {slot::Osc1Pitch, slot::Osc3Detune, 0.5f},
-    {slot::LayerLevel, slot::LayerAttack - 1, 0.5f}, // level, pan, pitch
-    {slot::LayerDecay, slot::LayerDecay + 3, 1.0f},
-    {slot::LayerHiCut, slot::LayerHiCut + 3, 1.0f},
-    {slot::FxX, slot::FxLfoRate - 1, 0.5f},
-    {slot::FxLfoRate, slot::FxGlue - 1, 0.5566667f},
-    {slot::FxLfoAmount, slot::FxBypassStutter - 1, 0.5f},
-    {slot::VelocityAmount, slot::VelocityAmount, 0.5f},
-    {slot::VelocitySensitivity, slot::VelocitySensitivity, 1.0f},
-    {slot::WheelAmount, slot::WheelAmount, 0.5f},
-    {slot::PressureAmount, slot::PressureAmount, 0.5f},
-    {slot::BendRange, slot::BendRange, 0.16666667f},
-    {slot::EqGain, slot::EqGain + 4, 0.5f},
-};
-
 } // namespace
-
-Bank BankOf(int base)
-{
-    if (base >= slot::EnvelopeAmount && base <= slot::EnvelopeDestination)
-        return base % 2 == 0 ? Bank::Envelope : Bank::None;
-    if (base >= slot::LfoRetrig && base <= slot::LfoDestination) return base % 2 == 0 ? Bank::Lfo : Bank::None;
-    if (base >= slot::LayerLevel && base <= slot::LayerReverse)
-        return (base - slot::LayerLevel) % 4 == 0 ? Bank::Layer : Bank::None;
-    if (base >= slot::FxX && base <= slot::FxLfoAmount) return (base - slot::FxX) % 10 == 0 ? Bank::Fx : Bank::None;
-    return Bank::None;
-}
-
-float ChannelBlockDefault(int index, bool isSampler)
-{
-    if (index == slot::FilterCutoff) return isSampler ? 0.0f : 1.0f;
-    if (index == slot::FilterType) return isSampler ? 1.0f : 0.0f;
-    for (const BlockDefault& range : kBlockDefaults)
-        if (index >= range.first && index <= range.last) return range.value;
-    return 0.0f;
-}
 
 void FormatDisplay(Display display, float v, char* buffer)
 {

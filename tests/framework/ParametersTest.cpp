@@ -174,6 +174,16 @@ TEST_F(Parameters, SwitchesTurnOneSetting)
         }
 }
 
+// The score editor shows a stepped setting at the nearest of its steps.
+TEST(ChannelSlots, ShowTheirStepsInALane)
+{
+    const std::tuple<int, float, float> rows[] = {
+        {slot::FilterTracking, 0.6f, 1.0f}, {slot::FxLfoSync + 9, 0.3f, 0.5f}, {slot::FilterType, 0.4f, 1.0f / 3.0f},
+        {slot::LfoShape + 1, 0.3f, 0.25f},  {slot::Octave, 0.45f, 0.4f},       {slot::FxLfoRate, 0.5f, 5.0f / 9.0f},
+        {slot::FilterCutoff, 0.37f, 0.37f}, {slot::MixLevel, 2.0f, 1.0f},      {slot::LayerBypass + 3, -1.0f, 0.0f}};
+    for (const auto& [setting, value, shown] : rows) EXPECT_EQ(slot::LaneValue(setting, value), shown) << setting;
+}
+
 // A program switch reads, reports and applies each value, in order.
 TEST_F(Parameters, AreReportedAtAProgramSwitch)
 {

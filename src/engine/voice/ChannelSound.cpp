@@ -1,50 +1,15 @@
 // What the voices of one channel share.
 #include "engine/voice/ChannelSound.h"
 
-#include <iterator>
-
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
-#include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
 
 namespace {
 
-/// Channel parameter that a modulation destination code targets, −1 none. Codes are positions in the editor's list of
-/// destinations, in which headings and separators count.
-constexpr int kNoTarget = -1;
-constexpr int kModulationTargets[] = {
-    kNoTarget,                // "---"
-    slot::FilterCutoff,       //
-    slot::FilterResonance,    //
-    kNoTarget,                // separator
-    slot::Modulation,         //
-    kNoTarget,                // "Envelope 1"
-    slot::EnvelopeAttack,     //
-    slot::EnvelopeDecay,      //
-    slot::EnvelopeAmount,     //
-    kNoTarget,                // "Envelope 2"
-    slot::EnvelopeAttack + 1, //
-    slot::EnvelopeDecay + 1,  //
-    slot::EnvelopeAmount + 1, //
-    kNoTarget,                // "LFO 1"
-    slot::LfoRate,            //
-    slot::LfoAmount,          //
-    kNoTarget,                // "LFO 2"
-    slot::LfoRate + 1,        //
-    slot::LfoAmount + 1,      //
-    kNoTarget,                // "Amplitude EG"
-    slot::AmpAttack,          //
-    slot::AmpDecay,           //
-};
-
-bool Targets(float code, int index)
-{
-    if (code == 0.0f) return false;
-    const int c = Truncate(code);
-    return c > 0 && c < static_cast<int>(std::size(kModulationTargets)) && kModulationTargets[c] == index;
-}
+bool Targets(float code, int index) { return code != 0.0f && slot::ModulationTarget(Truncate(code)) == index; }
 
 } // namespace
 

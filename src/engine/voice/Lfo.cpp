@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
 
 namespace korvane {
@@ -39,7 +40,7 @@ void Lfo::Run(float* values, int frames)
 
 float LfoFrequency(float rateValue, float syncValue, float tempo)
 {
-    const int mode = law::Position(syncValue, 2);
+    const int mode = law::Position(syncValue, slot::LastPosition(slot::LfoSync));
     if (mode < 1) return law::LfoFreeHz(rateValue);
     if (!(tempo > 0.0f)) return 0.0f;
     const float beats = SyncBeats(rateValue) * (mode > 1 ? kBeatsPerBar : 1.0f);

@@ -6,8 +6,8 @@
 
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/VoiceLife.h"
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
-#include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -28,10 +28,11 @@ void SetUpLfo(const ChannelSound& channel, Lfo& lfo, int number, float tempo)
 void SetUpRouting(const ChannelSound& channel, int number, EnvelopeRoute& envelope, Lfo& lfo)
 {
     const auto value = [&](int index) { return channel.Modulated(index + number); };
-    envelope.destination = law::Position(value(slot::EnvelopeDestination), 3);
+    const auto position = [&](int index) { return law::Position(value(index), slot::LastPosition(index)); };
+    envelope.destination = position(slot::EnvelopeDestination);
     envelope.amount = law::Depth(value(slot::EnvelopeAmount), value(slot::EnvelopeInvert) != 0.0f);
-    lfo.destination = law::Position(value(slot::LfoDestination), 3);
-    lfo.shape = law::Position(value(slot::LfoShape), 3);
+    lfo.destination = position(slot::LfoDestination);
+    lfo.shape = position(slot::LfoShape);
     lfo.amount = law::Depth(value(slot::LfoAmount), value(slot::LfoInvert) != 0.0f);
 }
 
@@ -101,7 +102,8 @@ void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
         SetUpRouting(channel, 0, channel.env1, channel.lfo1);
         SetUpRouting(channel, 1, channel.env2, channel.lfo2);
     }
-    channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), 2), 0, 2);
+    constexpr int last = slot::LastPosition(slot::FilterType);
+    channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), last), 0, last);
     channel.cutoffBase = channel.params[slot::FilterCutoff];
     if (!(channel.cutoffSmooth >= 0.0f) || !std::isfinite(channel.cutoffSmooth))
         channel.cutoffSmooth = channel.cutoffBase;

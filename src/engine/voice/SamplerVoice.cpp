@@ -8,8 +8,8 @@
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/VoiceLife.h"
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
-#include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
 namespace korvane {

@@ -8,8 +8,8 @@
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/SamplerVoice.h"
 #include "engine/voice/SynthVoice.h"
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
-#include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
