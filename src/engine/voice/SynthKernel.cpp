@@ -71,7 +71,7 @@ Word4 PhasesOf(Float4 quarterCycles)
 /// One unison voice within a run.
 struct Unison {
     UnisonPhases phase, increment;
-    float gainLeft[kSources], gainRight[kSources];
+    float gainLeft[kOscillatorsAndNoise], gainRight[kOscillatorsAndNoise];
 
     /// Read phases of oscillator 1, which restarts whenever the reference completes a cycle.
     Word4 SyncedPhases(int frames)
@@ -181,7 +181,7 @@ void RenderUnison(const UnisonMix& mix, const UnisonTuning& tuning, const float*
         unison[u].phase = phases[u];
         unison[u].increment = {tuning.increments[0][u], tuning.syncIncrements[u], tuning.increments[1][u],
                                tuning.increments[2][u]};
-        for (int source = 0; source < kSources; ++source) {
+        for (int source = 0; source < kOscillatorsAndNoise; ++source) {
             unison[u].gainLeft[source] = mix.gainLeft[source][u];
             unison[u].gainRight[source] = mix.gainRight[source][u];
         }

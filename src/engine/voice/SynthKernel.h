@@ -16,7 +16,7 @@ enum class OscillatorModulation : int {
     Amplitude = 2, // oscillator 2 moves oscillator 1's amplitude
 };
 
-inline constexpr int kSources = kOscillators + 1; // the last one is the noise
+inline constexpr int kOscillatorsAndNoise = kOscillators + 1; // the last one is the noise
 
 /// Levels and modulation of a run, the same for every voice of the channel.
 struct UnisonMix {
@@ -24,8 +24,8 @@ struct UnisonMix {
     OscillatorModulation modulation = OscillatorModulation::Sync;
     std::uint32_t phaseOffset2 = 0; // of oscillator 2; a full cycle is 2^32
     bool invert2 = false;           // oscillator 2
-    float gainLeft[kSources][kUnison] = {};
-    float gainRight[kSources][kUnison] = {};
+    float gainLeft[kOscillatorsAndNoise][kUnison] = {};
+    float gainRight[kOscillatorsAndNoise][kUnison] = {};
 };
 
 /// Frequencies and tables of one voice for a run; phases per frame, a full cycle is 2^32.

@@ -23,15 +23,15 @@ void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
     const auto value = [&](int index) { return channel.Modulated(index); };
     const auto share = [&](int index) { return law::MixShare(value(index)); };
     const float a = share(slot::MixOsc2), b = share(slot::MixOsc3), z = share(slot::NoiseMix);
-    const float levels[kSources] = {(1.0f - a) * (1.0f - b) * (1.0f - z), a * (1.0f - b) * (1.0f - z), b * (1.0f - z),
-                                    z};
+    const float levels[kOscillatorsAndNoise] = {(1.0f - a) * (1.0f - b) * (1.0f - z), a * (1.0f - b) * (1.0f - z),
+                                                b * (1.0f - z), z};
     const float stereo = value(slot::UnisonStereo);
     const int count = mix.unisonCount;
     const float norm = kSourceScale / (static_cast<float>(count - 1) * 0.15f + 1.0f);
     for (int u = 0; u < count; ++u) {
         const float sign = u == 0 && count % 2 == 1 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
         const float left = law::StereoLeft(sign * stereo), right = law::StereoRight(sign * stereo);
-        for (int source = 0; source < kSources; ++source) {
+        for (int source = 0; source < kOscillatorsAndNoise; ++source) {
             mix.gainLeft[source][u] = levels[source] * left * norm;
             mix.gainRight[source][u] = levels[source] * right * norm;
         }

@@ -80,7 +80,7 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
 TEST(SynthVoice, MixesItsSources)
 {
     // clang-format off
-    const struct { const char* what; float mix2, mix3, noise; double levels[kSources]; } cases[] = {
+    const struct { const char* what; float mix2, mix3, noise; double levels[kOscillatorsAndNoise]; } cases[] = {
         {"oscillator 1 alone",      0,    0,    0,    {1,      0,      0,    0}},
         {"a quarter of 2",          0.5f, 0,    0,    {0.75,   0.25,   0,    0}},
         {"a quarter of 3",          0,    0.5f, 0,    {0.75,   0,      0.25, 0}},
