@@ -1,7 +1,6 @@
 // Number helpers that have an answer for every input, NaN and infinity included.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 
 namespace korvane {
@@ -26,8 +25,5 @@ constexpr T Clamp(T value, T low, T high)
 {
     return value > low ? (value < high ? value : high) : low;
 }
-
-/// Values this small are stored as 0, so that recurrences never reach the denormal range.
-inline float Flush(float value, float threshold = 1e-9f) { return std::fabs(value) < threshold ? 0.0f : value; }
 
 } // namespace korvane

@@ -27,7 +27,7 @@ S Magnitude(S value)
 
 inline constexpr float kFlushBelow = 1e-9f;
 
-/// Filter states this small, and NaN, become 0: recurrences reach no denormals and forget a bad input.
+/// Values this small, and NaN, become 0: recurrences reach no denormals and forget a bad input.
 inline float Flushed(float value) { return Magnitude(value) >= kFlushBelow ? value : 0.0f; }
 
 template <class S>

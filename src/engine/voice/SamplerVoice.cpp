@@ -11,6 +11,7 @@
 #include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
+#include "platform/StereoFrame.h"
 
 namespace korvane {
 
@@ -120,8 +121,8 @@ int ReadFrames(SamplerLayer& layer, const CWaveSample& sample, float* out, int f
         }
         const float left = data0[i] * (1.0f - f) + data0[i + 1] * f;
         const float right = kStereo ? data1[i] * (1.0f - f) + data1[i + 1] * f : left;
-        out[2 * n] = Flush(left * gainLeft);
-        out[2 * n + 1] = Flush(right * gainRight);
+        out[2 * n] = Flushed(left * gainLeft);
+        out[2 * n + 1] = Flushed(right * gainRight);
         position += increment;
     }
     for (int rest = n; rest < frames; ++rest) position += increment;
@@ -156,7 +157,7 @@ void RunEnvelope(SamplerLayer& layer, float* gains, int frames)
         }
         gains[n] = level * level * kSourceScale;
     }
-    layer.envLevel = Flush(level);
+    layer.envLevel = Flushed(level);
     layer.envTarget = target;
     layer.envRate = rate;
     layer.plateauFrames = hold;
