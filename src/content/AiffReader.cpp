@@ -11,7 +11,7 @@ namespace korvane {
 
 namespace {
 
-constexpr int kMaxMarkers = 1024;
+constexpr int kMaxMarkers = 1024;               // of a chunk; more are damage
 constexpr int kMarkerBudget = 64 * kMaxMarkers; // of a whole file: bounds what damaged chunks cost
 
 struct AiffHeader {
@@ -27,7 +27,8 @@ struct AiffHeader {
 
 bool ReadCommon(CFileStreamer& file, std::uint32_t size, AiffHeader& header)
 {
-    if (size < 18) return false;
+    constexpr int kCommonBytes = 18;
+    if (size < kCommonBytes) return false;
     header.channels = file.ReadWordBigEndian();
     header.frames = file.ReadDwordBigEndian();
     header.bits = file.ReadWordBigEndian();
@@ -94,8 +95,9 @@ bool CWaveSample::LoadAiff(const char* path, int padFrames)
         } else if (std::memcmp(tag, "MARK", 4) == 0) {
             ReadMarkers(file, header);
         } else if (std::memcmp(tag, "INST", 4) == 0) {
-            good = size >= 20;
-            file.Seek(data + 10);
+            constexpr int kInstrumentBytes = 20, kSustainMarkers = 10; // in "INST"
+            good = size >= kInstrumentBytes;
+            file.Seek(data + kSustainMarkers);
             header.beginMarker = static_cast<std::int16_t>(file.ReadWordBigEndian());
             header.endMarker = static_cast<std::int16_t>(file.ReadWordBigEndian());
             header.loop = true;

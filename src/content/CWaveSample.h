@@ -12,6 +12,8 @@ namespace korvane {
 /// 0 <= loopStart <= loopEnd <= numFrames.
 class CWaveSample {
 public:
+    static constexpr int kPadFrames = 10; // zero frames after every sample; interpolation reads two of them at most
+
     CWaveSample() = default;
     virtual ~CWaveSample() = default;
 

@@ -8,6 +8,7 @@
 #include "platform/Files.h"
 #include "platform/ModulePath.h"
 #include "platform/Registry.h"
+#include "shell/CPluginDefinition.h"
 
 namespace korvane {
 
@@ -29,9 +30,8 @@ ContentFolders::ContentFolders(const char* contentRoot)
 
 ContentFolders ContentFolders::Find(int hostKind)
 {
-    constexpr int kNativeHost = 3;
     char setting[1024] = "";
-    if (hostKind != kNativeHost &&
+    if (hostKind != host::Native &&
         ReadRegistryText("SOFTWARE\\Brassmoor\\Korvane", "rootFolder", setting, sizeof setting))
         return ContentFolders(EnginePath(setting).c_str());
     return ContentFolders(ModuleFolder().c_str());

@@ -8,10 +8,15 @@ namespace korvane {
 
 void BuildCutoffTable(CutoffPair* pairs)
 {
+    // All by ear. Range and feedback keep the factors of their last tuning apart: products would round otherwise.
+    constexpr float kOctaves = 10.05f, kOctavesTuned = 0.9725f;
+    constexpr float kLowest = 0.0005f;      // 14 Hz at 44.1 kHz
+    constexpr float kFeedbackByGain = 1.5f; // more feedback for high cutoffs
+    constexpr float kFeedback = 5.0f, kFeedbackTuned = 0.77f, kFeedbackTunedAgain = 0.9825f;
     for (int i = 0; i < kCutoffPairs; ++i) {
-        const float t = std::pow(2.0f, static_cast<float>(i) / 65536.0f * 10.05f * 0.9725f);
-        const float g = 0.0005f * t;
-        pairs[i] = {g, (1.5f * g + 1.0f) * 5.0f * 0.77f * 0.9825f};
+        const float cutoff = static_cast<float>(i) / static_cast<float>(kCutoffPairs);
+        const float g = kLowest * std::pow(2.0f, cutoff * kOctaves * kOctavesTuned);
+        pairs[i] = {g, (kFeedbackByGain * g + 1.0f) * kFeedback * kFeedbackTuned * kFeedbackTunedAgain};
     }
 }
 

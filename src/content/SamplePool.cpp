@@ -14,7 +14,7 @@ namespace korvane {
 
 namespace {
 
-constexpr int kCopyBytes = 65536;
+constexpr int kCopyBytes = 65536; // at a time
 
 bool CopyFile(const char* from, const char* to)
 {
@@ -76,7 +76,8 @@ std::unique_ptr<PoolEntry> SamplePool::Decode(const char* foundPath, int kind)
     } else {
         entry->sample.reset(new (std::nothrow) CWaveSample);
         if (!entry->sample) return nullptr;
-        if (!entry->sample->LoadWav(foundPath, kPadFrames)) entry->sample->LoadAiff(foundPath, kPadFrames);
+        if (!entry->sample->LoadWav(foundPath, CWaveSample::kPadFrames))
+            entry->sample->LoadAiff(foundPath, CWaveSample::kPadFrames);
     }
     return entry;
 }

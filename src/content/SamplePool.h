@@ -9,6 +9,7 @@
 #include "content/CWaveSample.h"
 #include "content/CutoffTable.h"
 #include "content/WaveTables.h"
+#include "framework/Limits.h"
 #include "platform/SharedText.h"
 
 namespace korvane {
@@ -36,10 +37,6 @@ struct PoolEntry {
 /// run under the program-switch handshake.
 class SamplePool {
 public:
-    static constexpr int kChannelBuffers = 13;
-    static constexpr int kBufferFrames = 512;
-    static constexpr int kPadFrames = 10; // zero frames after every sample
-
     SamplePool();
     virtual ~SamplePool();
     SamplePool(const SamplePool&) = delete;
@@ -75,7 +72,7 @@ public:
     /// there was none. Touches no pool: any thread that may wait for the disk.
     static bool CopyFiles(const std::vector<std::string>& paths, const char* folder);
 
-    float* ChannelLeft(int c) { return channelBuffers[c][0]; }  // c 0..12, kBufferFrames floats
+    float* ChannelLeft(int c) { return channelBuffers[c][0]; }  // c 0..12, kMaxRun floats
     float* ChannelRight(int c) { return channelBuffers[c][1]; } // of the channel's mix
     float* Scratch(int parity) { return engineBuffer[parity]; } // 0 left, 1 right: outputs that nobody hears
 
@@ -87,8 +84,8 @@ public:
     std::unique_ptr<PoolEntry> entries;  // in order of first load
 
     // Audio thread only.
-    alignas(64) float channelBuffers[kChannelBuffers][2][kBufferFrames] = {};
-    alignas(64) float engineBuffer[2][kBufferFrames] = {};
+    alignas(64) float channelBuffers[kChannels][2][kMaxRun] = {};
+    alignas(64) float engineBuffer[2][kMaxRun] = {};
     alignas(64) const float silentTable[kWaveTablePoints] = {}; // what an oscillator without a waveform reads
 };
 

@@ -41,13 +41,11 @@ bool ReadFrames(CFileStreamer& file, CWaveSample& sample, std::int64_t bytes, in
     return true;
 }
 
-inline float FromInt16(std::uint32_t bits)
-{
-    return static_cast<float>(static_cast<std::int16_t>(bits)) * 3.0517578125e-5f;
-}
+inline float FromInt16(std::uint32_t bits) { return static_cast<float>(static_cast<std::int16_t>(bits)) * 0x1p-15f; }
 inline float FromInt24(std::uint32_t bits)
 {
-    return static_cast<float>(static_cast<double>(static_cast<std::int32_t>(bits << 8) >> 8) / 8388607.0);
+    return static_cast<float>(static_cast<double>(static_cast<std::int32_t>(bits << 8) >> 8) /
+                              8388607.0); // 2^23 - 1: full scale reaches 1
 }
 
 } // namespace korvane

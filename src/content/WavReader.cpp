@@ -11,7 +11,10 @@ namespace korvane {
 
 namespace {
 
-constexpr int kIntegers = 1, kFloats = 3;
+constexpr int kIntegers = 1, kFloats = 3; // format tags
+constexpr int kFormatBytes = 16;          // of "fmt " without extension
+constexpr int kLoopOffset = 44;           // in "smpl", of the first loop's start and end
+constexpr int kFirstLoopBytes = 52;       // of "smpl" up to them
 
 struct WavFormat {
     int tag = kIntegers;
@@ -31,7 +34,7 @@ std::uint32_t Little(const std::uint8_t* p, int count)
 
 bool ReadFormat(CFileStreamer& file, std::uint32_t size, WavFormat& format)
 {
-    if (size < 16) return false;
+    if (size < kFormatBytes) return false;
     format.tag = file.ReadWord();
     format.channels = file.ReadWord() & 0xFF;
     format.rate = file.ReadDword();
@@ -60,9 +63,8 @@ bool ReadData(CFileStreamer& file, CWaveSample& sample, const WavFormat& format,
     if (format.tag == kFloats) return read([](const std::uint8_t* p) { return std::bit_cast<float>(Little(p, 4)); });
     if (format.bits == 16) return read([](const std::uint8_t* p) { return FromInt16(Little(p, 2)); });
     if (format.bits == 24) return read([](const std::uint8_t* p) { return FromInt24(Little(p, 3)); });
-    return read([](const std::uint8_t* p) {
-        return static_cast<float>(static_cast<std::int32_t>(Little(p, 4)) / 2147483648.0);
-    });
+    return read(
+        [](const std::uint8_t* p) { return static_cast<float>(static_cast<std::int32_t>(Little(p, 4)) * 0x1p-31); });
 }
 
 } // namespace
@@ -91,8 +93,8 @@ bool CWaveSample::LoadWav(const char* path, int padFrames)
                 Clear();
                 return false;
             }
-        } else if (std::memcmp(tag, "smpl", 4) == 0 && size >= 52) {
-            file.Seek(data + 44);
+        } else if (std::memcmp(tag, "smpl", 4) == 0 && size >= kFirstLoopBytes) {
+            file.Seek(data + kLoopOffset);
             start = file.ReadDword();
             end = std::min(file.ReadDword(), static_cast<std::uint32_t>(frames));
             if (start >= static_cast<std::uint32_t>(frames)) start = 0;

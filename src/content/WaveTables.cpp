@@ -15,7 +15,7 @@ namespace korvane {
 namespace {
 
 constexpr int kPoints = kWaveTablePoints;
-constexpr int kPadFrames = 10;
+constexpr int kPadFrames = CWaveSample::kPadFrames;
 
 using Cycle = std::array<double, kPoints>;
 

@@ -109,7 +109,17 @@ inline float AmpGain(float value) { return DbGain(AmpDb(value)); }
 inline float Depth(float value, bool inverted) { return inverted ? -Square(value) : Square(value); }
 inline double DepthKnob(double depth) { return Knob(std::sqrt(std::fabs(depth))); }
 
-// Channel filter. The engine reads its coefficients from CutoffTable; these are the corners of one stage at 44.1 kHz.
+/// Semitones in octaves, as a factor of frequency.
+inline float PitchRatio(float semitones) { return std::pow(2.0f, semitones / 12.0f); }
+
+inline constexpr float kReferenceNote = 57.0f; // sounds at 220 Hz, and the channel filter's tracking turns about it
+inline float NoteHz(float note) { return 220.0f * PitchRatio(note - kReferenceNote); }
+
+/// What "Filter KBD Tracking" adds to the cutoff knob: 1 / 128 per semitone, a little less than the note moves.
+inline float CutoffTracking(float note, float tracking) { return (note - kReferenceNote) * 0.0078125f * tracking; }
+
+// Channel filter. The engine reads coefficients from CutoffTable; these are the corners of one stage at 44.1 kHz that
+// come of it, rounded.
 inline float CutoffHz(float value) { return 14.04f * std::pow(2.0f, 9.7736f * value); }
 inline double CutoffKnob(double hz) { return Knob(std::log2(hz / 14.04) / 9.7736); }
 

@@ -54,7 +54,7 @@ protected:
     void GiveSample(int c, float height)
     {
         constexpr int kFrames = 4 * static_cast<int>(kRate);
-        auto data = std::make_unique<float[]>(kFrames + SamplePool::kPadFrames);
+        auto data = std::make_unique<float[]>(kFrames + CWaveSample::kPadFrames);
         for (int n = 0; n < kFrames; ++n) data[static_cast<std::size_t>(n)] = n / 24 % 2 ? -height : height;
         auto sample = std::make_unique<CWaveSample>();
         sample->numFrames = kFrames;

@@ -33,7 +33,7 @@ struct Rig {
         drum.sample->numChannels = 2;
         drum.sample->numFrames = 1 << 20;
         for (auto& data : drum.sample->channelData) {
-            data = std::make_unique<float[]>((1 << 20) + SamplePool::kPadFrames);
+            data = std::make_unique<float[]>((1 << 20) + CWaveSample::kPadFrames);
             for (int i = 0; i < 1 << 20; ++i) data[i] = std::sin(0.05f * static_cast<float>(i));
         }
         for (int c = 0; c < kChannels; ++c) {

@@ -11,7 +11,8 @@
 
 namespace korvane {
 
-inline constexpr float kSourceScale = 0.005f; // full scale of the sources; the voice's output gain undoes it
+inline constexpr float kSourceScale =
+    0.005f; // full scale of the sources, low in the filter's limiter; the output gain undoes it
 
 /// One layer of a sampler voice; fixed at note start but for position, increment, delay, hold, envelope and filters.
 struct SamplerLayer {

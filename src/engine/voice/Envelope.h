@@ -3,7 +3,7 @@
 
 namespace korvane {
 
-inline constexpr float kAttackTarget = 5.0f; // an attack aims beyond full level, so that it arrives
+inline constexpr float kAttackTarget = 5.0f; // an attack aims beyond full level, so that it arrives; by ear
 
 /// Level moving toward a target by a fraction of the distance per frame. At full level the attack ends: from there it
 /// decays toward `sustain`.

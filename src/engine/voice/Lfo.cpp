@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
@@ -29,7 +30,8 @@ void Lfo::Run(float* values, int frames)
 {
     if (amount == 0.0f) return RunShape(*this, values, frames, [](float) { return 0.0f; });
     switch (shape) {
-    case 0: return RunShape(*this, values, frames, [](float p) { return std::sin(6.2831853f * p); });
+    case 0:
+        return RunShape(*this, values, frames, [](float p) { return std::sin(2.0f * std::numbers::pi_v<float> * p); });
     case 1:
         return RunShape(*this, values, frames, [](float p) { return 2.0f * p <= 1.0f ? 2.0f * p : 2.0f - 2.0f * p; });
     case 2: return RunShape(*this, values, frames, [](float p) { return 1.0f - p; });

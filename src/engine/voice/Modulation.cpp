@@ -14,8 +14,8 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSmoothing = 0.01f; // of cutoff, modulation amount and gain, fraction per frame
-constexpr float kEnvelopeSemitones = 24.0f;
+constexpr float kSmoothing = 0.01f;         // of cutoff, modulation amount and gain, fraction per frame; by ear
+constexpr float kEnvelopeSemitones = 24.0f; // of an envelope at full level and amount
 
 void SetUpLfo(const ChannelSound& channel, Lfo& lfo, int number, float tempo)
 {

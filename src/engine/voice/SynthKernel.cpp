@@ -11,6 +11,11 @@ namespace korvane {
 namespace {
 
 constexpr int kLanes = 4; // consecutive frames
+
+// What oscillator 2 at 1 does to oscillator 1 at full modulation; by ear.
+constexpr float kPhaseDepth = 15.0f;    // quarter cycles
+constexpr float kAmplitudeDepth = 3.0f; // of the amplitude
+
 constexpr Word4 kRamp = {0, 1, 2, 3};
 
 /// Several steps of the generator at once: x becomes multiplier × x + increment.
@@ -122,9 +127,10 @@ void Render(const UnisonMix& mix, const UnisonTuning& tuning, const float* modAm
                 phase1 = voice.phase.osc1 + kRamp * voice.increment.osc1;
                 voice.phase.osc1 += voice.increment.osc1 * static_cast<unsigned>(groupFrames);
             }
-            if constexpr (kModulation == OscillatorModulation::Phase) phase1 += PhasesOf(15.0f * amount * s2);
+            if constexpr (kModulation == OscillatorModulation::Phase) phase1 += PhasesOf(kPhaseDepth * amount * s2);
             Float4 s1 = Read(tuning.tables[0], phase1 + Dither(kDraw[1](draws)));
-            if constexpr (kModulation == OscillatorModulation::Amplitude) s1 = s1 * (1.0f - 3.0f * amount * s2);
+            if constexpr (kModulation == OscillatorModulation::Amplitude)
+                s1 = s1 * (1.0f - kAmplitudeDepth * amount * s2);
 
             Float4 sumLeft{}, sumRight{};
             const auto add = [&](const Float4& source, int number) {

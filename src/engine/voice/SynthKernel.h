@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "content/WaveTables.h"
 #include "engine/voice/ChannelVoice.h"
 #include "engine/voice/RandomGenerator.h"
 #include "framework/Limits.h"
@@ -30,12 +31,13 @@ struct UnisonMix {
 
 /// Frequencies and tables of one voice for a run; phases per frame, a full cycle is 2^32.
 struct UnisonTuning {
-    const float* tables[kOscillators] = {}; // one cycle each, 1024 points
+    const float* tables[kOscillators] = {}; // one cycle each
     std::uint32_t increments[kOscillators][kUnison] = {};
     std::uint32_t syncIncrements[kUnison] = {};
 };
 
-inline constexpr int kTableShift = 22; // from a phase to one of the 1024 points of a table
+inline constexpr int kTableShift = 22; // from a phase to a point of a table
+static_assert(kWaveTablePoints == 1 << (32 - kTableShift));
 
 /// A phase from a float, 4 to a cycle, as the instrument rounds it: the bias lets negative positions convert as well,
 /// and the steps, one short of 2^22 per quarter, put position 0 a trifle before phase 0.

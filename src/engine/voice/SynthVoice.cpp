@@ -14,9 +14,12 @@ namespace korvane {
 
 namespace {
 
-constexpr float kNoteOf220 = 57.0f; // sounds at 220 Hz
-constexpr int kRichestTable = 511;
-constexpr std::uint32_t kRestartFrames = 512; // a restarted phase starts up to this many frames into the cycle
+constexpr int kRichestTable = kWaveTables - 1;
+constexpr float kHighestFrequency = 0.4999f;  // of the sample rate; just below its half, where phases turn back
+constexpr std::uint32_t kRestartFrames = 512; // a restarted phase lies up to so many frames into the cycle; by ear
+constexpr float kLoudnessOfOne = 0.15f;       // what each further unison voice counts of the first; by ear
+constexpr float kSyncSpan = 3.0f;             // full modulation raises oscillator 1 by so many times its frequency
+constexpr float kLfoSemitones = 12.0f;        // of an LFO at 1
 
 void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
 {
@@ -27,7 +30,7 @@ void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
                                                 b * (1.0f - z), z};
     const float stereo = value(slot::UnisonStereo);
     const int count = mix.unisonCount;
-    const float norm = kSourceScale / (static_cast<float>(count - 1) * 0.15f + 1.0f);
+    const float norm = kSourceScale / (static_cast<float>(count - 1) * kLoudnessOfOne + 1.0f);
     for (int u = 0; u < count; ++u) {
         const float sign = u == 0 && count % 2 == 1 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
         const float left = law::StereoLeft(sign * stereo), right = law::StereoRight(sign * stereo);
@@ -40,13 +43,13 @@ void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
 
 int TableOf(float frequency, float rate)
 {
-    if (frequency <= rate / 1024.0f) return kRichestTable;
+    if (frequency <= rate / static_cast<float>(kWaveTablePoints)) return kRichestTable;
     return Clamp(Truncate(rate / (2.0f * frequency)), 0, kRichestTable);
 }
 
 void FillIncrements(float frequency, float rate, const SynthSettings& settings, std::uint32_t* increments)
 {
-    const float limit = 0.4999f * rate;
+    const float limit = kHighestFrequency * rate;
     for (int u = 0; u < settings.mix.unisonCount; ++u) {
         const float cycles = std::min(frequency * settings.detune[u], limit) / rate;
         increments[u] = static_cast<std::uint32_t>(Truncate(cycles * 0x1p32f));
@@ -77,7 +80,7 @@ void SetUpSynth(const ChannelSound& channel, SynthSettings& settings)
     for (int osc = 0; osc < kOscillators; ++osc) {
         const float semitones = static_cast<float>(law::OscillatorSemitones(value(slot::Osc1Pitch + 2 * osc)));
         const float cents = static_cast<float>(law::OscillatorCents(value(slot::Osc1Detune + 2 * osc)));
-        settings.ratios[osc] = std::pow(2.0f, (semitones + 0.01f * cents) / 12.0f);
+        settings.ratios[osc] = law::PitchRatio(semitones + 0.01f * cents);
     }
     settings.bendSemitones = static_cast<float>(law::BendSemitones(value(slot::BendRange)));
     settings.slides = value(slot::SlideEnable) != 0.0f;
@@ -107,9 +110,9 @@ void StartOscillators(ChannelSound& channel, ChannelVoice& voice)
 void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning)
 {
     if (!settings.slides) voice.glidePitch = static_cast<float>(voice.pitchNote);
-    const float pitch =
-        voice.glidePitch + PitchModulation(channel, voice, 12.0f) + settings.bendSemitones * channel.pitchBendIn;
-    const float base = 220.0f * std::pow(2.0f, (pitch - kNoteOf220) / 12.0f);
+    const float pitch = voice.glidePitch + PitchModulation(channel, voice, kLfoSemitones) +
+                        settings.bendSemitones * channel.pitchBendIn;
+    const float base = law::NoteHz(pitch);
     const float rate = channel.rate;
 
     float frequencies[kOscillators];
@@ -117,7 +120,7 @@ void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSett
     FillIncrements(frequencies[0], rate, settings, tuning.syncIncrements);
     if (settings.mix.modulation == OscillatorModulation::Sync) {
         const float amount = ModulatedAmount(channel, voice, channel.Modulated(slot::Modulation));
-        frequencies[0] *= 1.0f + 3.0f * Clamp(amount, 0.0f, 1.0f);
+        frequencies[0] *= 1.0f + kSyncSpan * Clamp(amount, 0.0f, 1.0f);
     }
     for (int osc = 0; osc < kOscillators; ++osc) {
         FillIncrements(frequencies[osc], rate, settings, tuning.increments[osc]);

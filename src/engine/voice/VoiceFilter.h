@@ -11,7 +11,7 @@ namespace korvane {
 /// Which signal of the ladder is heard.
 enum class FilterType : int { LowPass = 0, BandPass = 1, HighPass = 2 };
 
-inline constexpr int kOversampling = 4;
+inline constexpr int kOversampling = 4; // passes per frame
 
 /// Four-pole resonant ladder (R. A. Moog, "A voltage-controlled low-pass high-pass filter for audio signal processing",
 /// 1965) with the limiter in its feedback path, run four times per frame on the same input. S is float or a vector of
@@ -27,7 +27,7 @@ struct Ladder {
     void Pass(S x, S g, S k, S resonance)
     {
         u = x - s4 * k * resonance;
-        u = u / (1.0f + 0.04f * (u * u)); // bounds the self-oscillation
+        u = u / (1.0f + 0.04f * (u * u)); // bounds the self-oscillation; by ear
         s1 += (u - s1) * g;
         s2 += (s1 - s2) * g;
         s3 += (s2 - s3) * g;
@@ -38,7 +38,8 @@ struct Ladder {
 /// Coefficients at a cutoff of 0..1; beyond it, and for NaN, the nearest end.
 inline CutoffPair CutoffAt(const CutoffPair* table, float cutoff)
 {
-    return table[static_cast<int>(Clamp(cutoff * 65536.0f, 0.0f, 65535.0f))];
+    constexpr auto kPairs = static_cast<float>(kCutoffPairs);
+    return table[static_cast<int>(Clamp(cutoff * kPairs, 0.0f, kPairs - 1.0f))];
 }
 
 /// One voice to filter and the mix buffers that it is added to.

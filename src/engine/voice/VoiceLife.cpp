@@ -106,7 +106,7 @@ bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain)
     }
 
     const float tracking = channel.Modulated(slot::FilterTracking);
-    const float trackedCutoff = tracking == 0.0f ? 0.0f : (voice.glidePitch - 57.0f) * 0.0078125f * tracking;
+    const float trackedCutoff = tracking == 0.0f ? 0.0f : law::CutoffTracking(voice.glidePitch, tracking);
 
     const bool silenced = voice.fromSequencer && channel.muted;
     const bool released = voice.amp.level < kSilence && voice.amp.target == 0.0f;

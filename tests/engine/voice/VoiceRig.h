@@ -52,7 +52,7 @@ struct VoiceRig {
         entry.sample->numFrames = frames;
         entry.sample->numChannels = channels;
         for (int c = 0; c < channels; ++c) {
-            auto data = std::make_unique<float[]>(static_cast<std::size_t>(frames + SamplePool::kPadFrames));
+            auto data = std::make_unique<float[]>(static_cast<std::size_t>(frames + CWaveSample::kPadFrames));
             for (int i = 0; i < frames; ++i) data[i] = value(c, i);
             entry.sample->channelData[c] = std::move(data);
         }
