@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 
+#include "framework/Limits.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -20,7 +21,7 @@ inline constexpr float Four = 4.0f;
 inline constexpr float Eight = 8.0f;
 } // namespace beats
 
-inline constexpr float kBeatsPerBar = 4.0f;
+inline constexpr float kBeatsPerBar = kStepsPerBar / kStepsPerBeat;
 
 struct SyncLength {
     float beats;
