@@ -1,8 +1,8 @@
 // Fade of an effect between its input and its own signal.
 #pragma once
 
+#include "engine/dsp/StereoFrame.h"
 #include "engine/fx/Effect.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

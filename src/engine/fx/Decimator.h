@@ -1,7 +1,7 @@
 // Sample-and-hold decimator into a lowpass.
 #pragma once
 
-#include "engine/fx/Biquad.h"
+#include "engine/dsp/Biquad.h"
 #include "engine/fx/Effect.h"
 
 namespace korvane {

@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <memory>
 
+#include "engine/dsp/StereoFrame.h"
 #include "engine/fx/Effect.h"
 #include "engine/fx/MFXTapeDelay.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdint>
 
-#include "engine/fx/Biquad.h"
+#include "engine/dsp/Biquad.h"
 
 namespace korvane {
 

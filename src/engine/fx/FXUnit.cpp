@@ -5,6 +5,7 @@
 #include <cassert>
 #include <cmath>
 
+#include "engine/dsp/StereoFrame.h"
 #include "engine/fx/Chorus.h"
 #include "engine/fx/Decimator.h"
 #include "engine/fx/Distortion.h"
@@ -16,7 +17,6 @@
 #include "engine/fx/ReverbSend.h"
 #include "engine/fx/Stutter.h"
 #include "framework/Limits.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

@@ -6,7 +6,7 @@
 #include <memory>
 #include <utility>
 
-#include "platform/StereoFrame.h"
+#include "engine/dsp/StereoFrame.h"
 
 namespace korvane {
 

@@ -3,8 +3,8 @@
 
 #include <array>
 
+#include "engine/dsp/StereoFrame.h"
 #include "engine/fx/Effect.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

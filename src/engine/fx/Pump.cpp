@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "platform/StereoFrame.h"
+#include "engine/dsp/StereoFrame.h"
 
 namespace korvane {
 

@@ -1,7 +1,7 @@
 // Resonant lowpass and highpass.
 #pragma once
 
-#include "engine/fx/Biquad.h"
+#include "engine/dsp/Biquad.h"
 #include "engine/fx/Effect.h"
 
 namespace korvane {

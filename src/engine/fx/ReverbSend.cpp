@@ -4,9 +4,9 @@
 #include <cmath>
 #include <cstdint>
 
+#include "engine/dsp/StereoFrame.h"
 #include "engine/fx/Tail.h"
 #include "framework/Limits.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "platform/StereoFrame.h"
+#include "engine/dsp/StereoFrame.h"
 
 namespace korvane {
 

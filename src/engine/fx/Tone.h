@@ -3,7 +3,7 @@
 
 #include <cmath>
 
-#include "engine/fx/Biquad.h"
+#include "engine/dsp/Biquad.h"
 
 namespace korvane {
 

@@ -1,7 +1,7 @@
 // Low-cut and high-cut of a sampler layer.
 #pragma once
 
-#include "platform/Vectors.h"
+#include "engine/dsp/Vectors.h"
 
 namespace korvane {
 

@@ -4,14 +4,14 @@
 #include <algorithm>
 #include <cmath>
 
-#include "engine/fx/Biquad.h"
+#include "engine/dsp/Biquad.h"
+#include "engine/dsp/StereoFrame.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/VoiceLife.h"
 #include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

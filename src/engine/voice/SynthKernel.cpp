@@ -3,8 +3,8 @@
 
 #include <algorithm>
 
+#include "engine/dsp/Vectors.h"
 #include "platform/Numbers.h"
-#include "platform/Vectors.h"
 
 namespace korvane {
 

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "platform/Vectors.h"
+#include "engine/dsp/Vectors.h"
 
 namespace korvane {
 

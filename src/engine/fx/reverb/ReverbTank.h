@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <memory>
 
+#include "engine/dsp/StereoFrame.h"
 #include "engine/fx/reverb/ReverbCoefficients.h"
-#include "platform/StereoFrame.h"
 
 namespace korvane {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "platform/StereoFrame.h"
+#include "engine/dsp/StereoFrame.h"
 
 namespace korvane {
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "platform/StereoFrame.h"
+#include "engine/dsp/StereoFrame.h"
 
 namespace korvane {
 
