@@ -12,17 +12,6 @@ namespace korvane {
 
 namespace {
 
-/// Highest position of a stepped parameter.
-int LastPosition(int base)
-{
-    switch (base) {
-    case slot::FilterType:
-    case slot::LfoSync: return 2;
-    case slot::FxLfoSync: return 1;
-    default: return 3;
-    }
-}
-
 /// What may render. Values far outside 0..1 come from images and hosts; powers of them must not overflow before the
 /// mixer, and what they ask for is beyond every end of its range at a thousand already.
 float Tame(float value)
@@ -88,7 +77,7 @@ float GrooveEngine::GetChannelParameter(int base) const
 
 void GrooveEngine::CycleSwitch(int base)
 {
-    const int last = LastPosition(base);
+    const int last = slot::LastPosition(base);
     int position = Truncate(std::floor(GetChannelParameter(base) * static_cast<float>(last)));
     position = position < 0 || position >= last ? 0 : position + 1;
     SetChannelParameter(base, static_cast<float>(position) / static_cast<float>(last));

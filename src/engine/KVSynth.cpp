@@ -10,6 +10,7 @@
 #include "engine/StepButtons.h"
 #include "engine/Transport.h"
 #include "framework/KVProgram.h"
+#include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 #include "shell/CPluginDefinition.h"
@@ -147,7 +148,7 @@ void KVSynth::ParameterChanged(int index, float value)
 void KVSynth::NoteEvent(std::int8_t key, std::int8_t velocity)
 {
     if (key < 0) return;
-    const float value = static_cast<float>(velocity) / 127.0f;
+    const float value = law::Velocity(velocity);
     if (velocity > 0) {
         engine->liveVelocity = value;
         links.lastSource = source::FirstKey + key;

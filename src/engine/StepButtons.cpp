@@ -2,8 +2,8 @@
 #include "engine/StepButtons.h"
 
 #include <algorithm>
-#include <cmath>
 
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -115,9 +115,8 @@ void RecordRelease(GrooveEngine& engine, int k)
     if ((pattern.steps[channel][position] >> k & 1u) == 0) return;
     const double held =
         clock.frameClock / static_cast<double>(clock.sampleRate) * static_cast<double>(clock.tempo) / 60.0;
-    const float beats = std::max(static_cast<float>(held), 0.125f);
-    const float length = 0.125f * std::log2(8.0f * beats);
-    const float offset = length - engine.Channel(channel).sound.params[slot::NoteLength];
+    const float beats = std::max(static_cast<float>(held), beats::Eighth);
+    const float offset = law::NoteBeatsValue(beats) - engine.Channel(channel).sound.params[slot::NoteLength];
     pattern.locks[channel][position].Set(slot::NoteLength, Clamp(offset, -1.0f, 1.0f));
 }
 

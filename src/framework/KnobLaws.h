@@ -48,6 +48,7 @@ inline float PanRight(float value) { return Clamp(value, 0.0f, 1.0f); }
 // Note. An eighth of a beat to 32 beats; 0.25 beats is a step.
 inline float NoteBeats(float value) { return 0.125f * std::pow(2.0f, 8.0f * value); }
 inline double NoteBeatsKnob(double beats) { return Knob(std::log2(8.0 * beats) / 8.0); }
+inline float NoteBeatsValue(float beats) { return 0.125f * std::log2(8.0f * beats); } // as recording stores it
 inline double NoteBeatsOffset(double times) { return std::log2(times) / 8.0; } // of a step lock, for so many times
 inline int Semitones(float value) { return Truncate(48.0f * value - 24.0f); }
 inline double SemitonesKnob(int semitones) { return Knob((InsideStep(semitones) + 24.0) / 48.0); }
@@ -210,28 +211,37 @@ inline double FxLfoDepthKnob(double depth)
     return Knob(0.5 + 0.5 * std::copysign(std::sqrt(std::fabs(depth)), depth));
 }
 
-inline float Drive(float x) { return x * x * x * x * 1024.0f; } // gain of the soft clipper's bend
+/// Steepness of the clipper: 0 leaves the signal as it is but for its level, 1024 makes a square of it.
+inline float Drive(float x) { return x * x * x * x * 1024.0f; }
 inline double DriveKnob(double drive) { return Knob(std::pow(drive / 1024.0, 0.25)); }
+/// Full scale keeps about half its level at every drive.
 inline float DriveMakeUp(float drive) { return drive * 0.5f + 0.5f; }
 
-/// Frames that the decimator holds one.
+/// Frames that the decimator holds one, 3 to 67.
 /// clean  1 - x
 inline int CrushFrames(float clean) { return Truncate(clean * clean * 64.0f + 3.0f); }
 inline double CrushKnob(int frames) { return Knob(1.0 - std::sqrt(InsideStep(frames - 3) / 64.0)); }
 
-inline float ToneHz(float y) { return std::pow(2.0f, y * 4.28f + 10.0f); } // lowpass behind clipper and decimator
+/// Lowpass behind clipper and decimator, 1024 Hz to 19.9 kHz.
+inline float ToneHz(float y) { return std::pow(2.0f, y * 4.28f + 10.0f); }
 inline double ToneKnob(double hz) { return Knob((std::log2(hz) - 10.0) / 4.28); }
+/// 64 Hz to 19.9 kHz.
 inline float LowPassHz(float x) { return std::pow(2.0f, x * 8.28f + 6.0f); }
 inline double LowPassKnob(double hz) { return Knob((std::log2(hz) - 6.0) / 8.28); }
+/// 32 Hz to 5.5 kHz: four fifths of the octaves up to where the lowpass ends, above which too little is left.
 inline float HighPassHz(float x) { return std::pow(2.0f, x * 9.28f * 0.8f + 5.0f); }
 inline double HighPassKnob(double hz) { return Knob((std::log2(hz) - 5.0) / (9.28 * 0.8)); }
+/// Of each section, 1..3.
 inline float FilterQ(float y) { return 2.0f * (y * y) + 1.0f; }
 inline double FilterQKnob(double q) { return Knob(std::sqrt((q - 1.0) / 2.0)); }
 
+/// Up to half, inverted.
 inline float ChorusFeedback(float y) { return -0.5f * y; }
 inline double ChorusFeedbackKnob(double feedback) { return Knob(feedback / -0.5); }
-inline float PhaserDepth(float x) { return std::max(x * x, 0.00001f); } // share of the sweep
+/// Share of the sweep; never 0, where the LFO would have nothing to move.
+inline float PhaserDepth(float x) { return std::max(x * x, 0.00001f); }
 inline double PhaserDepthKnob(double depth) { return Knob(std::sqrt(depth)); }
+/// Rises steeply at first and stays stable at y = 1.
 inline float PhaserFeedback(float y) { return std::pow(0.6f * y, 1.0f / 3.0f) * 0.98f; }
 inline double PhaserFeedbackKnob(double feedback) { return Knob(std::pow(feedback / 0.98, 3.0) / 0.6); }
 
@@ -250,7 +260,8 @@ inline float ReverbLevel(float decay) { return 0.3f * decay + 0.5f; }
 inline float ReverbDamping(float y) { return y * y; }
 inline double ReverbDampingKnob(double damping) { return Knob(std::sqrt(damping)); }
 
-inline float PumpSpeed(float x) { return (1.0f - x) * (1.0f - x) * 50.0f + 1.0f; } // of the level's return
+/// Steepness of the level's return: 1 takes the whole period, 51 three eighths of it.
+inline float PumpSpeed(float x) { return (1.0f - x) * (1.0f - x) * 50.0f + 1.0f; }
 inline double PumpSpeedKnob(double speed) { return Knob(1.0 - std::sqrt((speed - 1.0) / 50.0)); }
 inline float PumpDrop(float y) { return 1.0f - y * y; } // share of the level that goes at the beat
 inline double PumpDropKnob(double drop) { return Knob(std::sqrt(1.0 - drop)); }

@@ -2,15 +2,13 @@
 #include "engine/fx/Chorus.h"
 
 #include "engine/fx/DelayLengths.h"
+#include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
 
 namespace {
-
-/// Up to half, inverted.
-float FeedbackOf(float y) { return -0.5f * y; }
 
 /// 0..0.99 of the tape's length: the deeper, the shorter.
 float DelayOf(float x, float lfo) { return Clamp((1.0f - x) - lfo, 0.0f, 0.99f); }
@@ -29,7 +27,7 @@ void Chorus::Process(UnitControls& unit, const StereoBlock& block)
     const float x = unit.x;
     const float target = unit.Target();
     float level = unit.mix;
-    tapes.feedback = FeedbackOf(unit.y);
+    tapes.feedback = law::ChorusFeedback(unit.y);
     for (int n = 0; n < block.frames; ++n) {
         level += (target - level) * UnitControls::kOnStep;
         tapes.speed = tapes.SpeedFor(static_cast<double>(DelayOf(x, lfo[n])));

@@ -3,17 +3,10 @@
 
 #include "engine/fx/Crossfade.h"
 #include "engine/fx/Tone.h"
+#include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
-
-namespace {
-
-/// Frames that one frame is held for, 3 to 67, by ear.
-/// coarseness  0..1
-int HoldPeriod(float coarseness) { return Truncate(coarseness * coarseness * 64.0f + 3.0f); }
-
-} // namespace
 
 void Decimator::Reset()
 {
@@ -24,7 +17,7 @@ void Decimator::Reset()
 
 void Decimator::Process(UnitControls& unit, const StereoBlock& block)
 {
-    const int period = HoldPeriod(Clamp(1.0f + unit.BlockLfo(block.frames) - unit.x, 0.0f, 1.0f));
+    const int period = law::CrushFrames(Clamp(1.0f + unit.BlockLfo(block.frames) - unit.x, 0.0f, 1.0f));
     const FilterCoefficients c = ToneCoefficients(unit.y, unit.sampleRate);
     auto lowpass = tone;
     Stereo sample = held;

@@ -1,30 +1,14 @@
 // Echo: tape length, filters, send and tail.
 #include "engine/fx/Echo.h"
 
-#include <algorithm>
-
 #include "engine/fx/DelayLengths.h"
 #include "engine/fx/Tail.h"
+#include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
 
 namespace {
-
-float SendOf(float x) { return x * x; }
-
-/// Coefficients of the record path: y up to 0.5 opens the lowpass, from there it closes the highpass.
-float LowPassOf(float y)
-{
-    const float lowpass = std::min(2.0f * y, 1.0f);
-    return lowpass * lowpass;
-}
-
-float HighPassOf(float y)
-{
-    const float highpass = std::max(2.0f * y - 1.0f, 0.0f);
-    return highpass * highpass;
-}
 
 /// Part of the tape that one LFO period takes.
 float DelayOf(float lfoSeconds) { return Clamp(lfoSeconds / kLongDelaySeconds, 0.01f, 0.99f); }
@@ -40,16 +24,16 @@ bool Echo::Runs(const UnitControls& unit) const { return !unit.bypass || unit.ho
 void Echo::Set(const UnitControls& unit)
 {
     delays->speed = delays->SpeedFor(static_cast<double>(DelayOf(unit.lfoSeconds)));
-    delays->lowpass = LowPassOf(unit.y);
-    delays->highpass = HighPassOf(unit.y);
-    delays->feedback = SendOf(unit.x);
+    delays->lowpass = law::EchoLowPass(unit.y);
+    delays->highpass = law::EchoHighPass(unit.y);
+    delays->feedback = law::EchoSend(unit.x);
 }
 
 void Echo::Process(UnitControls& unit, const StereoBlock& block)
 {
     Set(unit);
     TapeDelay<Stereo>& tapes = *delays;
-    const float send = SendOf(unit.x);
+    const float send = law::EchoSend(unit.x);
     const std::int32_t full = LongDelayFrames(unit.sampleRate);
     const float target = unit.Target();
     float level = unit.mix;

@@ -7,6 +7,7 @@
 #include <numbers>
 
 #include "engine/fx/Tail.h"
+#include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -31,8 +32,6 @@ constexpr std::array<Band, kEqBands> kBands {{
 }};
 // clang-format on
 
-constexpr float kRangeDb = 24.0f;
-
 BandCoefficients Normalised(float b0, float b1, float b2, float a0, float a1, float a2)
 {
     return {Flushed(b0 / a0), Flushed(b1 / a0), Flushed(b2 / a0), Flushed(a1 / a0), Flushed(a2 / a0)};
@@ -46,7 +45,7 @@ BandCoefficients EqualiserBand(int band, float gain, float rate)
     const float w = Clamp(2.0f * std::numbers::pi_v<float> * row.frequencyHz / rate, 0.0f, 3.0f);
     const float c = std::cos(w);
     const float sine = std::sin(w);
-    const float A = std::pow(10.0f, (gain - 0.5f) * kRangeDb / 20.0f);
+    const float A = law::DbGain(law::EqDb(gain));
     const float alpha = sine * std::sinh(std::numbers::ln2_v<float> / 2.0f * row.bandwidth * w / sine);
     const float r = 2.0f * std::sqrt(A) * alpha;
     switch (row.shape) {

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "framework/Beats.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -50,9 +51,8 @@ void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
         unit.bypass = !fxActive[k] && params[slot::FxGlue + k] == 0.0f;
         unit.x = Clamp<float>(params[slot::FxX + k], 0.0f, 1.0f);
         unit.y = Clamp<float>(params[slot::FxY + k], 0.0f, 1.0f);
-        const float amount = Clamp(2.0f * params[slot::FxLfoAmount + k] - 1.0f, -1.0f, 1.0f);
-        unit.lfoAmount = std::copysign(amount * amount, amount);
-        unit.lfoShape = Clamp(Truncate(params[slot::FxLfoShape + k] * 3.0f), 0, 3);
+        unit.lfoAmount = law::FxLfoDepth(params[slot::FxLfoAmount + k]);
+        unit.lfoShape = Clamp(law::Position(params[slot::FxLfoShape + k], 3), 0, 3);
         unit.lfoBeats =
             SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kBeatsPerBar : 1.0f);
         if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);

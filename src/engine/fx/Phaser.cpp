@@ -1,9 +1,7 @@
 // Phaser: sweep, feedback, the six stages.
 #include "engine/fx/Phaser.h"
 
-#include <algorithm>
-#include <cmath>
-
+#include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 
@@ -14,12 +12,6 @@ namespace {
 constexpr float kLowestHz = 50.0f, kHighestHz = 20000.0f; // of the sweep
 constexpr float kDepthStep = 0.001f;                      // of the way to the depth's target per frame, by ear
 constexpr float kAgainstDenormals = 0.000001f;
-
-/// Part of the sweep's range; never 0, where the LFO would have nothing to move.
-float DepthOf(float x) { return std::max(x * x, 0.00001f); }
-
-/// Rises steeply at first and stays stable at y = 1; by ear.
-float FeedbackOf(float y) { return std::pow(0.6f * y, 1.0f / 3.0f) * 0.98f; }
 
 } // namespace
 
@@ -35,8 +27,8 @@ void Phaser::Process(UnitControls& unit, const StereoBlock& block)
     float lfo[kMaxRun];
     unit.FillLfo(lfo, block.frames);
     const float target = unit.Target();
-    const float depthTarget = DepthOf(unit.x);
-    const float feedback = FeedbackOf(unit.y);
+    const float depthTarget = law::PhaserDepth(unit.x);
+    const float feedback = law::PhaserFeedback(unit.y);
     const float span = (kHighestHz - kLowestHz) / unit.sampleRate;
     const float lowest = kLowestHz / unit.sampleRate;
     float level = unit.mix;

@@ -5,18 +5,13 @@
 #include <cmath>
 
 #include "engine/dsp/StereoFrame.h"
+#include "framework/KnobLaws.h"
 
 namespace korvane {
 
 namespace {
 
 constexpr float kEnvelopeStep = 0.01f; // of the way per frame: no clicks
-
-/// Steepness of the return: 1 takes the whole period, 51 three eighths of it.
-float ReleaseOf(float x) { return (1.0f - x) * (1.0f - x) * 50.0f + 1.0f; }
-
-/// Part of the level that is taken away.
-float DropOf(float y) { return 1.0f - y * y; }
 
 /// p  0..1 of the period
 float EnvelopeAt(float p, float release)
@@ -30,8 +25,8 @@ float EnvelopeAt(float p, float release)
 
 void Pump::Process(UnitControls& unit, const StereoBlock& block)
 {
-    const float release = ReleaseOf(unit.x);
-    const float drop = DropOf(unit.y);
+    const float release = law::PumpSpeed(unit.x);
+    const float drop = law::PumpDrop(unit.y);
     const double increment = unit.lfoIncrement;
     float level = envelope;
     double phase = unit.lfoPhase;

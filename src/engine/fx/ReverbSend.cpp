@@ -6,6 +6,7 @@
 
 #include "engine/dsp/StereoFrame.h"
 #include "engine/fx/Tail.h"
+#include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -23,11 +24,6 @@ constexpr struct {
     {reverb::Predelay, 0.0f}, {reverb::Dry, 0.0f},    {reverb::MuteEr, 1.0f},
 };
 
-/// Values of the reverb's parameters, 0..1.
-float DecayOf(float x) { return 0.75f * (x * x * x); }
-float LevelOf(float decay) { return 0.3f * decay + 0.5f; }
-float DampingOf(float y) { return y * y; }
-
 } // namespace
 
 void ReverbSend::Allocate(float rate)
@@ -43,10 +39,10 @@ bool ReverbSend::Runs(const UnitControls& unit) const { return !unit.bypass || u
 
 void ReverbSend::Set(const UnitControls& unit)
 {
-    const float decay = DecayOf(unit.x);
-    reverb->SetParameter(reverb::HighDamping, DampingOf(unit.y));
+    const float decay = law::ReverbDecay(unit.x);
+    reverb->SetParameter(reverb::HighDamping, law::ReverbDamping(unit.y));
     reverb->SetParameter(reverb::Decay, decay);
-    reverb->SetParameter(reverb::Reverb, LevelOf(decay));
+    reverb->SetParameter(reverb::Reverb, law::ReverbLevel(decay));
 }
 
 void ReverbSend::Process(UnitControls& unit, const StereoBlock& block)

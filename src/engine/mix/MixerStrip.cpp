@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -25,10 +26,9 @@ float Start(float gain, float target)
 
 void MixerStrip::Set(float level, float pan)
 {
-    const float levelDb = 80.0f * level - 60.0f;
-    const float gain = Clamp(std::pow(10.0f, levelDb / 20.0f), 0.0f, kGainCeiling);
-    targetLeft = std::max(Clamp(1.0f - pan, 0.0f, 1.0f) * gain, kGainFloor);
-    targetRight = std::max(Clamp(pan, 0.0f, 1.0f) * gain, kGainFloor);
+    const float gain = Clamp(law::MixGain(level), 0.0f, kGainCeiling);
+    targetLeft = std::max(law::PanLeft(pan) * gain, kGainFloor);
+    targetRight = std::max(law::PanRight(pan) * gain, kGainFloor);
 }
 
 void MixerStrip::Skip()
