@@ -7,19 +7,11 @@
 
 #include "factory/notation/GrooveSteps.h"
 #include "factory/programs/Programs.h"
+#include "framework/KnobLaws.h"
 
 namespace korvane::factory::groove {
 
 namespace {
-
-constexpr double kMixRangeDb = 80.0, kMixLowestDb = -60.0, kAmpRangeDb = 50.0;
-
-/// "CHN: Pitch", which the engine truncates to semitones; half a step further from the centre.
-double PitchValue(int semitones)
-{
-    const double half = semitones > 0 ? 0.5 : semitones < 0 ? -0.5 : 0.0;
-    return std::fmin(1.0, std::fmax(0.0, (24.0 + semitones + half) / 48.0));
-}
 
 class Writer {
 public:
@@ -31,11 +23,11 @@ public:
         UseProgram(engine, c, track.program);
         transposed[c] = track.semitones;
         used[c] = true;
-        Store(c, slot::MixLevel, (track.levelDb - kMixLowestDb) / kMixRangeDb);
-        Store(c, slot::Panning, 0.5 + 0.5 * track.pan);
-        Store(c, slot::Pitch, PitchValue(track.semitones));
+        Store(c, slot::MixLevel, law::MixKnob(track.levelDb));
+        Store(c, slot::Panning, law::PanKnob(track.pan));
+        Store(c, slot::Pitch, law::SemitonesKnob(track.semitones));
         Store(c, slot::ShuffleEnable, track.shuffled ? 1.0 : 0.0);
-        if (track.gate > 0.0) Store(c, slot::NoteLength, (std::log2(track.gate) + 1.0) / 8.0); // half a step at 0
+        if (track.gate > 0.0) Store(c, slot::NoteLength, law::NoteBeatsKnob(track.gate * beats::Quarter));
     }
 
     void Place(const Clip& clip)
@@ -87,7 +79,7 @@ private:
         pattern.steps[channel][step] = channel < kSamplerChannels ? 1u << hit.step : hit.notes;
         if (hit.levelDb != 0.0) SetLock(pattern, channel, step, slot::AmpLevel, hit.levelDb);
         if (hit.semitones != 0) SetLock(pattern, channel, step, slot::Pitch, hit.semitones);
-        if (hit.length > 1) SetLock(pattern, channel, step, slot::NoteLength, std::log2(hit.length) / 8.0);
+        if (hit.length > 1) SetLock(pattern, channel, step, slot::NoteLength, law::NoteBeatsOffset(hit.length));
         if (hit.glides) SetLock(pattern, channel, step, slot::SlideEnable, 1.0);
     }
 
@@ -95,11 +87,11 @@ private:
     {
         const int base = transposed[channel];
         if (slotIndex == slot::Pitch)
-            offset = PitchValue(base + static_cast<int>(std::lround(offset))) - PitchValue(base);
+            offset = law::SemitonesKnob(base + static_cast<int>(std::lround(offset))) - law::SemitonesKnob(base);
         else if (slotIndex == slot::MixLevel)
-            offset /= kMixRangeDb;
+            offset = law::MixOffset(offset);
         else if (slotIndex == slot::AmpLevel)
-            offset /= kAmpRangeDb;
+            offset = law::AmpOffset(offset);
         pattern.locks[channel][step].Set(slotIndex, static_cast<float>(offset));
     }
 

@@ -1,6 +1,8 @@
 // From the row of a part to a groove with one channel.
 #include "factory/notation/Part.h"
 
+#include "framework/KnobLaws.h"
+
 namespace korvane::factory {
 
 using namespace groove;
@@ -19,8 +21,8 @@ void Write(const Part& part, GrooveEngine& engine)
                   engine);
     // Whoever loads a part keeps the mixer's level, so the part's own belongs into the amplifier.
     auto& stored = engine.storedParams[part.track.channel];
-    stored[slot::AmpLevel] = stored[slot::AmpLevel] + static_cast<float>(part.track.levelDb / 50.0);
-    stored[slot::MixLevel] = 0.75f; // 0 dB
+    stored[slot::AmpLevel] = stored[slot::AmpLevel] + static_cast<float>(law::AmpOffset(part.track.levelDb));
+    stored[slot::MixLevel] = static_cast<float>(law::MixKnob(0.0));
     engine.selection.selectedChannel = part.track.channel;
 }
 

@@ -8,6 +8,7 @@
 #include "engine/voice/Lfo.h"
 #include "engine/voice/VoiceFilter.h"
 #include "factory/words/Patch.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 
 namespace korvane::factory {
@@ -19,7 +20,7 @@ namespace to = destination;
 using Fx = FxType;
 
 /// Knob of the filter's cutoff.
-double Cutoff(double hz);
+inline double Cutoff(double hz) { return law::CutoffKnob(hz); }
 
 struct FilterSetting {
     FilterType type = FilterType::LowPass;
@@ -29,7 +30,7 @@ struct FilterSetting {
 };
 
 /// Knob of an envelope's decay: what it moves falls to a thousandth.
-double EnvelopeFall(double seconds);
+inline double EnvelopeFall(double seconds) { return law::EnvelopeDecayKnob(law::LevelFallConstant(seconds)); }
 
 struct EnvelopeSetting {
     int acts = to::Cutoff;

@@ -8,12 +8,6 @@ namespace korvane::factory {
 
 void Patch::Set(int slotIndex, double value) { engine.storedParams[channel][slotIndex] = static_cast<float>(value); }
 
-void Patch::Whole(int slotIndex, int number, double centre, double span)
-{
-    const double half = number > 0 ? 0.5 : number < 0 ? -0.5 : 0.0;
-    Set(slotIndex, std::fmin(1.0, std::fmax(0.0, (number + half + centre) / span)));
-}
-
 void Patch::Signed(int knob, int inverting, double amount)
 {
     Set(knob, std::fabs(amount));

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "engine/GrooveEngine.h"
+#include "framework/KnobLaws.h"
 
 namespace korvane::factory {
 
@@ -16,9 +17,7 @@ public:
     void Set(int slotIndex, double value); // 0..1
     void Switch(int slotIndex, bool on) { Set(slotIndex, on ? 1.0 : 0.0); }
     /// Position p of a control with positions 0..last.
-    void Position(int slotIndex, int p, int last) { Set(slotIndex, static_cast<double>(p) / last); }
-    /// A whole number that the engine truncates out of value * span - centre; set half a step above it.
-    void Whole(int slotIndex, int number, double centre, double span);
+    void Position(int slotIndex, int p, int last) { Set(slotIndex, law::PositionKnob(p, last)); }
     /// A knob and the switch that gives it a minus.
     void Signed(int knob, int inverting, double amount);
 

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "factory/waves/Waves.h"
+#include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 
 namespace korvane::factory::synth {
@@ -33,23 +34,23 @@ void SetSources(Patch& patch, const SynthSound& sound)
 {
     constexpr int kMixSlots[] = {0, slot::MixOsc2, slot::MixOsc3};
     double sum = 0.0;
-    for (int osc = 0; osc < 3; ++osc) {
+    for (int osc = 0; osc < kOscillators; ++osc) {
         const Oscillator& setting = sound.oscillators[osc];
-        patch.Whole(slot::Osc1Pitch + 2 * osc, setting.semitones, 36.0, 72.0);
-        patch.Whole(slot::Osc1Detune + 2 * osc, setting.cents, 50.0, 100.0);
+        patch.Set(slot::Osc1Pitch + 2 * osc, law::OscillatorSemitonesKnob(setting.semitones));
+        patch.Set(slot::Osc1Detune + 2 * osc, law::OscillatorCentsKnob(setting.cents));
         const double level = setting.wave ? setting.level : 0.0;
         sum += level;
-        if (osc > 0) patch.Set(kMixSlots[osc], sum > 0.0 ? std::sqrt(level / sum) : 0.0);
+        if (osc > 0) patch.Set(kMixSlots[osc], sum > 0.0 ? law::MixShareKnob(level / sum) : 0.0);
         if (!setting.wave) continue;
         CheckWave(sound, setting.wave);
         patch.Wave(osc + 1, setting.wave);
     }
-    patch.Set(slot::NoiseMix, sound.noise > 0.0 ? std::sqrt(sound.noise / (sum + sound.noise)) : 0.0);
+    patch.Set(slot::NoiseMix, sound.noise > 0.0 ? law::MixShareKnob(sound.noise / (sum + sound.noise)) : 0.0);
 }
 
 void SetUnison(Patch& patch, const Unison& unison)
 {
-    patch.Whole(slot::UnisonVoices, unison.voices - 1, 0.0, 15.0);
+    patch.Set(slot::UnisonVoices, law::UnisonVoicesKnob(unison.voices));
     patch.Set(slot::UnisonDetune, unison.detune);
     patch.Set(slot::UnisonStereo, unison.stereo);
     patch.Switch(slot::UnisonRetrig, unison.restarts);
@@ -71,7 +72,7 @@ void SetAmplifier(Patch& patch, const SynthSound& sound)
     patch.Set(slot::AmpDecay, sound.amp.decay);
     patch.Set(slot::AmpSustain, sound.amp.sustain);
     patch.Set(slot::AmpRelease, sound.amp.release);
-    patch.Set(slot::AmpLevel, (sound.levelDb + 25.0) / 50.0);
+    patch.Set(slot::AmpLevel, law::AmpKnob(sound.levelDb));
 }
 
 void SetPlaying(Patch& patch, const Playing& playing)
@@ -79,8 +80,8 @@ void SetPlaying(Patch& patch, const Playing& playing)
     patch.Switch(slot::MonoVoice, playing.mono);
     patch.Switch(slot::SlideEnable, playing.slide >= 0.0);
     patch.Set(slot::SlideTime, std::fmax(0.0, playing.slide));
-    patch.Position(slot::Octave, playing.octave + 2, 4);
-    patch.Whole(slot::BendRange, playing.bend, 0.0, 12.0);
+    patch.Set(slot::Octave, law::OctavesKnob(playing.octave));
+    patch.Set(slot::BendRange, law::BendKnob(playing.bend));
     patch.Switch(slot::VelocitySensitivity, playing.dynamic);
 }
 
