@@ -7,7 +7,10 @@
 
 namespace korvane {
 
-/// Browses one library folder. Nothing is selected until SelectFolder. No thread of its own: one user at a time.
+/// Browses one library folder. Nothing is selected until SelectFolder.
+///
+/// Threads: one user at a time. The instrument's libraries are walked by the audio thread, for MIDI program changes;
+/// who else browses in them has the engine to itself.
 class CPresetList {
 public:
     /// folder     of the library, as ContentFolders has it

@@ -18,8 +18,8 @@
 
 namespace korvane {
 
-/// Six voices, seven sample slots, ten effect units and a stutter. Owned by GrooveEngine; operations are the audio
-/// thread's unless they say otherwise.
+/// One of the thirteen channels: six voices, seven sample slots, ten effect units, a stutter and a mixer strip. Owned
+/// by GrooveEngine. Operations and fields are the audio thread's unless they say otherwise.
 class GrooveChannel {
 public:
     GrooveChannel(SamplePool& pool, RandomGenerator& generator);
@@ -45,14 +45,13 @@ public:
     void Reset(float newRate);
 
     ChannelSound sound;
-    SharedText<512> programPath; // last program file saved from or loaded into the channel
+    SharedText<512> programPath; // last program file saved from or loaded into the channel; who does so writes
     std::array<std::unique_ptr<FXUnit>, kEffects> fxUnits;
     std::unique_ptr<FXUnit> stutterUnit;
-    Shared<bool> fxActive[kEffects]; // whether each unit is played; any thread writes
+    Shared<bool> fxActive[kEffects]; // whether each unit is played; whoever moves buttons writes, audio thread reads
     ChannelVoices voices;
-    std::uint32_t voiceCounter = 0;
-    bool soundedThisBlock = false;
-
+    std::uint32_t voiceCounter = 0; // notes since the last reset; stamps the voices' age
+    bool soundedThisBlock = false;  // a voice was active in the last run
     MixerStrip strip;
 
 private:

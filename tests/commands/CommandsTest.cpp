@@ -26,6 +26,7 @@ struct Commands : CommandTest {
         for (const char* name :
              {"apt-get", "clang-format", "cmake", "ctest", "g++", "git", "make", "pkg-config", "valgrind"})
             Stand(name, "");
+        Script(house / "tools/rooms", "");
         Script(house / "build/tools/korvane-render", "for last; do :; done; pwd >\"$last\"");
     }
 
