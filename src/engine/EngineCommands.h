@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// Voices belong to the audio thread alone.
+/// A note to start or release. Voices belong to the audio thread alone.
 struct VoiceCommand {
     enum class Kind : std::uint8_t { NoteOn, ReleaseNote, ReleaseLive };
     Kind kind;
@@ -17,24 +17,27 @@ struct VoiceCommand {
     float velocity;       // NoteOn
 };
 
-/// So does the transport: a start is many fields that a tick must not meet half written.
+/// A state that the transport shall have. The transport belongs to the audio thread: a start is many fields that a tick
+/// must not meet half written.
 struct TransportCommand {
-    enum class Kind : std::uint8_t { Play, Record, Host };
+    enum class Kind : std::uint8_t { Play, Record, Edit, Host };
     Kind kind;
-    bool on; // the state that is wanted; of the host: whether it runs
+    bool on; // of the host: whether it runs
 };
 
 /// Owned by GrooveEngine. Any thread pushes, who has the engine to itself pops: the audio thread at the start of each
-/// chunk. A full queue drops what comes; a reset drops notes, never transport.
+/// chunk. A full queue drops notes; of transport orders it cannot hold, the last wishes are kept.
 struct EngineCommands {
     static constexpr std::uint32_t kVoices = 256, kTransport = 64; // far more than hands send in a block
+    static constexpr std::int8_t kNothing = -1;
 
     CommandQueue<VoiceCommand, kVoices> voices;
     CommandQueue<TransportCommand, kTransport> transport;
+    Shared<bool> overflowed; // a transport order found no room
 
-    // What was asked for and not done yet, for who reads the switch back at once: 0 off, 1 on, -1 nothing. The asker
-    // writes, the audio thread clears; one that it clears too early shows the old state for a block.
-    Shared<std::int8_t> playAsked = std::int8_t{-1}, recordAsked = std::int8_t{-1};
+    // What was asked for last and not done yet, for who reads the switch back at once: 0 off, 1 on. Askers write, the
+    // audio thread clears; one that it clears too early shows the old state for a block.
+    Shared<std::int8_t> playAsked = kNothing, recordAsked = kNothing, editAsked = kNothing;
 };
 
 } // namespace korvane

@@ -3,20 +3,20 @@
 
 namespace korvane {
 
-void ExtControls::Written(int channel, int param, float value)
+void ExtControls::Written(const ExtBinding& written, float value)
 {
-    if (extLearn.Replace(true, false)) {
-        ExtControl& learner = extControls[extIndex];
-        learner.channel = channel;
-        learner.param = param;
-    }
+    if (extLearn.Replace(true, false)) extControls[extIndex].binding = written;
     for (ExtControl& control : extControls)
-        if (control.channel == channel && control.param == param) control.value = value;
+        if (control.binding == written) control.value = value;
 }
 
 void ExtControls::Reset()
 {
-    for (ExtControl& control : extControls) control.param = -1;
+    for (ExtControl& control : extControls) {
+        ExtBinding unbound = control.binding; // its channel is stored all the same
+        unbound.param = -1;
+        control.binding = unbound;
+    }
     extIndex = 0;
     extLearn = false;
 }

@@ -36,7 +36,8 @@ public:
     /// velocity  0..1
     void NoteOn(int note, float tempo, float velocity);
 
-    /// Runs the stutter and the effects over the channel's mix, in place; whether anything of it can be heard.
+    /// Runs the stutter and the effects over the channel's mix, in place; whether a voice or an effect ran, so that it
+    /// is mixed.
     bool ProcessEffects(float* left, float* right, int frames, float tempo);
 
     /// Silences every voice, refills its phases from the generator, clears effects, meters and smoothed gains. Audio

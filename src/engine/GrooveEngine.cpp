@@ -61,7 +61,7 @@ void GrooveEngine::SetChannelParameter(int base, float value)
             RefreshChannel(c);
         }
     }
-    ext.Written(selected, index, value);
+    ext.Written({selected, index}, value);
 }
 
 float GrooveEngine::GetChannelParameter(int base) const
@@ -89,26 +89,25 @@ void GrooveEngine::SetExtControl(int n, float value)
     ExtControl& control = ext.extControls[n];
     const float clamped = Clamp(value, 0.0f, 1.0f);
     control.value = clamped;
-    const int channel = control.channel;
-    const int param = control.param;
-    if (param < 0 || param >= kChannelSlots || channel < 0 || channel >= kChannels) return;
-    storedParams[channel][param] = clamped;
-    RefreshChannel(channel);
+    const ExtBinding bound = control.binding;
+    if (!bound.LeadsSomewhere()) return;
+    storedParams[bound.channel][bound.param] = clamped;
+    RefreshChannel(bound.channel);
 }
 
-void GrooveEngine::RefreshChannel(int channel)
+void GrooveEngine::RefreshChannel(int channel, bool withLocks)
 {
     const auto& stored = storedParams[channel];
     constexpr int kTries = 3; // another thread's write, or step, is not to be lost under this copy
     for (int n = 0; n < kTries; ++n) {
-        const int step = clock.playing ? static_cast<int>(score.lastStep[channel]) : -1;
+        const int step = score.lastStep[channel];
         float seen[kChannelSlots], block[kChannelSlots];
         std::copy(std::begin(stored), std::end(stored), seen);
         std::copy(std::begin(seen), std::end(seen), block);
-        if (step >= 0) score.Current().locks[channel][step].ApplyTo(block);
+        if (withLocks && step >= 0) score.Current().locks[channel][step].ApplyTo(block);
         for (int i = 0; i < kChannelSlots; ++i)
             Channel(channel).sound.params[i] = Tame(block[i]); // wild values stay in `stored`
-        if ((step < 0 || score.lastStep[channel] == step) && !Moved(stored, seen)) break;
+        if (score.lastStep[channel] == step && !Moved(stored, seen)) break;
     }
     RefreshFxActive(channel);
 }

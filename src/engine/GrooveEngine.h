@@ -48,7 +48,8 @@ public:
     void SetExtControl(int n, float value);
     /// Copies the stored block of a channel, with the locks of its last step while playing, into the working block and
     /// refreshes its fxActive flags.
-    void RefreshChannel(int channel);
+    void RefreshChannel(int channel) { RefreshChannel(channel, clock.playing); }
+    void RefreshChannel(int channel, bool withLocks);
     /// Recomputes fxActive of all channels from held effects, the pad and the channels that hear them.
     void RefreshFxActive();
 

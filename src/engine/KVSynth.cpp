@@ -51,6 +51,13 @@ void KVSynth::ProcessMultiOut(float**, float** outputs, int frames)
     RenderFrames(*engine, outputs, frames);
 }
 
+void KVSynth::ServeOrders()
+{
+    if (!engine->MayTouchVoices() || engine->commands.transport.Empty()) return;
+    FollowHostTime();
+    ServeTransport(*engine);
+}
+
 void KVSynth::FollowHostTime()
 {
     Clock& clock = engine->clock;
@@ -61,13 +68,14 @@ void KVSynth::FollowHostTime()
 void KVSynth::SetPlaying(bool running)
 {
     const BetweenBlocks exclusive(*this);
-    if (engine->MayTouchVoices()) FollowHostTime(); // a start that waits takes its block's
+    if (engine->MayTouchVoices()) FollowHostTime(); // a start that waits takes the time of its block
     FollowHost(*engine, running);
 }
 
 void KVSynth::Reset()
 {
     ProgramSwitch exclusive(*this);
+    ServeOrders(); // they came before
     engine->ResetEngine(0.0f);
     CSynthesizer::Reset();
 }
@@ -76,6 +84,7 @@ void KVSynth::SetSampleRate(double newRate)
 {
     if (!UsableRate(newRate)) return;
     ProgramSwitch exclusive(*this);
+    ServeOrders();
     engine->ResetEngine(static_cast<float>(newRate));
     CSynthesizer::SetSampleRate(newRate);
 }
@@ -126,7 +135,22 @@ void KVSynth::RefreshEditor()
     if (CPluginEditor* editor = wrapper ? wrapper->GetEditor() : nullptr) editor->RefreshAll();
 }
 
-bool KVSynth::Edge(int index, bool on) { return index < param::HostCount && switchStates[index].Replace(!on, on); }
+bool KVSynth::Acts(int index, float value)
+{
+    const bool on = value != 0.0f;
+    const bool internal = index >= param::HostCount; // every write counts: nobody keeps such a button's state
+    const bool changed = internal || switchStates[index].Replace(!on, on);
+    switch (kParameters[static_cast<std::size_t>(index)].kind) {
+    case Kind::Value:
+    case Kind::Follow:
+    case Kind::Select: return true;
+    case Kind::Trigger: return changed && on;
+    case Kind::Change:
+    case Kind::Press: return changed;
+    case Kind::None: break;
+    }
+    return false;
+}
 
 void KVSynth::ParameterChanged(int index, float value)
 {
@@ -135,12 +159,10 @@ void KVSynth::ParameterChanged(int index, float value)
     links.lastParameter = index;
     if (!keyTrigger) engine->liveVelocity = 1.0f;
 
+    if (!Acts(index, value)) return;
+    ServeOrders();
     const ParameterBinding& row = BindingOf(index);
-    const bool on = value != 0.0f;
-    const bool edge = Edge(index, on);
-    const bool acts =
-        row.acts == Acts::Always || (edge && (row.acts == Acts::OnEdge || (row.acts == Acts::OnPress && on)));
-    if (acts) row.write(*engine, row.target + index - row.first, value);
+    row.write(*engine, row.target + index - row.first, value);
 }
 
 // MIDI
@@ -148,6 +170,7 @@ void KVSynth::ParameterChanged(int index, float value)
 void KVSynth::NoteEvent(std::int8_t key, std::int8_t velocity)
 {
     if (key < 0) return;
+    ServeOrders();
     const float value = law::Velocity(velocity);
     if (velocity > 0) {
         engine->liveVelocity = value;

@@ -48,13 +48,14 @@ protected:
     void RefreshEditor();
 
 private:
-    void FollowHostTime();         // tempo and position into the engine core; audio thread
-    bool Edge(int index, bool on); // whether the on/off state changed; always false for internal parameters
+    void FollowHostTime();             // tempo and position into the engine core; who has the engine to itself
+    void ServeOrders();                // of other threads, before what comes next; nothing for who has not
+    bool Acts(int index, float value); // by the parameter's kind and what was written before
 
     // On/off of the last value written, per host parameter. Whoever moves the parameter turns it over; of two that do
     // in the same instant one sees the edge.
     Shared<bool> switchStates[param::HostCount];
-    Shared<bool> keyTrigger; // a MIDI key drives a pad parameter; the audio thread writes, every thread reads
+    Shared<bool> keyTrigger; // a MIDI key drives a pad parameter; who plays keys writes, every thread reads
 };
 
 } // namespace korvane

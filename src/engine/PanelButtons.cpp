@@ -25,10 +25,9 @@ void SelectChannel(GrooveEngine& engine, int channel)
 void SelectPattern(GrooveEngine& engine, int p)
 {
     if (p < 0 || p >= kPatterns) return;
-    const Clock& clock = engine.clock;
     Selection& selection = engine.selection;
     Score& score = engine.score;
-    if (clock.editMode) {
+    if (EditShown(engine)) {
         selection.selectedPatternMark = selection.selectedPatternMark == p ? -1 : p;
         selection.selectedBarMark = selection.editStep = -1;
         selection.ClearMarks();
@@ -37,11 +36,12 @@ void SelectPattern(GrooveEngine& engine, int p)
     const int current = score.currentPattern;
     if (!score.playOnce[current]) score.nextPattern = current;
     const int length = score.patterns[static_cast<std::size_t>(p)]->length;
-    if (!clock.playing)
+    const bool playing = PlayShown(engine);
+    if (!playing)
         score.patternRepeats = 0;
-    else if (score.playOnce[p] && clock.patternStep >= length - 1)
+    else if (score.playOnce[p] && engine.clock.patternStep >= length - 1)
         score.patternRepeats = 1;
-    if (p != current && clock.playing && clock.recordMode) SetRecord(engine, false);
+    if (p != current && playing && RecordShown(engine)) SetRecord(engine, false);
     score.currentPattern = p;
 }
 
@@ -50,7 +50,7 @@ void ChannelPress(GrooveEngine& engine, int c)
     if (c < 0 || c >= kChannels) return;
     Selection& selection = engine.selection;
     Buttons& buttons = engine.buttons;
-    if (engine.clock.editMode) {
+    if (EditShown(engine)) {
         const bool marked = selection.channelMarked[c];
         if (!marked) SelectChannel(engine, c);
         selection.channelMarked[c] = !marked;
@@ -71,7 +71,7 @@ void ChannelRelease(GrooveEngine& engine, int c)
 {
     Selection& selection = engine.selection;
     Buttons& buttons = engine.buttons;
-    if (engine.clock.editMode || c < 0 || c >= kChannels || !buttons.channelHeld[c]) return;
+    if (EditShown(engine) || c < 0 || c >= kChannels || !buttons.channelHeld[c]) return;
     buttons.channelHeld[c] = false;
     RefreshReach(engine);
     const bool anyMarked = Any(selection.channelMarked);
@@ -102,6 +102,7 @@ void SetMuteModifier(GrooveEngine& engine, bool held)
 
 void SetFxButton(GrooveEngine& engine, int effect, bool held)
 {
+    if (effect < 0 || effect >= kEffects) return;
     if (held && !Any(engine.buttons.fxOn)) engine.selection.selectedFx = effect;
     engine.buttons.fxOn[effect] = held;
     engine.RefreshFxActive();
@@ -124,8 +125,7 @@ void SetStutterButton(GrooveEngine& engine, int button, bool held)
 
 void Move(GrooveEngine& engine, int direction)
 {
-    if (!engine.clock.editMode && engine.score.NudgeHeldSteps(engine.selection, engine.buttons.stepHeld, direction))
-        return;
+    if (!EditShown(engine) && engine.score.NudgeHeldSteps(engine.selection, engine.buttons.stepHeld, direction)) return;
     engine.selection.Move(direction);
 }
 

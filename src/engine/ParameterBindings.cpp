@@ -94,10 +94,6 @@ float Shown(const Engine& engine, int)
 
 // Rules of their own.
 
-void FollowEdit(Engine& engine, int, float v)
-{
-    if (engine.clock.editMode != (v != 0.0f)) ToggleEdit(engine);
-}
 void FollowPlayBar(Engine& engine, int, float v) // any write ends it
 {
     engine.clock.playBar.Update([v](bool loops) { return !loops && v != 0.0f; });
@@ -124,63 +120,58 @@ constexpr auto kClock = &Engine::clock;
 constexpr auto kMixer = &Engine::mixer;
 constexpr auto kButtons = &Engine::buttons;
 
-using enum Acts;
-
-constexpr ParameterBinding Nothing(int index) { return {index, 1, Acts::Never, 0, nullptr, nullptr}; }
-constexpr ParameterBinding Slots(int first, int last)
-{
-    return {first, last - first + 1, Acts::Always, first, ToSlot, OfSlot};
-}
+constexpr ParameterBinding Nothing(int index) { return {index, 1, 0, nullptr, nullptr}; }
+constexpr ParameterBinding Slots(int first, int last) { return {first, last - first + 1, first, ToSlot, OfSlot}; }
 
 // clang-format off
 constexpr ParameterBinding kBindings[] = {
-//   first                             n   acts     target                     a write                                  a read
-    {param::ShuffleAmount,             1,  Always,  0,                         Take<kClock, &Clock::shuffleAmount>,     Give<kClock, &Clock::shuffleAmount>},
-    {param::Play,                      1,  Always,  0,                         Switch<SetPlay>,                         Shown<PlayShown>},
-    {param::PlayBar,                   1,  Always,  0,                         FollowPlayBar,                           GiveFlag<kClock, &Clock::playBar>},
-    {param::Record,                    1,  Always,  0,                         Switch<SetRecord>,                       Shown<RecordShown>},
-    {param::Back,                      1,  OnPress, -1,                        At<Move>,                                nullptr},
-    {param::Forward,                   1,  OnPress, +1,                        At<Move>,                                nullptr},
-    {param::Edit,                      1,  Always,  0,                         FollowEdit,                              GiveFlag<kClock, &Clock::editMode>},
-    {param::Clear,                     1,  OnPress, 0,                         Edit<&Score::Clear>,                     nullptr},
-    {param::Copy,                      1,  OnPress, 0,                         Edit<&Score::Copy>,                      nullptr},
-    {param::Paste,                     1,  OnPress, 0,                         Edit<&Score::Paste>,                     nullptr},
-    {param::MuteSelected,              1,  OnEdge,  0,                         Switch<SetMuteModifier>,                 nullptr},
-    {param::Solo,                      1,  Always,  0,                         Follow<kMixer, &Mixer::soloSelected>,    GiveFlag<kMixer, &Mixer::soloSelected>},
-    {param::Pattern1,                  8,  OnPress, 0,                         At<SelectPattern>,                       nullptr},
-    {param::PlayOnce,                  1,  Always,  0,                         FollowPlayOnce,                          GivePlayOnce},
-    {param::Channel1,                  13, OnEdge,  0,                         PressAndRelease<ChannelPress, ChannelRelease>, nullptr},
-    {param::Enable1,                   13, Always,  0,                         FollowEnabled,                           GiveEnabled},
-    {param::Ext1,                      5,  Always,  0,                         TakeExt,                                 GiveExt},
-    {param::ExtLearn,                  1,  OnPress, 0,                         Learn,                                   nullptr},
-    {param::Fx1,                       10, OnEdge,  0,                         Button<SetFxButton>,                     nullptr},
-    {param::Stutter1_1,                4,  OnEdge,  0,                         Button<SetStutterButton>,                GiveStutter},
+//   first                             n   target                     a write                                  a read
+    {param::ShuffleAmount,             1,  0,                         Take<kClock, &Clock::shuffleAmount>,     Give<kClock, &Clock::shuffleAmount>},
+    {param::Play,                      1,  0,                         Switch<SetPlay>,                         Shown<PlayShown>},
+    {param::PlayBar,                   1,  0,                         FollowPlayBar,                           GiveFlag<kClock, &Clock::playBar>},
+    {param::Record,                    1,  0,                         Switch<SetRecord>,                       Shown<RecordShown>},
+    {param::Back,                      1,  -1,                        At<Move>,                                nullptr},
+    {param::Forward,                   1,  +1,                        At<Move>,                                nullptr},
+    {param::Edit,                      1,  0,                         Switch<SetEdit>,                         Shown<EditShown>},
+    {param::Clear,                     1,  0,                         Edit<&Score::Clear>,                     nullptr},
+    {param::Copy,                      1,  0,                         Edit<&Score::Copy>,                      nullptr},
+    {param::Paste,                     1,  0,                         Edit<&Score::Paste>,                     nullptr},
+    {param::MuteSelected,              1,  0,                         Switch<SetMuteModifier>,                 nullptr},
+    {param::Solo,                      1,  0,                         Follow<kMixer, &Mixer::soloSelected>,    GiveFlag<kMixer, &Mixer::soloSelected>},
+    {param::Pattern1,                  8,  0,                         At<SelectPattern>,                       nullptr},
+    {param::PlayOnce,                  1,  0,                         FollowPlayOnce,                          GivePlayOnce},
+    {param::Channel1,                  13, 0,                         PressAndRelease<ChannelPress, ChannelRelease>, nullptr},
+    {param::Enable1,                   13, 0,                         FollowEnabled,                           GiveEnabled},
+    {param::Ext1,                      5,  0,                         TakeExt,                                 GiveExt},
+    {param::ExtLearn,                  1,  0,                         Learn,                                   nullptr},
+    {param::Fx1,                       10, 0,                         Button<SetFxButton>,                     nullptr},
+    {param::Stutter1_1,                4,  0,                         Button<SetStutterButton>,                GiveStutter},
     Nothing(67),
-    {param::Stutter1_4,                1,  OnEdge,  4,                         Button<SetStutterButton>,                GiveStutter},
-    {param::FxActivate,                1,  Always,  0,                         Switch<SetFxPad>,                        nullptr},
+    {param::Stutter1_4,                1,  4,                         Button<SetStutterButton>,                GiveStutter},
+    {param::FxActivate,                1,  0,                         Switch<SetFxPad>,                        nullptr},
     Slots(70, 72),
-    {param::FxLfoShapeSwitch,          1,  OnPress, slot::FxLfoShape,          Cycle,                                   nullptr},
+    {param::FxLfoShapeSwitch,          1,  slot::FxLfoShape,          Cycle,                                   nullptr},
     Slots(74, 74),
-    {param::FxLfoSyncSwitch,           1,  OnPress, slot::FxLfoSync,           Cycle,                                   nullptr},
+    {param::FxLfoSyncSwitch,           1,  slot::FxLfoSync,           Cycle,                                   nullptr},
     Slots(76, 95),
-    {param::FilterTypeSwitch,          1,  OnPress, slot::FilterType,          Cycle,                                   nullptr},
-    {param::EnvelopeNumber,            1,  Always,  0,                         TakePage<&Selection::envelopeNumber, 1>, GivePage<&Selection::envelopeNumber, 1>},
-    {param::EnvelopeDestinationSwitch, 1,  OnPress, slot::EnvelopeDestination, Cycle,                                   nullptr},
+    {param::FilterTypeSwitch,          1,  slot::FilterType,          Cycle,                                   nullptr},
+    {param::EnvelopeNumber,            1,  0,                         TakePage<&Selection::envelopeNumber, 1>, GivePage<&Selection::envelopeNumber, 1>},
+    {param::EnvelopeDestinationSwitch, 1,  slot::EnvelopeDestination, Cycle,                                   nullptr},
     Slots(99, 103),
-    {param::LfoNumber,                 1,  Always,  0,                         TakePage<&Selection::lfoNumber, 1>,      GivePage<&Selection::lfoNumber, 1>},
+    {param::LfoNumber,                 1,  0,                         TakePage<&Selection::lfoNumber, 1>,      GivePage<&Selection::lfoNumber, 1>},
     Slots(105, 108),
-    {param::LfoSyncSwitch,             1,  OnPress, slot::LfoSync,             Cycle,                                   nullptr},
+    {param::LfoSyncSwitch,             1,  slot::LfoSync,             Cycle,                                   nullptr},
     Slots(110, 110),
-    {param::LfoDestinationSwitch,      1,  OnPress, slot::LfoDestination,      Cycle,                                   nullptr},
+    {param::LfoDestinationSwitch,      1,  slot::LfoDestination,      Cycle,                                   nullptr},
     Slots(112, 112),
-    {param::LfoShapeSwitch,            1,  OnPress, slot::LfoShape,            Cycle,                                   nullptr},
+    {param::LfoShapeSwitch,            1,  slot::LfoShape,            Cycle,                                   nullptr},
     Slots(114, 151),
-    {param::LayerNumber,               1,  Always,  0,                         TakePage<&Selection::layerNumber, 3>,    GivePage<&Selection::layerNumber, 3>},
+    {param::LayerNumber,               1,  0,                         TakePage<&Selection::layerNumber, 3>,    GivePage<&Selection::layerNumber, 3>},
     Nothing(param::LayerResetStart),
     Nothing(154),
-    {param::Step1,                     24, Always,  0,                         PressAndRelease<StepButton, StepButtonRelease>, nullptr},
+    {param::Step1,                     24, 0,                         PressAndRelease<StepButton, StepButtonRelease>, nullptr},
     Nothing(179),
-    {param::EngineFlag,                1,  Never,   0,                         nullptr,                                 GiveFlag<kButtons, &Buttons::muteModifier>},
+    {param::EngineFlag,                1,  0,                         nullptr,                                 GiveFlag<kButtons, &Buttons::muteModifier>},
     Nothing(181),
     Slots(182, 195),
 };
@@ -198,20 +189,6 @@ constexpr bool RowsFollowEachOther()
 }
 static_assert(RowsFollowEachOther());
 
-constexpr bool Fits(Acts acts, Kind kind)
-{
-    switch (kind) {
-    case Kind::Value:
-    case Kind::Follow:
-    case Kind::Select: return acts == Acts::Always;
-    case Kind::Trigger: return acts == Acts::OnPress;
-    case Kind::Change: return acts == Acts::OnEdge;
-    case Kind::Press: return acts == Acts::OnEdge || acts == Acts::Always; // step buttons take every write
-    case Kind::None: return acts == Acts::Never;
-    }
-    return false;
-}
-
 /// What a row does is what the table of names says of each of its parameters.
 constexpr bool RowsFitTheTable()
 {
@@ -219,8 +196,7 @@ constexpr bool RowsFitTheTable()
         for (int n = 0; n < row.count; ++n) {
             const ParameterInfo& info = kParameters[static_cast<std::size_t>(row.first + n)];
             const int source = row.read == nullptr ? kFromProgram : row.read == OfSlot ? info.slotBase : kEngineState;
-            if (!Fits(row.acts, info.kind) || (row.write == nullptr) != (row.acts == Acts::Never)) return false;
-            if (info.slotBase != source || (row.read == OfSlot) != (info.slotBase >= 0)) return false;
+            if ((row.write == nullptr) != (info.kind == Kind::None) || info.slotBase != source) return false;
         }
     return true;
 }

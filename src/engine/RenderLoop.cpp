@@ -72,10 +72,10 @@ void RenderFrames(GrooveEngine& engine, float* const* outputs, int frames)
 
     // A late tick comes with the first run that begins after its instant. Without shuffle that instant is the step's
     // own, which no run begins after, so the two ticks come together.
-    const bool straight = clock.Straightness() == 1.0f;
-    const double lateThreshold = clock.LateThreshold();
+    const float straightness = clock.Straightness();
+    const double lateThreshold = clock.LateThreshold(straightness);
     while (frames > 0) {
-        if (clock.lateTickPending && (clock.samplesToNextStep < lateThreshold || straight)) {
+        if (clock.lateTickPending && (clock.samplesToNextStep < lateThreshold || straightness == 1.0f)) {
             SequencerTick(engine, true);
             clock.lateTickPending = false;
         }

@@ -46,12 +46,12 @@ void SyncEffects(GrooveEngine& engine, int c)
     for (auto& unit : channel.fxUnits) SyncLfo(*unit, engine.clock.stepCounter);
 }
 
-void PlayStep(GrooveEngine& engine, int c, bool late)
+void PlayStep(GrooveEngine& engine, int c, bool late, bool recording)
 {
     GrooveChannel& channel = engine.Channel(c);
     const Clock& clock = engine.clock;
     const int position = std::min<int>(clock.patternStep, kSteps - 1);
-    const bool recorded = clock.Recording() && c == engine.selection.selectedChannel; // heard straight
+    const bool recorded = recording && c == engine.selection.selectedChannel; // heard straight
     const bool shuffled = channel.sound.params[slot::ShuffleEnable] != 0.0f && !recorded;
     if (!late) SyncEffects(engine, c);
     const std::uint32_t word = engine.score.Current().steps[c][position];
@@ -80,7 +80,8 @@ void SequencerTick(GrooveEngine& engine, bool late)
     }
     if (!late) AdvancePosition(engine);
     const bool silent = clock.CountingIn() && clock.countIn > 0;
-    for (int c = 0; !silent && c < kChannels; ++c) PlayStep(engine, c, late);
+    const bool recording = clock.Recording();
+    for (int c = 0; !silent && c < kChannels; ++c) PlayStep(engine, c, late, recording);
     if (late) return;
     Fill(engine.recorder.playedThisStep, 0u);
     clock.Advance();

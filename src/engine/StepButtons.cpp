@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "engine/Transport.h"
 #include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
@@ -66,7 +67,7 @@ void StepButton(GrooveEngine& engine, int k)
     }
     if (!engine.buttons.stepHeld[k].Replace(false, true)) return;
     RecordPress(engine, k);
-    if (engine.clock.editMode)
+    if (EditShown(engine))
         EditStep(engine, k);
     else
         engine.NoteOn(engine.buttons.PlayedChannel(k, selected), kFirstNote + k, engine.liveVelocity);
@@ -77,7 +78,7 @@ void StepButtonRelease(GrooveEngine& engine, int k)
     if (k < 0 || k >= kNotes || !engine.buttons.stepHeld[k].Replace(true, false)) return;
     RecordRelease(engine, k);
     const int selected = engine.selection.selectedChannel;
-    if (engine.clock.editMode)
+    if (EditShown(engine))
         engine.ReleaseLive(selected);
     else
         engine.ReleaseNote(engine.buttons.PlayedChannel(k, selected), kFirstNote + k);

@@ -16,7 +16,8 @@ inline constexpr int ModWheel = 1, Volume = 7, Pan = 10, BankSelect = 32, Sustai
 } // namespace controller
 
 /// What has come in by MIDI. Events are queued just before their block and dispatched inside it, both on the audio
-/// thread, on which the notifications come too; other threads read the values.
+/// thread, on which the notifications come too; those of ReleaseAll come from who has the engine to itself. Other
+/// threads read the values.
 class CMidiController {
 public:
     static constexpr int kQueueCapacity = 1024;

@@ -37,6 +37,12 @@ public:
         }
     }
 
+    /// How many have been pushed so far; wraps. Any thread.
+    std::uint32_t Pushed() const { return writePosition.load(std::memory_order_acquire); }
+
+    /// The reader. How many have been taken so far.
+    std::uint32_t Popped() const { return readPosition; }
+    bool Empty() const { return Popped() == Pushed(); }
     /// The reader. False when there is nothing to take.
     bool Pop(Command& command)
     {

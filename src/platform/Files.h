@@ -8,8 +8,8 @@
 namespace korvane {
 
 // Every path handed in uses backslashes, as the instrument's files store them; a '/' means the same. Only this layer
-// turns them round. A name that itself holds a backslash cannot be reached. Any thread but the audio thread, which
-// comes here to serve load requests only.
+// turns them round. A name that itself holds a backslash cannot be reached. Any thread; the audio
+// thread comes here to serve load requests and MIDI program changes only.
 
 /// The engine's form of a system path: each '/' becomes a backslash.
 std::string EnginePath(const char* systemPath);

@@ -26,6 +26,8 @@ public:
     {
         return value.compare_exchange_strong(expected, next, std::memory_order_relaxed);
     }
+    /// Stores `next` and answers what stood there.
+    T Exchange(T next) { return value.exchange(next, std::memory_order_relaxed); }
     /// Reads, changes and writes in one: no other thread's write in between is lost. Answers what it stored.
     template <class Change>
     T Update(Change change)

@@ -1,4 +1,4 @@
-// A short text that one thread writes while others read it.
+// A short text that threads write and read.
 #pragma once
 
 #include <array>

@@ -13,8 +13,8 @@
 
 namespace korvane {
 
-/// Translates each host call into one call of the engine. Blocks and events come on the host's audio thread, everything
-/// else on its others. Deletes itself with the host's close request.
+/// Translates each host call into one call of the engine. Blocks and events come on the host's audio thread, parameters
+/// on any, everything else on its others. Deletes itself with the host's close request.
 class CVstWrapper : public AudioEffectX, public CPluginWrapper {
 public:
     explicit CVstWrapper(AudioMasterCallback hostCallback);

@@ -12,8 +12,7 @@ namespace korvane {
 // Channel chunk, alone also a program file: tag, 7 paths, 212 floats, program path. The path may be missing.
 
 inline constexpr int kImagePathBytes = 512;
-inline constexpr int kShortChannelChunkBytes = 4 + kSampleSlots * kImagePathBytes + kChannelSlots * 4; // without path
-inline constexpr int kChannelChunkBytes = kShortChannelChunkBytes + kImagePathBytes;
+inline constexpr int kChannelChunkBytes = 4 + (kSampleSlots + 1) * kImagePathBytes + kChannelSlots * 4;
 static_assert(kChannelChunkBytes == 4948);
 
 /// May run while other threads change the engine: every value is read once.

@@ -11,6 +11,7 @@
 #include "content/state/ChannelChunk.h"
 #include "content/state/PartImage.h"
 #include "content/state/StateImage.h"
+#include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
 
@@ -73,10 +74,12 @@ bool KVInstrument::LoadGrooveFile(const char* path)
     Image image;
     if (!ReadImageFile(path, image)) return false;
     const std::string file = EnginePath(path);
+    const std::uint32_t ordered = engine->commands.transport.Pushed(); // the load stops what was started before it
     bool loaded = false;
     {
         ProgramSwitch exclusive(*this);
         engine->samplePool->SetGrooveFolders(FolderText(file).c_str());
+        ServeTransport(*engine, ordered);
         loaded = LoadState(*engine, image.bytes.get(), image.size);
     }
     if (!loaded) return false;
@@ -125,10 +128,12 @@ void KVInstrument::LoadDefaultGroove()
 
 std::int32_t KVInstrument::SetProgramChunk(const void* data, std::int32_t size)
 {
+    const std::uint32_t ordered = engine->commands.transport.Pushed(); // as in LoadGrooveFile
     bool loaded = false;
     {
         ProgramSwitch exclusive(*this);
         engine->samplePool->ClearGrooveFolders();
+        ServeTransport(*engine, ordered);
         loaded = LoadState(*engine, static_cast<const std::uint8_t*>(data), size);
     }
     if (!loaded) return 0;

@@ -26,8 +26,9 @@ void WriteHeader(ByteWriter& out, const GrooveEngine& engine)
     out.Write(static_cast<float>(engine.clock.shuffleAmount));
     for (const auto& control : engine.ext.extControls) {
         out.Write(static_cast<float>(control.value));
-        out.Write(static_cast<std::int32_t>(control.channel));
-        out.Write(static_cast<std::int32_t>(control.param));
+        const ExtBinding bound = control.binding;
+        out.Write(bound.channel);
+        out.Write(bound.param);
     }
 }
 
@@ -48,7 +49,6 @@ void ReadFlags(ByteReader& in, Shared<bool> (&flags)[kCount])
     }
 }
 
-/// Whoever follows an assignment looks whether it leads anywhere.
 void ReadExtControl(ByteReader& in, ExtControl& control)
 {
     const auto value = in.Read<float>();
@@ -56,8 +56,7 @@ void ReadExtControl(ByteReader& in, ExtControl& control)
     const auto param = in.Read<std::int32_t>();
     if (!in.Ok()) return;
     control.value = value;
-    control.channel = channel;
-    control.param = param;
+    control.binding = {channel, param};
 }
 
 /// The fields that are there are taken over, also when the header is cut.

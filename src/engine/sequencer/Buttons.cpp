@@ -22,10 +22,16 @@ int Buttons::PlayedChannel(int k, int selectedChannel) const
 
 void Buttons::RefreshStutterCodes(int selectedChannel)
 {
-    const int pressed = stutterButtons.Code();
-    for (int c = 0; c < kChannels; ++c) {
-        const int code = Reaches(c, selectedChannel) ? pressed : 0;
-        if (code != std::abs(stutterCode[c])) stutterCode[c] = static_cast<std::int8_t>(-code);
+    constexpr int kTries = 3; // a button that another thread lets go meanwhile must not stay in the codes
+    int pressed = stutterButtons.Code();
+    for (int n = 0; n < kTries; ++n) {
+        for (int c = 0; c < kChannels; ++c) {
+            const int code = Reaches(c, selectedChannel) ? pressed : 0;
+            if (code != std::abs(stutterCode[c])) stutterCode[c] = static_cast<std::int8_t>(-code);
+        }
+        const int now = stutterButtons.Code();
+        if (now == pressed) break;
+        pressed = now;
     }
 }
 

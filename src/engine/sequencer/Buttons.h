@@ -12,7 +12,8 @@ namespace korvane {
 /// The state of the held buttons. Owned by GrooveEngine.
 ///
 /// Threads: host, editor and MIDI (on the audio thread) press and release, every thread reads; `stutterCode` is turned
-/// positive by the tick. Two that press the same button in the same instant press it once.
+/// positive by the tick. Of two that press in the same instant each is seen; two that press and release the same button
+/// leave it as one of them would.
 struct Buttons {
     /// The channel that a step or bar button plays live: of samplers the first whose pad key it is, else the selected.
     int PlayedChannel(int k, int selectedChannel) const;
@@ -22,7 +23,7 @@ struct Buttons {
     void RefreshStutterCodes(int selectedChannel);
     /// A start or a stop lets the stutter go.
     void ClearStutter();
-    /// As in an empty groove.
+    /// No button is down but the pad and what a channel button has begun, which their releases end; default pad keys.
     void Reset();
 
     Shared<bool> channelHeld[kChannels];

@@ -4,10 +4,9 @@
 #include <cmath>
 
 #include "framework/Limits.h"
+#include "platform/Numbers.h"
 
 namespace korvane {
-
-double Clock::LateThreshold() const { return StepFrames() * (0.5 + 0.5 * static_cast<double>(Straightness())); }
 
 void Clock::Locate()
 {
@@ -19,7 +18,7 @@ void Clock::Locate()
     const double fraction = steps - whole;
     const bool between = fraction > kOnTheStep;
     samplesToNextStep = between ? (1.0 - fraction) * StepFrames() : 0.0;
-    stepCounter = static_cast<std::uint8_t>(std::fmod(between ? whole + 1.0 : whole, kSteps));
+    stepCounter = static_cast<std::uint8_t>(Truncate(std::fmod(between ? whole + 1.0 : whole, kSteps)));
     patternStep = std::uint8_t{0};
     if (!recordMode || editMode) return;
     samplesToNextStep = 0.0;

@@ -10,13 +10,16 @@ namespace korvane {
 
 /// Where the sequencer is and in which mode. Owned by GrooveEngine.
 ///
-/// Threads: every thread reads. The audio thread writes, or whoever has the engine to itself; but for `editMode`,
-/// `playBar`, `shuffleAmount` and the end of `recordMode` by edit mode, which whoever moves the parameter writes.
+/// Threads: every thread reads. The audio thread writes, or whoever has the engine to itself; but for `playBar` and
+/// `shuffleAmount`, which whoever moves the parameter writes.
 struct Clock {
     /// Frames of a sixteenth note.
     double StepFrames() const { return sampleRate * 15.0 / static_cast<double>(tempo); }
     /// Frames left in an odd step when its late tick is due: from all of it without shuffle to half of it.
-    double LateThreshold() const;
+    double LateThreshold(float straightness) const
+    {
+        return StepFrames() * (0.5 + 0.5 * static_cast<double>(straightness));
+    }
     /// 1 without shuffle, 0 with all of it.
     float Straightness() const { return Clamp(1.0f - shuffleAmount, 0.0f, 1.0f); }
 
@@ -32,7 +35,7 @@ struct Clock {
     void Advance();
     /// Frames have been rendered.
     void Pass(int frames);
-    /// As in an empty groove; rate, tempo and the host's position stay.
+    /// Stops, in no mode, at the first step. What a start sets stays until then, and so does the shuffle.
     void Reset();
 
     Shared<double> sampleRate = 44100.0; // Hz

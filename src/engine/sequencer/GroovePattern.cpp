@@ -11,8 +11,7 @@ void GroovePattern::Clear()
 
 void GroovePattern::CopyFrom(const GroovePattern& other)
 {
-    for (int c = 0; c < kChannels; ++c)
-        for (int s = 0; s < kSteps; ++s) CopyStep(c, s, other, c, s);
+    for (int c = 0; c < kChannels; ++c) CopySteps(c, 0, other, 0, kSteps);
 }
 
 void GroovePattern::ClearStep(int channel, int step)
@@ -36,19 +35,22 @@ std::uint32_t GroovePattern::FlipNotes(int channel, int step, std::uint32_t note
     return steps[channel][step].Update([notes](std::uint32_t word) { return word ^ notes; });
 }
 
-void GroovePattern::CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep)
+void GroovePattern::CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count)
 {
-    steps[channel][step] = from.steps[fromChannel][fromStep];
-    locks[channel][step].CopyFrom(from.locks[fromChannel][fromStep]);
+    for (int n = 0; n < count; ++n) {
+        steps[channel][step + n] = from.steps[channel][fromStep + n];
+        locks[channel][step + n].CopyFrom(from.locks[channel][fromStep + n]);
+    }
 }
 
 void GroovePattern::SwapSteps(int channel, int a, int b)
 {
-    const std::uint32_t word = steps[channel][a];
+    const std::uint32_t wordA = steps[channel][a].Exchange(0u), wordB = steps[channel][b].Exchange(0u);
+    SetNotes(channel, a, wordB);
+    SetNotes(channel, b, wordA);
     StepLockList kept;
     kept.CopyFrom(locks[channel][a]);
-    CopyStep(channel, a, *this, channel, b);
-    steps[channel][b] = word;
+    locks[channel][a].CopyFrom(locks[channel][b]);
     locks[channel][b].CopyFrom(kept);
 }
 

@@ -10,7 +10,8 @@
 namespace korvane {
 
 /// Steps and their parameter locks, channel by channel, step = bar × 16 + step in the bar. Eight per engine and one
-/// clipboard. Host, editor and MIDI write; the audio thread reads.
+/// clipboard. Host, editor and MIDI write steps and locks and the audio thread reads them; the audio thread writes the
+/// length at every tick, all read it.
 class GroovePattern {
 public:
     /// Length 16, every step word 0, every lock list empty.
@@ -22,9 +23,9 @@ public:
     /// Adds notes to a step, or turns them over, in one piece; the word after it.
     std::uint32_t SetNotes(int channel, int step, std::uint32_t notes);
     std::uint32_t FlipNotes(int channel, int step, std::uint32_t notes);
-    /// Copies one step, word and locks, from a step of this or another pattern.
-    void CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep);
-    /// Exchanges two steps of a channel, words and locks.
+    /// Copies steps of a channel, words and locks, from another pattern.
+    void CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count);
+    /// Exchanges two steps of a channel, words and locks. A note put into one of them meanwhile stays where it was put.
     void SwapSteps(int channel, int a, int b);
     /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps.
     void UpdateLength();

@@ -9,7 +9,8 @@
 namespace korvane {
 
 /// Owned by GrooveEngine. Threads: whoever presses step buttons writes, the audio thread clears the played notes at
-/// every tick; all may read.
+/// every tick; all may read. Where two press in the same instant, the length of one of their notes may be measured for
+/// the other's step.
 struct Recorder {
     void Clear()
     {

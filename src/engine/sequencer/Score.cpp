@@ -42,24 +42,23 @@ void Score::Paste(Selection& selection)
         selection.selectedPatternMark = -1;
         return;
     }
-    for (int c = 0; c < kChannels; ++c) PasteInto(Current(), c, selection);
-    if (selection.selectedBarMark == -1) selection.editStep = -1;
-}
-
-void Score::PasteInto(GroovePattern& pattern, int c, const Selection& selection)
-{
-    const int fromBar = copiedBar * kStepsPerBar, toBar = selection.StepInPattern(0);
-    const int edited = selection.editStep;
-    if (selection.selectedBarMark != -1) {
-        if (!selection.Chosen(c) || copiedBar < 0) return;
-        for (int s = 0; s < kStepsPerBar; ++s) pattern.CopyStep(c, toBar + s, *clipboard, c, fromBar + s);
-    } else if (edited != -1) {
-        if (!selection.Chosen(c) || copiedBar < 0 || copiedStep < 0) return;
-        pattern.CopyStep(c, toBar + edited, *clipboard, c, fromBar + copiedStep);
-        if (c < kSamplerChannels) pattern.steps[c][toBar + edited] = 1u << edited;
-    } else if (selection.channelMarked[c]) {
-        for (int s = 0; s < kSteps; ++s) pattern.CopyStep(c, s, *clipboard, c, s);
+    GroovePattern& pattern = Current();
+    const int fromBar = copiedBar, fromStep = copiedStep, edited = selection.editStep;
+    const int toBar = selection.StepInPattern(0);
+    const bool barMarked = selection.selectedBarMark != -1;
+    for (int c = 0; c < kChannels; ++c) {
+        if (barMarked) {
+            if (selection.Chosen(c) && fromBar >= 0)
+                pattern.CopySteps(c, toBar, *clipboard, fromBar * kStepsPerBar, kStepsPerBar);
+        } else if (edited != -1) {
+            if (!selection.Chosen(c) || fromBar < 0 || fromStep < 0) continue;
+            pattern.CopySteps(c, toBar + edited, *clipboard, fromBar * kStepsPerBar + fromStep, 1);
+            if (c < kSamplerChannels) pattern.steps[c][toBar + edited] = 1u << edited;
+        } else if (selection.channelMarked[c]) {
+            pattern.CopySteps(c, 0, *clipboard, 0, kSteps);
+        }
     }
+    if (!barMarked) selection.editStep = -1;
 }
 
 void Score::Clear(Selection& selection)

@@ -17,7 +17,8 @@ namespace korvane {
 ///
 /// Threads: host, editor and MIDI (on the audio thread) edit, the audio thread reads steps and locks and moves on from
 /// one pattern to the next. A step word is changed in one piece; an edit of many steps may be heard half done for one
-/// tick. `lastStep` is the audio thread's, others read it.
+/// tick. Two selections of patterns in the same instant leave one of them. `lastStep` is the audio thread's, others
+/// read it.
 class Score {
 public:
     Score();
@@ -46,7 +47,7 @@ public:
     /// direction  -1 or 1
     bool NudgeHeldSteps(const Selection& selection, const Shared<bool>* stepHeld, int direction);
 
-    /// As in an empty groove; the clipboard stays.
+    /// Empties the patterns and selects the first. The clipboard stays.
     void Reset();
 
     std::array<std::unique_ptr<GroovePattern>, kPatterns> patterns;
@@ -57,9 +58,6 @@ public:
     Shared<std::int32_t> lastStep[kChannels]; // pattern step that last played, its locks stay applied; -1 none
     std::unique_ptr<GroovePattern> clipboard;
     Shared<std::int32_t> copiedBar = -1, copiedStep = -1;
-
-private:
-    void PasteInto(GroovePattern& pattern, int channel, const Selection& selection);
 };
 
 } // namespace korvane

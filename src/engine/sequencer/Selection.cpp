@@ -42,13 +42,18 @@ void Selection::Move(int direction)
     editStep = step % kStepsPerBar;
 }
 
+void Selection::EndEditing()
+{
+    editStep = selectedBarMark = selectedPatternMark = -1;
+    ClearMarks();
+}
+
 void Selection::Reset()
 {
     selectedChannel = kSamplerChannels;
     selectedBar = selectedFx = 0;
     envelopeNumber = lfoNumber = layerNumber = std::int8_t{0};
-    editStep = selectedBarMark = selectedPatternMark = -1;
-    ClearMarks();
+    EndEditing();
 }
 
 } // namespace korvane

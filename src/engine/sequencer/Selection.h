@@ -11,7 +11,8 @@ namespace korvane {
 /// What buttons and knobs act on. Owned by GrooveEngine.
 ///
 /// Threads: host, editor and MIDI (on the audio thread) write, every thread reads. Of two that choose in the same
-/// instant one stands, as if the other had come just before.
+/// instant one stands, of two that move on one step is lost: hands see it and press again. A knob turned while another
+/// thread selects may still reach what was selected before, or the edited step of the bar before.
 struct Selection {
     /// The channel parameter that a base addresses now: those that are banked plus the selected envelope, LFO, layer
     /// or effect, others as they are.
@@ -24,6 +25,8 @@ struct Selection {
     /// Selects and marks a bar; the marked one loses its mark.
     void MarkBar(int bar);
     void ClearMarks() { Fill(channelMarked, false); } // of channels
+    /// Nothing is edited or marked any more.
+    void EndEditing();
     /// Moves the edited step, else the selected bar, by one; not beyond the pattern.
     /// direction  -1 or 1
     void Move(int direction);

@@ -25,7 +25,8 @@ public:
     virtual void GetParameterLabel(std::int32_t, char* text) { *text = '\0'; }
     virtual void GetParameterDisplay(std::int32_t, char* text) { *text = '\0'; }
     virtual void GetParameterName(std::int32_t, char* text) { *text = '\0'; }
-    virtual void Process(float** inputs, float** outputs, std::int32_t frames) = 0; // adds to the outputs
+    virtual void Process(float** inputs, float** outputs,
+                         std::int32_t frames) = 0; // as the engine fills them, see CSynthesizer
 
     AEffect* Record() { return &record; }
 

@@ -29,7 +29,7 @@ TEST_F(Image, EveryFieldHasItsPlace)
         {"play once",   23, {1},  [&] { return e.score.playOnce[0] && !e.score.playOnce[1]; }},
         {"shuffle",     31, {0, 0, 0, 0x3f}, [&] { return e.clock.shuffleAmount == 0.5f; }},
         {"last EXT",    83, {0, 0, 0x80, 0x3f, 12, 0, 0, 0, 211, 0, 0, 0}, [&ext = engine.ext.extControls[4]] {
-            return ext.value == 1.0f && ext.channel == 12 && ext.param == kChannelSlots - 1; }},
+            return ext.value == 1.0f && ext.binding == ExtBinding{12, kChannelSlots - 1}; }},
         {"last path",   kHeader + 8 + 6 * 512, {'C', ':', '\\', 'k'}, [&] {
             return TextOf(e.Channel(0).sound.sampleSlots[6].path) == "C:\\k"; }},
         {"note length", kLength, {0, 0, 0, 0xc0}, [&] { return e.storedParams[1][slot::NoteLength] == -2.0f; }},
@@ -100,8 +100,8 @@ TEST_F(Image, TakesWildSelections)
     image = Saved(engine);
     EXPECT_EQ(Bytes(image.begin() + 4, image.begin() + 10), (Bytes{12, 7, 0, 9, 1, 0}));
     for (const int n : {0, 1}) engine.SetExtControl(n, 0.5f);
-    EXPECT_EQ((std::vector<int>{engine.ext.extControls[0].channel, engine.ext.extControls[1].param}),
-              (std::vector{kChannels, 300}));
+    const ExtBinding first = engine.ext.extControls[0].binding, second = engine.ext.extControls[1].binding;
+    EXPECT_EQ((std::vector<int>{first.channel, second.param}), (std::vector{kChannels, 300}));
 }
 
 TEST_F(Image, KeepsTheLocksThatActOfAListTooLong)

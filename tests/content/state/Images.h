@@ -53,8 +53,7 @@ inline void FillGroove(GrooveEngine& engine, unsigned seed)
     engine.selection.envelopeNumber = engine.selection.lfoNumber = 1;
     engine.mixer.muted[below(kChannels)] = engine.score.playOnce[below(kPatterns)] = true;
     engine.clock.shuffleAmount = engine.ext.extControls[2].value = 0.25f;
-    engine.ext.extControls[2].channel = 9;
-    engine.ext.extControls[2].param = slot::FilterCutoff;
+    engine.ext.extControls[2].binding = ExtBinding{9, slot::FilterCutoff};
     for (int c = 0; c < kChannels; ++c) {
         for (auto& value : engine.storedParams[c]) value = static_cast<float>(below(1000)) / 999.0f;
         engine.storedParams[c][below(kChannelSlots)] = NAN;

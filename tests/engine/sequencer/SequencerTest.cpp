@@ -130,7 +130,7 @@ TEST_F(Sequencer, CopiesPastesAndClears)
     Put(0, {{1, 2u}});
     Put(2, {{20, 16u}});
     Locks(8, 1).Set(slot::NoteLength, 0.25f);
-    ToggleEdit(engine);
+    SetEdit(engine, true);
     engine.selection.editStep = 1;
     engine.score.Copy(engine.selection);
     engine.selection.selectedBar = 4;

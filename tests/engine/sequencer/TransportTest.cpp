@@ -1,9 +1,9 @@
 // The transport as it is heard: host and buttons, step times, note lengths, locks, and effects that follow the steps.
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <thread>
 
-#include "content/state/StateImage.h"
 #include "support/Stage.h"
 
 namespace korvane {
@@ -16,6 +16,22 @@ protected:
         Synth().Reset();
         Synth().songPosition = position;
         Synth().SetPlaying(true);
+    }
+
+    /// On a thread that is not the audio thread.
+    template <class Act>
+    static void Elsewhere(const Act& act)
+    {
+        std::thread(act).join();
+    }
+
+    /// The transport as it is, and as it is read back.
+    std::string States()
+    {
+        const auto shown = [this](int parameter) { return Synth().GetParameter(parameter) != 0.0f; };
+        const Clock& clock = Engine().clock;
+        return {clock.playing ? 'p' : '.',      clock.recordMode ? 'r' : '.',     clock.editMode ? 'e' : '.',
+                shown(param::Play) ? 'P' : '.', shown(param::Record) ? 'R' : '.', shown(param::Edit) ? 'E' : '.'};
     }
 };
 
@@ -97,55 +113,71 @@ TEST_F(Transport, StepsComeInTime)
     }
 }
 
-// Orders of another thread wait for the next block, in order, and are read back at once; a start that comes while a
-// state loads is kept.
+// Orders of another thread wait for the next block, in order, and are read back at once.
 TEST_F(Transport, OrdersOfOtherThreadsWaitForTheNextBlock)
 {
-    const auto elsewhere = [](const auto& act) { std::thread(act).join(); };
-    const auto states = [this] {
-        const Clock& clock = Engine().clock;
-        return std::string{clock.playing ? 'p' : '.', clock.recordMode ? 'r' : '.'} +
-               (Synth().GetParameter(param::Play) != 0.0f ? 'P' : '.') +
-               (Synth().GetParameter(param::Record) != 0.0f ? 'R' : '.');
-    };
     // clang-format off
     struct Case { const char* what; Writes writes; const char *before, *after; };
-    const Case cases[] = {
-        {"start",              {{param::Play, 1.0f}},                        "..P.", "p.P."},
-        {"twice is once",      {{param::Play, 1.0f}, {param::Play, 1.0f}},   "p.P.", "p.P."},
-        {"stop and start",     {{param::Play, 0.0f}, {param::Play, 1.0f}},   "p.P.", "p.P."},
-        {"record",             {{param::Record, 1.0f}},                      "p.PR", "prPR"},
-        {"another pattern",    {{param::Pattern1 + 1, 1.0f}},                "prP.", "p.P."},
-        {"start and stop",     {{param::Play, 1.0f}, {param::Play, 0.0f}},   "p...", "...."},
-        {"record, then start", {{param::Record, 1.0f}, {param::Play, 1.0f}}, "..PR", "prPR"},
+    const Case cases[] = { // playing, recording, editing; capitals as read back
+        {"start",              {{param::Play, 1.0f}},                        "...P..", "p..P.."},
+        {"twice is once",      {{param::Play, 1.0f}, {param::Play, 1.0f}},   "p..P..", "p..P.."},
+        {"stop and start",     {{param::Play, 0.0f}, {param::Play, 1.0f}},   "p..P..", "p..P.."},
+        {"record",             {{param::Record, 1.0f}},                      "p..PR.", "pr.PR."},
+        {"another pattern",    {{param::Pattern1 + 1, 1.0f}},                "pr.P..", "p..P.."},
+        {"and before it is",   {{param::Record, 1.0f}, {param::Pattern1 + 2, 1.0f}}, "p..P..", "p..P.."},
+        {"record, then edit",  {{param::Record, 1.0f}, {param::Edit, 1.0f}}, "p..PRE", "p.eP.E"},
+        {"edit, then record",  {{param::Edit, 0.0f}, {param::Record, 1.0f}}, "p.ePR.", "pr.PR."},
+        {"start and stop",     {{param::Play, 1.0f}, {param::Play, 0.0f}},   "pr..R.", "......"},
+        {"more than it holds", Writes(99, {param::Play, 0.0f}),              "......", "......"},
+        {"and one more",       {{param::Record, 1.0f}, {param::Play, 1.0f}}, "...PR.", "pr.PR."},
     };
     // clang-format on
     Play(64);
     for (const Case& c : cases) {
-        elsewhere([&] { Set(c.writes); });
-        EXPECT_EQ(states(), c.before) << c.what;
+        Elsewhere([&] { Set(c.writes); });
+        EXPECT_EQ(States(), c.before) << c.what;
         Play(64);
-        EXPECT_EQ(states(), c.after) << c.what;
+        EXPECT_EQ(States(), c.after) << c.what;
     }
     EXPECT_EQ(Engine().clock.countIn, kStepsPerBar - 1) << "recorded from standstill";
+    Elsewhere([&] { Set(Writes(99, {param::Play, 0.0f})); });
+    Elsewhere([&] { Set(param::Play, 1.0f); });
+    Play(64);
+    EXPECT_EQ(States(), "p..P..") << "of orders that found no room the last counts";
+}
 
+// Nothing that comes between a start and its block loses it or moves it from the host's position.
+TEST_F(Transport, StartsOfOtherThreadsAreKept)
+{
     std::vector<std::uint8_t> state(static_cast<std::size_t>(Synth().GetBankChunk(nullptr)));
     Synth().GetBankChunk(state.data());
-    Synth().SetPlaying(false);
-    PutStep(8, 0);
-    elsewhere([&] { Synth().SetPlaying(true); });
-    Synth().Reset();
-    Play(3 * kStep);
-    EXPECT_EQ(Onset(Left(8)), 0) << "a reset lets a start stand, and its first tick comes at once";
-    {
-        const CSynthesizer::ProgramSwitch loading(Synth());
-        elsewhere([&] { Synth().SetPlaying(false); });
-        elsewhere([&] { Synth().SetPlaying(true); });
-        LoadState(Engine(), state.data(), static_cast<std::int32_t>(state.size()));
-    }
-    EXPECT_EQ(states(), "....");
+    const auto load = [&] { Synth().SetBankChunk(state.data(), static_cast<std::int32_t>(state.size())); };
+    // clang-format off
+    struct Case { const char* what; std::function<void()> meanwhile; int step; };
+    const Case cases[] = { // step of the song that plays next, 0 when stopped
+        {"nothing",          [] {}, 10},
+        {"a reset",          [&] { Synth().Reset(); }, 10},
+        {"a program switch", [&] { Synth().SetProgram(0); }, 10},
+        {"another rate",     [&] { Synth().SetSampleRate(kRate + 1); }, 10},
+        {"a key",            [&] { Queue(0x90, kAnyKey, 100); }, 10},
+        {"a load after it",  load, 0},
+        {"a load around it", [&] {
+            const CSynthesizer::ProgramSwitch loading(Synth());
+            load();
+            Elsewhere([&] { Synth().SetPlaying(true); });
+        }, 10},
+    };
+    // clang-format on
     Play(64);
-    EXPECT_EQ(states(), "p.P.");
+    for (const Case& c : cases) {
+        Synth().SetPlaying(false);
+        Play(64);
+        Synth().songPosition = 2.5;
+        Elsewhere([&] { Synth().SetPlaying(true); });
+        c.meanwhile();
+        Play(64);
+        EXPECT_EQ(Engine().clock.playing ? Engine().clock.stepCounter - 1 : 0, c.step) << c.what;
+    }
 }
 
 /// The sound comes again after `slice` frames, or one frame later, where the slice's phase may end.

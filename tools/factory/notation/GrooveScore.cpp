@@ -65,8 +65,7 @@ public:
     void Place(const Handle& handle, int n)
     {
         auto& control = engine.ext.extControls[n];
-        control.channel = handle.channel;
-        control.param = handle.slotIndex;
+        control.binding = {handle.channel, handle.slotIndex};
         control.value = static_cast<float>(engine.storedParams[handle.channel][handle.slotIndex]);
     }
 
