@@ -142,7 +142,7 @@ TEST_F(AudioThread, NamesAreWhole)
     std::atomic<int> torn{0};
     const auto rename = [&](const std::string& name) {
         for (int n = 0; n < 2000; ++n) {
-            Synth().SetProgramName(0, name.c_str());
+            for (int k = 0; k < 10; ++k) Synth().SetProgramName(0, name.c_str());
             const std::string seen = Written([this](char* text) { Synth().GetProgramName(0, text); });
             torn += seen != names[0] && seen != names[1];
         }

@@ -46,6 +46,8 @@ TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
 TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
 {
     const Writes second{{param::Pattern1 + 1, 1.0f}, {param::Pattern1 + 1, 0.0f}, {param::PlayOnce, 1.0f}};
+    Writes held{{param::Back, 1.0f}, {param::PlayBar, 1.0f}};
+    held.insert(held.end(), second.begin(), second.end());
     // clang-format off
     struct Case { const char* what; Writes writes; int steps, position, pattern; };
     const Case cases[] = {
@@ -53,7 +55,10 @@ TEST_F(Sequencer, LoopsBarsAndReturnsFromPlayOnce)
         {"a pattern once",  {{param::PlayBar, 0.0f}}, 1, 5,  0}, {"of one bar", second,                   10, 15, 1},
         {"back in time",    {},                       1, 16, 0}, {"to its end", {},                       15, 31, 0},
         {"too late to end", second,                   1, 0,  1}, {"then next",  {},                       15, 15, 1},
-        {"and back",        {},                       1, 16, 0},
+        {"and back",        {},                       1, 16, 0}, {"to bar 2",   {},                       31, 15, 0},
+        {"on its last step", second,                  1, 0,  1}, {"it is due",  {},                       15, 15, 1},
+        {"then back",       {},                       1, 0,  0},
+        {"held by a loop",  held,                     17, 1, 1},
     };
     // clang-format on
     Put(0, {{17, 2u}});

@@ -159,7 +159,7 @@ TEST_F(Transport, StartsOfOtherThreadsAreKept)
         {"a reset",          [&] { Synth().Reset(); }, 10},
         {"a program switch", [&] { Synth().SetProgram(0); }, 10},
         {"another rate",     [&] { Synth().SetSampleRate(kRate + 1); }, 10},
-        {"a key",            [&] { Queue(0x90, kAnyKey, 100); }, 10},
+        {"a link's record",  [&] { Queue(0xB0, 20, 0); }, 10},
         {"a load after it",  load, 0},
         {"a load around it", [&] {
             const CSynthesizer::ProgramSwitch loading(Synth());
@@ -168,7 +168,10 @@ TEST_F(Transport, StartsOfOtherThreadsAreKept)
         }, 10},
     };
     // clang-format on
+    Queue(0xB0, 20, 0);
     Play(64);
+    Set(param::Record, 0.0f);
+    Synth().links.Link(true);
     for (const Case& c : cases) {
         Synth().SetPlaying(false);
         Play(64);
