@@ -71,7 +71,8 @@ public:
     void ResetGroove();            // the empty groove
     void InitChannel(int channel); // default block, default waveforms, no samples
     void ResetSelectedChannel();   // clears its steps in the current pattern, then InitChannel
-    /// Silences everything and restarts the random phases. Transport commands that wait are kept.
+    /// Silences voices, effects, meters and the click, drops notes that wait, and restarts the random phases. The
+    /// groove, its settings, modes, held buttons and transport orders that wait stay; the host's position becomes 0.
     /// newRate  Hz; 0 keeps the rate
     void ResetEngine(float newRate);
 
