@@ -117,7 +117,7 @@ void SilentBlock(benchmark::State& state)
 void Tick(benchmark::State& state)
 {
     Rig rig(1, 0.0f);
-    TogglePlay(rig.engine);
+    SetPlay(rig.engine, true);
     for (int c = 0; c < kChannels; ++c)
         for (int s = 0; s < kSteps; ++s) rig.engine.score.patterns[0]->steps[c][s] = 1u;
     for (auto _ : state) SequencerTick(rig.engine, false);

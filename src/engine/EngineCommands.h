@@ -1,8 +1,9 @@
-// What other threads ask the audio thread to do between two blocks.
+// What other threads ask the audio thread to do between two chunks.
 #pragma once
 
 #include <cstdint>
 
+#include "engine/sequencer/Modes.h"
 #include "platform/CommandQueue.h"
 #include "platform/Shared.h"
 
@@ -17,27 +18,21 @@ struct VoiceCommand {
     float velocity;       // NoteOn
 };
 
-/// A state that the transport shall have. The transport belongs to the audio thread: a start is many fields that a tick
-/// must not meet half written.
-struct TransportCommand {
-    enum class Kind : std::uint8_t { Play, Record, Edit, Host };
-    Kind kind;
-    bool on; // of the host: whether it runs
-};
-
 /// Owned by GrooveEngine. Any thread pushes, who has the engine to itself pops: the audio thread at the start of each
-/// chunk. A full queue drops notes; of transport orders it cannot hold, the last wishes are kept.
+/// chunk. The transport is among it because a start is many fields that a tick must not meet half written. A full queue
+/// drops notes; of transport orders that it cannot hold, the modes that they lead to are kept.
 struct EngineCommands {
     static constexpr std::uint32_t kVoices = 256, kTransport = 64; // far more than hands send in a block
-    static constexpr std::int8_t kNothing = -1;
 
     CommandQueue<VoiceCommand, kVoices> voices;
     CommandQueue<TransportCommand, kTransport> transport;
-    Shared<bool> overflowed; // a transport order found no room
 
-    // What was asked for last and not done yet, for who reads the switch back at once: 0 off, 1 on. Askers write, the
-    // audio thread clears; one that it clears too early shows the old state for a block.
-    Shared<std::int8_t> playAsked = kNothing, recordAsked = kNothing, editAsked = kNothing;
+    // The modes that all orders so far lead to, for who reads a switch back at once: Modes in the lowest byte, then
+    // whether orders wait, then how many there have been. Who gives an order writes, and who has the engine to itself
+    // once all are done.
+    Shared<std::uint32_t> expected;
+    Shared<std::uint32_t> unqueued; // orders that found no room; who gives them counts
+    std::uint32_t settled = 0;      // of these, made good; who has the engine to itself
 };
 
 } // namespace korvane

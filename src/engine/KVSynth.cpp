@@ -51,11 +51,13 @@ void KVSynth::ProcessMultiOut(float**, float** outputs, int frames)
     RenderFrames(*engine, outputs, frames);
 }
 
-void KVSynth::ServeOrders()
+void KVSynth::ServeOrders() { ServeOrders(engine->commands.transport.Pushed()); }
+
+void KVSynth::ServeOrders(std::uint32_t pushed)
 {
-    if (!engine->MayTouchVoices() || engine->commands.transport.Empty()) return;
+    if (!engine->MayTouchVoices() || !OrdersWait(*engine)) return;
     FollowHostTime();
-    ServeTransport(*engine);
+    ServeTransport(*engine, pushed);
 }
 
 void KVSynth::FollowHostTime()

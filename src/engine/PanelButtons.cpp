@@ -27,7 +27,7 @@ void SelectPattern(GrooveEngine& engine, int p)
     if (p < 0 || p >= kPatterns) return;
     Selection& selection = engine.selection;
     Score& score = engine.score;
-    if (EditShown(engine)) {
+    if (ShownModes(engine).editMode) {
         selection.selectedPatternMark = selection.selectedPatternMark == p ? -1 : p;
         selection.selectedBarMark = selection.editStep = -1;
         selection.ClearMarks();
@@ -36,12 +36,12 @@ void SelectPattern(GrooveEngine& engine, int p)
     const int current = score.currentPattern;
     if (!score.playOnce[current]) score.nextPattern = current;
     const int length = score.patterns[static_cast<std::size_t>(p)]->length;
-    const bool playing = PlayShown(engine);
-    if (!playing)
+    const Modes modes = ShownModes(engine);
+    if (!modes.playing)
         score.patternRepeats = 0;
     else if (score.playOnce[p] && engine.clock.patternStep >= length - 1)
         score.patternRepeats = 1;
-    if (p != current && playing && RecordShown(engine)) SetRecord(engine, false);
+    if (p != current && modes.playing && modes.recordMode) SetRecord(engine, false);
     score.currentPattern = p;
 }
 
@@ -50,7 +50,7 @@ void ChannelPress(GrooveEngine& engine, int c)
     if (c < 0 || c >= kChannels) return;
     Selection& selection = engine.selection;
     Buttons& buttons = engine.buttons;
-    if (EditShown(engine)) {
+    if (ShownModes(engine).editMode) {
         const bool marked = selection.channelMarked[c];
         if (!marked) SelectChannel(engine, c);
         selection.channelMarked[c] = !marked;
@@ -71,7 +71,7 @@ void ChannelRelease(GrooveEngine& engine, int c)
 {
     Selection& selection = engine.selection;
     Buttons& buttons = engine.buttons;
-    if (EditShown(engine) || c < 0 || c >= kChannels || !buttons.channelHeld[c]) return;
+    if (ShownModes(engine).editMode || c < 0 || c >= kChannels || !buttons.channelHeld[c]) return;
     buttons.channelHeld[c] = false;
     RefreshReach(engine);
     const bool anyMarked = Any(selection.channelMarked);
@@ -125,7 +125,9 @@ void SetStutterButton(GrooveEngine& engine, int button, bool held)
 
 void Move(GrooveEngine& engine, int direction)
 {
-    if (!EditShown(engine) && engine.score.NudgeHeldSteps(engine.selection, engine.buttons.stepHeld, direction)) return;
+    if (!ShownModes(engine).editMode &&
+        engine.score.NudgeHeldSteps(engine.selection, engine.buttons.stepHeld, direction))
+        return;
     engine.selection.Move(direction);
 }
 

@@ -86,10 +86,10 @@ void Edit(Engine& engine, int, float)
 {
     (engine.score.*operation)(engine.selection);
 }
-template <auto shown>
+template <auto mode>
 float Shown(const Engine& engine, int)
 {
-    return Flag(shown(engine));
+    return Flag(ShownModes(engine).*mode);
 }
 
 // Rules of their own.
@@ -127,12 +127,12 @@ constexpr ParameterBinding Slots(int first, int last) { return {first, last - fi
 constexpr ParameterBinding kBindings[] = {
 //   first                             n   target                     a write                                  a read
     {param::ShuffleAmount,             1,  0,                         Take<kClock, &Clock::shuffleAmount>,     Give<kClock, &Clock::shuffleAmount>},
-    {param::Play,                      1,  0,                         Switch<SetPlay>,                         Shown<PlayShown>},
+    {param::Play,                      1,  0,                         Switch<SetPlay>,                         Shown<&Modes::playing>},
     {param::PlayBar,                   1,  0,                         FollowPlayBar,                           GiveFlag<kClock, &Clock::playBar>},
-    {param::Record,                    1,  0,                         Switch<SetRecord>,                       Shown<RecordShown>},
+    {param::Record,                    1,  0,                         Switch<SetRecord>,                       Shown<&Modes::recordMode>},
     {param::Back,                      1,  -1,                        At<Move>,                                nullptr},
     {param::Forward,                   1,  +1,                        At<Move>,                                nullptr},
-    {param::Edit,                      1,  0,                         Switch<SetEdit>,                         Shown<EditShown>},
+    {param::Edit,                      1,  0,                         Switch<SetEdit>,                         Shown<&Modes::editMode>},
     {param::Clear,                     1,  0,                         Edit<&Score::Clear>,                     nullptr},
     {param::Copy,                      1,  0,                         Edit<&Score::Copy>,                      nullptr},
     {param::Paste,                     1,  0,                         Edit<&Score::Paste>,                     nullptr},

@@ -40,6 +40,13 @@ void ToggleNote(GrooveEngine& engine, int step, int k)
     if (word >> k & 1u) engine.NoteOn(channel, kFirstNote + k, 1.0f);
 }
 
+/// Recording, and no order waits that ends it.
+bool Recording(const GrooveEngine& engine)
+{
+    const Modes modes = ShownModes(engine);
+    return engine.clock.Recording() && modes.playing && modes.recordMode && !modes.editMode;
+}
+
 void EditStep(GrooveEngine& engine, int k)
 {
     Selection& selection = engine.selection;
@@ -67,7 +74,7 @@ void StepButton(GrooveEngine& engine, int k)
     }
     if (!engine.buttons.stepHeld[k].Replace(false, true)) return;
     RecordPress(engine, k);
-    if (EditShown(engine))
+    if (ShownModes(engine).editMode)
         EditStep(engine, k);
     else
         engine.NoteOn(engine.buttons.PlayedChannel(k, selected), kFirstNote + k, engine.liveVelocity);
@@ -78,7 +85,7 @@ void StepButtonRelease(GrooveEngine& engine, int k)
     if (k < 0 || k >= kNotes || !engine.buttons.stepHeld[k].Replace(true, false)) return;
     RecordRelease(engine, k);
     const int selected = engine.selection.selectedChannel;
-    if (EditShown(engine))
+    if (ShownModes(engine).editMode)
         engine.ReleaseLive(selected);
     else
         engine.ReleaseNote(engine.buttons.PlayedChannel(k, selected), kFirstNote + k);
@@ -87,7 +94,7 @@ void StepButtonRelease(GrooveEngine& engine, int k)
 void RecordPress(GrooveEngine& engine, int k)
 {
     Clock& clock = engine.clock;
-    if (!clock.Recording()) return;
+    if (!Recording(engine)) return;
     int position = clock.patternStep;
     const bool next = clock.StepGone() > 0.5 && clock.countIn == -1;
     if (next) ++position;
@@ -110,7 +117,7 @@ void RecordRelease(GrooveEngine& engine, int k)
     const Clock& clock = engine.clock;
     const int step = engine.recorder.recordStep, bar = engine.recorder.recordBar,
               channel = engine.selection.selectedChannel;
-    if (!clock.Recording() || step < 0 || bar < 0) return;
+    if (!Recording(engine) || step < 0 || bar < 0) return;
     GroovePattern& pattern = engine.score.Current();
     const int position = bar * kStepsPerBar + step;
     if ((pattern.steps[channel][position] >> k & 1u) == 0) return;

@@ -1,125 +1,127 @@
 // The transport: play, record, edit, and a host that starts and stops.
 #include "engine/Transport.h"
 
-#include <utility>
-
 namespace korvane {
 
 namespace {
 
 using Kind = TransportCommand::Kind;
 
-void Execute(GrooveEngine& engine, const TransportCommand& command)
+// EngineCommands::expected
+constexpr std::uint32_t kWaiting = 1u << 8, kOne = 1u << 16;
+Modes ModesOf(std::uint32_t word) { return Modes::Unpacked(static_cast<std::uint8_t>(word & 0xFF)); }
+
+/// What starts and stops have in common.
+void Turn(GrooveEngine& engine, bool start)
 {
-    Clock& clock = engine.clock;
-    switch (command.kind) {
-    case Kind::Play:
-        if (clock.playing != command.on) TogglePlay(engine);
-        break;
-    case Kind::Record:
-        if (clock.recordMode != command.on) ToggleRecord(engine);
-        break;
-    case Kind::Edit:
-        if (clock.editMode == command.on) break;
-        clock.editMode = command.on;
-        if (command.on) clock.recordMode = false; // which stops nothing
-        break;
-    case Kind::Host:
-        if (clock.playing && clock.recordMode) ToggleRecord(engine);
-        if (clock.playing) TogglePlay(engine); // leaving a recording from standstill has stopped it already
-        if (command.on) TogglePlay(engine);
-        break;
+    for (int c = 0; c < kChannels; ++c) engine.RefreshChannel(c, start);
+    if (start) {
+        engine.clock.Locate();
+        engine.score.patternRepeats = 0;
     }
+    engine.buttons.ClearStutter();
+    engine.score.Restart();
 }
 
-void Do(GrooveEngine& engine, TransportCommand command, Shared<std::int8_t>& asked)
+void Start(GrooveEngine& engine)
+{
+    Clock& clock = engine.clock;
+    Turn(engine, true);
+    clock.countIn = static_cast<std::int8_t>(clock.recordMode ? kStepsPerBar : 0);
+    clock.playing = true; // last: a button pressed by another thread records at the new position
+}
+
+void Stop(GrooveEngine& engine)
+{
+    engine.clock.playing = false;
+    Turn(engine, false);
+    engine.ReleaseSequenced();
+    engine.clock.countIn = std::int8_t{0};
+}
+
+void Execute(GrooveEngine& engine, TransportCommand order)
+{
+    Clock& clock = engine.clock;
+    const Modes before = clock.CurrentModes(), after = before.After(order);
+    const bool anew = order.kind == Kind::Host && before.playing && after.playing;
+    if (before.playing && (!after.playing || anew)) Stop(engine);
+    if (before.editMode && !after.editMode) engine.selection.EndEditing();
+    if (before.recordMode != after.recordMode && order.kind != Kind::Edit) engine.recorder.Clear();
+    clock.recordMode = after.recordMode;
+    clock.editMode = after.editMode;
+    clock.recordStartedWhilePlaying = after.recordStartedWhilePlaying;
+    if (after.playing && (!before.playing || anew)) Start(engine);
+}
+
+void Do(GrooveEngine& engine, TransportCommand order)
 {
     if (engine.MayTouchVoices()) {
         ServeTransport(engine); // what came before comes first
-        Execute(engine, command);
+        Execute(engine, order);
         return;
     }
-    asked = static_cast<std::int8_t>(command.on);
-    if (!engine.commands.transport.Push(command)) engine.commands.overflowed = true;
+    EngineCommands& commands = engine.commands;
+    const bool editing = ShownModes(engine).editMode;
+    commands.expected.Update([&](std::uint32_t word) {
+        const Modes from = word & kWaiting ? ModesOf(word) : engine.clock.CurrentModes();
+        return ((word & ~(kOne - 1)) + kOne) | kWaiting | from.After(order).Packed();
+    });
+    if (editing && !ShownModes(engine).editMode) engine.selection.EndEditing();
+    if (!commands.transport.Push(order)) commands.unqueued.Update([](std::uint32_t count) { return count + 1; });
 }
 
-bool Shown(std::int8_t asked, bool is) { return asked == EngineCommands::kNothing ? is : asked != 0; }
+/// Brings the transport into the modes that orders without room would have led to.
+void Reach(GrooveEngine& engine, const Modes& modes)
+{
+    const Modes now = engine.clock.CurrentModes();
+    if (now.playing == modes.playing && now.recordMode == modes.recordMode && now.editMode == modes.editMode) return;
+    const TransportCommand play{Kind::Play, modes.playing}, record{Kind::Record, modes.recordMode};
+    const bool recordFirst = modes.recordMode && !modes.recordStartedWhilePlaying;
+    if (recordFirst) Execute(engine, {Kind::Play, false});
+    Execute(engine, recordFirst ? record : play);
+    Execute(engine, recordFirst ? play : record);
+    Execute(engine, {Kind::Edit, modes.editMode});
+}
 
-/// All orders are done. Those that found no room count by what was asked for last.
+/// All orders are done: the modes are those that are. Not while somebody has counted an order that is not queued yet.
 void Settle(GrooveEngine& engine)
 {
     EngineCommands& commands = engine.commands;
-    const bool overflowed = commands.overflowed.Exchange(false);
-    const std::pair<Kind, Shared<std::int8_t>&> wishes[] = {
-        {Kind::Edit, commands.editAsked}, {Kind::Record, commands.recordAsked}, {Kind::Play, commands.playAsked}};
-    for (const auto& [kind, asked] : wishes) {
-        const std::int8_t wish = asked.Exchange(EngineCommands::kNothing);
-        if (overflowed && wish != EngineCommands::kNothing) Execute(engine, {kind, wish != 0});
-    }
+    const std::uint32_t word = commands.expected, unqueued = commands.unqueued;
+    const std::uint32_t done = commands.transport.Popped() + unqueued;
+    if (!(word & kWaiting) || word / kOne != done % (UINT32_MAX / kOne + 1)) return;
+    if (unqueued != commands.settled) Reach(engine, ModesOf(word));
+    commands.settled = unqueued;
+    commands.expected.Replace(word, word & ~kWaiting);
 }
 
 } // namespace
 
-void SetPlay(GrooveEngine& engine, bool on) { Do(engine, {Kind::Play, on}, engine.commands.playAsked); }
+void SetPlay(GrooveEngine& engine, bool on) { Do(engine, {Kind::Play, on}); }
+void SetRecord(GrooveEngine& engine, bool on) { Do(engine, {Kind::Record, on}); }
+void SetEdit(GrooveEngine& engine, bool on) { Do(engine, {Kind::Edit, on}); }
+void FollowHost(GrooveEngine& engine, bool running) { Do(engine, {Kind::Host, running}); }
 
-void SetRecord(GrooveEngine& engine, bool on) { Do(engine, {Kind::Record, on}, engine.commands.recordAsked); }
-
-void SetEdit(GrooveEngine& engine, bool on)
+Modes ShownModes(const GrooveEngine& engine)
 {
-    if (!on && EditShown(engine)) engine.selection.EndEditing();
-    Do(engine, {Kind::Edit, on}, engine.commands.editAsked);
+    const std::uint32_t word = engine.commands.expected;
+    return word & kWaiting ? ModesOf(word) : engine.clock.CurrentModes();
 }
 
-void FollowHost(GrooveEngine& engine, bool running) { Do(engine, {Kind::Host, running}, engine.commands.playAsked); }
-
-bool PlayShown(const GrooveEngine& engine) { return Shown(engine.commands.playAsked, engine.clock.playing); }
-
-bool RecordShown(const GrooveEngine& engine) { return Shown(engine.commands.recordAsked, engine.clock.recordMode); }
-
-bool EditShown(const GrooveEngine& engine) { return Shown(engine.commands.editAsked, engine.clock.editMode); }
+bool OrdersWait(const GrooveEngine& engine)
+{
+    return (engine.commands.expected & kWaiting) || !engine.commands.transport.Empty();
+}
 
 void ServeTransport(GrooveEngine& engine) { ServeTransport(engine, engine.commands.transport.Pushed()); }
 
 void ServeTransport(GrooveEngine& engine, std::uint32_t pushed)
 {
+    if (!OrdersWait(engine)) return;
     auto& orders = engine.commands.transport;
-    if (orders.Popped() == pushed && !engine.commands.overflowed) return;
-    TransportCommand command;
-    while (orders.Popped() != pushed && orders.Pop(command)) Execute(engine, command);
+    TransportCommand order;
+    while (static_cast<std::int32_t>(pushed - orders.Popped()) > 0 && orders.Pop(order)) Execute(engine, order);
     if (orders.Empty()) Settle(engine);
-}
-
-void TogglePlay(GrooveEngine& engine)
-{
-    Clock& clock = engine.clock;
-    const bool start = !clock.playing;
-    if (!start) clock.playing = false;
-    for (int c = 0; c < kChannels; ++c) engine.RefreshChannel(c, start);
-    if (start) {
-        clock.Locate();
-        engine.score.patternRepeats = 0;
-    }
-    engine.buttons.ClearStutter();
-    engine.score.Restart();
-    if (!start) engine.ReleaseSequenced();
-    clock.countIn = static_cast<std::int8_t>(start && clock.recordMode ? kStepsPerBar : 0);
-    if (!start && clock.recordMode) ToggleRecord(engine);
-    if (start) clock.playing = true; // last: a button pressed by another thread records at the new position
-}
-
-void ToggleRecord(GrooveEngine& engine)
-{
-    Clock& clock = engine.clock;
-    const bool on = !clock.recordMode;
-    clock.recordMode = on;
-    if (on) {
-        if (clock.editMode) engine.selection.EndEditing();
-        clock.editMode = false;
-        clock.recordStartedWhilePlaying = static_cast<bool>(clock.playing);
-    } else if (clock.playing && !clock.recordStartedWhilePlaying) {
-        TogglePlay(engine);
-    }
-    engine.recorder.Clear();
 }
 
 } // namespace korvane

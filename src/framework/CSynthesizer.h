@@ -73,8 +73,8 @@ public:
         const bool nested;
     };
 
-    /// What the audio thread is asked for between two blocks has the engine to itself, as inside a block. Other
-    /// threads, and everybody during a switch, are left outside; nobody waits.
+    /// What the audio thread is asked for between two blocks has the engine to itself, as inside a block; before the
+    /// first block, whoever is asked. Other threads, and everybody during a switch, are left outside; nobody waits.
     class BetweenBlocks {
     public:
         explicit BetweenBlocks(CSynthesizer& owner);

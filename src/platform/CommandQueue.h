@@ -8,7 +8,8 @@
 namespace korvane {
 
 /// Bounded queue, many writers, one reader at a time. Each cell carries a turn number that says whose move it is
-/// (D. Vyukov's bounded queue). What a writer did before Push, the reader sees after Pop.
+/// (D. Vyukov's bounded queue). What a writer did before Push, the reader sees after Pop. A writer that is interrupted
+/// within Push holds back what was pushed after it until it goes on.
 template <class Command, std::uint32_t kCapacity>
 class CommandQueue {
     static_assert((kCapacity & (kCapacity - 1)) == 0, "positions wrap");

@@ -11,7 +11,6 @@
 #include "content/state/ChannelChunk.h"
 #include "content/state/PartImage.h"
 #include "content/state/StateImage.h"
-#include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
 
@@ -79,7 +78,7 @@ bool KVInstrument::LoadGrooveFile(const char* path)
     {
         ProgramSwitch exclusive(*this);
         engine->samplePool->SetGrooveFolders(FolderText(file).c_str());
-        ServeTransport(*engine, ordered);
+        ServeOrders(ordered);
         loaded = LoadState(*engine, image.bytes.get(), image.size);
     }
     if (!loaded) return false;
@@ -133,7 +132,7 @@ std::int32_t KVInstrument::SetProgramChunk(const void* data, std::int32_t size)
     {
         ProgramSwitch exclusive(*this);
         engine->samplePool->ClearGrooveFolders();
-        ServeTransport(*engine, ordered);
+        ServeOrders(ordered);
         loaded = LoadState(*engine, static_cast<const std::uint8_t*>(data), size);
     }
     if (!loaded) return 0;

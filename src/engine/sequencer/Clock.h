@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "engine/sequencer/Modes.h"
 #include "platform/Numbers.h"
 #include "platform/Shared.h"
 
@@ -11,7 +12,7 @@ namespace korvane {
 /// Where the sequencer is and in which mode. Owned by GrooveEngine.
 ///
 /// Threads: every thread reads. The audio thread writes, or whoever has the engine to itself; but for `playBar` and
-/// `shuffleAmount`, which whoever moves the parameter writes.
+/// `shuffleAmount`, which whoever moves the parameter writes, and `frameClock`, which a record press sets to 0.
 struct Clock {
     /// Frames of a sixteenth note.
     double StepFrames() const { return sampleRate * 15.0 / static_cast<double>(tempo); }
@@ -23,6 +24,7 @@ struct Clock {
     /// 1 without shuffle, 0 with all of it.
     float Straightness() const { return Clamp(1.0f - shuffleAmount, 0.0f, 1.0f); }
 
+    Modes CurrentModes() const { return {playing, recordMode, editMode, recordStartedWhilePlaying}; }
     bool Recording() const { return recordMode && playing && !editMode; }
     /// A recording that was started from standstill: bars are counted in and the position does not wrap.
     bool CountingIn() const { return Recording() && !recordStartedWhilePlaying; }

@@ -4,6 +4,7 @@
 #include <functional>
 #include <thread>
 
+#include "engine/Transport.h"
 #include "support/Stage.h"
 
 namespace korvane {
@@ -125,9 +126,9 @@ TEST_F(Transport, OrdersOfOtherThreadsWaitForTheNextBlock)
         {"record",             {{param::Record, 1.0f}},                      "p..PR.", "pr.PR."},
         {"another pattern",    {{param::Pattern1 + 1, 1.0f}},                "pr.P..", "p..P.."},
         {"and before it is",   {{param::Record, 1.0f}, {param::Pattern1 + 2, 1.0f}}, "p..P..", "p..P.."},
-        {"record, then edit",  {{param::Record, 1.0f}, {param::Edit, 1.0f}}, "p..PRE", "p.eP.E"},
+        {"record, then edit",  {{param::Record, 1.0f}, {param::Edit, 1.0f}}, "p..P.E", "p.eP.E"},
         {"edit, then record",  {{param::Edit, 0.0f}, {param::Record, 1.0f}}, "p.ePR.", "pr.PR."},
-        {"start and stop",     {{param::Play, 1.0f}, {param::Play, 0.0f}},   "pr..R.", "......"},
+        {"start and stop",     {{param::Play, 1.0f}, {param::Play, 0.0f}},   "pr....", "......"},
         {"more than it holds", Writes(99, {param::Play, 0.0f}),              "......", "......"},
         {"and one more",       {{param::Record, 1.0f}, {param::Play, 1.0f}}, "...PR.", "pr.PR."},
     };
@@ -146,6 +147,37 @@ TEST_F(Transport, OrdersOfOtherThreadsWaitForTheNextBlock)
     EXPECT_EQ(States(), "p..P..") << "of orders that found no room the last counts";
 }
 
+// Buttons of a thread whose orders wait go by the modes that these lead to.
+TEST_F(Transport, ButtonsGoByTheModesThatAreOrdered)
+{
+    const Writes overdub{{param::Play, 1.0f}, {param::Record, 1.0f}};
+    // clang-format off
+    struct Case { const char* what; Writes before, orders; int edited; bool recorded; };
+    const Case cases[] = {
+        {"recording",           overdub,              {},                     -1, true},
+        {"edit ends it",        overdub,              {{param::Edit, 1.0f}},  2,  false},
+        {"stop ends it",        overdub,              {{param::Play, 0.0f}},  -1, false},
+        {"another pattern too", overdub,              {{param::Pattern1 + 1, 1.0f}, {param::Pattern1, 1.0f}}, -1, false},
+        {"record ends editing", {{param::Edit, 1.0f}}, {{param::Record, 1.0f}}, -1, false},
+    };
+    // clang-format on
+    Play(64);
+    for (const Case& c : cases) {
+        Engine().score.Current().Clear();
+        Set(c.before);
+        Play(64);
+        Elsewhere([&] {
+            Set(c.orders);
+            Press(param::Step1 + 2);
+        });
+        EXPECT_EQ(Engine().selection.editStep, c.edited) << c.what;
+        EXPECT_EQ(Engine().score.Current().steps[8][0] != 0, c.recorded) << c.what;
+        Play(64);
+        Set({{param::Edit, 0.0f}, {param::Record, 0.0f}, {param::Play, 0.0f}});
+        Play(64);
+    }
+}
+
 // Nothing that comes between a start and its block loses it or moves it from the host's position.
 TEST_F(Transport, StartsOfOtherThreadsAreKept)
 {
@@ -161,6 +193,14 @@ TEST_F(Transport, StartsOfOtherThreadsAreKept)
         {"another rate",     [&] { Synth().SetSampleRate(kRate + 1); }, 10},
         {"a link's record",  [&] { Queue(0xB0, 20, 0); }, 10},
         {"a load after it",  load, 0},
+        {"a load that had to wait for a block", [&] {
+            const std::uint32_t ordered = Engine().commands.transport.Pushed() - 1;
+            Play(64);
+            Elsewhere([&] { Synth().SetPlaying(true); });
+            const CSynthesizer::ProgramSwitch loading(Synth());
+            ServeTransport(Engine(), ordered);
+            Engine().ResetGroove();
+        }, 10},
         {"a load around it", [&] {
             const CSynthesizer::ProgramSwitch loading(Synth());
             load();
