@@ -116,62 +116,71 @@ float OfSlot(const Engine& engine, int index)
     return engine.GetChannelParameter(kParameters[static_cast<std::size_t>(index)].slotBase);
 }
 
+constexpr int kLastEnvelope = SlotOf(slot::EnvelopeAmount).count - 1;
+constexpr int kLastLfo = SlotOf(slot::LfoAmount).count - 1;
+constexpr int kLastLayer = kLayers - 1;
+
 constexpr auto kClock = &Engine::clock;
 constexpr auto kMixer = &Engine::mixer;
 constexpr auto kButtons = &Engine::buttons;
 
 constexpr ParameterBinding Nothing(int index) { return {index, 1, 0, nullptr, nullptr}; }
 constexpr ParameterBinding Slots(int first, int last) { return {first, last - first + 1, first, ToSlot, OfSlot}; }
+template <auto field, int kLast>
+constexpr ParameterBinding Page(int index)
+{
+    return {index, 1, 0, TakePage<field, kLast>, GivePage<field, kLast>};
+}
 
 // clang-format off
 constexpr ParameterBinding kBindings[] = {
-//   first                             n   target                     a write                                  a read
-    {param::ShuffleAmount,             1,  0,                         Take<kClock, &Clock::shuffleAmount>,     Give<kClock, &Clock::shuffleAmount>},
-    {param::Play,                      1,  0,                         Switch<SetPlay>,                         Shown<&Modes::playing>},
-    {param::PlayBar,                   1,  0,                         FollowPlayBar,                           GiveFlag<kClock, &Clock::playBar>},
-    {param::Record,                    1,  0,                         Switch<SetRecord>,                       Shown<&Modes::recordMode>},
-    {param::Back,                      1,  -1,                        At<Move>,                                nullptr},
-    {param::Forward,                   1,  +1,                        At<Move>,                                nullptr},
-    {param::Edit,                      1,  0,                         Switch<SetEdit>,                         Shown<&Modes::editMode>},
-    {param::Clear,                     1,  0,                         Edit<&Score::Clear>,                     nullptr},
-    {param::Copy,                      1,  0,                         Edit<&Score::Copy>,                      nullptr},
-    {param::Paste,                     1,  0,                         Edit<&Score::Paste>,                     nullptr},
-    {param::MuteSelected,              1,  0,                         Switch<SetMuteModifier>,                 nullptr},
-    {param::Solo,                      1,  0,                         Follow<kMixer, &Mixer::soloSelected>,    GiveFlag<kMixer, &Mixer::soloSelected>},
-    {param::Pattern1,                  8,  0,                         At<SelectPattern>,                       nullptr},
-    {param::PlayOnce,                  1,  0,                         FollowPlayOnce,                          GivePlayOnce},
-    {param::Channel1,                  13, 0,                         PressAndRelease<ChannelPress, ChannelRelease>, nullptr},
-    {param::Enable1,                   13, 0,                         FollowEnabled,                           GiveEnabled},
-    {param::Ext1,                      5,  0,                         TakeExt,                                 GiveExt},
-    {param::ExtLearn,                  1,  0,                         Learn,                                   nullptr},
-    {param::Fx1,                       10, 0,                         Button<SetFxButton>,                     nullptr},
-    {param::Stutter1_1,                4,  0,                         Button<SetStutterButton>,                GiveStutter},
+//   first                             n             target                     a write                                  a read
+    {param::ShuffleAmount,             1,            0,                         Take<kClock, &Clock::shuffleAmount>,     Give<kClock, &Clock::shuffleAmount>},
+    {param::Play,                      1,            0,                         Switch<SetPlay>,                         Shown<&Modes::playing>},
+    {param::PlayBar,                   1,            0,                         FollowPlayBar,                           GiveFlag<kClock, &Clock::playBar>},
+    {param::Record,                    1,            0,                         Switch<SetRecord>,                       Shown<&Modes::recordMode>},
+    {param::Back,                      1,            -1,                        At<Move>,                                nullptr},
+    {param::Forward,                   1,            +1,                        At<Move>,                                nullptr},
+    {param::Edit,                      1,            0,                         Switch<SetEdit>,                         Shown<&Modes::editMode>},
+    {param::Clear,                     1,            0,                         Edit<&Score::Clear>,                     nullptr},
+    {param::Copy,                      1,            0,                         Edit<&Score::Copy>,                      nullptr},
+    {param::Paste,                     1,            0,                         Edit<&Score::Paste>,                     nullptr},
+    {param::MuteSelected,              1,            0,                         Switch<SetMuteModifier>,                 nullptr},
+    {param::Solo,                      1,            0,                         Follow<kMixer, &Mixer::soloSelected>,    GiveFlag<kMixer, &Mixer::soloSelected>},
+    {param::Pattern1,                  kPatterns,    0,                         At<SelectPattern>,                       nullptr},
+    {param::PlayOnce,                  1,            0,                         FollowPlayOnce,                          GivePlayOnce},
+    {param::Channel1,                  kChannels,    0,                         PressAndRelease<ChannelPress, ChannelRelease>, nullptr},
+    {param::Enable1,                   kChannels,    0,                         FollowEnabled,                           GiveEnabled},
+    {param::Ext1,                      kExtControls, 0,                         TakeExt,                                 GiveExt},
+    {param::ExtLearn,                  1,            0,                         Learn,                                   nullptr},
+    {param::Fx1,                       kEffects,     0,                         Button<SetFxButton>,                     nullptr},
+    {param::Stutter1_1,                4,            0,                         Button<SetStutterButton>,                GiveStutter},
     Nothing(67),
-    {param::Stutter1_4,                1,  4,                         Button<SetStutterButton>,                GiveStutter},
-    {param::FxActivate,                1,  0,                         Switch<SetFxPad>,                        nullptr},
+    {param::Stutter1_4,                1,            4,                         Button<SetStutterButton>,                GiveStutter},
+    {param::FxActivate,                1,            0,                         Switch<SetFxPad>,                        nullptr},
     Slots(70, 72),
-    {param::FxLfoShapeSwitch,          1,  slot::FxLfoShape,          Cycle,                                   nullptr},
+    {param::FxLfoShapeSwitch,          1,            slot::FxLfoShape,          Cycle,                                   nullptr},
     Slots(74, 74),
-    {param::FxLfoSyncSwitch,           1,  slot::FxLfoSync,           Cycle,                                   nullptr},
+    {param::FxLfoSyncSwitch,           1,            slot::FxLfoSync,           Cycle,                                   nullptr},
     Slots(76, 95),
-    {param::FilterTypeSwitch,          1,  slot::FilterType,          Cycle,                                   nullptr},
-    {param::EnvelopeNumber,            1,  0,                         TakePage<&Selection::envelopeNumber, 1>, GivePage<&Selection::envelopeNumber, 1>},
-    {param::EnvelopeDestinationSwitch, 1,  slot::EnvelopeDestination, Cycle,                                   nullptr},
+    {param::FilterTypeSwitch,          1,            slot::FilterType,          Cycle,                                   nullptr},
+    Page<&Selection::envelopeNumber, kLastEnvelope>(param::EnvelopeNumber),
+    {param::EnvelopeDestinationSwitch, 1,            slot::EnvelopeDestination, Cycle,                                   nullptr},
     Slots(99, 103),
-    {param::LfoNumber,                 1,  0,                         TakePage<&Selection::lfoNumber, 1>,      GivePage<&Selection::lfoNumber, 1>},
+    Page<&Selection::lfoNumber, kLastLfo>(param::LfoNumber),
     Slots(105, 108),
-    {param::LfoSyncSwitch,             1,  slot::LfoSync,             Cycle,                                   nullptr},
+    {param::LfoSyncSwitch,             1,            slot::LfoSync,             Cycle,                                   nullptr},
     Slots(110, 110),
-    {param::LfoDestinationSwitch,      1,  slot::LfoDestination,      Cycle,                                   nullptr},
+    {param::LfoDestinationSwitch,      1,            slot::LfoDestination,      Cycle,                                   nullptr},
     Slots(112, 112),
-    {param::LfoShapeSwitch,            1,  slot::LfoShape,            Cycle,                                   nullptr},
+    {param::LfoShapeSwitch,            1,            slot::LfoShape,            Cycle,                                   nullptr},
     Slots(114, 151),
-    {param::LayerNumber,               1,  0,                         TakePage<&Selection::layerNumber, 3>,    GivePage<&Selection::layerNumber, 3>},
+    Page<&Selection::layerNumber, kLastLayer>(param::LayerNumber),
     Nothing(param::LayerResetStart),
     Nothing(154),
-    {param::Step1,                     24, 0,                         PressAndRelease<StepButton, StepButtonRelease>, nullptr},
+    {param::Step1,                     kNotes,       0,                         PressAndRelease<StepButton, StepButtonRelease>, nullptr},
     Nothing(179),
-    {param::EngineFlag,                1,  0,                         nullptr,                                 GiveFlag<kButtons, &Buttons::muteModifier>},
+    {param::EngineFlag,                1,            0,                         nullptr,                                 GiveFlag<kButtons, &Buttons::muteModifier>},
     Nothing(181),
     Slots(182, 195),
 };

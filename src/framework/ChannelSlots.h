@@ -115,6 +115,7 @@ struct ChannelSlot {
 };
 
 // Codes of modulation destinations are positions in the editor's list, where headings and separators count.
+// FxLfoRate starts at 5.01 ninths: one beat, the sixth of the nine lengths, clear of its edge at 5 / 9.
 // clang-format off
 inline constexpr ChannelSlot kChannelSlotTable[] = {
 //   first                        n bank            sampler      synth        reset to     last lane source codes
@@ -197,7 +198,7 @@ inline constexpr ChannelSlot kChannelSlotTable[] = {
     {slot::WheelDestination,     1, Bank::None,     0.0f,        0.0f,        0.0f,          0,   0, {}},
     {slot::PressureAmount,       1, Bank::None,     0.5f,        0.5f,        0.5f,          0,   0, {}},
     {slot::PressureDestination,  1, Bank::None,     0.0f,        0.0f,        0.0f,          0,   0, {}},
-    {slot::BendRange,            1, Bank::None,     0.16666667f, 0.16666667f, 1.0f / 6.0f,   0,   0, {}},
+    {slot::BendRange,            1, Bank::None,     1.0f / 6.0f, 1.0f / 6.0f, 1.0f / 6.0f,   0,   0, {}},
     {slot::EqOn,                 1, Bank::None,     0.0f,        0.0f,        0.0f,          0,   0, {}},
     {slot::EqGain,               5, Bank::None,     0.5f,        0.5f,        0.5f,          0,   0, {}},
 };

@@ -19,7 +19,7 @@ inline float Square(float x) { return x * x; }
 inline float Cube(float x) { return x * x * x; }
 inline float Fourth(float x) { return Square(x) * Square(x); }
 inline float Fifth(float x) { return Fourth(x) * x; }
-inline double Knob(double value) { return Clamp(value, 0.0, 1.0); }
+constexpr double Knob(double value) { return Clamp(value, 0.0, 1.0); }
 
 /// A whole number is what the law's line has before the point; its knob stands half a step further from the centre.
 inline double InsideStep(int number) { return number + (number > 0 ? 0.5 : number < 0 ? -0.5 : 0.0); }
@@ -55,8 +55,11 @@ inline double SemitonesKnob(int semitones) { return Knob((InsideStep(semitones) 
 inline float SlideSeconds(float value) { return 2.0f * Cube(value); } // time constant
 inline double SlideKnob(double seconds) { return Knob(std::cbrt(seconds / 2.0)); }
 
-/// "SYNTH: Octave": -2..2. A million at most, so that sums of notes stay numbers.
-inline int Octaves(float value) { return Clamp(Truncate(4.0f * value), -1000000, 1000000) - 2; }
+/// Semitones or octaves that a control far outside 0..1 gives at most, so that sums of notes stay numbers.
+inline constexpr int kFarthestPitch = 1000000;
+
+/// "SYNTH: Octave": -2..2.
+inline int Octaves(float value) { return Clamp(Truncate(4.0f * value), -kFarthestPitch, kFarthestPitch) - 2; }
 inline double OctavesKnob(int octaves) { return PositionKnob(octaves + 2, 4); }
 
 /// Whole semitones that a full pitch bend moves.
@@ -218,7 +221,7 @@ inline double DriveKnob(double drive) { return Knob(std::pow(drive / 1024.0, 0.2
 inline float DriveMakeUp(float drive) { return drive * 0.5f + 0.5f; }
 
 /// Frames that the decimator holds one, 3 to 67.
-/// clean  1 - x
+/// clean  1 - x, after an LFO has moved it; the knob that CrushKnob gives is x
 inline int CrushFrames(float clean) { return Truncate(clean * clean * 64.0f + 3.0f); }
 inline double CrushKnob(int frames) { return Knob(1.0 - std::sqrt(InsideStep(frames - 3) / 64.0)); }
 
@@ -267,7 +270,7 @@ inline float PumpDrop(float y) { return 1.0f - y * y; } // share of the level th
 inline double PumpDropKnob(double drop) { return Knob(std::sqrt(1.0 - drop)); }
 
 inline float EqDb(float value) { return (value - 0.5f) * 24.0f; }
-inline double EqKnob(double db) { return Knob(0.5 + db / 24.0); }
+constexpr double EqKnob(double db) { return Knob(0.5 + db / 24.0); }
 
 } // namespace law
 } // namespace korvane

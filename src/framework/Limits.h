@@ -23,8 +23,11 @@ inline constexpr int kEffects = 10;
 inline constexpr int kStutterButtons = 5;
 inline constexpr int kExtControls = 5;
 inline constexpr int kMaxRun = 512;                              // frames that one render run may have
-inline constexpr int kLiveLengthFrames = 268435455;              // length of a note that no clock ends
 inline constexpr double kLowestRate = 1.0, kHighestRate = 1.0e6; // sample rates in Hz
+
+/// Length of a live note, whose end no step sets; it counts down like every other: 2^28 - 1 frames, 93 minutes at
+/// 48 kHz, longer than a key is held.
+inline constexpr int kLiveLengthFrames = (1 << 28) - 1;
 
 /// The engine runs at this sample rate; false for NaN.
 constexpr bool UsableRate(double rate) { return rate >= kLowestRate && rate <= kHighestRate; }

@@ -10,8 +10,8 @@ namespace korvane {
 
 namespace {
 
-/// 0..0.99 of the tape's length: the deeper, the shorter.
-float DelayOf(float x, float lfo) { return Clamp((1.0f - x) - lfo, 0.0f, 0.99f); }
+/// Part of the tape's length: the deeper, the shorter.
+float DelayOf(float x, float lfo) { return Clamp((1.0f - x) - lfo, 0.0f, kLongestTapePart); }
 
 } // namespace
 

@@ -11,7 +11,7 @@ namespace korvane {
 namespace {
 
 /// Part of the tape that one LFO period takes.
-float DelayOf(float lfoSeconds) { return Clamp(lfoSeconds / kLongDelaySeconds, 0.01f, 0.99f); }
+float DelayOf(float lfoSeconds) { return Clamp(lfoSeconds / kLongDelaySeconds, 0.01f, kLongestTapePart); }
 
 } // namespace
 

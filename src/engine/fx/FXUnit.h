@@ -20,7 +20,7 @@ enum class FxType : std::int32_t {
     LowPass = 4,    // x frequency, y resonance
     HighPass = 5,   // x frequency, y resonance
     Echo = 6,       // x send and feedback, y filter; one LFO period long
-    Reverb = 7,     // x send and decay, y damping
+    Reverb = 7,     // x decay and level, y damping
     Panner = 8,     // x position, y level difference
     Pump = 9,       // x release, y drop level; carries the channel's equaliser
     Stutter = 11,
@@ -36,8 +36,8 @@ public:
     FXUnit(const FXUnit&) = delete;
     FXUnit& operator=(const FXUnit&) = delete;
 
-    /// Allocates the delay memory that the type needs at the current rate, none at a rate that is not usable
-    /// (Limits.h).
+    /// Allocates the delay memory that the type needs at the current rate. At a rate that is not usable (Limits.h)
+    /// the memory of the rate before stays.
     void AllocateBuffers();
 
     /// Silences the unit: delay memory, filters, recording, LFO phase, on-level and tail.

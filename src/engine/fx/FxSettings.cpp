@@ -30,6 +30,12 @@ constexpr struct {
 };
 // clang-format on
 
+LfoShape ShapeOf(float value)
+{
+    constexpr int kLast = slot::LastPosition(slot::FxLfoShape);
+    return static_cast<LfoShape>(Clamp(law::Position(value, kLast), 0, kLast));
+}
+
 void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
 {
     unit.eqOn = params[slot::EqOn] != 0.0f;
@@ -52,7 +58,7 @@ void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
         unit.x = Clamp<float>(params[slot::FxX + k], 0.0f, 1.0f);
         unit.y = Clamp<float>(params[slot::FxY + k], 0.0f, 1.0f);
         unit.lfoAmount = law::FxLfoDepth(params[slot::FxLfoAmount + k]);
-        unit.lfoShape = Clamp(law::Position(params[slot::FxLfoShape + k], 3), 0, 3);
+        unit.lfoShape = ShapeOf(params[slot::FxLfoShape + k]);
         unit.lfoBeats =
             SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kBeatsPerBar : 1.0f);
         if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);

@@ -11,7 +11,7 @@ namespace {
 
 /// Part of the tape's length.
 /// away  -1..1: how far the sound has moved away from the side
-float DelayOf(float away) { return Clamp(away, 0.0f, 0.99f); }
+float DelayOf(float away) { return Clamp(away, 0.0f, kLongestTapePart); }
 
 /// 1 up to the middle way, down to 0 for a side that the sound is away from (y = 1).
 float GainOf(float away, float y) { return Clamp((1.0f - away * y) * 2.0f, 0.0f, 1.0f); }

@@ -11,6 +11,8 @@ namespace {
 
 constexpr float kLowestHz = 50.0f, kHighestHz = 20000.0f; // of the sweep
 constexpr float kDepthStep = 0.001f;                      // of the way to the depth's target per frame, by ear
+constexpr float kLowestPart = 0.001f;                     // of the rate; at 0 a stage would ring for ever (c = 1)
+constexpr float kHighestPart = 0.499f;                    // of the rate; the sweep may go beyond half of it
 constexpr float kAgainstDenormals = 0.000001f;
 
 } // namespace
@@ -38,7 +40,7 @@ void Phaser::Process(UnitControls& unit, const StereoBlock& block)
     for (int n = 0; n < block.frames; ++n) {
         level += (target - level) * UnitControls::kOnStep;
         s += (depthTarget - s) * kDepthStep;
-        const float f = Clamp((lfo[n] * s * 0.5f + s) * span + lowest, 0.001f, 0.499f); // of the rate
+        const float f = Clamp((lfo[n] * s * 0.5f + s) * span + lowest, kLowestPart, kHighestPart);
         const float c = (1.0f - f) / (1.0f + f);
         const Stereo dry = LoadFrame(block.left, block.right, n);
         Stereo stage = dry + feedback * fedBack - kAgainstDenormals;

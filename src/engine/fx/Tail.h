@@ -4,16 +4,16 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "engine/dsp/Silence.h"
 #include "engine/dsp/StereoFrame.h"
 
 namespace korvane {
 
-/// −80 dB are exceeded on one of the sides.
+/// The frame exceeds kSilence on one of the sides.
 inline bool CanBeHeard(Stereo frame)
 {
-    constexpr float kInaudible = 0.0001f;
     const Stereo level = Magnitude(frame);
-    return level[0] > kInaudible || level[1] > kInaudible;
+    return level[0] > kSilence || level[1] > kSilence;
 }
 
 /// The frames of tail that are left a frame later: `full` after a frame that keeps the effect going, else one less;

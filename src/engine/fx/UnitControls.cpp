@@ -5,25 +5,27 @@
 #include <cmath>
 #include <numbers>
 
+#include "engine/dsp/Silence.h"
+
 namespace korvane {
 
 namespace {
 
 /// LFO value at phase p, 0..1.
-template <int shape>
+template <LfoShape shape>
 float LfoValue(double p)
 {
-    if constexpr (shape == 0)
+    if constexpr (shape == LfoShape::Sine)
         return static_cast<float>(std::sin(2.0 * std::numbers::pi * p));
-    else if constexpr (shape == 1)
+    else if constexpr (shape == LfoShape::Triangle)
         return static_cast<float>(2.0 * p <= 1.0 ? 2.0 * p : 2.0 - 2.0 * p);
-    else if constexpr (shape == 2)
+    else if constexpr (shape == LfoShape::Ramp)
         return static_cast<float>(p);
     else
         return p > 0.5 ? 1.0f : 0.0f;
 }
 
-template <int shape>
+template <LfoShape shape>
 double FillShape(float* lfo, int frames, float amount, double phase, double increment)
 {
     for (int n = 0; n < frames; ++n) {
@@ -36,11 +38,7 @@ double FillShape(float* lfo, int frames, float amount, double phase, double incr
 
 } // namespace
 
-bool UnitControls::FadedOut() const
-{
-    constexpr float kInaudibleMix = 0.0001f; // −80 dB
-    return bypass && mix < kInaudibleMix;
-}
+bool UnitControls::FadedOut() const { return bypass && mix < kSilence; }
 
 float UnitControls::BlockLfo(int frames)
 {
@@ -63,12 +61,14 @@ void UnitControls::FillLfo(float* lfo, int frames)
 /// Returns the phase behind the last frame.
 double UnitControls::RunLfo(float* lfo, int frames, double increment) const
 {
+    using enum LfoShape;
     switch (lfoShape) {
-    case 0: return FillShape<0>(lfo, frames, lfoAmount, lfoPhase, increment);
-    case 1: return FillShape<1>(lfo, frames, lfoAmount, lfoPhase, increment);
-    case 2: return FillShape<2>(lfo, frames, lfoAmount, lfoPhase, increment);
-    default: return FillShape<3>(lfo, frames, lfoAmount, lfoPhase, increment);
+    case Sine: return FillShape<Sine>(lfo, frames, lfoAmount, lfoPhase, increment);
+    case Triangle: return FillShape<Triangle>(lfo, frames, lfoAmount, lfoPhase, increment);
+    case Ramp: return FillShape<Ramp>(lfo, frames, lfoAmount, lfoPhase, increment);
+    case Square: break;
     }
+    return FillShape<Square>(lfo, frames, lfoAmount, lfoPhase, increment);
 }
 
 double UnitControls::AdvancedPhase(int frames) const

@@ -3,22 +3,24 @@
 
 #include <cstdint>
 
+#include "engine/dsp/LfoShape.h"
+
 namespace korvane {
 
 /// Settings that the unit writes before each block and the few values that its effect moves on. Audio thread.
 struct UnitControls {
-    float sampleRate = 0.0f;     // Hz; 0 before the unit's first Reset, usable (Limits.h) while the effect runs
-    float x = 0.0f, y = 0.0f;    // pad position, 0..1
-    float lfoBeats = 0.0f;       // LFO period; stutter: slice length
-    float lfoSeconds = 0.0f;     // the same at the current tempo
-    float lfoAmount = 0.0f;      // -1..1
-    std::int32_t lfoShape = 0;   // 0 sine, 1 triangle, 2 rising ramp, 3 square; all but the sine span 0..1
-    std::uint8_t bypass = 0;     // neither played nor glued
-    std::uint8_t reverse = 0;    // stutter: play the slice backwards
-    double lfoPhase = 0.0;       // 0..1; stutter: position in the slice; the effect moves it
-    double lfoIncrement = 0.0;   // phase per frame
-    float mix = 0.0f;            // smoothed on-level, 0..1; the effect moves it
-    std::int32_t holdFrames = 0; // frames of tail still to be produced after release; TailLeft counts them down
+    float sampleRate = 0.0f;            // Hz; 0 before the unit's first Reset, usable (Limits.h) while the effect runs
+    float x = 0.0f, y = 0.0f;           // pad position, 0..1
+    float lfoBeats = 0.0f;              // LFO period; stutter: slice length
+    float lfoSeconds = 0.0f;            // the same at the current tempo
+    float lfoAmount = 0.0f;             // -1..1
+    LfoShape lfoShape = LfoShape::Sine; // the ramp rises
+    std::uint8_t bypass = 0;            // neither played nor glued
+    std::uint8_t reverse = 0;           // stutter: play the slice backwards
+    double lfoPhase = 0.0;              // 0..1; stutter: position in the slice; the effect moves it
+    double lfoIncrement = 0.0;          // phase per frame
+    float mix = 0.0f;                   // smoothed on-level, 0..1; the effect moves it
+    std::int32_t holdFrames = 0;        // frames of tail still to be produced after release; TailLeft counts them down
 
     static constexpr float kOnStep = 0.01f; // of the way that mix goes per frame: 100 frames, by ear
 

@@ -1,6 +1,7 @@
 // The metronome of a recording.
 #include "engine/mix/Click.h"
 
+#include "engine/dsp/Silence.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -8,7 +9,6 @@ namespace korvane {
 namespace {
 
 constexpr float kFirstLevel = 3.0f; // heard above a full mix
-constexpr float kSilence = 0.0001f; // -80 dB
 constexpr float kDecay = 0.01f;     // of the level per frame
 constexpr double kBeatHz = 500.0, kBarHz = 1000.0;
 

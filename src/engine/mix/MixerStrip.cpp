@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/dsp/Silence.h"
 #include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
@@ -11,7 +12,6 @@ namespace korvane {
 
 namespace {
 
-constexpr float kGainFloor = 0.0001f;  // -80 dB: smaller gains count as silence
 constexpr float kGainStep = 0.01f;     // share of the distance that a gain moves per frame
 constexpr float kGainCeiling = 1.0e9f; // keeps a wild level finite
 
@@ -19,7 +19,7 @@ constexpr float kGainCeiling = 1.0e9f; // keeps a wild level finite
 float Start(float gain, float target)
 {
     if (gain < 0.0f) return target;
-    return gain < kGainFloor ? 0.0f : gain;
+    return gain < kSilence ? 0.0f : gain;
 }
 
 } // namespace
@@ -27,8 +27,8 @@ float Start(float gain, float target)
 void MixerStrip::Set(float level, float pan)
 {
     const float gain = Clamp(law::MixGain(level), 0.0f, kGainCeiling);
-    targetLeft = std::max(law::PanLeft(pan) * gain, kGainFloor);
-    targetRight = std::max(law::PanRight(pan) * gain, kGainFloor);
+    targetLeft = std::max(law::PanLeft(pan) * gain, kSilence);
+    targetRight = std::max(law::PanRight(pan) * gain, kSilence);
 }
 
 void MixerStrip::Skip()

@@ -30,12 +30,12 @@ void Lfo::Run(float* values, int frames)
 {
     if (amount == 0.0f) return RunShape(*this, values, frames, [](float) { return 0.0f; });
     switch (shape) {
-    case 0:
+    case LfoShape::Sine:
         return RunShape(*this, values, frames, [](float p) { return std::sin(2.0f * std::numbers::pi_v<float> * p); });
-    case 1:
+    case LfoShape::Triangle:
         return RunShape(*this, values, frames, [](float p) { return 2.0f * p <= 1.0f ? 2.0f * p : 2.0f - 2.0f * p; });
-    case 2: return RunShape(*this, values, frames, [](float p) { return 1.0f - p; });
-    case 3: return RunShape(*this, values, frames, [](float p) { return p < 0.5f ? 1.0f : 0.0f; });
+    case LfoShape::Ramp: return RunShape(*this, values, frames, [](float p) { return 1.0f - p; });
+    case LfoShape::Square: return RunShape(*this, values, frames, [](float p) { return p < 0.5f ? 1.0f : 0.0f; });
     default: std::fill_n(values, frames, 0.0f);
     }
 }

@@ -1,6 +1,8 @@
 // Low-frequency oscillator of a channel.
 #pragma once
 
+#include "engine/dsp/LfoShape.h"
+
 namespace korvane {
 
 /// What an envelope or LFO acts on.
@@ -14,11 +16,11 @@ inline constexpr int Amplitude = 3; // LFOs
 
 /// Shared by the channel's voices; runs while one of them sounds. Audio thread only.
 struct Lfo {
-    float phase = 0.0f;     // 0..1
-    float increment = 0.0f; // cycles per frame
-    int shape = 0;          // 0 sine, 1 triangle, 2 falling ramp, 3 square; all but the sine are unipolar
-    float amount = 0.0f;    // signed depth
-    int destination = 0;    // 0..3, anything else acts on nothing
+    float phase = 0.0f;              // 0..1
+    float increment = 0.0f;          // cycles per frame
+    LfoShape shape = LfoShape::Sine; // the ramp falls; a value beyond the shapes gives silence
+    float amount = 0.0f;             // signed depth
+    int destination = 0;             // 0..3, anything else acts on nothing
 
     /// Writes the next `frames` values, scaled by the amount, and moves the phase on.
     void Run(float* values, int frames);

@@ -32,7 +32,7 @@ void SetUpRouting(const ChannelSound& channel, int number, EnvelopeRoute& envelo
     envelope.destination = position(slot::EnvelopeDestination);
     envelope.amount = law::Depth(value(slot::EnvelopeAmount), value(slot::EnvelopeInvert) != 0.0f);
     lfo.destination = position(slot::LfoDestination);
-    lfo.shape = position(slot::LfoShape);
+    lfo.shape = static_cast<LfoShape>(position(slot::LfoShape));
     lfo.amount = law::Depth(value(slot::LfoAmount), value(slot::LfoInvert) != 0.0f);
 }
 

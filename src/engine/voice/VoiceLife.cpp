@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "engine/dsp/Silence.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/SamplerVoice.h"
 #include "engine/voice/SynthVoice.h"
@@ -16,9 +17,7 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSilence = 0.0001f; // gains and levels below it are not heard
-constexpr float kLoudest = 1e9f;    // output gain that only a parameter far outside 0..1 asks for
-constexpr int kFarthest = 1000000;  // semitones, likewise
+constexpr float kLoudest = 1e9f; // output gain that only a parameter far outside 0..1 asks for
 
 /// Envelopes and smoothed values are recurrences: one bad parameter value must not stay in them.
 void Recover(float& value, float fallback)
@@ -55,13 +54,13 @@ bool Faded(const ChannelVoice& voice)
 
 int ChannelTranspose(const ChannelSound& channel)
 {
-    return Clamp(law::Semitones(channel.Modulated(slot::Pitch)), -kFarthest, kFarthest);
+    return Clamp(law::Semitones(channel.Modulated(slot::Pitch)), -law::kFarthestPitch, law::kFarthestPitch);
 }
 
 std::int32_t PitchNote(const ChannelSound& channel, int note)
 {
     const int octaves = law::Octaves(channel.Modulated(slot::Octave));
-    return Clamp(note, -kFarthest, kFarthest) + ChannelTranspose(channel) + 12 * octaves;
+    return Clamp(note, -law::kFarthestPitch, law::kFarthestPitch) + ChannelTranspose(channel) + 12 * octaves;
 }
 
 float LevelGain(float ampLevel) { return Clamp(law::AmpGain(ampLevel) / kSourceScale, 0.0f, kLoudest); }

@@ -72,7 +72,7 @@ TEST(FXUnit, ActsOnASineAsItIsSet)
         Played unit(c.type, c.x, c.y);
         unit.lfoAmount = c.lfo;
         unit.lfoBeats = c.beats;
-        unit.lfoShape = c.shape;
+        unit.lfoShape = static_cast<LfoShape>(c.shape);
         Sound sound = Sine(c.from + kFrames, c.hz);
         for (float& sample : sound.right) sample *= 0.5f;
         const Sound input = sound;
