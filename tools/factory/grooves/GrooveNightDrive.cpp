@@ -101,7 +101,7 @@ constexpr Knob kKnobs[] = {
     {Lead,  slot::SlideEnable,  0.0},
     {Lead,  slot::SlideTime,    0.5},
     {Pads,  slot::EqOn,         1.0},
-    {Pads,  slot::EqGain,       0.25}, // the bass has the lowest octave to itself
+    {Pads,  slot::EqGain,       law::EqKnob(-6.0)}, // the bass has the lowest octave to itself
 };
 
 constexpr Handle kHandles[] = {

@@ -102,7 +102,7 @@ constexpr Knob kKnobs[] = {
     {Acid, slot::SlideEnable,  0.0}, // only marked notes glide
     {Sub,  slot::UnisonRetrig, 0.0}, // short notes that start alike leave DC
     {Acid, slot::SlideTime,    0.6},
-    {Drone, slot::EqOn, 1.0}, {Drone, slot::EqGain, 0.30},
+    {Drone, slot::EqOn, 1.0}, {Drone, slot::EqGain, law::EqKnob(-4.8)},
 };
 
 constexpr Handle kHandles[] = {

@@ -101,7 +101,7 @@ constexpr Knob kKnobs[] = {
     {Snare, GlueOf(Fx::Reverb), 0.0}, // thrown by the locks
     {Reese, slot::SlideEnable,  0.0}, {Reese, slot::SlideTime, 0.6}, // only marked notes glide
     {Lead,  slot::SlideEnable,  0.0}, {Lead,  slot::SlideTime, 0.5},
-    {Reese, slot::EqOn, 1.0}, {Reese, slot::EqGain, 0.15}, // the sub has the lowest octave to itself
+    {Reese, slot::EqOn, 1.0}, {Reese, slot::EqGain, law::EqKnob(-8.4)}, // the sub has the lowest octave to itself
 };
 
 constexpr Handle kHandles[] = {

@@ -33,7 +33,7 @@ SyncedRate Synced(double beats)
 
 void SetFilter(Patch& patch, const FilterSetting& filter)
 {
-    patch.Position(slot::FilterType, static_cast<int>(filter.type), 2);
+    patch.Position(slot::FilterType, static_cast<int>(filter.type));
     patch.Set(slot::FilterCutoff, filter.cutoff);
     patch.Set(slot::FilterResonance, filter.resonance);
     patch.Set(slot::FilterTracking, filter.tracking);
@@ -41,7 +41,7 @@ void SetFilter(Patch& patch, const FilterSetting& filter)
 
 void SetEnvelope(Patch& patch, int number, const EnvelopeSetting& envelope)
 {
-    patch.Position(slot::EnvelopeDestination + number, envelope.acts, 3);
+    patch.Position(slot::EnvelopeDestination + number, envelope.acts);
     patch.Signed(slot::EnvelopeAmount + number, slot::EnvelopeInvert + number, envelope.amount);
     patch.Set(slot::EnvelopeAttack + number, envelope.attack);
     patch.Set(slot::EnvelopeDecay + number, envelope.decay);
@@ -49,17 +49,17 @@ void SetEnvelope(Patch& patch, int number, const EnvelopeSetting& envelope)
 
 void SetLfo(Patch& patch, int number, const LfoSetting& lfo)
 {
-    patch.Position(slot::LfoDestination + number, lfo.acts, 3);
+    patch.Position(slot::LfoDestination + number, lfo.acts);
     patch.Signed(slot::LfoAmount + number, slot::LfoInvert + number, lfo.amount);
-    patch.Position(slot::LfoShape + number, static_cast<int>(lfo.shape), 3);
+    patch.Position(slot::LfoShape + number, static_cast<int>(lfo.shape));
     patch.Switch(slot::LfoRetrig + number, lfo.restarts);
     if (lfo.rate.beats > 0.0) {
         const SyncedRate synced = Synced(lfo.rate.beats);
         patch.Set(slot::LfoRate + number, synced.value);
-        patch.Position(slot::LfoSync + number, synced.inBars ? 2 : 1, 2);
+        patch.Position(slot::LfoSync + number, synced.inBars ? 2 : 1);
     } else {
         patch.Set(slot::LfoRate + number, law::LfoFreeKnob(lfo.rate.hz));
-        patch.Position(slot::LfoSync + number, 0, 2);
+        patch.Position(slot::LfoSync + number, 0);
     }
 }
 
@@ -78,8 +78,8 @@ void Glue(Patch& patch, const Effect& effect)
     patch.Set(slot::FxY + k, effect.y);
     patch.Set(slot::FxLfoRate + k, synced.value);
     patch.Switch(slot::FxLfoSync + k, synced.inBars);
-    patch.Set(slot::FxLfoAmount + k, law::SourceAmountKnob(effect.lfo));
-    patch.Position(slot::FxLfoShape + k, static_cast<int>(effect.shape), 3);
+    patch.Set(slot::FxLfoAmount + k, law::SourceAmountKnob(effect.lfo)); // the turn of the knob; FxLfoDepth squares it
+    patch.Position(slot::FxLfoShape + k, static_cast<int>(effect.shape));
 }
 
 void SetEqualiser(Patch& patch, const EqDb& gainsDb)

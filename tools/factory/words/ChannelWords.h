@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
+#include "engine/dsp/LfoShape.h"
 #include "engine/fx/FXUnit.h"
 #include "engine/voice/Lfo.h"
 #include "engine/voice/VoiceFilter.h"
@@ -47,34 +49,40 @@ struct Rate {
 constexpr Rate Hz(double hz) { return {hz, 0.0}; }
 constexpr Rate Beats(double beats) { return {0.0, beats}; }
 
-enum class LfoShape { Sine, Triangle, Ramp, Square }; // all but the sine are unipolar; the ramp falls
-
 struct LfoSetting {
     int acts = to::Cutoff;
     double amount = 0.0; // knob, -1..1, squared by the engine with its sign
     Rate rate = {};
-    LfoShape shape = LfoShape::Sine;
-    bool restarts = false; // with every note
+    LfoShape shape = LfoShape::Sine; // the ramp falls
+    bool restarts = false;           // with every note
 };
 
-/// What velocity, wheel and pressure may move: positions in the editor's list of destinations.
+/// Code of a modulation destination; a parameter that is none does not compile.
+consteval int CodeOf(int slotIndex)
+{
+    std::size_t code = 0;
+    while (slot::kModulationTargets.at(code) != slotIndex) ++code;
+    return static_cast<int>(code);
+}
+
+/// What velocity, wheel and pressure may move.
 enum class Target : int {
     None = 0,
-    Cutoff = 1,
-    Resonance = 2,
-    Modulation = 4,
-    Env1Attack = 6,
-    Env1Decay = 7,
-    Env1Amount = 8,
-    Env2Attack = 10,
-    Env2Decay = 11,
-    Env2Amount = 12,
-    Lfo1Rate = 14,
-    Lfo1Amount = 15,
-    Lfo2Rate = 17,
-    Lfo2Amount = 18,
-    AmpAttack = 20,
-    AmpDecay = 21,
+    Cutoff = CodeOf(slot::FilterCutoff),
+    Resonance = CodeOf(slot::FilterResonance),
+    Modulation = CodeOf(slot::Modulation),
+    Env1Attack = CodeOf(slot::EnvelopeAttack),
+    Env1Decay = CodeOf(slot::EnvelopeDecay),
+    Env1Amount = CodeOf(slot::EnvelopeAmount),
+    Env2Attack = CodeOf(slot::EnvelopeAttack + 1),
+    Env2Decay = CodeOf(slot::EnvelopeDecay + 1),
+    Env2Amount = CodeOf(slot::EnvelopeAmount + 1),
+    Lfo1Rate = CodeOf(slot::LfoRate),
+    Lfo1Amount = CodeOf(slot::LfoAmount),
+    Lfo2Rate = CodeOf(slot::LfoRate + 1),
+    Lfo2Amount = CodeOf(slot::LfoAmount + 1),
+    AmpAttack = CodeOf(slot::AmpAttack),
+    AmpDecay = CodeOf(slot::AmpDecay),
 };
 struct Route {
     Target target = Target::None;

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "engine/GrooveEngine.h"
+#include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
 
 namespace korvane::factory {
@@ -16,8 +17,8 @@ public:
 
     void Set(int slotIndex, double value); // 0..1
     void Switch(int slotIndex, bool on) { Set(slotIndex, on ? 1.0 : 0.0); }
-    /// Position p of a control with positions 0..last.
-    void Position(int slotIndex, int p, int last) { Set(slotIndex, law::PositionKnob(p, last)); }
+    /// Position p of a control that its switch steps.
+    void Position(int slotIndex, int p) { Set(slotIndex, law::PositionKnob(p, slot::LastPosition(slotIndex))); }
     /// A knob and the switch that gives it a minus.
     void Signed(int knob, int inverting, double amount);
 

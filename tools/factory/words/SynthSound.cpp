@@ -29,10 +29,10 @@ void CheckWave(const SynthSound& sound, const char* wave)
     std::exit(1);
 }
 
-/// The mix patch fade from the sources so far to the next one, by their square.
+/// The mix knobs fade from the sources so far to the next one, by their square.
 void SetSources(Patch& patch, const SynthSound& sound)
 {
-    constexpr int kMixSlots[] = {0, slot::MixOsc2, slot::MixOsc3};
+    constexpr int kMixKnobs[kOscillators - 1] = {slot::MixOsc2, slot::MixOsc3}; // oscillator 1 is what they fade from
     double sum = 0.0;
     for (int osc = 0; osc < kOscillators; ++osc) {
         const Oscillator& setting = sound.oscillators[osc];
@@ -40,7 +40,7 @@ void SetSources(Patch& patch, const SynthSound& sound)
         patch.Set(slot::Osc1Detune + 2 * osc, law::OscillatorCentsKnob(setting.cents));
         const double level = setting.wave ? setting.level : 0.0;
         sum += level;
-        if (osc > 0) patch.Set(kMixSlots[osc], sum > 0.0 ? law::MixShareKnob(level / sum) : 0.0);
+        if (osc > 0) patch.Set(kMixKnobs[osc - 1], sum > 0.0 ? law::MixShareKnob(level / sum) : 0.0);
         if (!setting.wave) continue;
         CheckWave(sound, setting.wave);
         patch.Wave(osc + 1, setting.wave);
