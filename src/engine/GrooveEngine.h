@@ -53,8 +53,7 @@ public:
     /// Recomputes fxActive of all channels from held effects, the pad and the channels that hear them.
     void RefreshFxActive();
 
-    // Notes and releases. Any thread; done at once by who has the engine to itself, else at the start of the next
-    // block.
+    // Notes and releases. Any thread; done at once by who has the engine to itself, else at the start of a chunk.
 
     void NoteOn(int channel, int note, float velocity);
     void ReleaseNote(int channel, int note);
