@@ -40,12 +40,8 @@ void ToggleNote(GrooveEngine& engine, int step, int k)
     if (word >> k & 1u) engine.NoteOn(channel, kFirstNote + k, 1.0f);
 }
 
-/// Recording, and no order waits that ends it.
-bool Recording(const GrooveEngine& engine)
-{
-    const Modes modes = ShownModes(engine);
-    return engine.clock.Recording() && modes.playing && modes.recordMode && !modes.editMode;
-}
+/// Recording, and no order waits that ends it; each does that ends playing or begins editing.
+bool Recording(const GrooveEngine& engine) { return engine.clock.Recording() && ShownModes(engine).recordMode; }
 
 void EditStep(GrooveEngine& engine, int k)
 {
