@@ -97,8 +97,8 @@ float KVSynth::GetParameter(int index)
 {
     if (index < 0 || index >= param::Count) return 0.0f;
     const ParameterBinding& row = BindingOf(index);
-    if (!row.read) return CSynthesizer::GetParameter(index); // what the program stores
-    return row.read(*engine, row.target + index - row.first);
+    if (!row.read.exists) return CSynthesizer::GetParameter(index); // what the program stores
+    return row.read.function(*engine, row.target + index - row.first);
 }
 
 float KVSynth::GetParameterDefault(int index)
@@ -164,7 +164,7 @@ void KVSynth::ParameterChanged(int index, float value)
     if (!Acts(index, value)) return;
     ServeOrders();
     const ParameterBinding& row = BindingOf(index);
-    row.write(*engine, row.target + index - row.first, value);
+    row.write.function(*engine, row.target + index - row.first, value);
 }
 
 // MIDI

@@ -125,7 +125,7 @@ constexpr auto kMixer = &Engine::mixer;
 constexpr auto kButtons = &Engine::buttons;
 
 constexpr ParameterBinding Nothing(int index) { return {index, 1, 0, nullptr, nullptr}; }
-constexpr ParameterBinding Slots(int first, int last) { return {first, last - first + 1, first, ToSlot, OfSlot}; }
+constexpr ParameterBinding Slots(int first, int last) { return {first, last - first + 1, first, ToSlot, OfSlot, true}; }
 template <auto field, int kLast>
 constexpr ParameterBinding Page(int index)
 {
@@ -204,8 +204,9 @@ constexpr bool RowsFitTheTable()
     for (const ParameterBinding& row : kBindings)
         for (int n = 0; n < row.count; ++n) {
             const ParameterInfo& info = kParameters[static_cast<std::size_t>(row.first + n)];
-            const int source = row.read == nullptr ? kFromProgram : row.read == OfSlot ? info.slotBase : kEngineState;
-            if ((row.write == nullptr) != (info.kind == Kind::None) || info.slotBase != source) return false;
+            const int state = row.read.exists ? kEngineState : kFromProgram;
+            if (row.ofSlots ? info.slotBase < 0 : info.slotBase != state) return false;
+            if (row.write.exists == (info.kind == Kind::None)) return false;
         }
     return true;
 }

@@ -141,7 +141,7 @@ TEST_F(AudioThread, NamesAreWhole)
     const std::string names[] = {std::string(200, 'a'), std::string(90, 'b')};
     std::atomic<int> torn{0};
     const auto rename = [&](const std::string& name) {
-        for (int n = 0; n < 2000; ++n) {
+        for (int n = 0; n < 30000; ++n) {
             for (int k = 0; k < 10; ++k) Synth().SetProgramName(0, name.c_str());
             const std::string seen = Written([this](char* text) { Synth().GetProgramName(0, text); });
             torn += seen != names[0] && seen != names[1];
