@@ -2,13 +2,12 @@
 #include "engine/ParameterBindings.h"
 
 #include <algorithm>
-#include <array>
-#include <iterator>
 
 #include "engine/PanelButtons.h"
 #include "engine/StepButtons.h"
 #include "engine/Transport.h"
 #include "framework/ParameterTable.h"
+#include "framework/Rows.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -16,8 +15,6 @@ namespace korvane {
 namespace {
 
 using Engine = GrooveEngine;
-using Write = void (*)(Engine&, int, float);
-using Read = float (*)(const Engine&, int);
 
 float Flag(bool on) { return on ? 1.0f : 0.0f; }
 
@@ -186,17 +183,7 @@ constexpr ParameterBinding kBindings[] = {
 };
 // clang-format on
 
-/// Every parameter has its one row, in order.
-constexpr bool RowsFollowEachOther()
-{
-    int next = 0;
-    for (const ParameterBinding& row : kBindings) {
-        if (row.first != next || row.count < 1) return false;
-        next += row.count;
-    }
-    return next == param::Count;
-}
-static_assert(RowsFollowEachOther());
+static_assert(RowsFollowEachOther(kBindings, param::Count)); // each parameter has its one row
 
 /// What a row does is what the table of names says of each of its parameters.
 constexpr bool RowsFitTheTable()
@@ -212,13 +199,7 @@ constexpr bool RowsFitTheTable()
 }
 static_assert(RowsFitTheTable());
 
-constexpr auto kRowOf = [] {
-    std::array<std::uint8_t, param::Count> rows{};
-    for (std::size_t row = 0; row < std::size(kBindings); ++row)
-        for (int n = 0; n < kBindings[row].count; ++n)
-            rows[static_cast<std::size_t>(kBindings[row].first + n)] = static_cast<std::uint8_t>(row);
-    return rows;
-}();
+constexpr auto kRowOf = RowsOf<param::Count>(kBindings);
 
 } // namespace
 

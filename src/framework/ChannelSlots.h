@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "framework/Limits.h"
+#include "framework/Rows.h"
 
 namespace korvane {
 
@@ -204,27 +205,10 @@ inline constexpr ChannelSlot kChannelSlotTable[] = {
 };
 // clang-format on
 
-constexpr bool SlotsFollowEachOther()
-{
-    int next = 0;
-    for (const ChannelSlot& row : kChannelSlotTable) {
-        if (row.first != next || row.count < 1) return false;
-        next += row.count;
-    }
-    return next == kChannelSlots;
-}
-static_assert(SlotsFollowEachOther());
+static_assert(RowsFollowEachOther(kChannelSlotTable, kChannelSlots));
 
 /// Where the row of each channel parameter stands in the table.
-inline constexpr auto kSlotRows = [] {
-    std::array<std::uint8_t, kChannelSlots> rows{};
-    std::uint8_t row = 0;
-    for (const ChannelSlot& each : kChannelSlotTable) {
-        for (int n = 0; n < each.count; ++n) rows[static_cast<std::size_t>(each.first + n)] = row;
-        ++row;
-    }
-    return rows;
-}();
+inline constexpr auto kSlotRows = RowsOf<kChannelSlots>(kChannelSlotTable);
 
 /// index  0..211
 constexpr const ChannelSlot& SlotOf(int index) { return kChannelSlotTable[kSlotRows[static_cast<std::size_t>(index)]]; }

@@ -135,12 +135,8 @@ inline float LfoFreeHz(float value)
 }
 inline double LfoFreeKnob(double hz) { return Knob(1.0 - std::sqrt((hz - 0.01) / 25.0)); }
 
-/// Knob of a row of kSyncLengths, the inverse of SyncLengthOf.
-/// within  where in the row's share of the knob, 0..1
-inline double SyncKnob(int row, double within = 0.5)
-{
-    return Knob((row + within) / static_cast<double>(kSyncLengths.size()));
-}
+/// Knob of a row of kSyncLengths, the inverse of SyncLengthOf: the middle of the row's share.
+inline double SyncKnob(int row) { return Knob((row + 0.5) / static_cast<double>(kSyncLengths.size())); }
 
 // Oscillators.
 inline int OscillatorSemitones(float value) { return Truncate(72.0f * value - 36.0f); }

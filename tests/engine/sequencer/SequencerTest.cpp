@@ -152,8 +152,10 @@ TEST_F(Sequencer, CopiesPastesAndClears)
     engine.selection.selectedBar = 0;
     engine.score.Copy(engine.selection);
     Press(param::Bar1 + 6);
+    engine.selection.channelMarked[0] = true;
     engine.score.Paste(engine.selection);
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}, {97, 5u}}));
+    EXPECT_EQ(Notes(0), (Steps{{1, 2u}, {71, 128u}, {97, 2u}}));
     engine.score.Clear(engine.selection);
     EXPECT_EQ(Notes(8), (Steps{{1, 5u}, {71, 5u}}));
     engine.selection.channelMarked[8] = true;
