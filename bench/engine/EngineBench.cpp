@@ -47,14 +47,14 @@ struct Rig {
             for (int n = 0; n < kSampleSlots; ++n) {
                 const bool used = n < kFirstLayerSlot + layers;
                 const std::string& file = n < kFirstLayerSlot ? wave : sample;
-                engine.Channel(c).sound.sampleSlots[static_cast<std::size_t>(n)].request.Post(used ? file.c_str()
-                                                                                                   : "!");
+                engine.Channel(c).sound.sampleSlots[static_cast<std::size_t>(n)].Ask(used ? file.c_str() : "");
             }
             engine.storedParams[c][slot::UnisonVoices] = unison;
             engine.storedParams[c][slot::LayerPitch] = 0.3f;
             engine.RefreshChannel(c);
         }
         for (std::size_t n = 0; n < out.size(); ++n) out[n] = &buffer[n * kFrames];
+        engine.ServeRequests();
         Block();
     }
 

@@ -58,9 +58,11 @@ public:
 
     /// Takes a length word and as many bytes, to be read on their own. A length beyond the end stands for what is
     /// there, a negative one for nothing.
-    ByteReader Chunk()
+    ByteReader Chunk() { return Next(Read<std::int32_t>()); }
+
+    /// The same for a length that is known.
+    ByteReader Next(std::int32_t told)
     {
-        const std::int32_t told = Read<std::int32_t>();
         const std::int32_t size = told < 0 ? 0 : told < left ? told : left;
         ByteReader chunk(next, size);
         chunk.ok = ok;

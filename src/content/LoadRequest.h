@@ -6,8 +6,8 @@
 
 namespace korvane {
 
-/// The file that a slot shall load next, posted by any thread, taken by the audio thread. "!" asks to clear the slot.
-/// Neither side ever waits.
+/// The file that a slot shall load next, posted by any thread, taken by the loader. "!" asks to clear the slot. Neither
+/// side ever waits.
 class LoadRequest {
 public:
     static constexpr int kPathBytes = 512;
@@ -17,10 +17,8 @@ public:
     void Post(const char* path);
 
     /// Moves the request out. False when there is none, or when somebody is just posting one: it is here next time.
-    /// Audio thread.
+    /// The loader.
     bool Take(char (&path)[kPathBytes]);
-
-    bool Pending() const { return (state.load(std::memory_order_relaxed) & kPhase) != kEmpty; }
 
 private:
     static constexpr int kWords = kPathBytes / 8;

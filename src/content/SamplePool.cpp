@@ -5,10 +5,11 @@
 #include <cstdio>
 #include <cstring>
 #include <new>
+#include <utility>
 
 #include "content/CFileStreamer.h"
 #include "content/PathText.h"
-#include "platform/Files.h"
+#include "content/SharedSounds.h"
 
 namespace korvane {
 
@@ -30,13 +31,40 @@ bool CopyFile(const char* from, const char* to)
     return true;
 }
 
+/// A new entry with one user, in no list. Null when memory runs out.
+std::unique_ptr<PoolEntry> Read(const char* foundPath, int kind, const FileStamp& stamp)
+try {
+    auto entry = std::make_unique<PoolEntry>();
+    entry->kind = static_cast<std::uint8_t>(kind);
+    entry->stamp = stamp;
+    SetText(entry->path, foundPath);
+    SetText(entry->name, StemOf(foundPath));
+    if (kind == kind::Waveform)
+        entry->waveTables = SharedWaveTables(foundPath, stamp);
+    else
+        entry->sample = SharedSample(foundPath, stamp);
+    return entry;
+} catch (const std::bad_alloc&) {
+    return nullptr;
+}
+
+/// Takes an entry out of its list, to the front of another one.
+void Move(std::unique_ptr<PoolEntry>& from, std::unique_ptr<PoolEntry>& to)
+{
+    std::unique_ptr<PoolEntry> entry = std::move(from);
+    from = std::move(entry->next);
+    entry->next = std::move(to);
+    to = std::move(entry);
+}
+
 } // namespace
 
 SamplePool::SamplePool() : engineTable(CutoffTable()) {}
 
 SamplePool::~SamplePool()
 {
-    while (entries) entries = std::move(entries->next); // one by one: the list may be long
+    for (auto* list : {&entries, &outdated})
+        while (*list) *list = std::move((*list)->next); // one by one: the list may be long
 }
 
 bool SamplePool::Find(const char* path, int kind, char (&found)[1024]) const
@@ -62,48 +90,46 @@ bool SamplePool::Find(const char* path, int kind, char (&found)[1024]) const
     return false;
 }
 
-std::unique_ptr<PoolEntry> SamplePool::Decode(const char* foundPath, int kind)
-{
-    std::unique_ptr<PoolEntry> entry(new (std::nothrow) PoolEntry);
-    if (!entry) return nullptr;
-    entry->kind = static_cast<std::uint8_t>(kind);
-    SetText(entry->path, foundPath);
-    SetText(entry->name, StemOf(foundPath));
-    if (kind == kind::Waveform) {
-        entry->waveTables.reset(new (std::nothrow) float[kWaveTableFloats]());
-        if (!entry->waveTables) return nullptr;
-        BuildWaveTables(foundPath, entry->waveTables.get());
-    } else {
-        entry->sample.reset(new (std::nothrow) CWaveSample);
-        if (!entry->sample) return nullptr;
-        if (!entry->sample->LoadWav(foundPath, CWaveSample::kPadFrames))
-            entry->sample->LoadAiff(foundPath, CWaveSample::kPadFrames);
-    }
-    return entry;
-}
-
 PoolEntry* SamplePool::Load(const char* path, int kind)
 {
     char found[1024];
     if (!path || !Find(path, kind, found)) return nullptr;
-    std::unique_ptr<PoolEntry>* end = &entries;
-    for (; *end; end = &(*end)->next) {
-        if ((*end)->kind != kind || std::strcmp((*end)->path, found) != 0) continue;
-        ++(*end)->refCount;
-        return end->get();
+    const FileStamp stamp = StampOf(found);
+    std::unique_ptr<PoolEntry>* at = &entries;
+    while (*at && ((*at)->kind != kind || std::strcmp((*at)->path, found) != 0)) at = &(*at)->next;
+    if (*at && (*at)->stamp == stamp) {
+        ++(*at)->refCount;
+        return at->get();
     }
-    *end = Decode(found, kind);
-    return end->get();
+    std::unique_ptr<PoolEntry> entry = Read(found, kind, stamp);
+    if (!entry) return nullptr;
+    if (*at) Move(*at, outdated);
+    for (at = &entries; *at;) at = &(*at)->next;
+    *at = std::move(entry);
+    return at->get();
 }
 
 void SamplePool::Release(PoolEntry* entry)
 {
     if (!entry || --entry->refCount >= 1) return;
-    for (std::unique_ptr<PoolEntry>* at = &entries; *at; at = &(*at)->next) {
-        if (at->get() != entry) continue;
-        const std::unique_ptr<PoolEntry> gone = std::move(*at);
-        *at = std::move(gone->next);
-        return;
+    std::unique_ptr<PoolEntry> gone;
+    for (auto* list : {&entries, &outdated})
+        for (std::unique_ptr<PoolEntry>* at = list; *at; at = &(*at)->next)
+            if (at->get() == entry) return Move(*at, gone);
+}
+
+SoundUse* SamplePool::Use(const char* path, int kind)
+{
+    auto use = std::make_unique<SoundUse>();
+    if (std::strcmp(path, "!") != 0) use->entry = Load(path, kind);
+    return use.release();
+}
+
+void SamplePool::Collect()
+{
+    for (SoundUse* use = returned.TakeAll(); use;) {
+        Release(use->entry);
+        delete std::exchange(use, use->next);
     }
 }
 

@@ -1,19 +1,24 @@
 // What a channel's sample or oscillator slot holds and waits for.
 #include "content/SampleSlot.h"
 
-#include <cstring>
+#include <utility>
 
 namespace korvane {
 
+bool SampleSlot::TakeOffer(SoundReturns& returned)
+{
+    SoundUse* const next = offer.Take();
+    if (!next) return false;
+    returned.Push(std::exchange(use, next));
+    name.Set(next->entry ? next->entry->name : "");
+    path.Set(next->entry ? next->entry->path : "");
+    return std::exchange(entry, next->entry) != next->entry;
+}
+
 void ServeRequest(SamplePool& pool, SampleSlot& slot, int kind)
 {
-    if (!slot.request.Pending()) return;
     char path[LoadRequest::kPathBytes];
-    if (!slot.request.Take(path)) return;
-    pool.Release(slot.entry);
-    slot.entry = std::strcmp(path, "!") == 0 ? nullptr : pool.Load(path, kind);
-    slot.path.Set(slot.entry ? slot.entry->path : "");
-    slot.name.Set(slot.entry ? slot.entry->name : "");
+    if (slot.request.Take(path)) slot.offer.Put(pool.Use(path, kind), pool.returned);
 }
 
 } // namespace korvane

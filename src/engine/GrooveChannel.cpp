@@ -62,13 +62,23 @@ GrooveChannel::GrooveChannel(SamplePool& pool, RandomGenerator& generator) : sou
 void GrooveChannel::Render(int frames, float tempo)
 {
     soundedThisBlock = false;
-    for (int s = 0; s < kSampleSlots; ++s)
-        ServeRequest(sound.samplePool, sound.sampleSlots[static_cast<std::size_t>(s)],
-                     s < kFirstLayerSlot ? kind::Waveform : kind::Sample);
+    TakeOffers();
     SetUpModulation(sound, AnyVoiceActive(voices), tempo);
     UpdateFxSettings(sound.params, fxActive, fxUnits, *stutterUnit);
     RefreshVoices();
     if (soundedThisBlock) RenderVoices(frames);
+}
+
+void GrooveChannel::TakeOffers()
+{
+    bool replaced = false;
+    for (int s = 0; s < kSampleSlots; ++s) {
+        const bool plays = (s >= kFirstLayerSlot) == sound.isSampler;
+        if (sound.sampleSlots[static_cast<std::size_t>(s)].TakeOffer(sound.samplePool.returned)) replaced |= plays;
+    }
+    if (!replaced) return;
+    for (auto& voice : voices)
+        if (voice->active) voice->seam.Begin();
 }
 
 void GrooveChannel::RefreshVoices()
@@ -106,6 +116,7 @@ void GrooveChannel::RenderVoices(int frames)
             RenderUnison(synth.mix, tuning, own.modAmount, voice.phases, sound.random, voice.left, voice.right, frames);
         }
         ApplyAmplitude(voice, own.amp, frames);
+        voice.seam.Join(voice.left, voice.right, frames);
     }
 }
 

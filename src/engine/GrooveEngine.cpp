@@ -172,9 +172,28 @@ void GrooveEngine::Execute(const VoiceCommand& command)
     }
 }
 
+void GrooveEngine::TakeOffers()
+{
+    for (auto& channel : channels) channel->TakeOffers();
+}
+
+void GrooveEngine::ServeRequests()
+{
+    for (auto& channel : channels)
+        for (int s = 0; s < kSampleSlots; ++s)
+            ServeRequest(*samplePool, channel->sound.sampleSlots[static_cast<std::size_t>(s)], SlotKind(s));
+}
+
 // Life cycle
 
 void GrooveEngine::ResetGroove()
+{
+    ResetPanel();
+    score.Reset();
+    for (int c = 0; c < kChannels; ++c) InitChannel(c);
+}
+
+void GrooveEngine::ResetPanel()
 {
     for (int c = 0; c < kSamplerChannels; ++c) Channel(c).sound.isSampler = true;
     clock.Reset();
@@ -182,21 +201,21 @@ void GrooveEngine::ResetGroove()
     buttons.Reset();
     mixer.Reset();
     ext.Reset();
-    score.Reset();
-    for (int c = 0; c < kChannels; ++c) InitChannel(c);
+    score.ResetSelection();
 }
 
 void GrooveEngine::InitChannel(int channel)
 {
+    int n = 0;
+    for (SampleSlot& sampleSlot : Channel(channel).sound.sampleSlots) sampleSlot.Ask(DefaultFile(n++));
+    Channel(channel).programPath.Set("");
+    InitSettings(channel);
+}
+
+void GrooveEngine::InitSettings(int channel)
+{
     for (int n = 0; n < kChannelSlots; ++n)
         storedParams[channel][n] = ChannelBlockDefault(n, channel < kSamplerChannels);
-    int n = 0;
-    for (SampleSlot& sampleSlot : Channel(channel).sound.sampleSlots) {
-        const bool oscillator = n++ < kFirstLayerSlot;
-        sampleSlot.request.Post(oscillator ? defaultWavePath : "!");
-        sampleSlot.path.Set(oscillator ? defaultWavePath : ""); // a state saved before the next block has it already
-    }
-    Channel(channel).programPath.Set("");
     RefreshChannel(channel);
 }
 

@@ -65,11 +65,20 @@ public:
     /// The caller has the engine to itself.
     bool MayTouchVoices() const { return !owner || *owner == std::this_thread::get_id(); }
 
+    /// Plays in all channels what has been offered to them. Who has the engine to itself.
+    void TakeOffers();
+    /// Has the pool find and decode what the slots ask for. The loader; with nobody else about, anybody.
+    void ServeRequests();
+
     // Life cycle. Who has the engine to itself.
 
-    void ResetGroove();            // the empty groove
-    void InitChannel(int channel); // default block, default waveforms, no samples
-    void ResetSelectedChannel();   // clears its steps in the current pattern, then InitChannel
+    void ResetGroove();             // the empty groove
+    void ResetPanel();              // of that all but patterns and channels
+    void InitChannel(int channel);  // default block, default waveforms, no samples
+    void InitSettings(int channel); // of that the block
+    /// What a slot of a reset channel plays; empty for the layers.
+    const char* DefaultFile(int slot) const { return slot < kFirstLayerSlot ? defaultWavePath : ""; }
+    void ResetSelectedChannel(); // clears its steps in the current pattern, then InitChannel
     /// Silences voices, effects, meters and the click, drops notes that wait, and restarts the random phases. The
     /// groove, its settings, modes, held buttons and transport orders that wait stay; the host's position becomes 0.
     /// newRate  Hz; 0 keeps the rate
@@ -80,7 +89,7 @@ public:
 
     std::unique_ptr<SamplePool> samplePool;
     RandomGenerator random;          // audio thread
-    char defaultWavePath[1024] = ""; // written before the first block
+    char defaultWavePath[1024] = ""; // written at construction
 
     Clock clock;
     Selection selection;

@@ -35,7 +35,7 @@ void SelectPattern(GrooveEngine& engine, int p)
     }
     const int current = score.currentPattern;
     if (!score.playOnce[current]) score.nextPattern = current;
-    const int length = score.patterns[static_cast<std::size_t>(p)]->length;
+    const int length = score.patterns[p]->length;
     const Modes modes = ShownModes(engine);
     if (!modes.playing)
         score.patternRepeats = 0;

@@ -7,6 +7,7 @@
 #include <cstring>
 
 #include "framework/ParameterTable.h"
+#include "platform/Numbers.h"
 #include "shell/CPluginDefinition.h"
 #include "shell/CPluginEditor.h"
 
@@ -15,7 +16,8 @@ namespace korvane {
 namespace {
 
 constexpr std::size_t kMaxPointers = 64; // of either direction
-constexpr auto kPoll = std::chrono::milliseconds(10);
+constexpr auto kPoll = std::chrono::milliseconds(1);
+constexpr auto kChangePoll = std::chrono::microseconds(100);
 
 int Pointers(std::int32_t count) { return std::clamp(count, 0, static_cast<int>(kMaxPointers)); }
 
@@ -69,6 +71,46 @@ void CSynthesizer::LeaveBlock()
     processing = false;
 }
 
+void CSynthesizer::MakeChange(const std::function<void()>& made)
+{
+    change.store(&made, std::memory_order_release);
+    const auto patient = std::chrono::steady_clock::now() + Patience();
+    for (HelpWithChange(); change.load(std::memory_order_acquire); std::this_thread::sleep_for(kChangePoll)) {
+        if (std::chrono::steady_clock::now() < patient || !EnterBlock()) continue;
+        ServeChange();
+        LeaveBlock();
+    }
+}
+
+/// How long the next block may be in coming. A change that is made here instead can meet a block, which would then be
+/// silent.
+std::chrono::nanoseconds CSynthesizer::Patience() const
+{
+    if (audioThread == std::thread::id{}) return {};
+    constexpr double kLate = 0.005, kLongest = 1.0; // seconds
+    const double block = blockFrames / sampleRate;
+    return std::chrono::nanoseconds(static_cast<std::int64_t>(1e9 * Clamp(2.0 * block + kLate, 0.0, kLongest)));
+}
+
+void CSynthesizer::HelpWithChange()
+{
+    if (!change.load(std::memory_order_relaxed)) return;
+    if (blockThread == std::this_thread::get_id()) {
+        ServeChange();
+    } else if (audioThread == std::this_thread::get_id() && EnterBlock()) {
+        ServeChange();
+        LeaveBlock();
+    }
+}
+
+void CSynthesizer::ServeChange()
+{
+    const std::function<void()>* const waiting = change.load(std::memory_order_acquire);
+    if (!waiting) return;
+    (*waiting)();
+    change.store(nullptr, std::memory_order_release);
+}
+
 // Blocks
 
 void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, bool replacing)
@@ -84,6 +126,8 @@ void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, boo
             if (output) std::fill_n(output, frames, 0.0f);
     if (!EnterBlock()) return;
     audioThread = std::this_thread::get_id();
+    blockFrames = frames;
+    ServeChange();
     RenderChunks(in.data(), out.data(), frames);
     ClearEvents();
     LeaveBlock();

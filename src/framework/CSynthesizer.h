@@ -2,7 +2,9 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <thread>
 
@@ -61,7 +63,8 @@ public:
     // clang-format on
 
     /// A whole-state operation in progress: from construction to destruction blocks are skipped, none is running, and
-    /// no other switch either. Waits for them in steps of 10 ms, unless this thread is inside a block or switch itself.
+    /// no other switch either. Waits for them, looking every millisecond, unless this thread is inside a block or
+    /// switch itself.
     class ProgramSwitch {
     public:
         explicit ProgramSwitch(CSynthesizer& owner);
@@ -86,6 +89,15 @@ public:
         const bool entered;
     };
 
+    /// A change that was prepared beside the running engine and is short. It is made between two blocks, none of which
+    /// is skipped: by the audio thread at the start of its next block, or here when that does not come. Returns when
+    /// it is made. One thread at a time.
+    void MakeChange(const std::function<void()>& change);
+
+    /// Makes the change that waits, if there is one and this thread has the engine to itself or may have it now. For
+    /// who waits for the thread that is in MakeChange.
+    void HelpWithChange();
+
     int CurrentProgram() const { return programIndex; }
 
     // The audio thread writes position and tempo before each block, a switch the rate; every thread reads.
@@ -104,6 +116,8 @@ protected:
 private:
     bool EnterBlock();
     void LeaveBlock();
+    void ServeChange(); // who has the engine to itself
+    std::chrono::nanoseconds Patience() const;
     void RenderChunks(float** inputs, float** outputs, int frames);
 
     std::unique_ptr<CProgram> programs;
@@ -111,7 +125,9 @@ private:
     Shared<CProgram*> currentProgram = nullptr; // a switch writes, every thread reads; programs live as long as this
     Shared<int> programIndex = 0;               // likewise
     Shared<std::thread::id> audioThread;        // rendered the last block; nobody before the first
-    std::atomic<bool> processing{false};        // somebody has the engine to itself
+    Shared<std::int32_t> blockFrames;           // of the last block
+    std::atomic<const std::function<void()>*> change{nullptr}; // that waits, null when none does
+    std::atomic<bool> processing{false};                       // somebody has the engine to itself
     std::atomic<int> programChanges{0};
 };
 

@@ -1,6 +1,7 @@
 // Files and folders of the system, under the engine's path convention.
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <vector>
@@ -8,8 +9,7 @@
 namespace korvane {
 
 // Every path handed in uses backslashes, as the instrument's files store them; a '/' means the same. Only this layer
-// turns them round. A name that itself holds a backslash cannot be reached. Any thread; the audio
-// thread comes here to serve load requests and MIDI program changes only.
+// turns them round. A name that itself holds a backslash cannot be reached. Any thread but the audio thread.
 
 /// The engine's form of a system path: each '/' becomes a backslash.
 std::string EnginePath(const char* systemPath);
@@ -22,6 +22,16 @@ std::FILE* OpenForWriting(const char* path);
 
 /// True when the file can be opened for reading.
 bool FileExists(const char* path);
+
+/// By what one sees whether a file is still the one that was read.
+struct FileStamp {
+    std::uint64_t device = 0, number = 0; // of the file system, of the file in it
+    std::int64_t size = -1;               // bytes; -1: there is no such file
+    std::int64_t changed = 0;             // nanoseconds since 1970
+
+    auto operator<=>(const FileStamp&) const = default;
+};
+FileStamp StampOf(const char* path);
 
 /// True when both paths lead to one file, through whatever links and detours.
 bool SameFile(const char* a, const char* b);

@@ -3,6 +3,7 @@
 
 #include <atomic>
 #include <cstddef>
+#include <type_traits>
 
 namespace korvane {
 
@@ -21,6 +22,7 @@ public:
         return next;
     }
     T operator=(const Shared& other) { return *this = static_cast<T>(other); }
+    T operator->() const requires std::is_pointer_v<T> { return *this; }
     /// Stores `next` only while the value is still the expected one; whether it was.
     bool Replace(T expected, T next)
     {

@@ -15,6 +15,8 @@ public:
     /// The user starts and ends a gesture on a host parameter.
     virtual void BeginEdit(int index) = 0;
     virtual void EndEdit(int index) = 0;
+    /// Whether the host says that the calling thread, inside a block, must not wait.
+    virtual bool RealTime() = 0;
 
 protected:
     ~CPluginWrapper() = default;

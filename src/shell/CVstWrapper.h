@@ -43,6 +43,7 @@ public:
     CPluginEditor* GetEditor() override { return editor ? editor->Window() : nullptr; }
     void BeginEdit(int index) override;
     void EndEdit(int index) override;
+    bool RealTime() override { return AskHost(host_request::ProcessLevel) == kRealTimeLevel; }
 
 private:
     struct EngineEnd {

@@ -87,13 +87,15 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
         SCOPED_TRACE(c.request);
         if (*c.request) layer.request.Post("\\other.wav");
         layer.request.Post(c.request);
+        Synth().FinishLoading();
         Render();
+        Synth().FinishLoading(); // frees what the block has returned
         EXPECT_EQ(TextOf(layer.name), c.name);
         EXPECT_EQ(TextOf(layer.path), *c.path ? Path(c.path) : "");
         EXPECT_EQ(Entries(), c.entries);
     }
     SampleSlot& oscillator = Engine().Channel(kSamplerChannels).sound.sampleSlots[kFirstLayerSlot - 1];
-    oscillator.request.Post("\\a.wav");
+    Synth().LoadSample(kSamplerChannels, kFirstLayerSlot - 1, "\\a.wav");
     Render();
     EXPECT_EQ(TextOf(oscillator.path), Path("Synth Waves/a.wav"));
     EXPECT_TRUE(oscillator.entry && oscillator.entry->waveTables);

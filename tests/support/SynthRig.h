@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <utility>
 #include <vector>
@@ -51,17 +52,21 @@ inline int Sounding(const GrooveChannel& channel)
     return notes;
 }
 
-/// Remembers what the instrument reports.
+/// Remembers what the instrument reports, on whatever thread.
 struct Host : CPluginWrapper {
     void ParameterAutomated(int index, float value) override
     {
+        const std::lock_guard guard(lock);
         ++told;
         reports.emplace_back(index, value);
     }
     CPluginEditor* GetEditor() override { return nullptr; }
     void BeginEdit(int) override {}
     void EndEdit(int) override {}
+    bool RealTime() override { return realTime; }
 
+    bool realTime = false; // offline: blocks wait for what they ask the loader
+    std::mutex lock;
     int told = 0;
     std::vector<std::pair<int, float>> reports;
 };

@@ -26,16 +26,18 @@ struct Rig {
 
     Rig()
     {
-        wave.waveTables = std::make_unique<float[]>(kWaveTableFloats);
+        auto tables = std::make_unique<float[]>(kWaveTableFloats);
         for (std::size_t i = 0; i < kWaveTableFloats; ++i)
-            wave.waveTables[i] = 0.5f * std::sin(6.2831853f * static_cast<float>(i % kWaveTablePoints) / 1024.0f);
-        drum.sample = std::make_unique<CWaveSample>();
-        drum.sample->numChannels = 2;
-        drum.sample->numFrames = 1 << 20;
-        for (auto& data : drum.sample->channelData) {
+            tables[i] = 0.5f * std::sin(6.2831853f * static_cast<float>(i % kWaveTablePoints) / 1024.0f);
+        wave.waveTables = std::move(tables);
+        auto sample = std::make_unique<CWaveSample>();
+        sample->numChannels = 2;
+        sample->numFrames = 1 << 20;
+        for (auto& data : sample->channelData) {
             data = std::make_unique<float[]>((1 << 20) + CWaveSample::kPadFrames);
             for (int i = 0; i < 1 << 20; ++i) data[i] = std::sin(0.05f * static_cast<float>(i));
         }
+        drum.sample = std::move(sample);
         for (int c = 0; c < kChannels; ++c) {
             channels[c] = std::make_unique<GrooveChannel>(*pool, random);
             GrooveChannel& channel = *channels[c];

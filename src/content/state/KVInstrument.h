@@ -1,23 +1,37 @@
 // The whole instrument: the synthesizer with its grooves, parts, programs and the host's chunks.
 #pragma once
 
+#include <atomic>
 #include <cstdint>
 
 #include "content/CFileList.h"
 #include "content/CPresetList.h"
 #include "content/state/ImageFile.h"
 #include "engine/KVSynth.h"
+#include "platform/CommandQueue.h"
 #include "platform/SharedText.h"
+#include "platform/Worker.h"
 
 namespace korvane {
 
-/// What a bridge creates and drives. Loads replace whole states under the program-switch handshake.
+/// What a MIDI program change or bank select asks for.
+struct LibraryOrder {
+    bool bank;            // a category, whose first program is loaded; else a program of the category selected
+    std::uint8_t number;  // 0..127
+    std::uint8_t channel; // that was selected then
+};
+
+/// What a bridge creates and drives.
 ///
-/// Threads: file operations come from the editor or the host, never from the audio thread; but MIDI program changes,
-/// which walk the libraries and load a program there.
+/// Everything that reads files and replaces states happens on one thread of its own, the loader, one thing after
+/// another: it prepares beside the running engine what the change needs and has the change made between two blocks.
+/// Who asks for it waits until it is done and every file is ready. MIDI asks on the audio thread, which hands the
+/// request over and waits only where the host says that its thread may.
+///
+/// Threads: operations come from the editor or the host, the first four from their audio thread.
 class KVInstrument : public KVSynth {
 public:
-    /// Loads the default groove.
+    /// Loads the default groove; its files are ready then.
     explicit KVInstrument(CPluginWrapper* bridge);
 
     void ProgramChangeReceived(int program) override;
@@ -38,17 +52,38 @@ public:
     bool SaveProgramFile(const char* path);
     bool LoadProgramFile(const char* path);
 
-    // The program libraries. The constructor fills them; after it the audio thread selects in them, for MIDI, and
-    // whoever else does must have the engine to itself.
+    /// Loads a file into a slot of a channel; the next block plays it. One that is not found empties the slot.
+    /// channel  0..12
+    /// slot     0..6: three oscillators, four layers
+    /// path     empty: no file
+    void LoadSample(int channel, int slot, const char* path);
+
+    /// Returns when all that has been asked for is done and told to the host.
+    void FinishLoading();
+
+    // The program libraries. The constructor fills them; after it the loader selects in them, for MIDI, and who else
+    // does has it do so.
     CPresetList synthPrograms, samplerPrograms;
     CFileList waveforms;        // of the content folder, as found at construction
     SharedText<512> grooveName; // who loads or saves writes, every thread reads
 
 private:
+    void Load(const Worker::Task& task); // on the loader; waits
+
+    // The loader's.
+    void LookRound();
+    bool Select(const LibraryOrder& order);
+    bool Replace(const std::uint8_t* data, std::int32_t size, std::uint32_t ordered);
+    bool ReplacePart(const Image& image);
+    bool ReplaceChannel(const char* path, int channel);
+
+    void Ask(bool bank, int number);
     void LoadDefaultGroove();
-    CPresetList& Library(); // of the selected channel's kind
 
     Image sizedChunk; // state at the last request for its size; hosts ask for it and for the bytes from one thread
+    CommandQueue<LibraryOrder, 64> orders;                   // the audio thread pushes, the loader pops
+    std::atomic<std::uint32_t> ordersDone{0}, ordersTold{0}; // of these: loaded, and reported
+    Worker loader;                                           // last: it uses the others
 };
 
 } // namespace korvane

@@ -1,8 +1,6 @@
 // One channel with its steps as an image, for part files.
 #include "content/state/PartImage.h"
 
-#include "content/ByteReader.h"
-#include "content/state/ChannelChunk.h"
 #include "content/state/ImageTags.h"
 #include "content/state/StepRecord.h"
 #include "framework/ParameterTable.h"
@@ -35,24 +33,39 @@ std::int32_t SavePart(const GrooveEngine& engine, std::uint8_t* buffer)
     return out.Size();
 }
 
-bool LoadPart(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length)
+bool ReadPart(ByteReader in, GrooveEngine& engine, PartState& part)
 {
-    const int channel = engine.selection.selectedChannel;
-    ByteReader in(data, length);
-    if (!in.Tag(PartTag(channel))) return false;
-    const ByteReader sound = in.Chunk();
-    if (!LoadChannelChunk(engine, sound.Rest(), sound.Left(), channel)) return false;
+    if (!in.Tag(PartTag(part.channel))) return false;
+    if (!ReadChannelChunk(in.Chunk(), part.settings)) return false;
 
     ByteReader sequence = in.Chunk();
     if (!sequence.Tag(tag::kSequence)) return false;
-    for (int step = 0; step < kSteps; ++step)
-        if (!ReadStepRecord(sequence, engine.score.Current(), channel, step)) return false;
-
+    for (int step = 0; step < kSteps; ++step) {
+        part.steps = step + 1;
+        if (!ReadStepRecord(sequence, *engine.score.spare[0], part.channel, step)) return false;
+    }
     float noteLength = 0.0f;
     if (!in.Read(noteLength)) return false;
-    engine.storedParams[channel][slot::NoteLength] = noteLength;
-    engine.RefreshChannel(channel);
+    part.noteLength = noteLength;
     return true;
+}
+
+void PutPart(GrooveEngine& engine, const PartState& part)
+{
+    PutSettings(engine, part.channel, part.settings);
+    engine.score.Current().CopySteps(part.channel, 0, *engine.score.spare[0], 0, part.steps);
+    if (!part.noteLength) return;
+    engine.storedParams[part.channel][slot::NoteLength] = *part.noteLength;
+    engine.RefreshChannel(part.channel);
+}
+
+bool LoadPart(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length)
+{
+    PartState part(engine, engine.selection.selectedChannel);
+    const bool whole = ReadPart(ByteReader(data, length), engine, part);
+    if (part.settings.begun) AskFiles(engine, part.channel, part.settings);
+    PutPart(engine, part);
+    return whole;
 }
 
 } // namespace korvane

@@ -2,8 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
+#include "content/ByteReader.h"
 #include "content/ByteWriter.h"
+#include "content/state/ChannelChunk.h"
 #include "engine/GrooveEngine.h"
 
 namespace korvane {
@@ -15,8 +18,24 @@ void WritePart(ByteWriter& out, const GrooveEngine& engine);
 /// Writes the image and returns its size; into a null buffer nothing.
 std::int32_t SavePart(const GrooveEngine& engine, std::uint8_t* buffer);
 
-/// Into the selected channel and the current pattern. False for another kind of channel, or an image that ends too
-/// early, of which what came before stands. Who has the engine to itself.
+/// A part on its way from an image into the engine; its steps lie in the first of the engine's spare patterns.
+struct PartState {
+    PartState(const GrooveEngine& engine, int toChannel) : settings(engine, toChannel), channel(toChannel) {}
+
+    ChannelSettings settings;
+    const int channel;
+    int steps = 0; // that are there, with one that was cut
+    std::optional<float> noteLength;
+};
+
+/// Takes over what the image has. False for another kind of channel, or an image that ends too early. The loader.
+bool ReadPart(ByteReader in, GrooveEngine& engine, PartState& part);
+
+/// Into its channel and the current pattern, but for the files. Who has the engine to itself.
+void PutPart(GrooveEngine& engine, const PartState& part);
+
+/// All of it in one, into the selected channel, with requests for its files. False for another kind of channel, or an
+/// image that ends too early, of which what came before stands. Who has the engine to itself.
 bool LoadPart(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length);
 
 } // namespace korvane

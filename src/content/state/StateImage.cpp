@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <initializer_list>
 
-#include "content/ByteReader.h"
-#include "content/state/ChannelChunk.h"
 #include "content/state/ImageTags.h"
 #include "content/state/StepRecord.h"
 
@@ -60,7 +58,7 @@ void ReadExtControl(ByteReader& in, ExtControl& control)
 }
 
 /// The fields that are there are taken over, also when the header is cut.
-bool ReadHeader(ByteReader& in, GrooveEngine& engine)
+void ReadHeader(ByteReader& in, GrooveEngine& engine)
 {
     ReadSelection(in, engine.selection.selectedChannel, kChannels);
     ReadSelection(in, engine.selection.selectedBar, kBars);
@@ -73,7 +71,6 @@ bool ReadHeader(ByteReader& in, GrooveEngine& engine)
     float shuffle = 0.0f;
     if (in.Read(shuffle)) engine.clock.shuffleAmount = shuffle;
     for (auto& control : engine.ext.extControls) ReadExtControl(in, control);
-    return in.Ok();
 }
 
 void WritePattern(ByteWriter& out, const GroovePattern& pattern)
@@ -108,22 +105,47 @@ std::int32_t SaveState(const GrooveEngine& engine, std::uint8_t* buffer)
     return out.Size();
 }
 
-bool LoadState(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length)
+GrooveState::GrooveState(const GrooveEngine& engine)
 {
-    ByteReader in(data, length);
+    for (int c = 0; c < kChannels; ++c) channels.emplace_back(engine, c);
+}
+
+bool ReadState(ByteReader in, GrooveEngine& engine, GrooveState& state)
+{
+    constexpr int kBehindTag = kStateHeaderBytes - 4;
     if (!in.Tag(tag::kGroove)) return false;
-    engine.ResetGroove();
-    if (!ReadHeader(in, engine)) return false;
-    for (int channel = 0; channel < kChannels; ++channel) {
-        const ByteReader chunk = in.Chunk();
-        if (!LoadChannelChunk(engine, chunk.Rest(), chunk.Left(), channel)) return false;
-    }
-    for (auto& pattern : engine.score.patterns) {
+    state.begun = true;
+    for (GroovePattern* pattern : engine.score.spare) pattern->Clear();
+    state.header = in.Next(kBehindTag);
+    if (state.header.Left() < kBehindTag) return false;
+    for (ChannelSettings& channel : state.channels)
+        if (!ReadChannelChunk(in.Chunk(), channel)) return false;
+    for (GroovePattern* pattern : engine.score.spare) {
         const ByteReader chunk = in.Chunk();
         if (!in.Ok()) return false;
         ReadPattern(chunk, *pattern);
     }
     return true;
+}
+
+void PutState(GrooveEngine& engine, const GrooveState& state)
+{
+    engine.ResetPanel();
+    engine.score.SwapPatterns();
+    for (int c = 0; c < kChannels; ++c) engine.InitSettings(c);
+    ByteReader header = state.header;
+    ReadHeader(header, engine);
+    for (int c = 0; c < kChannels; ++c) PutSettings(engine, c, state.channels[static_cast<std::size_t>(c)]);
+}
+
+bool LoadState(GrooveEngine& engine, const std::uint8_t* data, std::int32_t length)
+{
+    GrooveState state(engine);
+    const bool whole = ReadState(ByteReader(data, length), engine, state);
+    if (!state.begun) return false;
+    for (int c = 0; c < kChannels; ++c) AskFiles(engine, c, state.channels[static_cast<std::size_t>(c)]);
+    PutState(engine, state);
+    return whole;
 }
 
 } // namespace korvane

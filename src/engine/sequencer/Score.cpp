@@ -5,10 +5,10 @@ namespace korvane {
 
 Score::Score() : clipboard(std::make_unique<GroovePattern>())
 {
-    clipboard->Clear();
-    for (auto& pattern : patterns) {
-        pattern = std::make_unique<GroovePattern>();
-        pattern->Clear();
+    for (auto& pattern : memory) pattern = std::make_unique<GroovePattern>();
+    for (std::size_t p = 0; p < kPatterns; ++p) {
+        patterns[p] = memory[p].get();
+        spare[p] = memory[kPatterns + p].get();
     }
     Fill(lastStep, -1);
 }
@@ -38,7 +38,7 @@ void Score::Copy(const Selection& selection)
 void Score::Paste(Selection& selection)
 {
     if (const int target = selection.selectedPatternMark; target != -1) {
-        patterns[static_cast<std::size_t>(target)]->CopyFrom(*clipboard);
+        patterns[target]->CopyFrom(*clipboard);
         selection.selectedPatternMark = -1;
         return;
     }
@@ -102,9 +102,19 @@ bool Score::NudgeHeldSteps(const Selection& selection, const Shared<bool>* stepH
 
 void Score::Reset()
 {
+    ResetSelection();
+    for (auto& pattern : patterns) pattern->Clear();
+}
+
+void Score::ResetSelection()
+{
     currentPattern = nextPattern = patternRepeats = 0;
     Fill(playOnce, false);
-    for (auto& pattern : patterns) pattern->Clear();
+}
+
+void Score::SwapPatterns()
+{
+    for (int p = 0; p < kPatterns; ++p) spare[p] = patterns[p].Exchange(spare[p]);
 }
 
 } // namespace korvane

@@ -13,7 +13,8 @@
 
 namespace korvane {
 
-/// What a groove plays. Owned by GrooveEngine; the patterns live as long as it does.
+/// What a groove plays. Owned by GrooveEngine. There are two sets of patterns, which live as long as it does: one
+/// plays, the other is filled beside it by a load and then takes its place.
 ///
 /// Threads: host, editor and MIDI (on the audio thread) edit, the audio thread reads steps and locks and moves on from
 /// one pattern to the next. A step word is changed in one piece; an edit of many steps may be heard half done for one
@@ -23,11 +24,8 @@ class Score {
 public:
     Score();
 
-    GroovePattern& Current() { return *patterns[static_cast<std::size_t>(static_cast<int>(currentPattern))]; }
-    const GroovePattern& Current() const
-    {
-        return *patterns[static_cast<std::size_t>(static_cast<int>(currentPattern))];
-    }
+    GroovePattern& Current() { return *patterns[currentPattern]; }
+    const GroovePattern& Current() const { return *patterns[currentPattern]; }
     /// Goes back from a play-once pattern that is over, or counts down to it. Audio thread, before a regular tick.
     /// patternStep  of the tick before
     /// looping      a bar is looped or recorded: nothing comes to its end
@@ -49,15 +47,24 @@ public:
 
     /// Empties the patterns and selects the first. The clipboard stays.
     void Reset();
+    /// The same but for the patterns.
+    void ResetSelection();
 
-    std::array<std::unique_ptr<GroovePattern>, kPatterns> patterns;
-    Shared<std::int32_t> currentPattern; // 0..7
-    Shared<std::int32_t> nextPattern;    // to return to after a play-once pattern
-    Shared<std::int32_t> patternRepeats; // ticks to wait before the return check
+    /// The set that does not play becomes the one that does. Who has the engine to itself.
+    void SwapPatterns();
+
+    Shared<GroovePattern*> patterns[kPatterns]; // who swaps them writes
+    GroovePattern* spare[kPatterns];            // the loader's
+    Shared<std::int32_t> currentPattern;        // 0..7
+    Shared<std::int32_t> nextPattern;           // to return to after a play-once pattern
+    Shared<std::int32_t> patternRepeats;        // ticks to wait before the return check
     Shared<bool> playOnce[kPatterns];
     Shared<std::int32_t> lastStep[kChannels]; // pattern step that last played, its locks stay applied; -1 none
-    std::unique_ptr<GroovePattern> clipboard;
+    const std::unique_ptr<GroovePattern> clipboard;
     Shared<std::int32_t> copiedBar = -1, copiedStep = -1;
+
+private:
+    std::array<std::unique_ptr<GroovePattern>, 2 * kPatterns> memory;
 };
 
 } // namespace korvane

@@ -7,6 +7,7 @@
 
 #include "engine/voice/Envelope.h"
 #include "engine/voice/LayerFilters.h"
+#include "engine/voice/Seam.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -59,6 +60,7 @@ struct ChannelVoice {
 
     SamplerLayer layers[kLayers];
     UnisonPhases phases[kUnison] = {};
+    Seam seam;
 
     // Of the current run; the voice filter reads them.
     alignas(64) float left[kMaxRun];

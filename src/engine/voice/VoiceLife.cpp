@@ -70,6 +70,7 @@ void StartVoice(ChannelSound& channel, ChannelVoice& voice)
     voice.releasing = false;
     voice.active = true;
     voice.lfo1Out = voice.lfo2Out = 0.0f;
+    voice.seam = {};
 
     const bool silenced = voice.fromSequencer && channel.muted;
     voice.gainTarget = silenced ? 0.0f : Clamp(law::Square(channel.Modulated(slot::AmpLevel)), 0.0f, kLoudest);
@@ -95,7 +96,7 @@ bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain)
     Recover(voice.gain, 0.0f);
     Recover(voice.glidePitch, static_cast<float>(voice.pitchNote));
 
-    if (channel.isSampler && !LayersCanPlay(channel, voice)) {
+    if (channel.isSampler && !LayersCanPlay(channel, voice) && !voice.seam.Fading()) {
         ClearVoice(voice);
         return false;
     }

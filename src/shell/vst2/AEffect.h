@@ -92,12 +92,15 @@ enum : std::int32_t {
     Version = 1,
     WantMidi = 6,
     GetTime = 7,
+    ProcessLevel = 23,
     VendorString = 32,
     ProductString = 33,
     BeginEdit = 43,
     EndEdit = 44
 };
 }
+
+inline constexpr std::intptr_t kRealTimeLevel = 2; // of the calling thread: it must not wait
 
 struct VstTimeInfo {
     double samplePosition, sampleRate, nanoSeconds;

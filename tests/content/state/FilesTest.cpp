@@ -38,7 +38,7 @@ TEST_F(Files, SamplesTravelWithTheirGroove)
     WriteText(root / "Synth Waves/Saw.wav", wave);
     const auto kept = [&](const char* name) { return ReadBytes<std::string>(root / name) == wave; };
     auto& slot = Engine().Channel(0).sound.sampleSlots[kFirstLayerSlot];
-    slot.request.Post(Path("F/Samples/kick.wav").c_str());
+    Synth().LoadSample(0, kFirstLayerSlot, Path("F/Samples/kick.wav").c_str());
     Render();
     ASSERT_TRUE(Synth().SaveGrooveWithSamples(Path("F/g.kvprj").c_str()));
     for (const char* copy : {"F/Samples/kick.wav", "F/Waveforms/Saw.wav"}) EXPECT_TRUE(kept(copy)) << copy;

@@ -164,7 +164,7 @@ TEST_F(Image, AChannelEndsWhereItIsCut)
         {"cut last value",    kShortChunk - 1,   false, {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.25f,  0.0f,   0.75f}},
         {"no values",         kParams,           false, {"D:\\0", "D:\\6", "",      "D:\\0"}, {0.0f,   0.0f,   0.75f}},
         {"cut last path",     kParams - 1,       false, {"D:\\0", "",      "",      "D:\\0"}, {0.75f,  0.5f,   0.75f}},
-        {"tag only",          4,                 false, {"",      "",      "",      ""},      {0.75f,  0.5f,   0.75f}},
+        {"tag only",          4,                 false, {"",      "",      "",      "!"},     {0.75f,  0.5f,   0.75f}},
         {"cut tag",           3,                 false, {"old",   "old",   "old",   "old"},   {0.125f, 0.125f, 0.125f}},
         {"negative length",   -1,                false, {"old",   "old",   "old",   "old"},   {0.125f, 0.125f, 0.125f}},
     };

@@ -47,25 +47,25 @@ struct VoiceRig {
 
     CWaveSample& GiveSample(int layer, int frames, int channels, const std::function<float(int, int)>& value)
     {
-        PoolEntry& entry = Entry(kFirstLayerSlot + layer);
-        entry.sample = std::make_unique<CWaveSample>();
-        entry.sample->numFrames = frames;
-        entry.sample->numChannels = channels;
+        auto sample = std::make_shared<CWaveSample>();
+        sample->numFrames = frames;
+        sample->numChannels = channels;
         for (int c = 0; c < channels; ++c) {
             auto data = std::make_unique<float[]>(static_cast<std::size_t>(frames + CWaveSample::kPadFrames));
             for (int i = 0; i < frames; ++i) data[i] = value(c, i);
-            entry.sample->channelData[c] = std::move(data);
+            sample->channelData[c] = std::move(data);
         }
-        return *entry.sample;
+        Entry(kFirstLayerSlot + layer).sample = sample;
+        return *sample;
     }
 
     /// value of table t at point i
     void GiveWave(int oscillator, const std::function<float(int, int)>& value)
     {
-        PoolEntry& entry = Entry(oscillator);
-        entry.waveTables = std::make_unique<float[]>(kWaveTableFloats);
+        auto tables = std::make_unique<float[]>(kWaveTableFloats);
         for (int t = 0; t < kWaveTables; ++t)
-            for (int i = 0; i < kWaveTablePoints; ++i) entry.waveTables[t * kWaveTablePoints + i] = value(t, i);
+            for (int i = 0; i < kWaveTablePoints; ++i) tables[t * kWaveTablePoints + i] = value(t, i);
+        Entry(oscillator).waveTables = std::move(tables);
     }
 
     PoolEntry& Entry(int slot)

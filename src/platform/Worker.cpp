@@ -1,0 +1,109 @@
+// A thread for what must not be done on the audio thread.
+#include "platform/Worker.h"
+
+#include <chrono>
+#include <csignal>
+#include <utility>
+
+namespace korvane {
+
+namespace {
+
+constexpr auto kLookRound = std::chrono::milliseconds(20);
+constexpr auto kPoll = std::chrono::microseconds(100); // of who waits for a task
+
+/// A thread that takes none of the host's signals.
+template <class Start>
+std::thread Quiet(Start start)
+{
+    sigset_t all, before;
+    sigfillset(&all);
+    pthread_sigmask(SIG_SETMASK, &all, &before);
+    std::thread thread;
+    std::exception_ptr refused;
+    try {
+        thread = std::thread(start);
+    } catch (...) {
+        refused = std::current_exception();
+    }
+    pthread_sigmask(SIG_SETMASK, &before, nullptr);
+    if (refused) std::rethrow_exception(refused);
+    return thread;
+}
+
+} // namespace
+
+Worker::Worker(Task everyRound) : round(std::move(everyRound)), thread(Quiet([this] { Loop(); })) {}
+
+Worker::~Worker()
+{
+    {
+        const std::lock_guard guard(lock);
+        ending = true;
+    }
+    news.notify_one();
+    thread.join();
+}
+
+void Worker::Run(const Task& task, const Task& meanwhile)
+{
+    if (std::this_thread::get_id() == thread.get_id()) return task();
+    Job job{&task, nullptr};
+    {
+        const std::lock_guard guard(lock);
+        jobs.push_back(&job);
+    }
+    news.notify_one();
+    while (!job.done.load(std::memory_order_acquire)) {
+        meanwhile();
+        std::this_thread::sleep_for(kPoll);
+    }
+    if (job.error) std::rethrow_exception(job.error);
+}
+
+void Worker::Wake()
+{
+    {
+        const std::lock_guard guard(lock);
+        woken = true;
+    }
+    news.notify_one();
+}
+
+void Worker::Loop()
+{
+    for (;;) {
+        {
+            std::unique_lock guard(lock);
+            news.wait_for(guard, kLookRound, [this] { return ending || woken || !jobs.empty(); });
+            if (ending) return;
+            woken = false;
+        }
+        Job* const job = NextJob();
+        std::exception_ptr ignored; // short of memory; the next round may have more
+        Do(round, ignored);
+        if (!job) continue;
+        Do(*job->task, job->error);
+        job->done.store(true, std::memory_order_release);
+    }
+}
+
+Worker::Job* Worker::NextJob()
+{
+    const std::lock_guard guard(lock);
+    if (jobs.empty()) return nullptr;
+    Job* const job = jobs.front();
+    jobs.pop_front();
+    return job;
+}
+
+void Worker::Do(const Task& task, std::exception_ptr& error)
+{
+    try {
+        task();
+    } catch (...) {
+        error = std::current_exception();
+    }
+}
+
+} // namespace korvane

@@ -1,0 +1,54 @@
+// A thread for what must not be done on the audio thread.
+#pragma once
+
+#include <atomic>
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+namespace korvane {
+
+/// Does what it is given, one thing after another, in order, and looks round by itself about fifty times a second: for
+/// what the audio thread has left for it, which can wake nobody.
+class Worker {
+public:
+    using Task = std::function<void()>;
+
+    /// The thread begins. std::system_error when the system has none left.
+    /// round  what it does at each look round and before each task; may throw nothing but std::bad_alloc, which ends
+    ///        that round
+    explicit Worker(Task round);
+    /// Ends with what is under way. Nobody may be in Run.
+    ~Worker();
+    Worker(const Worker&) = delete;
+
+    /// Does the task on the thread, after a round; what it throws comes out here. Any thread that may wait, and the
+    /// thread itself, where the task is simply done.
+    /// meanwhile  what the caller does again and again while it waits
+    void Run(const Task& task, const Task& meanwhile);
+
+    /// Look round now. Any thread that may make a system call.
+    void Wake();
+
+private:
+    struct Job {
+        const Task* task;
+        std::exception_ptr error;
+        std::atomic<bool> done{false};
+    };
+    void Loop();
+    Job* NextJob();
+    static void Do(const Task& task, std::exception_ptr& error);
+
+    const Task round;
+    std::mutex lock;
+    std::condition_variable news;
+    std::deque<Job*> jobs; // under the lock, like the flags
+    bool woken = false, ending = false;
+    std::thread thread; // last: it uses the others
+};
+
+} // namespace korvane
