@@ -71,14 +71,12 @@ void GrooveChannel::Render(int frames, float tempo)
 
 void GrooveChannel::TakeOffers()
 {
-    bool replaced = false;
     for (int s = 0; s < kSampleSlots; ++s) {
-        const bool plays = (s >= kFirstLayerSlot) == sound.isSampler;
-        if (sound.sampleSlots[static_cast<std::size_t>(s)].TakeOffer(sound.samplePool.returned)) replaced |= plays;
+        if (!sound.sampleSlots[static_cast<std::size_t>(s)].TakeOffer(sound.samplePool.returned)) continue;
+        const bool isLayer = s >= kFirstLayerSlot;
+        if (isLayer != sound.isSampler) continue;
+        for (auto& voice : voices) (isLayer ? voice->layers[s - kFirstLayerSlot].seam : voice->seam).Begin();
     }
-    if (!replaced) return;
-    for (auto& voice : voices)
-        if (voice->active) voice->seam.Begin();
 }
 
 void GrooveChannel::RefreshVoices()
@@ -114,9 +112,9 @@ void GrooveChannel::RenderVoices(int frames)
             TuneOscillators(sound, voice, synth, tuning);
             RunVoiceModulation(sound, voices, voice, shared, glideRate, own, frames);
             RenderUnison(synth.mix, tuning, own.modAmount, voice.phases, sound.random, voice.left, voice.right, frames);
+            voice.seam.Join(voice.left, voice.right, frames);
         }
         ApplyAmplitude(voice, own.amp, frames);
-        voice.seam.Join(voice.left, voice.right, frames);
     }
 }
 

@@ -60,6 +60,7 @@ public:
     virtual void ProcessBlock(float** inputs, float** outputs, int frames, bool replacing);
     virtual void Reserved37(std::int8_t, std::int8_t) {}
     virtual float Reserved38(bool) { return 0.0f; }
+    virtual void EndThreads() {}                                 // none of its own calls the bridge any more
     // clang-format on
 
     /// A whole-state operation in progress: from construction to destruction blocks are skipped, none is running, and

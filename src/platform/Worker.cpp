@@ -35,14 +35,14 @@ std::thread Quiet(Start start)
 
 Worker::Worker(Task everyRound) : round(std::move(everyRound)), thread(Quiet([this] { Loop(); })) {}
 
-Worker::~Worker()
+void Worker::End()
 {
     {
         const std::lock_guard guard(lock);
         ending = true;
     }
     news.notify_one();
-    thread.join();
+    if (thread.joinable()) thread.join();
 }
 
 void Worker::Run(const Task& task, const Task& meanwhile)

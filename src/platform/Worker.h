@@ -21,14 +21,16 @@ public:
     /// round  what it does at each look round and before each task; may throw nothing but std::bad_alloc, which ends
     ///        that round
     explicit Worker(Task round);
-    /// Ends with what is under way. Nobody may be in Run.
-    ~Worker();
+    ~Worker() { End(); }
     Worker(const Worker&) = delete;
 
     /// Does the task on the thread, after a round; what it throws comes out here. Any thread that may wait, and the
     /// thread itself, where the task is simply done.
     /// meanwhile  what the caller does again and again while it waits
     void Run(const Task& task, const Task& meanwhile);
+
+    /// Finishes what is under way and ends the thread. Nobody may be in Run, nor come to it.
+    void End();
 
     /// Look round now. Any thread that may make a system call.
     void Wake();

@@ -35,7 +35,8 @@ CVstWrapper::~CVstWrapper() { Close(); }
 
 void CVstWrapper::Close()
 {
-    editor.reset(); // it shows the engine
+    if (engine) engine->EndThreads(); // they report to host and editor
+    editor.reset();                   // it shows the engine
     engine.reset();
     chunk = {};
 }

@@ -39,6 +39,30 @@ TEST_F(Pool, SharesAFileAmongItsUsers)
     }
 }
 
+// A file that has not changed is not read again; one that has is, and who plays what it was goes on with that.
+TEST_F(Pool, ReadsAFileAnewWhenItHasChanged)
+{
+    WriteWav("a.wav", {0.5f});
+    const auto load = [this](KVInstrument& synth) {
+        synth.LoadSample(0, kFirstLayerSlot, Path("a.wav").c_str());
+        const PoolEntry* const playing = synth.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].entry;
+        synth.ProcessBlock(nullptr, nullptr, 64, true);
+        return std::pair(playing, synth.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].entry);
+    };
+    KVInstrument other(nullptr);
+    const PoolEntry* const first = load(Synth()).second;
+    ASSERT_TRUE(first && first->sample);
+    EXPECT_EQ(load(Synth()).second, first);
+    EXPECT_EQ(load(other).second->sample, first->sample) << "decoded once in the process";
+    WriteWav("a.wav", {0.25f, 0.25f});
+    const auto [before, after] = load(Synth());
+    EXPECT_EQ(before, first);
+    EXPECT_EQ(after->sample->numFrames, 2);
+    EXPECT_EQ(other.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].entry->sample->numFrames, 1);
+    Synth().FinishLoading();
+    EXPECT_EQ(Entries(), 1);
+}
+
 // Where it was, then beside the groove, then in the default folder of its kind, always by its name.
 TEST_F(Pool, LooksForAFileInThreePlaces)
 {

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <string>
@@ -56,6 +57,7 @@ inline int Sounding(const GrooveChannel& channel)
 struct Host : CPluginWrapper {
     void ParameterAutomated(int index, float value) override
     {
+        whenTold();
         const std::lock_guard guard(lock);
         ++told;
         reports.emplace_back(index, value);
@@ -66,6 +68,7 @@ struct Host : CPluginWrapper {
     bool RealTime() override { return realTime; }
 
     bool realTime = false; // offline: blocks wait for what they ask the loader
+    std::function<void()> whenTold = [] {};
     std::mutex lock;
     int told = 0;
     std::vector<std::pair<int, float>> reports;

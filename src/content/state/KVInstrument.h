@@ -40,6 +40,8 @@ public:
     std::int32_t SetProgramChunk(const void* data, std::int32_t size) override;
     std::int32_t GetBankChunk(void* buffer) override { return GetProgramChunk(buffer); }
     std::int32_t GetProgramChunk(void* buffer) override;
+    /// The last call but the destructor.
+    void EndThreads() override { loader.End(); }
 
     // Groove, part and program files. Paths use backslashes. False: nothing was written, or what a reader accepts of a
     // bad file stands.

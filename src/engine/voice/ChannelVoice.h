@@ -28,6 +28,7 @@ struct SamplerLayer {
     float gainLeft = 0.0f, gainRight = 0.0f;
     float envLevel = 0.0f, envTarget = 0.0f, envRate = 0.0f, decayRate = 0.0f;
     LayerFilters filters = {};
+    Seam seam;
 };
 
 /// Phases of one of the stacked unison voices; a full cycle is 2^32.
@@ -60,7 +61,7 @@ struct ChannelVoice {
 
     SamplerLayer layers[kLayers];
     UnisonPhases phases[kUnison] = {};
-    Seam seam;
+    Seam seam; // of the oscillators
 
     // Of the current run; the voice filter reads them.
     alignas(64) float left[kMaxRun];

@@ -50,6 +50,7 @@ void StartLayers(ChannelSound& channel, ChannelVoice& voice)
         SamplerLayer& layer = voice.layers[l];
         layer.bypassed = value(slot::LayerBypass) != 0.0f;
         layer.reverse = value(slot::LayerReverse) != 0.0f;
+        layer.seam = {};
         if (const CWaveSample* sample = SampleOf(channel, l))
             layer.position = std::max(0.0f, value(slot::LayerStart) * static_cast<float>(sample->numFrames));
         layer.delayFrames = std::max(0, Truncate(law::LayerDelaySeconds(value(slot::LayerDelay)) * rate));
@@ -75,7 +76,9 @@ bool LayersCanPlay(const ChannelSound& channel, const ChannelVoice& voice)
 {
     for (int l = 0; l < kLayers; ++l) {
         const CWaveSample* sample = SampleOf(channel, l);
-        if (sample && !voice.layers[l].bypassed && voice.layers[l].position < sample->numFrames) return true;
+        const SamplerLayer& layer = voice.layers[l];
+        if (layer.bypassed) continue;
+        if (layer.seam.Heard() || (sample && layer.position < sample->numFrames)) return true;
     }
     return false;
 }
@@ -163,13 +166,21 @@ void RunEnvelope(SamplerLayer& layer, float* gains, int frames)
     layer.plateauFrames = hold;
 }
 
-void RenderLayer(SamplerLayer& layer, const CWaveSample& sample, float* left, float* right, int frames)
+/// sample  null when there is none any more and the layer dies away
+void RenderLayer(SamplerLayer& layer, const CWaveSample* sample, float* left, float* right, int frames)
 {
     const int delay = std::min(layer.delayFrames, frames);
     layer.delayFrames -= delay;
 
     LayerRun run;
-    const int played = ReadFrames(layer, sample, run.stereo, frames - delay);
+    const int wanted = frames - delay;
+    int played = sample ? ReadFrames(layer, *sample, run.stereo, wanted) : 0;
+    if (layer.seam.Heard()) {
+        std::fill(run.stereo + 2 * played, run.stereo + 2 * wanted, 0.0f);
+        played = wanted;
+    }
+    layer.seam.Join(run.stereo, run.stereo + 1, played, 2);
+    if (played < wanted) layer.seam.End();
     RunEnvelope(layer, run.envelope, played);
     FilterLayer(layer.filters, run.stereo, played);
     for (int n = 0; n < played; ++n) {
@@ -186,7 +197,9 @@ void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames)
     std::fill_n(voice.right, frames, 0.0f);
     for (int l = 0; l < kLayers; ++l) {
         const CWaveSample* sample = SampleOf(channel, l);
-        if (sample && !voice.layers[l].bypassed) RenderLayer(voice.layers[l], *sample, voice.left, voice.right, frames);
+        SamplerLayer& layer = voice.layers[l];
+        if (!layer.bypassed && (sample || layer.seam.Heard()))
+            RenderLayer(layer, sample, voice.left, voice.right, frames);
     }
 }
 

@@ -6,41 +6,48 @@
 namespace korvane {
 
 /// A sample or waveform may be replaced under a voice that sounds. The voice goes on at once with the new one; what the
-/// two differ by at that frame is added, fading out, so that nothing jumps.
+/// two differ by at that frame is added, fading out, so that nothing jumps. Lies where the source is read, before all
+/// filters.
 class Seam {
 public:
-    static constexpr int kFrames = 128; // of the fade, straight
-
-    /// The source has changed since the last run; nothing to join for a voice that has not sounded yet.
+    /// The source has changed since the last run; nothing to join for one that has not sounded yet.
     void Begin() { pending = sounded; }
-    bool Fading() const { return pending || left > 0; }
+    /// The joint is still heard, in the filters behind it at least.
+    bool Heard() const { return pending || left > 0; }
 
-    /// A run of the voice, in place.
-    void Join(float* outLeft, float* outRight, int frames)
+    /// A run of the source, in place.
+    /// stride  from frame to frame
+    void Join(float* outLeft, float* outRight, int frames, int stride = 1)
     {
         if (frames < 1) return;
         if (pending) {
-            stepLeft = (lastLeft - outLeft[0]) / kFrames;
-            stepRight = (lastRight - outRight[0]) / kFrames;
-            left = kFrames;
+            stepLeft = (lastLeft - outLeft[0]) / kFade;
+            stepRight = (lastRight - outRight[0]) / kFade;
+            left = kFade + kSettle;
             pending = false;
         }
-        for (int n = 0; n < std::min(frames, left); ++n) {
-            outLeft[n] += stepLeft * static_cast<float>(left - n);
-            outRight[n] += stepRight * static_cast<float>(left - n);
+        const int fading = left - kSettle;
+        for (int n = 0; n < std::min(frames, fading); ++n) {
+            outLeft[n * stride] += stepLeft * static_cast<float>(fading - n);
+            outRight[n * stride] += stepRight * static_cast<float>(fading - n);
         }
         left = std::max(0, left - frames);
-        lastLeft = outLeft[frames - 1];
-        lastRight = outRight[frames - 1];
+        lastLeft = outLeft[(frames - 1) * stride];
+        lastRight = outRight[(frames - 1) * stride];
         sounded = true;
     }
+    /// The source has come to its end: from here on it is silent.
+    void End() { lastLeft = lastRight = 0.0f; }
 
 private:
+    static constexpr int kFade = 128;    // frames, straight
+    static constexpr int kSettle = 1536; // frames that a low cut takes to come to rest
+
     float lastLeft = 0.0f, lastRight = 0.0f; // of the last run
     float stepLeft = 0.0f, stepRight = 0.0f; // of the fade, per frame
-    int left = 0;                            // frames of it
+    int left = 0;                            // frames of fade and rest
     bool pending = false;                    // begins with the next run
-    bool sounded = false;                    // the voice has been through a run
+    bool sounded = false;                    // there has been a run
 };
 
 } // namespace korvane

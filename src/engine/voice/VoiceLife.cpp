@@ -96,7 +96,7 @@ bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain)
     Recover(voice.gain, 0.0f);
     Recover(voice.glidePitch, static_cast<float>(voice.pitchNote));
 
-    if (channel.isSampler && !LayersCanPlay(channel, voice) && !voice.seam.Fading()) {
+    if (channel.isSampler && !LayersCanPlay(channel, voice)) {
         ClearVoice(voice);
         return false;
     }
