@@ -1,7 +1,40 @@
 // One pattern: eight bars of steps for thirteen channels.
 #include "engine/sequencer/GroovePattern.h"
 
+#include <sys/mman.h>
+
+#include <cstddef>
+#include <new>
+
 namespace korvane {
+
+namespace {
+
+/// Places for the entries of a bar of one channel: the first entries of its steps side by side, then their second ones
+/// and so on. Few locks on many steps thus share a page.
+constexpr std::size_t kBarPlaces = std::size_t{kStepsPerBar} * StepLockList::kCapacity;
+constexpr std::size_t kEntryBytes = sizeof(std::uint64_t) * kBarPlaces * kBars * kChannels;
+
+/// Pages that read 0 and are the system's until they are written. The allocator would serve a second instance from
+/// what the first has left, and wipe it; and a large page would come as a whole with its first lock.
+std::uint64_t* MapEntries()
+{
+    void* pages = mmap(nullptr, kEntryBytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (pages == MAP_FAILED) throw std::bad_alloc();
+    madvise(pages, kEntryBytes, MADV_NOHUGEPAGE); // systems without large pages refuse
+    return static_cast<std::uint64_t*>(pages);
+}
+
+} // namespace
+
+GroovePattern::GroovePattern() : entries(MapEntries())
+{
+    for (std::size_t c = 0; c < kChannels; ++c)
+        for (std::size_t s = 0; s < kSteps; ++s)
+            locks[c][s].first = &entries[(c * kBars + s / kStepsPerBar) * kBarPlaces + s % kStepsPerBar];
+}
+
+void GroovePattern::Unmap::operator()(std::uint64_t* pages) const { munmap(pages, kEntryBytes); }
 
 void GroovePattern::Clear()
 {
@@ -48,10 +81,7 @@ void GroovePattern::SwapSteps(int channel, int a, int b)
     const std::uint32_t wordA = steps[channel][a].Exchange(0u), wordB = steps[channel][b].Exchange(0u);
     SetNotes(channel, a, wordB);
     SetNotes(channel, b, wordA);
-    StepLockList kept;
-    kept.CopyFrom(locks[channel][a]);
-    locks[channel][a].CopyFrom(locks[channel][b]);
-    locks[channel][b].CopyFrom(kept);
+    locks[channel][a].SwapWith(locks[channel][b]);
 }
 
 void GroovePattern::UpdateLength()

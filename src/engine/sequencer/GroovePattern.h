@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 
 #include "engine/sequencer/StepLockList.h"
 #include "framework/Limits.h"
@@ -12,8 +13,15 @@ namespace korvane {
 /// Steps and their parameter locks, channel by channel, step = bar × 16 + step in the bar. Eight per engine and one
 /// clipboard. Host, editor and MIDI write steps and locks and the audio thread reads them; the audio thread writes the
 /// length at every tick, all read it.
+///
+/// What an empty pattern has, words and counts, is 33 KB. The entries of the locks live in pages of the system that
+/// cost nothing until a lock is written there: 2.8 MB when every step locks every parameter, 4 or 8 KB for a bar of a
+/// channel whose steps lock up to 32. A page that was written stays: to give it back might take a lock from under a
+/// writer.
 class GroovePattern {
 public:
+    /// Throws std::bad_alloc.
+    GroovePattern();
     /// Length 16, every step word 0, every lock list empty.
     void Clear();
     void CopyFrom(const GroovePattern& other);
@@ -33,6 +41,13 @@ public:
     Shared<std::uint32_t> steps[kChannels][kSteps]; // bit k (0..23) plays note 48 + k
     StepLockList locks[kChannels][kSteps];
     Shared<std::int32_t> length = kStepsPerBar; // 16, 32, 64 or 128 steps
+
+private:
+    struct Unmap {
+        void operator()(std::uint64_t* pages) const;
+    };
+
+    const std::unique_ptr<std::uint64_t[], Unmap> entries; // bar by bar of each channel
 };
 
 } // namespace korvane

@@ -1,6 +1,7 @@
 // The parameter locks of one step.
 #include "engine/sequencer/StepLockList.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "platform/Numbers.h"
@@ -20,11 +21,11 @@ void StepLockList::Set(int param, float offset)
     const bool keep = std::fabs(offset) >= kSmallestOffset; // false for NaN too
     if (keep) {
         if (at < last)
-            entries[at] = StepLock{param, offset};
+            Put(at, {param, offset});
         else
             Append(param, offset);
     } else if (at < last) {
-        for (; at + 1 < last; ++at) entries[at] = entries[at + 1];
+        for (; at + 1 < last; ++at) Put(at, At(at + 1));
         count = last - 1;
     }
 }
@@ -33,7 +34,7 @@ bool StepLockList::Append(int param, float offset)
 {
     const int last = count;
     if (last >= kCapacity) return false;
-    entries[last] = StepLock{param, offset};
+    Put(last, {param, offset});
     count = last + 1;
     return true;
 }
@@ -59,8 +60,20 @@ void StepLockList::ApplyTo(float* block) const
 void StepLockList::CopyFrom(const StepLockList& other)
 {
     const int last = other.count;
-    for (int n = 0; n < last; ++n) entries[n] = other.entries[n];
+    for (int n = 0; n < last; ++n) Put(n, other.At(n));
     count = last;
+}
+
+void StepLockList::SwapWith(StepLockList& other)
+{
+    const int mine = count, others = other.count;
+    for (int n = 0; n < std::max(mine, others); ++n) {
+        const StepLock kept = n < mine ? At(n) : StepLock{};
+        if (n < others) Put(n, other.At(n));
+        if (n < mine) other.Put(n, kept);
+    }
+    count = others;
+    other.count = mine;
 }
 
 } // namespace korvane

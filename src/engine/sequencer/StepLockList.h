@@ -1,6 +1,8 @@
 // The parameter locks of one step.
 #pragma once
 
+#include <atomic>
+#include <bit>
 #include <cstdint>
 
 #include "framework/Limits.h"
@@ -9,16 +11,18 @@
 namespace korvane {
 
 /// One lock: while its step plays, channel parameter `param` is its stored value plus `offset`, clamped to 0..1.
-/// Indices outside 0..211 come only from images; they are kept and act on nothing. Aligned so that every compiler
-/// reads and writes it with one instruction.
-struct alignas(8) StepLock {
+/// Indices outside 0..211 come only from images; they are kept and act on nothing.
+struct StepLock {
     std::int32_t param;
     float offset;
 };
 
 /// Locks of one step of one channel, in the order in which they were set. Host, editor and MIDI write while the audio
-/// thread walks: entries live in place, one per channel parameter, and nothing is ever reallocated. Of two writers at
-/// the same instant one may lose its change; a reader may meet a list in the middle of a removal for one tick.
+/// thread walks: there is a place for one entry per channel parameter, and nothing is ever reallocated. Of two writers
+/// at the same instant one may lose its change; a reader may meet a list in the middle of a removal for one tick.
+///
+/// The pattern has the places. It gives them from memory that costs nothing before it is written, so only entries below
+/// the count are touched.
 class StepLockList {
 public:
     static constexpr int kCapacity = kChannelSlots;
@@ -38,12 +42,20 @@ public:
 
     void Clear() { count = 0; }
     void CopyFrom(const StepLockList& other);
+    void SwapWith(StepLockList& other);
     int Count() const { return count; }
-    StepLock At(int n) const { return entries[n]; }
+    /// n  0..Count() - 1
+    StepLock At(int n) const { return std::bit_cast<StepLock>(Place(n).load(std::memory_order_relaxed)); }
 
 private:
+    friend class GroovePattern; // gives the places
+
+    /// One instruction reads or writes an entry, so that it is never torn.
+    std::atomic_ref<std::uint64_t> Place(int n) const { return std::atomic_ref(first[n * kStepsPerBar]); }
+    void Put(int n, StepLock lock) { Place(n).store(std::bit_cast<std::uint64_t>(lock), std::memory_order_relaxed); }
+
     Shared<std::int32_t> count;
-    Shared<StepLock> entries[kCapacity];
+    std::uint64_t* first = nullptr; // place of entry 0; the steps of a bar take turns
 };
 
 } // namespace korvane

@@ -129,6 +129,20 @@ TEST_F(Sequencer, EditedStepTakesLocks)
     EXPECT_EQ(engine.Channel(8).sound.params[slot::Panning], 0.5f) << "a new start finds no lock of the last one";
 }
 
+// A lock per parameter fits into every step, beside full steps in the same bar, in the next one and on other channels.
+TEST_F(Sequencer, EveryStepHoldsAllItsLocks)
+{
+    const std::pair<int, int> places[] = {{0, 0}, {0, 1}, {0, 15}, {0, 16}, {0, 127}, {1, 0}, {11, 127}, {12, 127}};
+    const auto offset = [](int place, int n) { return 0.001f * static_cast<float>(1 + n + place); };
+    for (int n = 0; n < kChannelSlots; ++n)
+        for (const auto& [channel, step] : places) Locks(channel, step).Set(n, offset(100 * channel + step, n));
+    for (const auto& [channel, step] : places) {
+        EXPECT_FALSE(Locks(channel, step).Append(0, 0.5f));
+        for (int n = 0; n < kChannelSlots; ++n)
+            ASSERT_EQ(Locks(channel, step).Offset(n), offset(100 * channel + step, n)) << channel << ' ' << step;
+    }
+}
+
 TEST_F(Sequencer, CopiesPastesAndClears)
 {
     Put(8, {{1, 5u}});
