@@ -4,7 +4,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <memory>
-#include <utility>
 
 #include "engine/dsp/StereoFrame.h"
 
@@ -12,7 +11,8 @@ namespace korvane {
 
 /// Every frame is stored with the tape position at which it was recorded; reading interpolates between the entries
 /// around the present position one loop earlier. A change of speed thus bends the pitch of what is on the tape. The
-/// record path has the feedback, a one-pole lowpass and a one-pole highpass. S is float, or a vector of floats for
+/// record path has the feedback, a one-pole lowpass and a one-pole highpass. What was read is recorded over: one loop,
+/// whose end is the start of the next one, is all there is at any time. S is float, or a vector of floats for
 /// several tapes that run at the same speed; every lane gives the bits of the float form. Audio thread; only the
 /// constructor allocates.
 template <class S>
@@ -20,7 +20,8 @@ class TapeDelay {
 public:
     /// newLength  longest delay in frames; below 4 counts as 4
     explicit TapeDelay(int newLength)
-        : length(std::max(newLength, 4)), speed(1.0 / length), minSpeed(1.0 / length), tapes{Tape(length), Tape(length)}
+        : length(std::max(newLength, 4)), speed(1.0 / length), minSpeed(1.0 / length), room(length + kSpare),
+          tape(std::make_unique<Entry[]>(static_cast<std::size_t>(room)))
     {
     }
     virtual ~TapeDelay() = default;
@@ -36,11 +37,13 @@ public:
     /// The first half of Process: what the tape gives for this frame; 0 during the first loop.
     S Read()
     {
-        Tape& tape = *readTape;
-        while (tape.readIndex < tape.count && tape.At(tape.readIndex).time < position) ++tape.readIndex;
-        if (tape.readIndex >= tape.count) return S{};
-        const Entry& before = tape.At(tape.readIndex - 1);
-        const Entry& after = tape.At(tape.readIndex);
+        while (unread > 0 && At(readIndex).time < position) {
+            before = At(readIndex);
+            readIndex = Next(readIndex);
+            --unread;
+        }
+        if (unread == 0) return S{};
+        const Entry& after = At(readIndex);
         const double span = after.time - before.time;
         const float fraction = span > 0.0 ? static_cast<float>((position - before.time) / span) : 0.0f;
         return Flushed(before.value + (after.value - before.value) * fraction);
@@ -55,13 +58,14 @@ public:
         highpassState = Flushed(highpassState + (lowpassState - highpassState) * highpass);
         const S w = lowpassState - highpassState;
         if (position >= 1.0) CloseLoop(w);
-        writeTape->Append(position, w);
+        Append(w);
     }
 
-    /// Empties both tapes and the filters.
+    /// Empties the tape and the filters.
     void Clear()
     {
-        for (Tape& tape : tapes) tape.Clear();
+        writeIndex = passStart = recorded = unread = 0;
+        before = closing = Entry{0.0, S{}};
         lowpassState = highpassState = S{};
         position = 0.0;
     }
@@ -78,52 +82,49 @@ public:
 
 private:
     static constexpr double kMaxSpeed = 0.2;
-    static constexpr int kHistory = 3; // entries of the pass before, so that a read across the loop has neighbours
-    static constexpr int kFirst = 10;  // place of entry 0; the history ends right before it
-    static constexpr int kSpare = 256; // a pass at the lowest speed, its history and its closing entry fit
+    static constexpr int kSpare = 16; // a loop at the lowest speed and its closing entry fit
 
     struct Entry {
-        double time; // tape position; below 0 in the history, 1 or above in the closing entry
+        double time; // tape position; 1 or above in the closing entry
         S value;
     };
 
-    struct Tape {
-        explicit Tape(int length)
-            : entries(std::make_unique<Entry[]>(static_cast<std::size_t>(length) + static_cast<std::size_t>(kSpare)))
-        {
-        }
-        Entry& At(int index) { return entries[static_cast<std::size_t>(kFirst + index)]; }
-        void Append(double time, S value) { At(count++) = Entry{time, value}; }
-        void Clear()
-        {
-            count = readIndex = 0;
-            for (int n = 1; n <= kHistory; ++n) At(-n) = Entry{0.0, S{}};
-        }
+    Entry& At(int index) { return tape[static_cast<std::size_t>(index)]; }
+    int Next(int index) const { return index + 1 < room ? index + 1 : 0; }
 
-        std::unique_ptr<Entry[]> entries;
-        int count = 0;     // entries recorded in this pass
-        int readIndex = 0; // where the last search stopped
-    };
+    void Append(S w)
+    {
+        At(writeIndex) = Entry{position, w};
+        writeIndex = Next(writeIndex);
+        ++recorded;
+    }
 
+    /// The pass that was recorded is now read; what closed the one before stands in front of it.
     void CloseLoop(S w)
     {
-        for (int n = 1; n <= kHistory; ++n) {
-            const Entry& last = readTape->At(readTape->count - n);
-            writeTape->At(-n) = Entry{last.time - 1.0, last.value};
-        }
-        writeTape->Append(position, w);
-        writeTape->readIndex = 0;
+        const Entry last = closing;
+        before = Entry{last.time - 1.0, last.value};
+        closing = Entry{position, w};
+        Append(w);
         position -= 1.0;
-        std::swap(writeTape, readTape);
-        writeTape->count = 0;
+        readIndex = passStart;
+        unread = recorded;
+        passStart = writeIndex;
+        recorded = 0;
     }
 
     const double minSpeed;
     double position = 0.0; // 0 up to, not including, 1
     S lowpassState{}, highpassState{};
-    Tape tapes[2];
-    Tape* writeTape = &tapes[0];
-    Tape* readTape = &tapes[1]; // the pass before
+    const int room; // entries
+    const std::unique_ptr<Entry[]> tape;
+    int writeIndex = 0; // the next entry
+    int passStart = 0;  // the first one of this pass
+    int recorded = 0;   // entries of this pass
+    int readIndex = 0;  // where the last search stopped
+    int unread = 0;     // entries of the pass before, from there on
+    Entry before{};     // the one in front of it
+    Entry closing{};    // of the pass before
 };
 
 using MFXTapeDelay = TapeDelay<float>;
