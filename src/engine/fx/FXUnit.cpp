@@ -62,17 +62,12 @@ FXUnit::~FXUnit() = default;
 
 bool FXUnit::Usable() const { return UsableRate(static_cast<double>(sampleRate)); }
 
-void FXUnit::AllocateBuffers()
-{
-    eqChanged.fill(1);
-    if (Usable()) effect->Allocate(sampleRate);
-}
-
 void FXUnit::Reset(float newRate)
 {
     if (newRate != 0.0f && newRate != sampleRate) {
+        if (UsableRate(static_cast<double>(newRate))) effect->Allocate(newRate);
         sampleRate = newRate;
-        AllocateBuffers();
+        eqChanged.fill(1);
     }
     if (Usable()) effect->Reset();
     if (eqBands) eqBands->Clear();

@@ -2,6 +2,7 @@
 #include "engine/fx/StutterLoop.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platform/Numbers.h"
 
@@ -15,9 +16,11 @@ constexpr int kSeamFrames = 192; // 4 ms at 48 kHz, by ear
 
 void StutterLoop::Allocate(int newCapacity)
 {
-    capacity = std::max(newCapacity, 1);
-    left = std::make_unique<float[]>(static_cast<std::size_t>(capacity));
-    right = std::make_unique<float[]>(static_cast<std::size_t>(capacity));
+    const int frames = std::max(newCapacity, 1);
+    auto newLeft = std::make_unique<float[]>(static_cast<std::size_t>(frames));
+    right = std::make_unique<float[]>(static_cast<std::size_t>(frames));
+    left = std::move(newLeft);
+    capacity = frames;
     Restart();
 }
 

@@ -50,9 +50,10 @@ void ReverbTank::Allocate(float rate)
     largest[reverb::Predelay] = 250;
     const ReverbCoefficients c = ComputeReverb(largest, rate);
     const int reflectionFrames = 1 << (std::bit_width(ReflectionRoom(rate)) + 1);
-    memoryFloats = static_cast<std::size_t>(c.predelayFrames) + static_cast<std::size_t>(reflectionFrames);
-    for (const int length : c.lengths) memoryFloats += static_cast<std::size_t>(length);
-    memory = std::make_unique<float[]>(memoryFloats);
+    std::size_t floats = static_cast<std::size_t>(c.predelayFrames) + static_cast<std::size_t>(reflectionFrames);
+    for (const int length : c.lengths) floats += static_cast<std::size_t>(length);
+    memory = std::make_unique<float[]>(floats);
+    memoryFloats = floats;
 
     float* next = memory.get();
     const auto place = [&next](Line& line, int length) {

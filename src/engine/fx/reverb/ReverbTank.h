@@ -20,7 +20,8 @@ class ReverbTank {
 public:
     static constexpr int kLongestRun = 64; // frames
 
-    /// Allocates one block for all lines, at their greatest lengths, and fills it.
+    /// Allocates one block for all lines, at their greatest lengths, and fills it. Throws std::bad_alloc and is as
+    /// before.
     void Allocate(float rate);
     /// Fills the memory with a value below hearing but far above the denormal range; clears the filters.
     void Reset();

@@ -67,8 +67,8 @@ void fxReverb::GetParameterName(std::int32_t index, char* text)
 void fxReverb::SetSampleRate(float newRate)
 {
     if (!UsableRate(static_cast<double>(newRate))) return;
+    tank.Allocate(newRate);
     sampleRate = newRate;
-    tank.Allocate(sampleRate);
     coefficients = ComputeReverb(steps, sampleRate);
     tank.Fit(coefficients, false);
     lastRoomSize = steps[reverb::RoomSize];
