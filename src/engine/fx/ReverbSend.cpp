@@ -20,15 +20,15 @@ constexpr struct {
     std::int32_t index;
     float value;
 } kFixed[] = {
-    {reverb::HighCut, 1.0f},  {reverb::LowCut, 0.1f}, {reverb::Diffusion, 1.0f}, {reverb::RoomSize, 1.0f},
-    {reverb::Predelay, 0.0f}, {reverb::Dry, 0.0f},    {reverb::MuteEr, 1.0f},
+    {reverb::HighCut, 1.0f},  {reverb::LowCut, 0.1f}, {reverb::Diffusion, 1.0f},
+    {reverb::RoomSize, 1.0f}, {reverb::Dry, 0.0f},
 };
 
 } // namespace
 
 void ReverbSend::Allocate(float rate)
 {
-    if (!reverb) reverb = std::make_unique<fxReverb>();
+    if (!reverb) reverb = std::make_unique<fxReverb>(ReverbParts::Late);
     for (const auto& setting : kFixed) reverb->SetParameter(setting.index, setting.value);
     reverb->SetSampleRate(rate);
 }

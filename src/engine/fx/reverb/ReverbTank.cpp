@@ -43,13 +43,13 @@ int Advanced(int length, int position, int frames) { return (position + frames) 
 
 } // namespace
 
-void ReverbTank::Allocate(float rate)
+void ReverbTank::Allocate(float rate, bool early)
 {
     ReverbSteps largest{};
     largest[reverb::RoomSize] = 100;
-    largest[reverb::Predelay] = 250;
+    largest[reverb::Predelay] = early ? 250 : 0;
     const ReverbCoefficients c = ComputeReverb(largest, rate);
-    const int reflectionFrames = 1 << (std::bit_width(ReflectionRoom(rate)) + 1);
+    const int reflectionFrames = early ? 1 << (std::bit_width(ReflectionRoom(rate)) + 1) : 1;
     std::size_t floats = static_cast<std::size_t>(c.predelayFrames) + static_cast<std::size_t>(reflectionFrames);
     for (const int length : c.lengths) floats += static_cast<std::size_t>(length);
     memory = std::make_unique<float[]>(floats);
@@ -99,7 +99,7 @@ void ReverbTank::Run(const ReverbCoefficients& c, const float* inLeft, const flo
     FilterInput(c, inLeft, inRight, x, frames);
     Diffuse(lines[0], x, c.input1, c.input1, frames);
     Diffuse(lines[1], x, c.input2, c.input1, frames);
-    WriteReflections(x, frames);
+    if (reflections.length > 1) WriteReflections(x, frames);
     if (c.reflectionsGain != 0.0f) {
         AddReflections(c.leftReflections, c.leftReflectionGains, kLeftSigns, leftReflected, frames);
         AddReflections(c.rightReflections, c.rightReflectionGains, kRightSigns, rightReflected, frames);

@@ -22,7 +22,8 @@ public:
 
     /// Allocates one block for all lines, at their greatest lengths, and fills it. Throws std::bad_alloc and is as
     /// before.
-    void Allocate(float rate);
+    /// early  with room for reflections and predelay; otherwise Fit gets coefficients without
+    void Allocate(float rate, bool early);
     /// Fills the memory with a value below hearing but far above the denormal range; clears the filters.
     void Reset();
     /// Takes over new lengths; the lines are emptied when `clear` is set.
@@ -66,7 +67,7 @@ private:
     std::size_t memoryFloats = 0;
     std::array<Line, kReverbLines> lines;
     Line predelay;
-    Line reflections; // length is a power of two
+    Line reflections; // length is a power of two; 1: there are none
     int runLimit = 1;
 
     float highCutState = 0.0f;

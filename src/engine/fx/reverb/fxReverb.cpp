@@ -26,21 +26,30 @@ void Watch(fxReverb::Meter& meter, const float* samples, int frames)
 
 } // namespace
 
-fxReverb::fxReverb() : AudioEffect(nullptr, 1, reverb::Count)
+fxReverb::fxReverb(ReverbParts newParts) : AudioEffect(nullptr, 1, reverb::Count), parts(newParts)
 {
     record.numInputs = record.numOutputs = 2;
     for (const ReverbParameter& row : kReverbParameters) SetParameter(row.index, row.initial);
+    if (parts == ReverbParts::Late) {
+        values[reverb::MuteEr] = 1.0f;
+        steps[reverb::MuteEr] = 1;
+    }
     SetSampleRate(sampleRate);
 }
 
 void fxReverb::SetParameter(std::int32_t index, float value)
 {
-    if (!Known(index)) return;
+    if (!Known(index) || Fixed(index)) return;
     values[static_cast<std::size_t>(index)] = value;
     const int step = ReverbStep(index, value);
     int& present = steps[static_cast<std::size_t>(index)];
     changed = changed || step != present;
     present = step;
+}
+
+bool fxReverb::Fixed(std::int32_t index) const
+{
+    return parts == ReverbParts::Late && (index == reverb::MuteEr || index == reverb::Predelay);
 }
 
 float fxReverb::GetParameter(std::int32_t index)
@@ -67,7 +76,7 @@ void fxReverb::GetParameterName(std::int32_t index, char* text)
 void fxReverb::SetSampleRate(float newRate)
 {
     if (!UsableRate(static_cast<double>(newRate))) return;
-    tank.Allocate(newRate);
+    tank.Allocate(newRate, parts == ReverbParts::All);
     sampleRate = newRate;
     coefficients = ComputeReverb(steps, sampleRate);
     tank.Fit(coefficients, false);

@@ -11,20 +11,23 @@
 
 namespace korvane {
 
+/// What a reverb can give. One that is always late has no memory for the rest: MuteEr stays on and Predelay 0.
+enum class ReverbParts { All, Late };
+
 /// Two inputs, two outputs. Parameters may be set between blocks, by the thread that processes; the memory is
 /// allocated by the constructor and SetSampleRate only. Texts are short: the host's buffers of 8 bytes suffice, but
 /// for names up to 15.
 class fxReverb final : public AudioEffect {
 public:
     /// Starts at 44100 Hz with the program "[1] Default Reverb".
-    fxReverb();
+    explicit fxReverb(ReverbParts newParts = ReverbParts::All);
 
     /// Empties the delay memory; the reverb level starts at its target.
     void Reset() override;
     /// Reallocates and empties the delay memory; a rate that is not usable (Limits.h) is ignored.
     void SetSampleRate(float newRate) override;
     void ProcessReplacing(float** inputs, float** outputs, std::int32_t frames) override;
-    void SetParameter(std::int32_t index, float value) override; // 0..1; an unknown index is ignored
+    void SetParameter(std::int32_t index, float value) override; // 0..1; an unknown or a fixed index is ignored
     float GetParameter(std::int32_t index) override;             // 0 for an unknown index
     void GetParameterLabel(std::int32_t index, char* text) override;
     void GetParameterDisplay(std::int32_t index, char* text) override;
@@ -44,8 +47,10 @@ public:
 private:
     template <bool adding>
     void Render(float** inputs, float** outputs, std::int32_t frames);
+    bool Fixed(std::int32_t index) const;
     void UpdateCoefficients();
 
+    const ReverbParts parts;
     std::array<float, reverb::Count> values{}; // of the only program
     ReverbCoefficients coefficients{};
     bool changed = true;  // coefficients are older than the steps
