@@ -8,6 +8,7 @@
 #include <string>
 
 #include "content/CFileStreamer.h"
+#include "platform/SaveFile.h"
 
 namespace korvane {
 
@@ -63,7 +64,7 @@ void MidiLinks::Read(const char* folder)
     for (std::size_t n = 0; n < kSources && kLinkBytes + n < present; ++n) ignoreValue[n] = bytes[kLinkBytes + n];
 }
 
-void MidiLinks::Write(const char* folder) const
+bool MidiLinks::Write(const char* folder) const
 {
     std::array<std::uint8_t, kFileBytes> bytes{};
     for (std::size_t n = 0; n < kSources; ++n) {
@@ -72,9 +73,7 @@ void MidiLinks::Write(const char* folder) const
         bytes[2 * n + 1] = static_cast<std::uint8_t>(entry >> 8);
         bytes[kLinkBytes + n] = ignoreValue[n];
     }
-    CFileStreamer file;
-    if (file.Create(FilePath(folder).c_str()))
-        file.Write(bytes.data(), static_cast<std::int32_t>(bytes.size())); // a read-only root is no error
+    return SaveFile(FilePath(folder).c_str(), bytes.data(), bytes.size());
 }
 
 } // namespace korvane

@@ -33,8 +33,8 @@ struct MidiLinks {
     /// Takes what the file has; one that is missing or short leaves the rest as it is. At construction.
     /// folder  the content root
     void Read(const char* folder);
-    /// A folder that cannot be written is no error. At destruction.
-    void Write(const char* folder) const;
+    /// False when it could not be saved, which is no error: the content root may be read-only. At destruction.
+    bool Write(const char* folder) const;
 
     Shared<std::int16_t> links[source::Count];       // parameter 0..195, -1 none
     Shared<std::uint8_t> ignoreValue[source::Count]; // 1: the link sends 1.0 and then 0.0 instead of the value

@@ -11,7 +11,7 @@
 
 namespace korvane {
 
-static std::string SystemPath(const char* path)
+std::string SystemPath(const char* path)
 {
     std::string result = path ? path : "";
     std::replace(result.begin(), result.end(), '\\', '/');

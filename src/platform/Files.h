@@ -14,6 +14,9 @@ namespace korvane {
 /// The engine's form of a system path: each '/' becomes a backslash.
 std::string EnginePath(const char* systemPath);
 
+/// The other way round.
+std::string SystemPath(const char* path);
+
 /// Null when there is no such file or it is not a regular file: a folder, a pipe or a device is never read.
 std::FILE* OpenForReading(const char* path);
 

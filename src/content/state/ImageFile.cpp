@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "content/CFileStreamer.h"
+#include "platform/SaveFile.h"
 
 namespace korvane {
 
@@ -18,8 +19,7 @@ bool ReadImageFile(const char* path, Image& image, std::int32_t limit)
 
 bool WriteImageFile(const char* path, const Image& image)
 {
-    CFileStreamer file;
-    return path && image.size > 0 && file.Create(path) && file.Write(image.bytes.get(), image.size);
+    return path && image.size > 0 && SaveFile(path, image.bytes.get(), static_cast<std::size_t>(image.size));
 }
 
 } // namespace korvane

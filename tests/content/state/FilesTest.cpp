@@ -1,5 +1,11 @@
 // Groove, part and program files and the host's chunks, as editor, host and MIDI use them.
+#include <sys/resource.h>
+
+#include <csignal>
+#include <thread>
+
 #include "content/state/Images.h"
+#include "platform/SaveFile.h"
 #include "support/Riff.h"
 
 namespace korvane {
@@ -9,6 +15,12 @@ namespace fs = std::filesystem;
 
 struct Files : SynthTest {
     std::string NameAfter(bool success) { return success ? TextOf(Synth().grooveName) : "(refused)"; }
+    bool Save(const fs::path& name, const std::string& bytes)
+    {
+        return SaveFile((root / "F" / name).c_str(), bytes.data(), bytes.size());
+    }
+    std::string Text(const char* name) { return ReadBytes<std::string>(root / "F" / name); }
+    auto Entries() { return std::distance(fs::directory_iterator(root / "F"), {}); }
 };
 
 TEST_F(Files, GroovesNameTheGroove)
@@ -94,6 +106,49 @@ TEST_F(Files, PartsAndProgramsKeepSettingsOfTheirChannel)
             EXPECT_EQ(params[slot::Pitch], 0.25f);
         }
     }
+}
+
+// Each name leads to the new bytes by the way by which it led to the old ones.
+TEST_F(Files, ASaveKeepsModeAndLinksAndLeavesNothingBeside)
+{
+    for (const char* name : {"F/first", "F/real", "F/plain"}) WriteText(root / name, "a longer old text");
+    fs::permissions(root / "F/real", fs::perms(0660));
+    fs::create_hard_link(root / "F/first", root / "F/second");
+    for (const auto& [to, link] : {std::pair{"real", "link"}, {"made", "loose"}})
+        fs::create_symlink(to, root / "F" / link);
+    for (const char* name : {"second", "link", "loose", "new"}) EXPECT_TRUE(Save(name, name)) << name;
+    std::string bytes;
+    for (const char* name : {"first", "real", "link", "made", "loose", "new"}) bytes += Text(name) + ' ';
+    EXPECT_EQ(bytes, "second link link loose loose new ");
+    EXPECT_TRUE(fs::is_symlink(root / "F/link") && fs::is_symlink(root / "F/loose"));
+    EXPECT_EQ(fs::status(root / "F/real").permissions(), fs::perms(0660));
+    EXPECT_EQ(fs::status(root / "F/new").permissions(), fs::status(root / "F/plain").permissions());
+    EXPECT_EQ(Entries(), 8);
+    EXPECT_FALSE(Save("", "into a folder") || Save("none/x", "into no folder") || Save("/dev/full", "into a device"));
+    fs::permissions(root / "F", fs::perms(0555)); // takes no new file, but from root
+    EXPECT_TRUE(Save("real", "in place"));
+    fs::permissions(root / "F", fs::perms(0755));
+}
+
+TEST_F(Files, AFullDiskLeavesTheOldFileAndOneOfTwoWritersWins)
+{
+    const auto save = [this](char letter) {
+        for (int n = 0; n < 200; ++n) EXPECT_TRUE(Save("file", std::string(9000, letter)));
+    };
+    WriteText(root / "F/file", "old");
+    std::thread other(save, 'b');
+    save('a');
+    other.join();
+    const std::string old = Text("file");
+    EXPECT_EQ(old, std::string(9000, old.at(0)));
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit room{};
+    getrlimit(RLIMIT_FSIZE, &room);
+    const rlimit little{2000, room.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &little);
+    EXPECT_FALSE(Save("file", std::string(4000, 'n')) || Save("new", std::string(4000, 'n')));
+    setrlimit(RLIMIT_FSIZE, &room);
+    EXPECT_EQ(std::pair(Text("file") == old, Entries()), std::pair(true, std::ptrdiff_t{1}));
 }
 
 TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
