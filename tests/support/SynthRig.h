@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <cstdint>
 #include <filesystem>
@@ -70,7 +71,7 @@ struct Host : CPluginWrapper {
     bool realTime = false; // offline: blocks wait for what they ask the loader
     std::function<void()> whenTold = [] {};
     std::mutex lock;
-    int told = 0;
+    std::atomic<int> told{0};
     std::vector<std::pair<int, float>> reports;
 };
 

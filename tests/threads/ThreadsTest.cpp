@@ -1,0 +1,183 @@
+// Whoever comes beside the audio thread: hosts, editors, other instances.
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <cstdlib>
+#include <functional>
+#include <random>
+#include <thread>
+
+#include "framework/ParameterTable.h"
+#include "support/SynthRig.h"
+
+namespace korvane {
+namespace {
+
+class Threads : public SynthTest {
+protected:
+    /// One of the threads; it does something else each time.
+    struct Worker {
+        const char* name;
+        std::function<void(Worker&)> act;
+        int acts = 0;
+        std::mt19937 random{static_cast<unsigned>(*name)};
+
+        int Below(int n) { return static_cast<int>(random() % static_cast<unsigned>(n)); }
+        bool Often(int times) { return Below(times) == 0; } // one time of so many
+        float Value() { return static_cast<float>(Below(5)) / 4.0f; }
+    };
+
+    static std::chrono::duration<double> Duration()
+    {
+#ifdef __SANITIZE_THREAD__
+        constexpr double kSeconds = 20.0;
+#else
+        constexpr double kSeconds = 3.0;
+#endif
+        const char* seconds = std::getenv("KORVANE_STRESS_SECONDS");
+        return std::chrono::duration<double>(seconds ? std::atof(seconds) : kSeconds);
+    }
+
+    std::vector<std::uint8_t> State()
+    {
+        std::vector<std::uint8_t> state(static_cast<std::size_t>(Synth().GetBankChunk(nullptr)));
+        state.resize(static_cast<std::size_t>(Synth().GetBankChunk(state.data()))); // locks may have gone meanwhile
+        return state;
+    }
+    bool Restore(const std::vector<std::uint8_t>& state)
+    {
+        return Synth().SetBankChunk(state.data(), static_cast<int>(std::ssize(state))) == std::ssize(state);
+    }
+
+    /// Whatever a host sends with a block. Every sample of it is a number.
+    void Audio(Worker& worker)
+    {
+        Synth().SetTempo(60.0 + worker.Below(200));
+        Synth().songPosition = worker.Below(64);
+        if (worker.Often(50)) Synth().SetPlaying(worker.Often(2));
+        if (worker.Often(9)) Synth().SetParameter(param::Play, worker.Value()); // as a MIDI link does
+        for (const int status : {0x80, 0x90, 0xB0, 0xC0, 0xD0, 0xE0}) {
+            const int data = status < 0xB0 || worker.Often(20) ? worker.Below(128) : 1;
+            Synth().QueueEvent(static_cast<std::uint8_t>(status), static_cast<std::uint8_t>(data),
+                               static_cast<std::uint8_t>(worker.Below(128)), 0, 0);
+        }
+        std::array<float*, 28> pointers;
+        for (std::size_t n = 0; n < outputs.size(); ++n) pointers[n] = outputs[n].data();
+        const int frames = 1 + worker.Below(kFrames);
+        Synth().ProcessBlock(nullptr, pointers.data(), frames, true);
+        for (const auto& output : outputs)
+            for (int n = 0; n < frames; ++n) finite = finite && std::isfinite(output[static_cast<std::size_t>(n)]);
+    }
+    /// Automation, states, programs, sample rates.
+    void Automate(Worker& worker)
+    {
+        for (int n = 0; n < 20; ++n) Synth().SetParameter(worker.Below(param::Count), worker.Value());
+        Synth().SetPlaying(worker.Often(3));
+        if (worker.Often(20)) saved = State();
+        if (worker.Often(40) && !saved.empty()) restored = restored && Restore(saved);
+        if (worker.Often(40)) Synth().SetProgram(worker.Below(3));
+        if (worker.Often(100)) Synth().SetSampleRate(worker.Often(2) ? 44100.0 : 96000.0 + worker.Below(9));
+    }
+    /// Grooves, parts and programs to files and back.
+    void File(Worker& worker)
+    {
+        const std::string kinds[] = {"groove", "part", "program"};
+        const auto path = [&] { return Path(("stress." + kinds[worker.Below(3)]).c_str()); };
+        switch (worker.Below(8)) {
+        case 0: Synth().SaveGrooveFile(Path("stress.groove").c_str()); break;
+        case 1: Synth().SavePartFile(Path("stress.part").c_str()); break;
+        case 2: Synth().SaveProgramFile(Path("stress.program").c_str()); break;
+        case 3: Synth().LoadGrooveFile(path().c_str()); break;
+        case 4: Synth().LoadPartFile(path().c_str()); break;
+        case 5: Synth().LoadProgramFile(path().c_str()); break;
+        default: std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+    }
+    /// What a user sees and does.
+    void Edit(Worker& worker)
+    {
+        const int c = worker.Below(kChannels), step = worker.Below(kSteps);
+        for (const int press : {+param::Copy, +param::Paste, +param::Clear, +param::Record, param::Step1 + step % 24})
+            Synth().SetParameter(press, worker.Value());
+        Engine().score.Current().locks[c][step].Set(worker.Below(kChannelSlots), worker.Value() - 0.5f);
+        MixerStrip& strip = Engine().Channel(c).strip;
+        for (Shared<float>* meter : {&strip.peakLeft, &strip.peakRight}) {
+            finite = finite && std::isfinite(static_cast<float>(*meter));
+            *meter = 0.0f;
+        }
+        char text[512];
+        Synth().GetParameterDisplay(Engine().clock.patternStep, text);
+        Synth().GetLastParameterText(text);
+        Synth().links.Link(worker.Often(2));
+        const char* const files[] = {"Drum Samples/Deep Clap.wav", "Synth Waves/Saw.wav", "no file"};
+        if (worker.Often(30)) Synth().LoadSample(c, worker.Below(kSampleSlots), Path(files[worker.Below(3)]).c_str());
+    }
+    /// Another instance, from its first to its last block.
+    static void Open(Worker& worker)
+    {
+        Host its;
+        KVInstrument other(&its);
+        other.SetSampleRate(44100.0);
+        other.SetProgram(0);
+        other.SetPlaying(true);
+        for (int n = worker.Below(20); n > 0; --n) other.ProcessBlock(nullptr, nullptr, kFrames, true);
+    }
+
+    static constexpr int kFrames = 512;
+    const BundleRoot bundle;
+    std::array<std::vector<float>, 28> outputs;
+    std::vector<std::uint8_t> saved; // host
+    std::atomic<bool> finite{true}, restored{true};
+};
+
+// All at once for a while, in any order; the sanitizers watch. What then stands is kept by a save and a load.
+TEST_F(Threads, DoAsTheyLike)
+{
+    for (auto& output : outputs) output.resize(kFrames);
+    Synth().SetSampleRate(48000.0);
+    Synth().SetProgram(0);
+    Worker workers[] = {
+        {"audio", [this](Worker& worker) { Audio(worker); }},
+        {"host", [this](Worker& worker) { Automate(worker); }},
+        {"files", [this](Worker& worker) { File(worker); }},
+        {"editor", [this](Worker& worker) { Edit(worker); }},
+        {"other instances", [](Worker& worker) { Open(worker); }},
+    };
+    const auto end = std::chrono::steady_clock::now() + Duration();
+    std::vector<std::thread> threads;
+    for (Worker& worker : workers)
+        threads.emplace_back([&worker, end] {
+            for (; std::chrono::steady_clock::now() < end; ++worker.acts) worker.act(worker);
+        });
+    for (std::thread& thread : threads) thread.join();
+    for (const Worker& worker : workers) EXPECT_GT(worker.acts, 2) << worker.name;
+    EXPECT_TRUE(finite);
+    EXPECT_TRUE(restored);
+    const auto kept = State();
+    EXPECT_TRUE(Restore(kept));
+    EXPECT_EQ(State(), kept);
+}
+
+// Two host threads name the program and ask for its name: each sees one of the names whole.
+TEST_F(Threads, SeeWholeNames)
+{
+    const std::string names[] = {std::string(200, 'a'), std::string(90, 'b')};
+    std::atomic<int> torn{0};
+    const auto rename = [&](const std::string& name) {
+        for (int n = 0; n < 30000; ++n) {
+            for (int k = 0; k < 10; ++k) Synth().SetProgramName(0, name.c_str());
+            const std::string seen = Written([this](char* text) { Synth().GetProgramName(0, text); });
+            torn += seen != names[0] && seen != names[1];
+        }
+    };
+    Synth().SetProgramName(0, names[0].c_str());
+    std::thread other([&] { rename(names[1]); });
+    rename(names[0]);
+    other.join();
+    EXPECT_EQ(torn, 0);
+}
+
+} // namespace
+} // namespace korvane
