@@ -9,6 +9,8 @@
 #include <sstream>
 #include <string>
 #include <thread>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "framework/CSynthesizer.h"
@@ -20,7 +22,7 @@ namespace {
 
 /// Writes down what it is told, each thing in brackets.
 struct Listener : CSynthesizer {
-    Listener() : CSynthesizer(nullptr)
+    explicit Listener(CPluginWrapper* bridge = nullptr) : CSynthesizer(bridge)
     {
         SMX_Def::Install();
         AddProgram(std::make_unique<KVProgram>());
@@ -169,6 +171,55 @@ TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
     EXPECT_FALSE(switchedTooEarly);
     EXPECT_TRUE(switched);
     EXPECT_EQ(synth.CurrentProgram(), 0);
+}
+
+/// A host that does something with a report, but not with those that come of it.
+struct Host : CPluginWrapper {
+    void ParameterAutomated(int, float) override
+    {
+        if (whenTold && !std::exchange(busy, true)) {
+            whenTold();
+            busy = false;
+        }
+    }
+    CPluginEditor* GetEditor() override { return nullptr; }
+    void BeginEdit(int) override {}
+    void EndEdit(int) override {}
+    bool RealTime() { return true; }
+
+    std::function<void()> whenTold;
+    bool busy = false;
+};
+
+// Two threads switch while a third renders without a pause, and each of them does so again from within.
+TEST(Handshake, LetsEverybodyThrough)
+{
+    Host host;
+    Listener synth(&host);
+    const auto switches = [&] { synth.SetProgram(0); };
+    const auto renders = [&] { synth.ProcessBlock(nullptr, nullptr, 9, true); };
+    const std::tuple<const char*, std::function<void()>, std::function<void()>> cases[] = {
+        {"at once", {}, {}},
+        {"a switch in a report", switches, {}},
+        {"a switch in a block", {}, switches},
+        {"a block in a report", renders, {}},
+        {"a block in a block", {}, renders},
+        {"switches in both", switches, switches},
+    };
+    for (const auto& [what, inReport, inBlock] : cases) {
+        SCOPED_TRACE(what);
+        std::tie(host.whenTold, synth.duringBlock) = std::tie(inReport, inBlock);
+        std::atomic<int> left{2};
+        const auto run = [&] {
+            for (int n = 0; n < 5; ++n) switches();
+            --left;
+        };
+        std::thread one(run), other(run);
+        while (left > 0) renders();
+        one.join();
+        other.join();
+        EXPECT_EQ(synth.Play(9), "[render 9]");
+    }
 }
 
 } // namespace
