@@ -90,8 +90,9 @@ TEST_F(Commands, ALaneIsBuiltAndTestedInItsOwnFolder)
              {"cmake -S " + root + " --preset " + preset + " -DKORVANE_TESTS=ON\n",
               "cmake --build " + root + build + " ", "ctest --test-dir " + root + build + " "})
             EXPECT_TRUE(answer.Called(call)) << call << answer.calls;
-        EXPECT_TRUE(answer.Called(" -R Word\n")) << answer.calls;
+        EXPECT_TRUE(answer.Called(" -LE stress -R Word\n")) << answer.calls;
     }
+    EXPECT_FALSE(Run("test -L stress").Called("-LE"));
     for (const std::string wrong : {"debugg", "memcheck -R Word", "format -R Word", "all -R Word"}) {
         const Answer answer = Run("test " + wrong);
         EXPECT_EQ(std::pair(answer.status, answer.calls), std::pair(2, std::string())) << wrong;
