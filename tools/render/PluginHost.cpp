@@ -11,13 +11,14 @@
 
 namespace korvane::render {
 
-VstTimeInfo PluginHost::time{};
-
-std::intptr_t PluginHost::Callback(AEffect*, std::int32_t opcode, std::int32_t, std::intptr_t, void* pointer, float)
+std::intptr_t PluginHost::Callback(AEffect* effect, std::int32_t opcode, std::int32_t, std::intptr_t, void* pointer,
+                                   float)
 {
+    const auto* host = effect ? static_cast<const PluginHost*>(effect->user) : nullptr; // null while it is made
     switch (opcode) {
     case host_request::Version: return 2400;
-    case host_request::GetTime: return reinterpret_cast<std::intptr_t>(&time);
+    case host_request::GetTime: return host ? reinterpret_cast<std::intptr_t>(&host->time) : 0;
+    case host_request::ProcessLevel: return host && host->realTime ? kRealTimeLevel : 0;
     case host_request::VendorString:
     case host_request::ProductString: std::strcpy(static_cast<char*>(pointer), "korvane-render"); return 1;
     default: return 0;
@@ -26,8 +27,6 @@ std::intptr_t PluginHost::Callback(AEffect*, std::int32_t opcode, std::int32_t, 
 
 PluginHost::PluginHost(const std::string& path, double rate, int blockFrames)
 {
-    time = {};
-    time.sampleRate = rate;
     time.tempo = 120.0;
     time.timeSignatureNumerator = time.timeSignatureDenominator = 4;
     time.flags = time_flag::TempoValid | time_flag::PpqPositionValid;
@@ -40,12 +39,23 @@ PluginHost::PluginHost(const std::string& path, double rate, int blockFrames)
         dlclose(library);
         throw Failure("'" + path + "' is no VST 2 plug-in that plays here");
     }
-    inputs.assign(static_cast<std::size_t>(effect->numInputs),
-                  std::vector<float>(static_cast<std::size_t>(blockFrames)));
-    outputs.assign(static_cast<std::size_t>(effect->numOutputs),
-                   std::vector<float>(static_cast<std::size_t>(blockFrames)));
+    effect->user = this;
     Ask(request::Open);
-    Ask(request::SetSampleRate, 0, 0, nullptr, static_cast<float>(rate));
+    SetFormat(rate, blockFrames);
+}
+
+void PluginHost::SetFormat(double rate, int blockFrames)
+{
+    Ask(request::MainsChanged, 0, 0);
+    time.sampleRate = rate;
+    const auto make = [blockFrames](int count, auto& buffers, auto& begins) {
+        buffers.assign(static_cast<std::size_t>(count), std::vector<float>(static_cast<std::size_t>(blockFrames)));
+        begins.clear();
+        for (auto& buffer : buffers) begins.push_back(buffer.data());
+    };
+    make(effect->numInputs, inputs, in);
+    make(effect->numOutputs, outputs, out);
+    SetRate(rate);
     Ask(request::SetBlockSize, 0, blockFrames);
     Ask(request::MainsChanged, 0, 1);
 }
@@ -112,15 +122,12 @@ void PluginHost::SetPlaying(bool running)
 void PluginHost::Render(int frames)
 {
     if (!events.empty()) {
-        std::vector<std::uint8_t> list(sizeof(VstEvents) + events.size() * sizeof(VstEvent*));
+        list.resize(sizeof(VstEvents) + events.size() * sizeof(VstEvent*));
         auto* all = reinterpret_cast<VstEvents*>(list.data());
         all->numEvents = static_cast<std::int32_t>(events.size());
         for (std::size_t n = 0; n < events.size(); ++n) (&all->events[0])[n] = reinterpret_cast<VstEvent*>(&events[n]);
         Ask(request::ProcessEvents, 0, 0, all);
     }
-    std::vector<float*> in, out;
-    for (auto& buffer : inputs) in.push_back(buffer.data());
-    for (auto& buffer : outputs) out.push_back(buffer.data());
     effect->processReplacing(effect, in.data(), out.data(), frames);
     events.clear();
     time.flags &= ~time_flag::TransportChanged;

@@ -9,13 +9,21 @@
 
 namespace korvane::render {
 
-/// Loads a plug-in, hands it events, time and transport, and renders it block by block. One thread.
+/// Loads a plug-in, hands it events, time and transport, and renders it block by block. One thread; states, parameters
+/// and the format may come from another while it renders.
 class PluginHost {
 public:
     /// Throws Failure when the file is no plug-in or refuses this host.
     PluginHost(const std::string& path, double rate, int blockFrames);
     ~PluginHost();
     PluginHost(const PluginHost&) = delete;
+
+    /// A new rate and longest block. Not while it renders.
+    void SetFormat(double rate, int blockFrames);
+    void SetRate(double rate) { Ask(request::SetSampleRate, 0, 0, nullptr, static_cast<float>(rate)); }
+    void SetProgram(int index) { Ask(request::SetProgram, 0, index); }
+    /// Tells the plug-in that its blocks must wait for nothing.
+    void SetRealTime(bool strict) { realTime = strict; }
 
     /// The index of a parameter by what the user calls it, see FindName.
     int FindParameter(const std::string& name) const;
@@ -31,9 +39,10 @@ public:
     void SetTempo(double bpm) { time.tempo = bpm; }
     void SetPosition(double quarterNotes) { time.ppqPosition = quarterNotes; }
     void SetPlaying(bool running);
-    /// Renders into Output; frames up to blockFrames.
+    /// Renders into Output; frames up to blockFrames. Asks for no memory where events are as many as before.
     void Render(int frames);
 
+    int Parameters() const { return effect->numParams; }
     int Pairs() const { return effect->numOutputs / 2; }
     std::string PairName(int pair) const;
     const float* Output(int channel) const { return outputs[static_cast<std::size_t>(channel)].data(); }
@@ -46,11 +55,14 @@ private:
         return effect->dispatcher(effect, opcode, index, value, pointer, option);
     }
 
-    static VstTimeInfo time; // the callback before creation has no plug-in to ask for
+    VstTimeInfo time{};
+    bool realTime = false;
     void* library = nullptr;
     AEffect* effect = nullptr;
     std::vector<std::vector<float>> inputs, outputs;
+    std::vector<float*> in, out; // where these begin
     std::vector<VstMidiEvent> events;
+    std::vector<std::uint8_t> list; // as the plug-in gets them
 };
 
 } // namespace korvane::render
