@@ -185,7 +185,7 @@ struct Host : CPluginWrapper {
     CPluginEditor* GetEditor() override { return nullptr; }
     void BeginEdit(int) override {}
     void EndEdit(int) override {}
-    bool RealTime() { return true; }
+    bool RealTime() override { return true; }
 
     std::function<void()> whenTold;
     bool busy = false;

@@ -91,7 +91,7 @@ TEST_F(RealTime, NothingIsAskedOfTheSystem)
         std::function<void(int)> intake; // before each block, as if a part of it
         std::function<bool(int)> beside; // twenty times, on another thread, while blocks run
     };
-    const auto wait = [](int) { return std::this_thread::sleep_for(std::chrono::milliseconds(5)), true; };
+    const auto wait = [](int) { return std::this_thread::sleep_for(std::chrono::milliseconds(2)), true; };
     const Scene scenes[] = {
         {"a groove plays", {}, wait},
         {"the audio thread moves parameters", [this](int n) { Synth().SetParameter(n % param::Count, 0.5f); }, wait},
