@@ -54,6 +54,7 @@ protected:
     /// Whatever a host sends with a block. Every sample of it is a number.
     void Audio(Worker& worker)
     {
+        host.realTime = worker.Often(2);
         Synth().SetTempo(60.0 + worker.Below(200));
         Synth().songPosition = worker.Below(64);
         if (worker.Often(50)) Synth().SetPlaying(worker.Often(2));
@@ -85,13 +86,14 @@ protected:
     {
         const std::string kinds[] = {"groove", "part", "program"};
         const auto path = [&] { return Path(("stress." + kinds[worker.Below(3)]).c_str()); };
-        switch (worker.Below(8)) {
+        switch (worker.Below(9)) {
         case 0: Synth().SaveGrooveFile(Path("stress.groove").c_str()); break;
         case 1: Synth().SavePartFile(Path("stress.part").c_str()); break;
         case 2: Synth().SaveProgramFile(Path("stress.program").c_str()); break;
         case 3: Synth().LoadGrooveFile(path().c_str()); break;
         case 4: Synth().LoadPartFile(path().c_str()); break;
         case 5: Synth().LoadProgramFile(path().c_str()); break;
+        case 6: Synth().SaveGrooveWithSamples(Path("with samples.groove").c_str()); break;
         default: std::this_thread::sleep_for(std::chrono::milliseconds(1));
         }
     }
@@ -108,13 +110,14 @@ protected:
             *meter = 0.0f;
         }
         char text[512];
+        Engine().Channel(c).sound.sampleSlots[step % kSampleSlots].name.Get(text);
         Synth().GetParameterDisplay(Engine().clock.patternStep, text);
         Synth().GetLastParameterText(text);
         Synth().links.Link(worker.Often(2));
         const char* const files[] = {"Drum Samples/Deep Clap.wav", "Synth Waves/Saw.wav", "no file"};
         if (worker.Often(30)) Synth().LoadSample(c, worker.Below(kSampleSlots), Path(files[worker.Below(3)]).c_str());
     }
-    /// Another instance, from its first to its last block.
+    /// Another instance, closed while it loads a program.
     static void Open(Worker& worker)
     {
         Host its;
@@ -122,7 +125,11 @@ protected:
         other.SetSampleRate(44100.0);
         other.SetProgram(0);
         other.SetPlaying(true);
-        for (int n = worker.Below(20); n > 0; --n) other.ProcessBlock(nullptr, nullptr, kFrames, true);
+        its.realTime = true;
+        for (int n = worker.Below(20); n > 0; --n) {
+            other.QueueEvent(0xB0, 32, 0, 0, 0);
+            other.ProcessBlock(nullptr, nullptr, kFrames, true);
+        }
     }
 
     static constexpr int kFrames = 512;

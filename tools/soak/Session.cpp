@@ -25,6 +25,8 @@ void Session::Run()
     for (int n = 3 + Below(6); n > 0; --n) (this->*kActs[Below(std::size(kActs))])();
     Play();
     Reopen();
+    host.SetRealTime(true);
+    Play(); // and is closed while it loads
 }
 
 void Session::ChangeFormat()
@@ -89,6 +91,8 @@ State Session::Settled(PluginHost& played)
 
 void Session::Reopen()
 {
+    host.SetRealTime(false);
+    host.QueueMidi(0, 0xC0, 0, 0); // waits for those that came before it, too
     const State saved = Settled(host);
     PluginHost other(plugin, rate, blockFrames);
     other.SetState(saved, "its own state");
