@@ -159,7 +159,7 @@ TEST_F(Threads, DoAsTheyLike)
             for (; std::chrono::steady_clock::now() < end; ++worker.acts) worker.act(worker);
         });
     for (std::thread& thread : threads) thread.join();
-    for (const Worker& worker : workers) EXPECT_GT(worker.acts, 2) << worker.name;
+    for (const Worker& worker : workers) EXPECT_GT(worker.acts, 0) << worker.name;
     EXPECT_TRUE(finite);
     EXPECT_TRUE(restored);
     const auto kept = State();

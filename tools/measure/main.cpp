@@ -13,11 +13,18 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Row(const char* what, const Times& times, const char* unit = "µs", double scale = 1.0)
+/// Blocks, of which some may come too late.
+void Row(const char* what, const Times& times)
 {
-    std::printf("| %s | %.1f %s | %.1f %s | %ld of %zu |\n", what, times.Median() / scale, unit,
-                times.Longest() / scale, unit, times.Above(kBlockMicros), times.micros.size());
+    std::printf("| %s | %.0f µs | %.0f µs | %ld of %zu |\n", what, times.Median(), times.Longest(),
+                times.Above(kBlockMicros), times.micros.size());
     std::fflush(stdout);
+}
+
+/// What a host waits for.
+void SlowRow(const char* what, const Times& times)
+{
+    std::printf("| %s | %.1f ms | %.1f ms | |\n", what, times.Median() / 1000.0, times.Longest() / 1000.0);
 }
 
 void Sleep(double seconds) { std::this_thread::sleep_for(std::chrono::duration<double>(seconds)); }
@@ -52,7 +59,7 @@ void Swaps(const Subject& subject)
     Times swaps, starts;
     for (const auto& [begin, end] : spans)
         swaps.micros.push_back(*std::max_element(all.micros.begin() + begin, all.micros.begin() + end));
-    Row("The longest block while a state is loaded", swaps);
+    Row("The longest block of each that loads a state", swaps);
     for (int n = 0; n < 40; ++n) {
         const auto opened = subject.Open();
         opened->SetState(subject.Heaviest().bytes, "");
@@ -94,9 +101,9 @@ void Loads(const Subject& subject)
         big.micros.push_back(Micros([&] { load(bigGroove); }));
     }
     fs::remove_all(folder);
-    Row("Opening an instance", opens, "ms", 1000.0);
-    Row("Loading a groove, to its first block", loads, "ms", 1000.0);
-    Row("Loading 32 samples of 2 MB, likewise", big, "ms", 1000.0);
+    SlowRow("Opening an instance", opens);
+    SlowRow("Loading a groove, to its first block", loads);
+    SlowRow("Loading 32 samples of 2 MB, likewise", big);
 }
 
 /// Blocks follow each other without a pause.
@@ -115,8 +122,8 @@ void Switches(const Subject& subject)
     }
     running = false;
     audio.join();
-    Row("Switching the program under back-to-back blocks", programs, "ms", 1000.0);
-    Row("Switching the rate under back-to-back blocks", rates, "ms", 1000.0);
+    SlowRow("Switching the program under back-to-back blocks", programs);
+    SlowRow("Switching the rate under back-to-back blocks", rates);
 }
 
 /// As a host without flush-to-zero has it.

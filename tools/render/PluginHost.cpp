@@ -41,12 +41,17 @@ PluginHost::PluginHost(const std::string& path, double rate, int blockFrames)
     }
     effect->user = this;
     Ask(request::Open);
-    SetFormat(rate, blockFrames);
+    Start(rate, blockFrames);
 }
 
 void PluginHost::SetFormat(double rate, int blockFrames)
 {
     Ask(request::MainsChanged, 0, 0);
+    Start(rate, blockFrames);
+}
+
+void PluginHost::Start(double rate, int blockFrames)
+{
     time.sampleRate = rate;
     const auto make = [blockFrames](int count, auto& buffers, auto& begins) {
         buffers.assign(static_cast<std::size_t>(count), std::vector<float>(static_cast<std::size_t>(blockFrames)));

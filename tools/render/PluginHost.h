@@ -48,6 +48,7 @@ public:
     const float* Output(int channel) const { return outputs[static_cast<std::size_t>(channel)].data(); }
 
 private:
+    void Start(double rate, int blockFrames);
     static std::intptr_t Callback(AEffect*, std::int32_t opcode, std::int32_t, std::intptr_t, void* pointer, float);
     std::intptr_t Ask(std::int32_t opcode, std::int32_t index = 0, std::intptr_t value = 0, void* pointer = nullptr,
                       float option = 0.0f) const

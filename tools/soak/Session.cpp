@@ -26,7 +26,7 @@ void Session::Run()
     Play();
     Reopen();
     host.SetRealTime(true);
-    Play(); // and is closed while it loads
+    PlayBlocks(3); // and is closed while it loads
 }
 
 void Session::ChangeFormat()
@@ -37,12 +37,12 @@ void Session::ChangeFormat()
     host.SetFormat(rate, blockFrames);
 }
 
-void Session::Play()
+void Session::PlayBlocks(int blocks)
 {
     host.SetTempo(40.0 + Below(260));
     host.SetPosition(Below(64));
     host.SetPlaying(Below(4) > 0);
-    for (int block = 0; block < 20; ++block) {
+    for (; blocks > 0; --blocks) {
         for (int n = Below(4); n > 0; --n)
             host.QueueMidi(0, static_cast<std::uint8_t>(0x80 + 16 * Below(7)), Byte(128), Byte(128));
         if (Below(10) == 0) host.QueueMidi(0, 0xB0, 32, Byte(8)); // bank select

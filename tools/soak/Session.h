@@ -25,7 +25,8 @@ public:
 
 private:
     void ChangeFormat();
-    void Play();
+    void Play() { PlayBlocks(20); }
+    void PlayBlocks(int blocks);
     void Edit();
     void Load();
     void LoadDamaged();
