@@ -1,21 +1,16 @@
 // MIDI events, chunks and the program-switch handshake of the framework.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
-#include <atomic>
 #include <chrono>
 #include <functional>
 #include <sstream>
-#include <string>
 #include <thread>
 #include <tuple>
-#include <utility>
-#include <vector>
 
 #include "framework/CSynthesizer.h"
 #include "framework/KVProgram.h"
-#include "shell/SMX_Def.h"
+#include "support/SynthRig.h"
 
 namespace korvane {
 namespace {
@@ -173,19 +168,15 @@ TEST(Handshake, SkipsBlocksAndWaitsForTheRunningOne)
     EXPECT_EQ(synth.CurrentProgram(), 0);
 }
 
-/// A host that does something with a report, but not with those that come of it.
-struct Host : CPluginWrapper {
+/// Does something with a report, but not with those that come of it.
+struct BusyHost : Host {
     void ParameterAutomated(int, float) override
     {
-        if (whenTold && !std::exchange(busy, true)) {
-            whenTold();
-            busy = false;
-        }
+        if (!whenTold || busy) return;
+        busy = true;
+        whenTold();
+        busy = false;
     }
-    CPluginEditor* GetEditor() override { return nullptr; }
-    void BeginEdit(int) override {}
-    void EndEdit(int) override {}
-    bool RealTime() override { return true; }
 
     std::function<void()> whenTold;
     bool busy = false;
@@ -194,7 +185,7 @@ struct Host : CPluginWrapper {
 // Two threads switch while a third renders without a pause, and each of them does so again from within.
 TEST(Handshake, LetsEverybodyThrough)
 {
-    Host host;
+    BusyHost host;
     Listener synth(&host);
     const auto switches = [&] { synth.SetProgram(0); };
     const auto renders = [&] { synth.ProcessBlock(nullptr, nullptr, 9, true); };

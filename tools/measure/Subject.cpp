@@ -24,10 +24,10 @@ Subject::Subject() : bundle(fs::read_symlink("/proc/self/exe").parent_path().par
     for (const auto& file : fs::directory_iterator(bundle / "Grooves")) {
         const Groove groove{file.path().stem().string(), render::ReadFile(file.path())};
         const auto host = Playing(groove);
-        byCost.emplace(-Micros([&host] {
-            for (int n = 0; n < 8 * static_cast<int>(kRate) / kFrames; ++n) host->Render(kFrames);
-        }),
-                       groove);
+        Times times;
+        for (int n = 0; n < 8 * static_cast<int>(kRate) / kFrames; ++n)
+            times.micros.push_back(Micros([&host] { host->Render(kFrames); }));
+        byCost.emplace(-times.Median(), groove);
     }
     for (auto& [cost, groove] : byCost) grooves.push_back(std::move(groove));
 }
@@ -50,26 +50,15 @@ std::unique_ptr<PluginHost> Subject::Playing(const Groove& groove, double rate) 
 
 Groove BigGroove(const Groove& like, const fs::path& folder)
 {
-    constexpr std::uint32_t kBytes = 2'000'000;
+    constexpr std::size_t kBytes = 2'000'000;
+    constexpr char kHeader[] = "RIFF\xA4\x84\x1E\0WAVEfmt \x10\0\0\0\1\0\1\0\x80\xBB\0\0\0\x77\1\0\2\0\x10\0"
+                               "data\x80\x84\x1E"; // mono, 48 kHz, 16 bits
+    static_assert(sizeof kHeader == 44);
     fs::create_directories(folder);
-    struct Header {
-        char riff[4] = {'R', 'I', 'F', 'F'};
-        std::uint32_t rest = kBytes + 36;
-        char wave[8] = {'W', 'A', 'V', 'E', 'f', 'm', 't', ' '};
-        std::uint32_t formatBytes = 16;
-        std::uint16_t integers = 1, channels = 1;
-        std::uint32_t rate = 48000, bytesPerSecond = 96000;
-        std::uint16_t frameBytes = 2, bits = 16;
-        char data[4] = {'d', 'a', 't', 'a'};
-        std::uint32_t bytes = kBytes;
-    };
-    static_assert(sizeof(Header) == 44);
-    const Header header;
-    const std::string sound(kBytes, '\x11');
     Groove groove{"32 samples of 2 MB", like.bytes};
     for (int n = 0; n < kSamplerChannels * kLayers; ++n) {
         const std::string path = (folder / (std::to_string(n) + ".wav")).string();
-        std::ofstream(path, std::ios::binary).write(reinterpret_cast<const char*>(&header), sizeof header) << sound;
+        std::ofstream(path, std::ios::binary).write(kHeader, sizeof kHeader) << std::string(kBytes, '\x11');
         const int chunk = kStateHeaderBytes + n / kLayers * (4 + kChannelChunkBytes) + 4;
         char* const text = reinterpret_cast<char*>(
             &groove.bytes[static_cast<std::size_t>(chunk + 4 + (kFirstLayerSlot + n % kLayers) * kImagePathBytes)]);

@@ -34,7 +34,7 @@ struct Subject {
     const Groove& Lightest() const { return grooves.back(); }
 
     std::filesystem::path bundle;
-    std::vector<Groove> grooves; // the heaviest first, by the mean time of its blocks
+    std::vector<Groove> grooves; // the heaviest first, by the median of its blocks
 };
 
 /// A groove whose 32 sampler layers each play a file of two megabytes, written to a folder.

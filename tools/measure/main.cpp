@@ -1,11 +1,10 @@
 // korvane-measure: what blocks, states and instances cost on this machine, in real time.
-#include <xmmintrin.h>
-
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
 
 #include "measure/Player.h"
+#include "platform/FlushToZero.h"
 #include "render/Memory.h"
 
 namespace korvane::measure {
@@ -28,6 +27,16 @@ void SlowRow(const char* what, const Times& times)
 }
 
 void Sleep(double seconds) { std::this_thread::sleep_for(std::chrono::duration<double>(seconds)); }
+
+/// Does it on a thread that nobody interrupts, without flush-to-zero, as threads of many hosts are.
+void Alone(const std::function<void()>& act)
+{
+    std::thread([&act] {
+        Player::ComeFirst();
+        _mm_setcsr(_mm_getcsr() & ~kFlushToZeroBit);
+        act();
+    }).join();
+}
 
 /// The heaviest groove, in real time, while something is done beside it four times a second.
 void Play(const char* what, const Subject& subject, double seconds, const std::function<void(PluginHost&, int)>& beside,
@@ -64,7 +73,7 @@ void Swaps(const Subject& subject)
         const auto opened = subject.Open();
         opened->SetState(subject.Heaviest().bytes, "");
         opened->SetPlaying(true);
-        starts.micros.push_back(Micros([&] { opened->Render(kFrames); }));
+        Alone([&] { starts.micros.push_back(Micros([&] { opened->Render(kFrames); })); });
     }
     Row("First block of an instance", starts);
 }
@@ -126,15 +135,15 @@ void Switches(const Subject& subject)
     SlowRow("Switching the rate under back-to-back blocks", rates);
 }
 
-/// As a host without flush-to-zero has it.
 void Silence(const Subject& subject)
 {
-    _mm_setcsr(_mm_getcsr() & ~0x8040u);
     const auto host = subject.Playing(subject.Heaviest());
     const auto play = [&host](double seconds) {
         Times times;
-        for (int n = 0; n < static_cast<int>(seconds * kRate) / kFrames; ++n)
-            times.micros.push_back(Micros([&host] { host->Render(kFrames); }));
+        Alone([&] {
+            for (int n = 0; n < static_cast<int>(seconds * kRate) / kFrames; ++n)
+                times.micros.push_back(Micros([&host] { host->Render(kFrames); }));
+        });
         return times;
     };
     Row("Without flush-to-zero, 10 s that sound", play(10.0));
@@ -159,7 +168,7 @@ void Measure(double seconds)
             host.QueueMidi(0, 0xC0, static_cast<std::uint8_t>(n % 5), 0);
     };
     bool first = false;
-    std::thread([&first] { first = Player::ComeFirst(); }).join();
+    Alone([&first] { first = Player::ComeFirst(); });
     std::printf("\"%s\", blocks of %d frames at 48 kHz, which last %.0f µs; %s\n\n| What | Median | Longest | Above a "
                 "block's duration |\n|---|---|---|---|\n",
                 subject.Heaviest().name.c_str(), kFrames, kBlockMicros,
