@@ -9,8 +9,7 @@ namespace korvane {
 
 /// Browses one library folder. Nothing is selected until SelectFolder.
 ///
-/// Threads: one user at a time. The instrument's libraries are walked by the audio thread, for MIDI program changes;
-/// who else browses in them has the engine to itself.
+/// Threads: one user at a time, none of them the audio thread. The instrument's libraries belong to the loader.
 class CPresetList {
 public:
     /// folder     of the library, as ContentFolders has it
