@@ -1,0 +1,7 @@
+// An AIFF file.
+#include "fuzz/Audio.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    return korvane::fuzz::TryAudio(&korvane::CWaveSample::LoadAiff, {data, data + size});
+}

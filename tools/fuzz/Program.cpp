@@ -1,0 +1,9 @@
+// A program file.
+#include "fuzz/Instrument.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    auto& instrument = korvane::fuzz::Instrument::Get();
+    instrument.Try(&korvane::KVInstrument::LoadProgramFile, korvane::fuzz::Altered(instrument.program, data, size));
+    return 0;
+}
