@@ -26,7 +26,7 @@ struct Commands : CommandTest {
         for (const char* name :
              {"apt-get", "clang-format", "cmake", "ctest", "g++", "git", "make", "pkg-config", "valgrind"})
             Stand(name, "");
-        Script(house / "tools/rooms", "");
+        for (const char* script : {"tools/rooms", "fuzz"}) Script(house / script, "");
         Script(house / "build/tools/korvane-render", "for last; do :; done; pwd >\"$last\"");
     }
 
@@ -105,8 +105,8 @@ TEST_F(Commands, AllLanesAreTriedAndThoseThatFailAreNamed)
     Stand("ctest", "case $2 in *-debug) exit 8 ;; esac");
     for (const Answer& all : {Run("test all"), Shell("cd house && env -i PATH='" + bin.string() + "' bash test all")}) {
         EXPECT_EQ(all.status, 1);
-        for (const char* row : {"release    passed", "debug      FAILED", "thread     passed", "format     passed"})
-            EXPECT_TRUE(all.Says(row)) << row << '\n' << all.output;
+        for (const char* row : {"release    passed", "debug      FAILED", "fuzz       passed", "format     passed"})
+            EXPECT_TRUE(all.Says(row) && all.Called("fuzz 20\n")) << row << '\n' << all.output << all.calls;
     }
     Stand("ctest", "");
     EXPECT_EQ(Run("test all").status, 0);
