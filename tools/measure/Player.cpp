@@ -26,8 +26,9 @@ void Player::Run()
     for (int n = 0; running; ++n) {
         due += std::chrono::nanoseconds(static_cast<long>(1000.0 * kBlockMicros));
         std::this_thread::sleep_until(due);
+        if (starting.exchange(false)) host.SetPlaying(true);
         times.micros.push_back(Micros([this, n] {
-            if (intake) intake(n);
+            intake(n);
             host.Render(kFrames);
         }));
         blocks = n + 1;

@@ -14,12 +14,14 @@ namespace korvane::measure {
 class Player {
 public:
     /// before  what is done before each block, on its thread, and counts; its number comes with it
-    explicit Player(PluginHost& played, std::function<void(int)> before = {});
+    explicit Player(PluginHost& played, std::function<void(int)> before);
     /// Puts the calling thread before all others; false where that is not allowed.
     static bool ComeFirst();
     ~Player() { Stop(); }
     Player(const Player&) = delete;
 
+    /// The transport, with its next block.
+    void Start() { starting = true; }
     /// The times of all its blocks.
     const Times& Stop();
     int Blocks() const { return blocks; } // so far
@@ -31,7 +33,7 @@ private:
     const std::function<void(int)> intake;
     Times times;
     std::atomic<int> blocks{0};
-    std::atomic<bool> running{true};
+    std::atomic<bool> running{true}, starting{false};
     std::thread thread;
 };
 

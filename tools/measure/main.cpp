@@ -38,16 +38,16 @@ void Alone(const std::function<void()>& act)
     }).join();
 }
 
-/// The heaviest groove, in real time, while something is done beside it four times a second.
-void Play(const char* what, const Subject& subject, double seconds, const std::function<void(PluginHost&, int)>& beside,
-          const std::function<void(PluginHost&, int)>& intake = {})
+/// The heaviest groove, in real time, while something is done beside it four times a second; whether that stops it.
+void Play(
+    const char* what, const Subject& subject, double seconds, const std::function<bool(PluginHost&, int)>& beside,
+    const std::function<void(PluginHost&, int)>& intake = [](PluginHost&, int) {})
 {
     const auto host = subject.Playing(subject.Heaviest());
-    Player player(*host, [&](int block) {
-        if (intake) intake(*host, block);
-    });
+    Player player(*host, [&](int block) { intake(*host, block); });
     const auto end = Clock::now() + std::chrono::duration<double>(seconds);
-    for (int n = 0; Clock::now() < end; ++n, Sleep(0.25)) beside(*host, n);
+    for (int n = 0; Clock::now() < end; ++n, Sleep(0.25))
+        if (beside(*host, n)) player.Start();
     Row(what, player.Stop());
 }
 
@@ -55,13 +55,14 @@ void Play(const char* what, const Subject& subject, double seconds, const std::f
 void Swaps(const Subject& subject)
 {
     const auto host = subject.Playing(subject.Heaviest());
-    Player player(*host);
+    Player player(*host, [](int) {});
     std::vector<std::pair<int, int>> spans; // of blocks, from before a load to the one after it
     for (int n = 0; n < 40; ++n) {
         Sleep(0.25);
         const int begin = player.Blocks();
         host->SetState(subject.Heaviest().bytes, "");
         spans.emplace_back(begin, player.Blocks() + 2);
+        player.Start();
     }
     Sleep(0.1);
     const Times& all = player.Stop();
@@ -154,9 +155,9 @@ void Silence(const Subject& subject)
 void Measure(double seconds)
 {
     const Subject subject;
-    const auto none = [](PluginHost&, int) {};
     const auto loads = [&](PluginHost& host, int n) {
         host.SetState((n % 2 ? subject.Heaviest() : subject.Lightest()).bytes, "");
+        return true;
     };
     const auto programs = [](PluginHost& host, int block) { // bank and program, in turn
         constexpr int kPause = 100;
@@ -173,9 +174,10 @@ void Measure(double seconds)
                 "block's duration |\n|---|---|---|---|\n",
                 subject.Heaviest().name.c_str(), kFrames, kBlockMicros,
                 first ? "the player comes before all other threads (SCHED_FIFO)" : "no SCHED_FIFO here");
-    Play("A groove plays", subject, seconds, none);
+    Play("A groove plays", subject, seconds, [](PluginHost&, int) { return false; });
     Play("States and programs are loaded beside it", subject, seconds, loads, programs);
-    Play("Instances are opened and closed beside it", subject, seconds, [&](PluginHost&, int) { subject.Open(); });
+    Play("Instances are opened and closed beside it", subject, seconds,
+         [&](PluginHost&, int) { return !subject.Open(); });
     Swaps(subject);
     Memory(subject);
     Loads(subject);
