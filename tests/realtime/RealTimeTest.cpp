@@ -40,7 +40,8 @@ protected:
         Queue(n % 2 ? 0x80 : 0x90, key, 100, n % kFrames);
         Queue(0xB0, n % 32, key, kFrames - 1); // no bank select
         Synth().SetTempo(60.0 + n % 200);
-        if (n % 100 == 0) Synth().SetPlaying(true);
+        Synth().songPosition = 0.02 * n;
+        if (n % 20 == 0) Synth().SetPlaying(true); // a state that was loaded has stopped it
         float* pointers[28];
         for (std::size_t k = 0; k < outputs.size(); ++k) pointers[k] = outputs[k].data();
         Synth().ProcessBlock(nullptr, pointers, kFrames, true);
