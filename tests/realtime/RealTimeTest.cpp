@@ -135,7 +135,8 @@ TEST_F(RealTime, IsWatched)
     // clang-format off
     const std::pair<const char*, std::function<void()>> faults[] = {
         {"malloc 1", [] { memory = std::malloc(9); }},
-        {"realloc 1, free 1", [] { std::free(std::realloc(memory, 999)); }},
+        {"realloc 1", [] { memory = std::realloc(memory, 999); }},
+        {"free 1", [] { std::free(memory); }},
         {"malloc 1, free 1", [] { operator delete(operator new(9)); }},
         {"aligned_alloc 1, free 1", [] { operator delete(operator new(64, unit), unit); }},
         {"calloc 1", [] { memory = std::calloc(9, 9); }},
