@@ -78,15 +78,15 @@ bool KVInstrument::SaveGrooveWithSamples(const char* path)
         MakeChange([this] { engine->TakeOffers(); });
         engine->samplePool->Collect();
     });
+    bool all = true;
     constexpr std::pair<int, const char*> kFolders[] = {{kind::Sample, "Samples"}, {kind::Waveform, "Waveforms"}};
     for (const auto& [fileKind, name] : kFolders) {
         const std::string folder = FolderText(EnginePath(path)) + name;
-        if (!CreateFolder(folder.c_str())) continue;
         std::vector<std::string> files; // the list is the loader's, which need not wait for the copying
         Load([&, k = fileKind] { files = engine->samplePool->FilePaths(k); });
-        SamplePool::CopyFiles(files, folder.c_str());
+        all = CreateFolder(folder.c_str()) && SamplePool::CopyFiles(files, folder.c_str()) && all;
     }
-    return true;
+    return all;
 }
 
 bool KVInstrument::LoadGrooveFile(const char* path)

@@ -47,7 +47,7 @@ public:
     // bad file stands.
 
     bool SaveGrooveFile(const char* path);        // takes the groove name from the path
-    bool SaveGrooveWithSamples(const char* path); // and copies the used files beside it
+    bool SaveGrooveWithSamples(const char* path); // and copies the used files beside it; false also when one was not
     bool LoadGrooveFile(const char* path);
     bool SavePartFile(const char* path);
     bool LoadPartFile(const char* path);
