@@ -38,7 +38,8 @@ public:
 
     /// Silences the unit: delay memory, filters, recording, LFO phase, on-level and tail. Throws std::bad_alloc and
     /// stays at its rate when there is no memory for another one.
-    /// newRate  Hz; 0 keeps the rate. Only a rate that differs from the present one allocates; at one that is not usable
+    /// newRate  Hz; 0 keeps the rate. Only a rate that differs from the present one allocates; at one that is not
+    /// usable
     ///          (Limits.h) the delay memory of the rate before stays
     void Reset(float newRate);
 
