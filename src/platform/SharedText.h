@@ -1,6 +1,7 @@
 // A short text that threads write and read.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <atomic>
 #include <cstddef>
@@ -21,14 +22,20 @@ public:
     SharedText() = default;
     explicit SharedText(const char* text) { Set(text); }
 
-    /// Stores the text, cut at kSize - 1 bytes; null stores the empty text.
+    /// Stores the text, cut at kSize - 1 bytes; null stores the empty text. Takes as long as the text is.
     void Set(const char* text)
     {
-        std::array<std::uint64_t, kWords> packed{};
-        if (text) std::memcpy(packed.data(), text, strnlen(text, kSize - 1));
+        const std::size_t length = text ? strnlen(text, kSize - 1) : 0;
         std::uint32_t seen = version.load();
         if ((seen & 1u) != 0 || !version.compare_exchange_strong(seen, seen + 1)) return; // somebody is writing
-        for (std::size_t n = 0; n < kWords; ++n) words[n].store(packed[n], std::memory_order_release);
+        std::size_t count = 0;
+        for (std::size_t at = 0; at < length; at += sizeof(std::uint64_t)) {
+            std::uint64_t word = 0;
+            std::memcpy(&word, text + at, std::min(length - at, sizeof word));
+            words[count++].store(word, std::memory_order_release);
+        }
+        for (std::size_t n = count; n < used; ++n) words[n].store(0, std::memory_order_release);
+        used = count;
         version.fetch_add(1);
     }
 
@@ -49,6 +56,7 @@ public:
 private:
     std::atomic<std::uint32_t> version{0}; // odd while somebody writes
     std::atomic<std::uint64_t> words[kWords]{};
+    std::size_t used = 0; // words that are not all zeros; of who writes
 };
 
 } // namespace korvane
