@@ -17,6 +17,12 @@ void LoadRequest::Post(const char* path)
     state.store(((seen & ~kPhase) + kTurn) | (packed[0] == 0 ? kEmpty : kFull));
 }
 
+void LoadRequest::Withdraw()
+{
+    std::uint32_t seen = state.load();
+    while ((seen & kPhase) == kFull && !state.compare_exchange_weak(seen, (seen & ~kPhase) | kEmpty)) {}
+}
+
 bool LoadRequest::Take(char (&path)[kPathBytes])
 {
     std::uint32_t seen = state.load();

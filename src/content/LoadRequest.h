@@ -16,6 +16,9 @@ public:
     /// just before. The path is cut at kPathBytes - 1; an empty one, or null, withdraws what is there.
     void Post(const char* path);
 
+    /// Takes back what nobody took yet; one that is just being posted counts as the later. Any thread.
+    void Withdraw();
+
     /// Moves the request out. False when there is none, or when somebody is just posting one: it is here next time.
     /// The loader.
     bool Take(char (&path)[kPathBytes]);

@@ -33,6 +33,11 @@ struct EngineCommands {
     Shared<std::uint32_t> expected;
     Shared<std::uint32_t> unqueued; // orders that found no room; who gives them counts
     std::uint32_t settled = 0;      // of these, made good; who has the engine to itself
+
+    // While a groove loads: how often the queue had been pushed to when that began, and what the orders given since
+    // lead to from standstill: Modes, with kLoading. The loader begins, who has the engine to itself goes on.
+    static constexpr std::uint32_t kLoading = 1u << 8;
+    Shared<std::uint32_t> loadBegan, sinceLoad;
 };
 
 } // namespace korvane

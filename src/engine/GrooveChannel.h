@@ -25,12 +25,12 @@ public:
     GrooveChannel(SamplePool& pool, RandomGenerator& generator);
 
     /// Takes the files that are offered to the slots, refreshes modulation and effect settings and renders the active
-    /// voices into their own buffers. frames  0..512; 0 still refreshes the modulation, so a tick is heard at its exact
-    /// frame tempo   beats per minute
+    /// voices into their own buffers.
+    ///
+    /// frames  0..512; 0 still refreshes the modulation, so a tick is heard at its exact frame
+    ///
+    /// tempo   beats per minute
     void Render(int frames, float tempo);
-
-    /// Plays what has been offered to the slots. A voice that sounds goes on with it.
-    void TakeOffers();
 
     /// Starts a note on a free voice, else on the oldest one; in mono mode always on voice 0.
     /// note      key number; the pad offset plus 48, any integer that pads and keys can give
@@ -58,6 +58,7 @@ public:
     MixerStrip strip;
 
 private:
+    void TakeOffers();
     void RefreshVoices();
     void RenderVoices(int frames);
     ChannelVoice& VoiceForNote();

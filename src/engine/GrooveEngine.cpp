@@ -172,11 +172,6 @@ void GrooveEngine::Execute(const VoiceCommand& command)
     }
 }
 
-void GrooveEngine::TakeOffers()
-{
-    for (auto& channel : channels) channel->TakeOffers();
-}
-
 void GrooveEngine::ServeRequests()
 {
     for (auto& channel : channels)

@@ -26,7 +26,7 @@ namespace korvane {
 ///
 /// Threads: parameters and buttons may come from any; they touch shared values only. What they do to voices and
 /// transport reaches the audio thread through `commands`, unless the caller has the engine to itself: inside a block,
-/// or under the program-switch handshake. ResetGroove, ResetEngine and the readers of images are called so only.
+/// or under the program-switch handshake. ResetGroove, ResetEngine and what puts a loaded state are called so only.
 class GrooveEngine {
 public:
     /// newOwner  the thread that has the engine to itself, nobody's id while none has; null where one thread does
@@ -65,8 +65,6 @@ public:
     /// The caller has the engine to itself.
     bool MayTouchVoices() const { return !owner || *owner == std::this_thread::get_id(); }
 
-    /// Plays in all channels what has been offered to them. Who has the engine to itself.
-    void TakeOffers();
     /// Has the pool find and decode what the slots ask for. The loader; with nobody else about, anybody.
     void ServeRequests();
 

@@ -51,13 +51,11 @@ void KVSynth::ProcessMultiOut(float**, float** outputs, int frames)
     RenderFrames(*engine, outputs, frames);
 }
 
-void KVSynth::ServeOrders() { ServeOrders(engine->commands.transport.Pushed()); }
-
-void KVSynth::ServeOrders(std::uint32_t pushed)
+void KVSynth::ServeOrders()
 {
     if (!engine->MayTouchVoices() || !OrdersWait(*engine)) return;
     FollowHostTime();
-    ServeTransport(*engine, pushed);
+    ServeTransport(*engine);
 }
 
 void KVSynth::FollowHostTime()

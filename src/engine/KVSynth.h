@@ -48,12 +48,10 @@ protected:
     void RefreshEditor();
     /// Does what other threads have asked the transport for, before what comes next; nothing for who has not the engine
     /// to itself.
-    /// pushed  only what had been asked for when the queue had been pushed to so many times
     void ServeOrders();
-    void ServeOrders(std::uint32_t pushed);
+    void FollowHostTime(); // tempo and position into the engine core; who has the engine to itself
 
 private:
-    void FollowHostTime();             // tempo and position into the engine core; who has the engine to itself
     bool Acts(int index, float value); // by the parameter's kind and what was written before
 
     // On/off of the last value written, per host parameter. Whoever moves the parameter turns it over; of two that do

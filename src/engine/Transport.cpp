@@ -53,10 +53,19 @@ void Execute(GrooveEngine& engine, TransportCommand order)
     if (after.playing && (!before.playing || anew)) Start(engine);
 }
 
+/// An order that was given after a groove began to load counts on that, too.
+void Note(EngineCommands& commands, TransportCommand order)
+{
+    if (!(commands.sinceLoad & EngineCommands::kLoading)) return;
+    commands.sinceLoad.Update(
+        [order](std::uint32_t word) { return EngineCommands::kLoading | ModesOf(word).After(order).Packed(); });
+}
+
 void Do(GrooveEngine& engine, TransportCommand order)
 {
     if (engine.MayTouchVoices()) {
         ServeTransport(engine); // what came before comes first
+        Note(engine.commands, order);
         Execute(engine, order);
         return;
     }
@@ -95,6 +104,22 @@ void Settle(GrooveEngine& engine)
     commands.expected.Replace(word, word & ~kWaiting);
 }
 
+/// Does what had been asked for when the queue had been pushed to so many times.
+void Serve(GrooveEngine& engine, std::uint32_t pushed)
+{
+    if (!OrdersWait(engine)) return;
+    EngineCommands& commands = engine.commands;
+    auto& orders = commands.transport;
+    const auto left = [&orders](std::uint32_t until) { return static_cast<std::int32_t>(until - orders.Popped()); };
+    for (TransportCommand order; left(pushed) > 0;) {
+        const bool isLate = left(commands.loadBegan) <= 0;
+        if (!orders.Pop(order)) break;
+        if (isLate) Note(commands, order);
+        Execute(engine, order);
+    }
+    if (orders.Empty()) Settle(engine);
+}
+
 } // namespace
 
 void SetPlay(GrooveEngine& engine, bool on) { Do(engine, {Kind::Play, on}); }
@@ -113,15 +138,16 @@ bool OrdersWait(const GrooveEngine& engine)
     return (engine.commands.expected & kWaiting) || !engine.commands.transport.Empty();
 }
 
-void ServeTransport(GrooveEngine& engine) { ServeTransport(engine, engine.commands.transport.Pushed()); }
+void ServeTransport(GrooveEngine& engine) { Serve(engine, engine.commands.transport.Pushed()); }
+void ServeBeforeLoad(GrooveEngine& engine) { Serve(engine, engine.commands.loadBegan); }
 
-void ServeTransport(GrooveEngine& engine, std::uint32_t pushed)
+void BeginLoad(GrooveEngine& engine)
 {
-    if (!OrdersWait(engine)) return;
-    auto& orders = engine.commands.transport;
-    TransportCommand order;
-    while (static_cast<std::int32_t>(pushed - orders.Popped()) > 0 && orders.Pop(order)) Execute(engine, order);
-    if (orders.Empty()) Settle(engine);
+    EngineCommands& commands = engine.commands;
+    commands.loadBegan = commands.transport.Pushed();
+    commands.sinceLoad = EngineCommands::kLoading;
 }
+
+void EndLoad(GrooveEngine& engine) { Reach(engine, ModesOf(engine.commands.sinceLoad.Exchange(0))); }
 
 } // namespace korvane

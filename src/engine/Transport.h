@@ -17,13 +17,18 @@ void FollowHost(GrooveEngine& engine, bool running);
 /// The modes as the switches show them and as buttons go by: those that all orders so far lead to. Any thread.
 Modes ShownModes(const GrooveEngine& engine);
 
+/// A groove begins to load: what it will stop is what has been ordered until now. The loader, one load at a time.
+void BeginLoad(GrooveEngine& engine);
+
 // Who has the engine to itself.
 
+/// The loaded groove stands; orders given since the load began count on it. The clock has the host's time.
+void EndLoad(GrooveEngine& engine);
 /// Orders of other threads wait.
 bool OrdersWait(const GrooveEngine& engine);
 /// Does what other threads have asked for. The clock has the host's time.
 void ServeTransport(GrooveEngine& engine);
-/// The same for what had been asked for when the queue had been pushed to so many times.
-void ServeTransport(GrooveEngine& engine, std::uint32_t pushed);
+/// The same for what had been asked for before a groove began to load.
+void ServeBeforeLoad(GrooveEngine& engine);
 
 } // namespace korvane

@@ -74,9 +74,11 @@ void CSynthesizer::LeaveBlock()
 void CSynthesizer::MakeChange(const std::function<void()>& made)
 {
     change.store(&made, std::memory_order_release);
-    const auto patient = std::chrono::steady_clock::now() + Patience();
+    auto patient = std::chrono::steady_clock::now() + Patience();
     for (HelpWithChange(); change.load(std::memory_order_acquire); std::this_thread::sleep_for(kChangePoll)) {
-        if (std::chrono::steady_clock::now() < patient || !EnterBlock()) continue;
+        const auto now = std::chrono::steady_clock::now();
+        if (processing) patient = now + Patience(); // there are blocks, and the next one makes the change
+        if (now < patient || !EnterBlock()) continue;
         ServeChange();
         LeaveBlock();
     }
@@ -87,7 +89,7 @@ void CSynthesizer::MakeChange(const std::function<void()>& made)
 std::chrono::nanoseconds CSynthesizer::Patience() const
 {
     if (audioThread == std::thread::id{}) return {};
-    constexpr double kLate = 0.005, kLongest = 1.0; // seconds
+    constexpr double kLate = 0.02, kLongest = 1.0; // seconds
     const double block = blockFrames / sampleRate;
     return std::chrono::nanoseconds(static_cast<std::int64_t>(1e9 * Clamp(2.0 * block + kLate, 0.0, kLongest)));
 }
@@ -126,7 +128,7 @@ void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, boo
             if (output) std::fill_n(output, frames, 0.0f);
     if (!EnterBlock()) return;
     audioThread = std::this_thread::get_id();
-    blockFrames = frames;
+    blockFrames = std::max(frames, blockFrames / 2); // of some hosts, only the first of a few is long
     ServeChange();
     RenderChunks(in.data(), out.data(), frames);
     ClearEvents();

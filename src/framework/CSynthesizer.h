@@ -126,7 +126,7 @@ private:
     Shared<CProgram*> currentProgram = nullptr; // a switch writes, every thread reads; programs live as long as this
     Shared<int> programIndex = 0;               // likewise
     Shared<std::thread::id> audioThread;        // rendered the last block; nobody before the first
-    Shared<std::int32_t> blockFrames;           // of the last block
+    Shared<std::int32_t> blockFrames;           // of the last blocks
     std::atomic<const std::function<void()>*> change{nullptr}; // that waits, null when none does
     std::atomic<bool> processing{false};                       // somebody has the engine to itself
     std::atomic<int> programChanges{0};

@@ -54,8 +54,7 @@ FileStamp StampOf(const char* path)
 {
     struct stat status {};
     if (stat(SystemPath(path).c_str(), &status) != 0) return {};
-    return {status.st_dev, status.st_ino, status.st_size,
-            std::int64_t{status.st_mtim.tv_sec} * 1'000'000'000 + status.st_mtim.tv_nsec};
+    return {status.st_size, std::int64_t{status.st_mtim.tv_sec} * 1'000'000'000 + status.st_mtim.tv_nsec};
 }
 
 bool SameFile(const char* a, const char* b)

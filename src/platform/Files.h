@@ -28,9 +28,8 @@ bool FileExists(const char* path);
 
 /// By what one sees whether a file is still the one that was read.
 struct FileStamp {
-    std::uint64_t device = 0, number = 0; // of the file system, of the file in it
-    std::int64_t size = -1;               // bytes; -1: there is no such file
-    std::int64_t changed = 0;             // nanoseconds since 1970
+    std::int64_t size = -1;   // bytes; -1: there is no such file
+    std::int64_t changed = 0; // nanoseconds since 1970
 
     auto operator<=>(const FileStamp&) const = default;
 };

@@ -35,6 +35,8 @@ Outcome ByReason()
     case EPERM:
     case EINVAL: // an owner that this name space does not know
     case EBUSY:  // another file system is mounted on the file
+    case ENOTSUP:
+    case ENOSYS: // a file system without owners and modes
     case EXDEV: return Outcome::Refused;
     default: return Outcome::Failed;
     }

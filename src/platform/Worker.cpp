@@ -9,7 +9,6 @@ namespace korvane {
 
 namespace {
 
-constexpr auto kLookRound = std::chrono::milliseconds(20);
 constexpr auto kPoll = std::chrono::microseconds(100); // of who waits for a task
 
 /// A thread that takes none of the host's signals.
@@ -33,7 +32,10 @@ std::thread Quiet(Start start)
 
 } // namespace
 
-Worker::Worker(Task everyRound) : round(std::move(everyRound)), thread(Quiet([this] { Loop(); })) {}
+Worker::Worker(Task everyRound, std::chrono::milliseconds longest)
+    : round(std::move(everyRound)), pause(longest), thread(Quiet([this] { Loop(); }))
+{
+}
 
 void Worker::End()
 {
@@ -50,7 +52,11 @@ void Worker::Run(const Task& task, const Task& meanwhile)
     if (std::this_thread::get_id() == thread.get_id()) return task();
     Job job{&task, nullptr};
     {
-        const std::lock_guard guard(lock);
+        std::unique_lock guard(lock);
+        if (ended) {
+            guard.unlock();
+            return task();
+        }
         jobs.push_back(&job);
     }
     news.notify_one();
@@ -72,13 +78,7 @@ void Worker::Wake()
 
 void Worker::Loop()
 {
-    for (;;) {
-        {
-            std::unique_lock guard(lock);
-            news.wait_for(guard, kLookRound, [this] { return ending || woken || !jobs.empty(); });
-            if (ending) return;
-            woken = false;
-        }
+    while (!ended) { // which only this thread sets
         Job* const job = NextJob();
         std::exception_ptr ignored; // short of memory; the next round may have more
         Do(round, ignored);
@@ -90,7 +90,10 @@ void Worker::Loop()
 
 Worker::Job* Worker::NextJob()
 {
-    const std::lock_guard guard(lock);
+    std::unique_lock guard(lock);
+    news.wait_for(guard, pause, [this] { return ending || woken || !jobs.empty(); });
+    woken = false;
+    ended = ending && jobs.empty();
     if (jobs.empty()) return nullptr;
     Job* const job = jobs.front();
     jobs.pop_front();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <deque>
 #include <exception>
@@ -11,16 +12,16 @@
 
 namespace korvane {
 
-/// Does what it is given, one thing after another, in order, and looks round by itself about fifty times a second: for
-/// what the audio thread has left for it, which can wake nobody.
+/// Does what it is given, one thing after another, in order, and looks round by itself now and then: for what the audio
+/// thread has left for it, which can wake nobody.
 class Worker {
 public:
     using Task = std::function<void()>;
 
     /// The thread begins. std::system_error when the system has none left.
-    /// round  what it does at each look round and before each task; may throw nothing but std::bad_alloc, which ends
-    ///        that round
-    explicit Worker(Task round);
+    /// round  what it does at each look round and before each task; what it throws ends that round
+    /// pause  the longest between two of them
+    Worker(Task round, std::chrono::milliseconds pause);
     ~Worker() { End(); }
     Worker(const Worker&) = delete;
 
@@ -29,8 +30,11 @@ public:
     /// meanwhile  what the caller does again and again while it waits
     void Run(const Task& task, const Task& meanwhile);
 
-    /// Finishes what is under way and ends the thread. Nobody may be in Run, nor come to it.
+    /// Finishes the tasks that wait and ends the thread; whoever comes to Run afterwards does the task alone. Not for
+    /// the thread itself.
     void End();
+    /// The end is near: a round that is long may be cut short.
+    bool Ending() const { return ending; }
 
     /// Look round now. Any thread that may make a system call.
     void Wake();
@@ -42,14 +46,16 @@ private:
         std::atomic<bool> done{false};
     };
     void Loop();
-    Job* NextJob();
+    Job* NextJob(); // after a pause, if there is none
     static void Do(const Task& task, std::exception_ptr& error);
 
     const Task round;
+    const std::chrono::milliseconds pause;
     std::mutex lock;
     std::condition_variable news;
     std::deque<Job*> jobs; // under the lock, like the flags
-    bool woken = false, ending = false;
+    bool woken = false, ended = false;
+    std::atomic<bool> ending{false};
     std::thread thread; // last: it uses the others
 };
 

@@ -3,8 +3,9 @@
 
 #include <chrono>
 #include <cstring>
+#include <exception>
 #include <iterator>
-#include <new>
+#include <span>
 #include <string>
 #include <thread>
 #include <utility>
@@ -15,6 +16,7 @@
 #include "content/state/PartImage.h"
 #include "content/state/PreparedFiles.h"
 #include "content/state/StateImage.h"
+#include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
 
@@ -22,23 +24,49 @@ namespace korvane {
 
 namespace {
 
+constexpr std::chrono::milliseconds kLookRound{20}; // MIDI orders and freed memory wait so long
+constexpr std::chrono::hours kNoPause{1};           // the teller is always woken
+
 /// What a channel keeps whatever program, or whatever part, it plays.
 constexpr int kKeptByPrograms[] = {slot::MixLevel, slot::Panning, slot::NoteLength, slot::ShuffleEnable};
 constexpr int kKeptByParts[] = {slot::MixLevel, slot::Panning};
 
-/// A channel's setting as it is shown: an edited step's lock of the selected channel included.
-float Shown(const GrooveEngine& engine, int channel, int base)
-{
-    if (channel == engine.selection.selectedChannel) return engine.GetChannelParameter(base);
-    return engine.storedParams[channel][base];
-}
+/// What a channel shows of some settings, an edited step's locks of the selected channel included, to be put back.
+class Kept {
+public:
+    Kept(GrooveEngine& ofEngine, int ofChannel, std::span<const int> settings)
+        : engine(ofEngine), channel(ofChannel), bases(settings)
+    {
+        for (std::size_t n = 0; n < bases.size(); ++n) values[n] = Shown(bases[n]);
+    }
+    void PutBack()
+    {
+        for (std::size_t n = 0; n < bases.size(); ++n) Show(bases[n], values[n]);
+    }
+    void PutBackChanged()
+    {
+        for (std::size_t n = 0; n < bases.size(); ++n)
+            if (Shown(bases[n]) != values[n]) Show(bases[n], values[n]);
+    }
 
-void Show(GrooveEngine& engine, int channel, int base, float value)
-{
-    if (channel == engine.selection.selectedChannel) return engine.SetChannelParameter(base, value);
-    engine.storedParams[channel][base] = value;
-    engine.RefreshChannel(channel);
-}
+private:
+    bool Selected() const { return channel == engine.selection.selectedChannel; }
+    float Shown(int base) const
+    {
+        return Selected() ? engine.GetChannelParameter(base) : static_cast<float>(engine.storedParams[channel][base]);
+    }
+    void Show(int base, float value)
+    {
+        if (Selected()) return engine.SetChannelParameter(base, value);
+        engine.storedParams[channel][base] = value;
+        engine.RefreshChannel(channel);
+    }
+
+    GrooveEngine& engine;
+    const int channel;
+    const std::span<const int> bases;
+    float values[std::size(kKeptByPrograms)] = {};
+};
 
 Image MakeState(const GrooveEngine& engine)
 {
@@ -52,7 +80,8 @@ std::string GrooveName(const std::string& path) { return std::string(StemOf(path
 
 KVInstrument::KVInstrument(CPluginWrapper* bridge)
     : KVSynth(bridge), synthPrograms(folders.synthPrograms, "kvsynth"),
-      samplerPrograms(folders.samplerPrograms, "kvsmp"), loader([this] { LookRound(); })
+      samplerPrograms(folders.samplerPrograms, "kvsmp"), teller([this] { TellHost(); }, kNoPause),
+      loader([this] { LookRound(); }, kLookRound)
 {
     synthPrograms.Refresh();
     samplerPrograms.Refresh();
@@ -74,10 +103,6 @@ bool KVInstrument::SaveGrooveFile(const char* path)
 bool KVInstrument::SaveGrooveWithSamples(const char* path)
 {
     if (!WriteImageFile(path, MakeState(*engine))) return false;
-    Load([this] { // what slots are to play from now on, and only that
-        MakeChange([this] { engine->TakeOffers(); });
-        engine->samplePool->Collect();
-    });
     bool all = true;
     constexpr std::pair<int, const char*> kFolders[] = {{kind::Sample, "Samples"}, {kind::Waveform, "Waveforms"}};
     for (const auto& [fileKind, name] : kFolders) {
@@ -94,14 +119,13 @@ bool KVInstrument::LoadGrooveFile(const char* path)
     Image image;
     if (!ReadImageFile(path, image)) return false;
     const std::string file = EnginePath(path);
-    const std::uint32_t ordered = engine->commands.transport.Pushed(); // the load stops what was started before it
     bool loaded = false;
     Load([&] {
         engine->samplePool->SetGrooveFolders(FolderText(file).c_str());
-        loaded = Replace(image.bytes.get(), image.size, ordered);
+        loaded = Replace(image.bytes.get(), image.size);
+        if (loaded) grooveName.Set(GrooveName(file).c_str());
     });
     if (!loaded) return false;
-    grooveName.Set(GrooveName(file).c_str());
     ReportParameters();
     RefreshEditor();
     return true;
@@ -130,7 +154,7 @@ bool KVInstrument::LoadPartFile(const char* path)
 void KVInstrument::LoadDefaultGroove()
 {
     Image image;
-    if (ReadImageFile(folders.defaultGroove, image)) Load([&] { Replace(image.bytes.get(), image.size, 0); });
+    if (ReadImageFile(folders.defaultGroove, image)) Load([&] { Replace(image.bytes.get(), image.size); });
     grooveName.Set("Default Groove");
 }
 
@@ -138,11 +162,10 @@ void KVInstrument::LoadDefaultGroove()
 
 std::int32_t KVInstrument::SetProgramChunk(const void* data, std::int32_t size)
 {
-    const std::uint32_t ordered = engine->commands.transport.Pushed(); // as in LoadGrooveFile
     bool loaded = false;
     Load([&] {
         engine->samplePool->ClearGrooveFolders();
-        loaded = Replace(static_cast<const std::uint8_t*>(data), size, ordered);
+        loaded = Replace(static_cast<const std::uint8_t*>(data), size);
     });
     if (!loaded) return 0;
     RefreshEditor();
@@ -190,9 +213,11 @@ bool KVInstrument::LoadProgramFile(const char* path)
 void KVInstrument::LoadSample(int channel, int slot, const char* path)
 {
     if (channel < 0 || channel >= kChannels || slot < 0 || slot >= kSampleSlots || !path) return;
-    engine->Channel(channel).sound.sampleSlots[static_cast<std::size_t>(slot)].request.Post(
-        SampleSlot::RequestFor(path));
-    FinishLoading();
+    SampleSlot& target = engine->Channel(channel).sound.sampleSlots[static_cast<std::size_t>(slot)];
+    Load([&] {
+        SamplePool& pool = *engine->samplePool;
+        target.offer.Put(pool.Use(SampleSlot::RequestFor(path), SlotKind(slot)), pool.returned);
+    });
 }
 
 // MIDI
@@ -207,20 +232,34 @@ bool KVInstrument::BankSelectReceived(int bank)
 
 void KVInstrument::Ask(bool bank, int number)
 {
-    constexpr auto kPoll = std::chrono::microseconds(100);
+    static constexpr auto kPoll = std::chrono::microseconds(100);
     constexpr auto kTelling = std::chrono::milliseconds(100); // a host may need this very thread to be told
     const LibraryOrder order{bank, static_cast<std::uint8_t>(number),
                              static_cast<std::uint8_t>(static_cast<int>(engine->selection.selectedChannel))};
     if (!orders.Push(order) || (wrapper && wrapper->RealTime())) return;
 
     const std::uint32_t asked = orders.Pushed();
-    const auto reached = [asked](const std::atomic<std::uint32_t>& count) {
-        return static_cast<std::int32_t>(count.load(std::memory_order_acquire) - asked) >= 0;
+    const auto behind = [](const std::atomic<std::uint32_t>& count, std::uint32_t due) {
+        return static_cast<std::int32_t>(count.load(std::memory_order_acquire) - due) < 0;
+    };
+    const auto wait = [this] {
+        HelpWithChange();
+        std::this_thread::sleep_for(kPoll);
     };
     loader.Wake();
-    for (; !reached(ordersDone); std::this_thread::sleep_for(kPoll)) HelpWithChange();
+    while (behind(ordersDone, asked)) wait();
+    const std::uint32_t due = reportsDue.load(std::memory_order_acquire);
     const auto patient = std::chrono::steady_clock::now() + kTelling;
-    while (!reached(ordersTold) && std::chrono::steady_clock::now() < patient) std::this_thread::sleep_for(kPoll);
+    while (behind(reportsMade, due) && std::chrono::steady_clock::now() < patient) wait();
+}
+
+void KVInstrument::TellHost()
+{
+    while (reportsMade.load(std::memory_order_relaxed) != reportsDue.load(std::memory_order_acquire)) {
+        ReportParameters();
+        RefreshEditor();
+        reportsMade.fetch_add(1, std::memory_order_release);
+    }
 }
 
 // The loader
@@ -233,22 +272,28 @@ void KVInstrument::Load(const Worker::Task& task)
 void KVInstrument::FinishLoading()
 {
     Load([] {});
+    teller.Run([] {}, [this] { HelpWithChange(); });
+}
+
+void KVInstrument::EndThreads()
+{
+    loader.End();
+    teller.End();
 }
 
 void KVInstrument::LookRound()
 {
     engine->samplePool->Collect();
     engine->ServeRequests();
-    for (LibraryOrder order; orders.Pop(order);) {
+    for (LibraryOrder order; !loader.Ending() && orders.Pop(order);) {
         bool loaded = false;
         try {
             loaded = Select(order);
-        } catch (const std::bad_alloc&) { // nothing was loaded
+        } catch (const std::exception&) { // out of memory: nothing was loaded
         }
+        if (loaded) reportsDue.fetch_add(1, std::memory_order_release);
         ordersDone.fetch_add(1, std::memory_order_release);
-        if (loaded) ReportParameters();
-        if (loaded) RefreshEditor();
-        ordersTold.fetch_add(1, std::memory_order_release);
+        if (loaded) teller.Wake();
     }
 }
 
@@ -262,17 +307,20 @@ bool KVInstrument::Select(const LibraryOrder& order)
     return ReplaceChannel(list.filePath, order.channel);
 }
 
-bool KVInstrument::Replace(const std::uint8_t* data, std::int32_t size, std::uint32_t ordered)
+bool KVInstrument::Replace(const std::uint8_t* data, std::int32_t size)
 {
+    BeginLoad(*engine);
     GrooveState state(*engine);
     const bool whole = ReadState(ByteReader(data, size), *engine, state);
     if (!state.begun) return false;
     PreparedFiles files(*engine);
     for (int c = 0; c < kChannels; ++c) files.Prepare(c, state.channels[static_cast<std::size_t>(c)]);
     MakeChange([&] {
-        ServeOrders(ordered);
+        FollowHostTime();
+        ServeBeforeLoad(*engine);
         PutState(*engine, state);
-        files.Offer();
+        files.Put();
+        EndLoad(*engine);
     });
     return whole;
 }
@@ -284,13 +332,10 @@ bool KVInstrument::ReplacePart(const Image& image)
     PreparedFiles files(*engine);
     if (part.settings.begun) files.Prepare(part.channel, part.settings);
     MakeChange([&] {
-        float kept[std::size(kKeptByParts)];
-        for (std::size_t n = 0; n < std::size(kept); ++n) kept[n] = Shown(*engine, part.channel, kKeptByParts[n]);
+        Kept kept(*engine, part.channel, kKeptByParts);
         PutPart(*engine, part);
-        files.Offer();
-        for (std::size_t n = 0; n < std::size(kept); ++n)
-            if (const int base = kKeptByParts[n]; Shown(*engine, part.channel, base) != kept[n])
-                Show(*engine, part.channel, base, kept[n]);
+        files.Put();
+        kept.PutBackChanged();
     });
     return whole;
 }
@@ -307,11 +352,10 @@ bool KVInstrument::ReplaceChannel(const char* path, int channel)
     PreparedFiles files(*engine);
     if (settings.begun) files.Prepare(channel, settings);
     MakeChange([&] {
-        float kept[std::size(kKeptByPrograms)];
-        for (std::size_t n = 0; n < std::size(kept); ++n) kept[n] = Shown(*engine, channel, kKeptByPrograms[n]);
+        Kept kept(*engine, channel, kKeptByPrograms);
         PutSettings(*engine, channel, settings);
-        files.Offer();
-        for (std::size_t n = 0; n < std::size(kept); ++n) Show(*engine, channel, kKeptByPrograms[n], kept[n]);
+        files.Put();
+        kept.PutBack();
     });
     return whole;
 }

@@ -26,9 +26,9 @@ struct LibraryOrder {
 /// Everything that reads files and replaces states happens on one thread of its own, the loader, one thing after
 /// another: it prepares beside the running engine what the change needs and has the change made between two blocks.
 /// Who asks for it waits until it is done and every file is ready. MIDI asks on the audio thread, which hands the
-/// request over and waits only where the host says that its thread may.
+/// request over and waits only where the host says that its thread may; the host is told by another thread, the teller.
 ///
-/// Threads: operations come from the editor or the host, the first four from their audio thread.
+/// Threads: operations come from the editor or the host, those for MIDI from the audio thread.
 class KVInstrument : public KVSynth {
 public:
     /// Loads the default groove; its files are ready then.
@@ -40,8 +40,8 @@ public:
     std::int32_t SetProgramChunk(const void* data, std::int32_t size) override;
     std::int32_t GetBankChunk(void* buffer) override { return GetProgramChunk(buffer); }
     std::int32_t GetProgramChunk(void* buffer) override;
-    /// The last call but the destructor.
-    void EndThreads() override { loader.End(); }
+    /// The last call but the destructor, and not from inside a report. Program changes that still wait are dropped.
+    void EndThreads() override;
 
     // Groove, part and program files. Paths use backslashes. False: nothing was written, or what a reader accepts of a
     // bad file stands.
@@ -60,7 +60,7 @@ public:
     /// path     empty: no file
     void LoadSample(int channel, int slot, const char* path);
 
-    /// Returns when all that has been asked for is done and told to the host.
+    /// Returns when all that has been asked for is done and, but from inside a report, told to the host.
     void FinishLoading();
 
     // The program libraries. The constructor fills them; after it the loader selects in them, for MIDI, and who else
@@ -75,17 +75,23 @@ private:
     // The loader's.
     void LookRound();
     bool Select(const LibraryOrder& order);
-    bool Replace(const std::uint8_t* data, std::int32_t size, std::uint32_t ordered);
+    bool Replace(const std::uint8_t* data, std::int32_t size);
     bool ReplacePart(const Image& image);
     bool ReplaceChannel(const char* path, int channel);
 
-    void Ask(bool bank, int number);
+    void Ask(bool bank, int number); // the audio thread
+    void TellHost();                 // the teller
     void LoadDefaultGroove();
 
     Image sizedChunk; // state at the last request for its size; hosts ask for it and for the bytes from one thread
-    CommandQueue<LibraryOrder, 64> orders;                   // the audio thread pushes, the loader pops
-    std::atomic<std::uint32_t> ordersDone{0}, ordersTold{0}; // of these: loaded, and reported
-    Worker loader;                                           // last: it uses the others
+
+    // A MIDI program change is asked for by the audio thread, done by the loader, which loads or refuses it, and where
+    // it was loaded told by the teller. The counts say how far they are. One that finds no room is lost.
+    CommandQueue<LibraryOrder, 1024> orders; // as many as a block can ask for
+    std::atomic<std::uint32_t> ordersDone{0}, reportsDue{0}, reportsMade{0};
+
+    Worker teller; // no load waits for it: a host may take its time, and load from within
+    Worker loader; // last: it uses the others
 };
 
 } // namespace korvane

@@ -40,9 +40,12 @@ bool ReadPart(ByteReader in, GrooveEngine& engine, PartState& part)
 
     ByteReader sequence = in.Chunk();
     if (!sequence.Tag(tag::kSequence)) return false;
+    const GroovePattern& target = engine.score.Current();
+    GroovePattern& read = *engine.score.spare[0];
     for (int step = 0; step < kSteps; ++step) {
         part.steps = step + 1;
-        if (!ReadStepRecord(sequence, *engine.score.spare[0], part.channel, step)) return false;
+        if (!ReadStepRecord(sequence, read, part.channel, step)) return false;
+        target.locks[part.channel][step].Touch(read.locks[part.channel][step].Count());
     }
     float noteLength = 0.0f;
     if (!in.Read(noteLength)) return false;

@@ -11,25 +11,29 @@ PreparedFiles::~PreparedFiles()
         for (SoundUse* use : channel) engine.samplePool->returned.Push(use);
 }
 
-void PreparedFiles::Prepare(int channel, const ChannelSettings& settings)
+void PreparedFiles::Prepare(int channel, const ChannelSettings& asked)
+{
+    settings[channel] = &asked;
+    for (int s = 0; s < kSampleSlots; ++s)
+        uses[channel][s] = engine.samplePool->Use(SampleSlot::RequestFor(asked.paths[s]), SlotKind(s));
+}
+
+void PreparedFiles::Put()
+{
+    for (int c = 0; c < kChannels; ++c)
+        if (settings[c]) Put(c, *settings[c]);
+}
+
+void PreparedFiles::Put(int channel, const ChannelSettings& asked)
 {
     GrooveChannel& target = engine.Channel(channel);
     for (int s = 0; s < kSampleSlots; ++s) {
         SampleSlot& slot = target.sound.sampleSlots[static_cast<std::size_t>(s)];
-        slot.request.Post("");
-        uses[channel][s] = engine.samplePool->Use(SampleSlot::RequestFor(settings.paths[s]), SlotKind(s));
-        slot.path.Set(settings.paths[s]);
+        slot.request.Withdraw();
+        slot.offer.Put(std::exchange(uses[channel][s], nullptr), engine.samplePool->returned);
+        slot.path.Set(asked.paths[s]);
     }
-    target.programPath.Set(settings.programPath);
-}
-
-void PreparedFiles::Offer()
-{
-    for (int c = 0; c < kChannels; ++c)
-        for (int s = 0; s < kSampleSlots; ++s)
-            if (SoundUse* const use = std::exchange(uses[c][s], nullptr))
-                engine.Channel(c).sound.sampleSlots[static_cast<std::size_t>(s)].offer.Put(use,
-                                                                                           engine.samplePool->returned);
+    target.programPath.Set(asked.programPath);
 }
 
 } // namespace korvane

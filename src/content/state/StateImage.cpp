@@ -132,7 +132,8 @@ void PutState(GrooveEngine& engine, const GrooveState& state)
 {
     engine.ResetPanel();
     engine.score.SwapPatterns();
-    for (int c = 0; c < kChannels; ++c) engine.InitSettings(c);
+    for (int c = 0; c < kChannels; ++c)
+        if (!state.channels[static_cast<std::size_t>(c)].begun) engine.InitSettings(c);
     ByteReader header = state.header;
     ReadHeader(header, engine);
     for (int c = 0; c < kChannels; ++c) PutSettings(engine, c, state.channels[static_cast<std::size_t>(c)]);

@@ -40,7 +40,7 @@ struct GrooveState {
 /// in  over bytes that outlive the state
 bool ReadState(ByteReader in, GrooveEngine& engine, GrooveState& state);
 
-/// The engine plays a groove that has begun, but for its files. Takes a few microseconds, however much is in it. Who
+/// The engine plays a groove that has begun, but for its files. Takes some ten microseconds, however much is in it. Who
 /// has the engine to itself.
 void PutState(GrooveEngine& engine, const GrooveState& state);
 

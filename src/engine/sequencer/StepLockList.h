@@ -40,6 +40,12 @@ public:
     /// block[param] = clamp(block[param] + offset, 0, 1) for every entry with an index in 0..211, in order.
     void ApplyTo(float* block) const;
 
+    /// Has the system give memory for so many entries, before the audio thread writes them; changes none. Any thread.
+    void Touch(int entries) const
+    {
+        for (int n = 0; n < entries; ++n) Place(n).fetch_or(0, std::memory_order_relaxed);
+    }
+
     void Clear() { count = 0; }
     void CopyFrom(const StepLockList& other);
     void SwapWith(StepLockList& other);

@@ -184,6 +184,16 @@ TEST_F(Transport, StartsOfOtherThreadsAreKept)
     std::vector<std::uint8_t> state(static_cast<std::size_t>(Synth().GetBankChunk(nullptr)));
     Synth().GetBankChunk(state.data());
     const auto load = [&] { Synth().SetBankChunk(state.data(), static_cast<std::int32_t>(state.size())); };
+    const auto loads = [&](const std::function<void()>& meanwhile) { // while the start is given
+        Play(64);
+        BeginLoad(Engine());
+        Elsewhere([&] { Synth().SetPlaying(true); });
+        meanwhile();
+        const CSynthesizer::ProgramSwitch change(Synth());
+        ServeBeforeLoad(Engine());
+        Engine().ResetGroove();
+        EndLoad(Engine());
+    };
     // clang-format off
     struct Case { const char* what; std::function<void()> meanwhile; int step; };
     const Case cases[] = { // step of the song that plays next, 0 when stopped
@@ -193,14 +203,9 @@ TEST_F(Transport, StartsOfOtherThreadsAreKept)
         {"another rate",     [&] { Synth().SetSampleRate(kRate + 1); }, 10},
         {"a link's record",  [&] { Queue(0xB0, 20, 0); }, 10},
         {"a load after it",  load, 0},
-        {"a load that had to wait for a block", [&] {
-            const std::uint32_t ordered = Engine().commands.transport.Pushed() - 1;
-            Play(64);
-            Elsewhere([&] { Synth().SetPlaying(true); });
-            const CSynthesizer::ProgramSwitch loading(Synth());
-            ServeTransport(Engine(), ordered);
-            Engine().ResetGroove();
-        }, 10},
+        {"a load that it came into", [&] { loads([] {}); }, 10},
+        {"and a block of it", [&] { loads([&] { Play(64); }); }, 10},
+        {"and a block and a stop", [&] { loads([&] { Synth().SetPlaying(false); }); }, 0},
         {"a load around it", [&] {
             const CSynthesizer::ProgramSwitch loading(Synth());
             load();
