@@ -20,12 +20,19 @@ struct PoolEntry;
 //   returned   In the pool's SoundReturns. The loader takes the whole list in its next round, counts a user less for
 //              each and frees what nobody uses.
 //
-// Requests of one slot are served in order, as there is one loader. A state, part or program load goes the same way
-// without requests: the loader makes all its uses first and offers them together with the change of state, between two
-// blocks.
+// Requests of one slot are served in order, as there is one loader. Neither it nor the audio thread waits here. Who asks
+// for files and is not the audio thread waits for the loader alone: a file that is offered counts as loaded, since the
+// next run takes it.
 //
-// Neither the loader nor the audio thread waits here. Who asks for files and is not the audio thread waits for the
-// loader alone: a file that is offered counts as loaded, since the next run takes it.
+// A state, a part or a program:
+//
+//   asked      Somebody has called the instrument and waits (KVInstrument::Load). MIDI on the audio thread leaves an
+//              order in a queue instead, and waits only where the host says that its thread may (KVInstrument::Ask).
+//   prepared   The loader has read the image and made all uses (PreparedFiles, GrooveState); the engine is as before.
+//   made       Between two blocks the engine, its texts and the offers have changed in one piece: the audio thread did
+//              that at the start of a block, or who waited for the load, or without blocks the loader
+//              (CSynthesizer::MakeChange).
+//   done       Who asked goes on, and reports to the host; for MIDI the teller does (KVInstrument::TellHost).
 
 /// One slot's use of a pool entry. The loader makes and deletes it.
 struct SoundUse {
