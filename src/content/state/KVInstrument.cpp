@@ -5,7 +5,6 @@
 #include <cstring>
 #include <exception>
 #include <iterator>
-#include <span>
 #include <string>
 #include <thread>
 #include <utility>
@@ -13,6 +12,7 @@
 
 #include "content/PathText.h"
 #include "content/state/ChannelChunk.h"
+#include "content/state/KeptSettings.h"
 #include "content/state/PartImage.h"
 #include "content/state/PreparedFiles.h"
 #include "content/state/StateImage.h"
@@ -30,43 +30,6 @@ constexpr std::chrono::hours kNoPause{1};           // the teller is always woke
 /// What a channel keeps whatever program, or whatever part, it plays.
 constexpr int kKeptByPrograms[] = {slot::MixLevel, slot::Panning, slot::NoteLength, slot::ShuffleEnable};
 constexpr int kKeptByParts[] = {slot::MixLevel, slot::Panning};
-
-/// What a channel shows of some settings, an edited step's locks of the selected channel included, to be put back.
-class Kept {
-public:
-    Kept(GrooveEngine& ofEngine, int ofChannel, std::span<const int> settings)
-        : engine(ofEngine), channel(ofChannel), bases(settings)
-    {
-        for (std::size_t n = 0; n < bases.size(); ++n) values[n] = Shown(bases[n]);
-    }
-    void PutBack()
-    {
-        for (std::size_t n = 0; n < bases.size(); ++n) Show(bases[n], values[n]);
-    }
-    void PutBackChanged()
-    {
-        for (std::size_t n = 0; n < bases.size(); ++n)
-            if (Shown(bases[n]) != values[n]) Show(bases[n], values[n]);
-    }
-
-private:
-    bool Selected() const { return channel == engine.selection.selectedChannel; }
-    float Shown(int base) const
-    {
-        return Selected() ? engine.GetChannelParameter(base) : static_cast<float>(engine.storedParams[channel][base]);
-    }
-    void Show(int base, float value)
-    {
-        if (Selected()) return engine.SetChannelParameter(base, value);
-        engine.storedParams[channel][base] = value;
-        engine.RefreshChannel(channel);
-    }
-
-    GrooveEngine& engine;
-    const int channel;
-    const std::span<const int> bases;
-    float values[std::size(kKeptByPrograms)] = {};
-};
 
 Image MakeState(const GrooveEngine& engine)
 {
@@ -332,7 +295,7 @@ bool KVInstrument::ReplacePart(const Image& image)
     PreparedFiles files(*engine);
     if (part.settings.begun) files.Prepare(part.channel, part.settings);
     MakeChange([&] {
-        Kept kept(*engine, part.channel, kKeptByParts);
+        KeptSettings kept(*engine, part.channel, kKeptByParts);
         PutPart(*engine, part);
         files.Put();
         kept.PutBackChanged();
@@ -352,7 +315,7 @@ bool KVInstrument::ReplaceChannel(const char* path, int channel)
     PreparedFiles files(*engine);
     if (settings.begun) files.Prepare(channel, settings);
     MakeChange([&] {
-        Kept kept(*engine, channel, kKeptByPrograms);
+        KeptSettings kept(*engine, channel, kKeptByPrograms);
         PutSettings(*engine, channel, settings);
         files.Put();
         kept.PutBack();
