@@ -38,9 +38,9 @@ public:
 
     /// Silences the unit: delay memory, filters, recording, LFO phase, on-level and tail. Throws std::bad_alloc and
     /// stays at its rate when there is no memory for another one.
-    /// newRate  Hz; 0 keeps the rate. Only a rate that differs from the present one allocates; at one that is not
-    /// usable
-    ///          (Limits.h) the delay memory of the rate before stays
+    ///
+    /// newRate  Hz; 0 keeps the rate. Only another one allocates; where it is not usable (Limits.h), the memory of the
+    ///          rate before stays
     void Reset(float newRate);
 
     /// Does nothing when the rate is not usable or the tempo below 1. Allocates nothing. An input that is not finite,
