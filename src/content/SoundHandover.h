@@ -20,9 +20,9 @@ struct PoolEntry;
 //   returned   In the pool's SoundReturns. The loader takes the whole list in its next round, counts a user less for
 //              each and frees what nobody uses.
 //
-// Requests of one slot are served in order, as there is one loader. Neither it nor the audio thread waits here. Who asks
-// for files and is not the audio thread waits for the loader alone: a file that is offered counts as loaded, since the
-// next run takes it.
+// Requests of one slot are served in order, as there is one loader. Neither it nor the audio thread waits here. Who
+// asks for files and is not the audio thread waits for the loader alone: a file that is offered counts as loaded, since
+// the next run takes it.
 //
 // A state, a part or a program:
 //

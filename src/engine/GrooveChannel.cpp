@@ -75,7 +75,14 @@ void GrooveChannel::TakeOffers()
         if (!sound.sampleSlots[static_cast<std::size_t>(s)].TakeOffer(sound.samplePool.returned)) continue;
         const bool isLayer = s >= kFirstLayerSlot;
         if (isLayer != sound.isSampler) continue;
-        for (auto& voice : voices) (isLayer ? voice->layers[s - kFirstLayerSlot].seam : voice->seam).Begin();
+        for (auto& voice : voices) {
+            if (!isLayer) {
+                voice->seam.Begin();
+                continue;
+            }
+            SamplerLayer& layer = voice->layers[s - kFirstLayerSlot];
+            layer.seam.Begin(voice->sounded && layer.position > 0.0 && layer.delayFrames == 0);
+        }
     }
 }
 
@@ -115,6 +122,7 @@ void GrooveChannel::RenderVoices(int frames)
             voice.seam.Join(voice.left, voice.right, frames);
         }
         ApplyAmplitude(voice, own.amp, frames);
+        if (frames > 0) voice.sounded = true;
     }
 }
 

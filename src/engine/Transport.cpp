@@ -112,7 +112,7 @@ void Serve(GrooveEngine& engine, std::uint32_t pushed)
     auto& orders = commands.transport;
     const auto left = [&orders](std::uint32_t until) { return static_cast<std::int32_t>(until - orders.Popped()); };
     for (TransportCommand order; left(pushed) > 0;) {
-        const bool isLate = left(commands.loadBegan) <= 0;
+        const bool isLate = (commands.sinceLoad & EngineCommands::kLoading) && left(commands.loadBegan) <= 0;
         if (!orders.Pop(order)) break;
         if (isLate) Note(commands, order);
         Execute(engine, order);
@@ -148,6 +148,7 @@ void BeginLoad(GrooveEngine& engine)
     commands.sinceLoad = EngineCommands::kLoading;
 }
 
+void ForgetLoad(GrooveEngine& engine) { engine.commands.sinceLoad = 0u; }
 void EndLoad(GrooveEngine& engine) { Reach(engine, ModesOf(engine.commands.sinceLoad.Exchange(0))); }
 
 } // namespace korvane

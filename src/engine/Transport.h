@@ -20,6 +20,9 @@ Modes ShownModes(const GrooveEngine& engine);
 /// A groove begins to load: what it will stop is what has been ordered until now. The loader, one load at a time.
 void BeginLoad(GrooveEngine& engine);
 
+/// It was refused before it changed anything.
+void ForgetLoad(GrooveEngine& engine);
+
 // Who has the engine to itself.
 
 /// The loaded groove stands; orders given since the load began count on it. The clock has the host's time.

@@ -109,7 +109,9 @@ void CSynthesizer::ServeChange()
 {
     const std::function<void()>* const waiting = change.load(std::memory_order_acquire);
     if (!waiting) return;
+    changeCount.fetch_add(1);
     (*waiting)();
+    changeCount.fetch_add(1);
     change.store(nullptr, std::memory_order_release);
 }
 

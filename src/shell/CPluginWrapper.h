@@ -5,8 +5,8 @@ namespace korvane {
 
 class CPluginEditor;
 
-/// Implemented by each bridge; the engine keeps it for its whole life. Any thread calls but the audio thread, from which
-/// only RealTime is asked.
+/// Implemented by each bridge; the engine keeps it for its whole life. Any thread calls, the audio thread RealTime
+/// only.
 class CPluginWrapper {
 public:
     /// The plug-in itself changed a parameter. Any stored index; hosts hear of those below numHostParams.

@@ -10,6 +10,7 @@
 #include <map>
 
 #include "content/state/StateImage.h"
+#include "shell/CVstWrapper.h"
 #include "shell/vst2/AEffect.h"
 #include "support/Parameters.h"
 #include "support/Riff.h"
@@ -318,6 +319,18 @@ TEST(Plugin, ExportsItsEntriesOnly)
     const std::string list = "nm -D --defined-only --format=posix '" KORVANE_BUNDLE "/korvane.so' | cut -d ' ' -f 1";
     EXPECT_EQ(std::system(("test \"$(" + list + " | LC_ALL=C sort | xargs)\" = 'DllMain VSTPluginMain main'").c_str()),
               0);
+}
+
+// Only a host that calls its thread real-time has blocks that must not wait.
+TEST(ProcessLevel, IsRealTimeAtTwo)
+{
+    static std::int32_t level;
+    const AudioMasterCallback asked = [](AEffect*, std::int32_t opcode, std::int32_t, std::intptr_t, void*,
+                                         float) -> std::intptr_t { return opcode == 23 ? level : 0; };
+    const ContentRoot root;
+    SMX_Def::Install();
+    CVstWrapper wrapper(asked);
+    for (level = 0; level < 5; ++level) EXPECT_EQ(wrapper.RealTime(), level == 2) << level;
 }
 
 } // namespace

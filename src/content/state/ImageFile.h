@@ -46,7 +46,7 @@ inline constexpr int kMinImageFileBytes = 5; // shorter files are not looked int
 /// than five bytes.
 bool ReadImageFile(const char* path, Image& image, std::int32_t limit = INT32_MAX);
 
-/// Creates or replaces the file, see SaveFile. False, and the old file stands, when that is refused.
+/// Creates or replaces the file. False when that is refused, see SaveFile.
 bool WriteImageFile(const char* path, const Image& image);
 
 } // namespace korvane

@@ -31,11 +31,6 @@ constexpr std::chrono::hours kNoPause{1};           // the teller is always woke
 constexpr int kKeptByPrograms[] = {slot::MixLevel, slot::Panning, slot::NoteLength, slot::ShuffleEnable};
 constexpr int kKeptByParts[] = {slot::MixLevel, slot::Panning};
 
-Image MakeState(const GrooveEngine& engine)
-{
-    return MakeImage([&engine](ByteWriter& out) { WriteState(out, engine); });
-}
-
 std::string FolderText(const std::string& path) { return std::string(FolderOf(path)); }
 std::string GrooveName(const std::string& path) { return std::string(StemOf(path)); }
 
@@ -58,14 +53,14 @@ KVInstrument::KVInstrument(CPluginWrapper* bridge)
 
 bool KVInstrument::SaveGrooveFile(const char* path)
 {
-    if (!WriteImageFile(path, MakeState(*engine))) return false;
+    if (!WriteImageFile(path, StateImage())) return false;
     grooveName.Set(GrooveName(EnginePath(path)).c_str());
     return true;
 }
 
 bool KVInstrument::SaveGrooveWithSamples(const char* path)
 {
-    if (!WriteImageFile(path, MakeState(*engine))) return false;
+    if (!WriteImageFile(path, StateImage())) return false;
     bool all = true;
     constexpr std::pair<int, const char*> kFolders[] = {{kind::Sample, "Samples"}, {kind::Waveform, "Waveforms"}};
     for (const auto& [fileKind, name] : kFolders) {
@@ -96,7 +91,7 @@ bool KVInstrument::LoadGrooveFile(const char* path)
 
 bool KVInstrument::SavePartFile(const char* path)
 {
-    return WriteImageFile(path, MakeImage([this](ByteWriter& out) { WritePart(out, *engine); }));
+    return WriteImageFile(path, Unchanging([this](ByteWriter& out) { WritePart(out, *engine); }));
 }
 
 bool KVInstrument::LoadPartFile(const char* path)
@@ -123,6 +118,21 @@ void KVInstrument::LoadDefaultGroove()
 
 // Chunks
 
+template <class Write>
+Image KVInstrument::Unchanging(Write write) const
+{
+    for (;;) {
+        const std::uint32_t before = ChangeCount();
+        Image image = MakeImage(write);
+        if (before % 2 == 0 && ChangeCount() == before) return image;
+    }
+}
+
+Image KVInstrument::StateImage() const
+{
+    return Unchanging([this](ByteWriter& out) { WriteState(out, *engine); });
+}
+
 std::int32_t KVInstrument::SetProgramChunk(const void* data, std::int32_t size)
 {
     bool loaded = false;
@@ -139,7 +149,7 @@ std::int32_t KVInstrument::SetProgramChunk(const void* data, std::int32_t size)
 /// size told is given as it was then.
 std::int32_t KVInstrument::GetProgramChunk(void* buffer)
 {
-    Image image = MakeState(*engine);
+    Image image = StateImage();
     if (!buffer) {
         sizedChunk = std::move(image);
         return sizedChunk.size;
@@ -156,7 +166,7 @@ std::int32_t KVInstrument::GetProgramChunk(void* buffer)
 bool KVInstrument::SaveProgramFile(const char* path)
 {
     const int channel = engine->selection.selectedChannel;
-    if (!WriteImageFile(path, MakeImage([&](ByteWriter& out) { WriteChannelChunk(out, *engine, channel); })))
+    if (!WriteImageFile(path, Unchanging([&](ByteWriter& out) { WriteChannelChunk(out, *engine, channel); })))
         return false;
     engine->Channel(channel).programPath.Set(EnginePath(path).c_str());
     RefreshEditor();
@@ -210,7 +220,7 @@ void KVInstrument::Ask(bool bank, int number)
         std::this_thread::sleep_for(kPoll);
     };
     loader.Wake();
-    while (behind(ordersDone, asked)) wait();
+    while (behind(ordersDone, asked) && !loader.Ending()) wait();
     const std::uint32_t due = reportsDue.load(std::memory_order_acquire);
     const auto patient = std::chrono::steady_clock::now() + kTelling;
     while (behind(reportsMade, due) && std::chrono::steady_clock::now() < patient) wait();
@@ -218,7 +228,8 @@ void KVInstrument::Ask(bool bank, int number)
 
 void KVInstrument::TellHost()
 {
-    while (reportsMade.load(std::memory_order_relaxed) != reportsDue.load(std::memory_order_acquire)) {
+    while (reportsMade.load(std::memory_order_relaxed) != reportsDue.load(std::memory_order_acquire) &&
+           !teller.Ending()) {
         ReportParameters();
         RefreshEditor();
         reportsMade.fetch_add(1, std::memory_order_release);
@@ -275,7 +286,10 @@ bool KVInstrument::Replace(const std::uint8_t* data, std::int32_t size)
     BeginLoad(*engine);
     GrooveState state(*engine);
     const bool whole = ReadState(ByteReader(data, size), *engine, state);
-    if (!state.begun) return false;
+    if (!state.begun) {
+        ForgetLoad(*engine);
+        return false;
+    }
     PreparedFiles files(*engine);
     for (int c = 0; c < kChannels; ++c) files.Prepare(c, state.channels[static_cast<std::size_t>(c)]);
     MakeChange([&] {

@@ -70,6 +70,10 @@ public:
     SharedText<512> grooveName; // who loads or saves writes, every thread reads
 
 private:
+    /// The image that `write` makes of one state: again, when a load has changed it meanwhile.
+    template <class Write>
+    Image Unchanging(Write write) const;
+    Image StateImage() const;
     void Load(const Worker::Task& task); // on the loader; waits
 
     // The loader's.

@@ -43,7 +43,10 @@ public:
     /// Has the system give memory for so many entries, before the audio thread writes them; changes none. Any thread.
     void Touch(int entries) const
     {
-        for (int n = 0; n < entries; ++n) Place(n).fetch_or(0, std::memory_order_relaxed);
+        for (int n = 0; n < entries; ++n) {
+            std::uint64_t same = Place(n).load(std::memory_order_relaxed);
+            Place(n).compare_exchange_strong(same, same); // a write, which fetch_or (0) is not for every compiler
+        }
     }
 
     void Clear() { count = 0; }

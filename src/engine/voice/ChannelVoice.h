@@ -42,6 +42,7 @@ struct ChannelVoice {
     std::uint32_t age = 0; // stamp from the channel's voiceCounter
     bool active = false;
     bool releasing = false;
+    bool sounded = false; // the note has been through a run
     bool fromSequencer = false;
     bool restartPhases = false;    // oscillators 1 and 2 restart at the voice's next block
     std::int32_t note = -1;        // -1 none

@@ -10,8 +10,9 @@ namespace korvane {
 /// filters.
 class Seam {
 public:
-    /// The source has changed since the last run; nothing to join for one that has not sounded yet.
-    void Begin() { pending = sounded; }
+    /// The source has changed since the last run; nothing to join for one that begins only now.
+    /// begun  it goes on from somewhere in its middle, though nothing of it has sounded yet
+    void Begin(bool begun = false) { pending = sounded || begun; }
     /// The joint is still heard, in the filters behind it at least.
     bool Heard() const { return pending || left > 0; }
 

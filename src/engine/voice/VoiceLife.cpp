@@ -67,7 +67,7 @@ float LevelGain(float ampLevel) { return Clamp(law::AmpGain(ampLevel) / kSourceS
 
 void StartVoice(ChannelSound& channel, ChannelVoice& voice)
 {
-    voice.releasing = false;
+    voice.releasing = voice.sounded = false;
     voice.active = true;
     voice.lfo1Out = voice.lfo2Out = 0.0f;
     voice.seam = {};

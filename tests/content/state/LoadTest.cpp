@@ -70,6 +70,75 @@ TEST_F(Loads, NeverSilenceABlock)
     EXPECT_EQ(TextOf(Engine().Channel(8).sound.sampleSlots[0].name), "a");
 }
 
+// What is saved while another thread loads is one groove or the other.
+TEST_F(Loads, SavesAreOfOneState)
+{
+    Bytes states[2];
+    for (unsigned n = 0; n < 2; ++n) {
+        GrooveEngine source;
+        FillGroove(source, n);
+        states[n] = Saved(source);
+    }
+    std::atomic<bool> done{false};
+    std::thread loading([&] {
+        for (int n = 0; !done; ++n)
+            Synth().SetBankChunk(states[n % 2].data(), static_cast<int>(std::ssize(states[n % 2])));
+    });
+    Bytes saved(2 * states[0].size());
+    while (Synth().GetBankChunk(nullptr) != std::ssize(states[0])) std::this_thread::yield();
+    for (int n = 0; n < 300; ++n) {
+        const auto size = static_cast<std::size_t>(Synth().GetBankChunk(saved.data()));
+        const auto is = [&](const Bytes& state) {
+            return size == state.size() && std::equal(state.begin(), state.end(), saved.begin());
+        };
+        ASSERT_TRUE(is(states[0]) || is(states[1])) << n;
+    }
+    done = true;
+    loading.join();
+}
+
+// A start that comes while a groove loads plays it, also when a block has begun to play what was before.
+TEST_F(Loads, StartsWhileAGrooveLoadsCountOnIt)
+{
+    const Bytes state = Saved(Engine());
+    for (const bool started : {false, true}) {
+        Synth().SetPlaying(false);
+        Play(64);
+        std::atomic<bool> done{false};
+        std::thread loading([&] {
+            Synth().SetBankChunk(state.data(), static_cast<int>(std::ssize(state)));
+            done = true;
+        });
+        while (Engine().commands.sinceLoad == 0u && !done) std::this_thread::yield(); // it waits for the next block
+        if (started) Synth().SetPlaying(true);
+        for (int n = 0; n < 100; ++n) Play(64);
+        loading.join();
+        Play(64);
+        EXPECT_EQ(Engine().clock.playing, started);
+    }
+}
+
+// An image that ends too early leaves what came before its end; what no image has is as in an empty groove.
+TEST_F(Loads, LeaveOfARefusedImageWhatItHas)
+{
+    GrooveEngine source;
+    FillGroove(source, 3);
+    const Bytes whole = Saved(source);
+    for (const int length :
+         {3, 60, kHeader + 200, kHeader + kFramedChannel + 4000, kPatternsAt + 2, kPatternsAt + 5000}) {
+        SCOPED_TRACE(length);
+        const Bytes cut(whole.begin(), whole.begin() + length);
+        Close();
+        Engine().mixer.soloSelected = true;
+        GrooveEngine expected;
+        std::snprintf(expected.defaultWavePath, sizeof expected.defaultWavePath, "%s", Engine().defaultWavePath);
+        expected.ResetGroove();
+        EXPECT_EQ(Synth().SetBankChunk(cut.data(), length) != 0, Load(expected, cut));
+        EXPECT_TRUE(Saved(Engine()) == Saved(expected));
+        EXPECT_EQ(Engine().mixer.soloSelected, length < 4);
+    }
+}
+
 // In real time nobody waits: the loader reads later, into the channel that was selected then, and reports by itself.
 // Elsewhere the program is there at its event, and reported before the block ends.
 TEST_F(Loads, BlocksWaitForProgramsOnlyWhereTheHostLetsThem)
@@ -90,13 +159,14 @@ TEST_F(Loads, BlocksWaitForProgramsOnlyWhereTheHostLetsThem)
         const auto cutoff = [this](int c) { return static_cast<float>(Engine().storedParams[c][slot::FilterCutoff]); };
         Engine().selection.selectedChannel = 9;
         ASSERT_NE(cutoff(9), 0.25f);
-        for (const int loads : {1, 2}) { // the second while the loader cannot go on
+        for (const int loads : {1, 2}) { // in real time the host is still busy with the report of the first
             Queue(0xB0, controller::BankSelect, 0);
             Play(64);
             if (!realTime) { EXPECT_EQ(host.told, loads * param::Count); }
             if (!realTime) { EXPECT_EQ(cutoff(9), 0.25f); }
         }
         Engine().selection.selectedChannel = 10;
+        Synth().LoadSample(0, kFirstLayerSlot, ""); // waits for no report
         released = true;
         Synth().FinishLoading();
         EXPECT_EQ(cutoff(9), 0.25f);
