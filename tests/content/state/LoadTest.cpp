@@ -86,7 +86,7 @@ TEST_F(Loads, SavesAreOfOneState)
     });
     Bytes saved(2 * states[0].size());
     while (Synth().GetBankChunk(nullptr) != std::ssize(states[0])) std::this_thread::yield();
-    for (int n = 0; n < 300; ++n) {
+    for (int n = 0; n < 2000; ++n) { // one of a few hundred would meet a change
         const auto size = static_cast<std::size_t>(Synth().GetBankChunk(saved.data()));
         const auto is = [&](const Bytes& state) {
             return size == state.size() && std::equal(state.begin(), state.end(), saved.begin());
