@@ -87,15 +87,16 @@ TEST_F(Loads, SavesAreOfOneState)
     });
     Bytes saved(2 * states[0].size());
     while (synth.GetBankChunk(nullptr) != std::ssize(states[0])) std::this_thread::yield();
+    int mixed = 0;
     for (int n = 0; n < 2000; ++n) { // one of some hundred meets a change
         const auto size = static_cast<std::size_t>(synth.GetBankChunk(saved.data()));
-        const auto is = [&](const Bytes& state) {
+        mixed += std::none_of(std::begin(states), std::end(states), [&](const Bytes& state) {
             return size == state.size() && std::equal(state.begin(), state.end(), saved.begin());
-        };
-        ASSERT_TRUE(is(states[0]) || is(states[1])) << n;
+        });
     }
     done = true;
     loading.join();
+    EXPECT_EQ(mixed, 0);
 }
 
 // A start that comes while a groove loads plays it, also when a block has begun to play what was before.
