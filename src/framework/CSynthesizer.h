@@ -97,10 +97,9 @@ public:
 
     /// Changes begun and changes made, counted together: odd while one is being made. What was read of the engine
     /// between two equal, even answers is all from before a change, or all from after it.
-    std::uint32_t ChangeCount() const
+    std::uint32_t ChangeCount() const // changes nothing, but keeps its place among the reads around it
     {
-        std::atomic_thread_fence(std::memory_order_acquire);
-        return changeCount.load(std::memory_order_acquire);
+        return changeCount.fetch_add(0, std::memory_order_acq_rel);
     }
 
     /// Makes the change that waits, if there is one and this thread has the engine to itself or may have it now. For
@@ -136,7 +135,7 @@ private:
     Shared<std::thread::id> audioThread;        // rendered the last block; nobody before the first
     Shared<std::int32_t> blockFrames;           // of the last blocks
     std::atomic<const std::function<void()>*> change{nullptr}; // that waits, null when none does
-    std::atomic<std::uint32_t> changeCount{0};
+    mutable std::atomic<std::uint32_t> changeCount{0};
     std::atomic<bool> processing{false}; // somebody has the engine to itself
     std::atomic<int> programChanges{0};
 };
