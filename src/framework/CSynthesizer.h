@@ -113,12 +113,13 @@ public:
     Shared<double> sampleRate = 1000.0; // Hz, until a bridge sets it
     Shared<double> tempo = 120.0;       // beats per minute, at least 1
 
+    CPluginWrapper* const wrapper; // the bridge; null without a host
+
 protected:
     /// Appends to the list; the first one becomes current. Construction only.
     void AddProgram(std::unique_ptr<CProgram> program);
     CProgram* ProgramAt(int index) const;
 
-    CPluginWrapper* const wrapper;
     Shared<std::thread::id> blockThread; // who has the engine to itself, in a block or switch; nobody in between
 
 private:

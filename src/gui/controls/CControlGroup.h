@@ -51,7 +51,7 @@ public:
     CControl* controls = nullptr; // the first
     CPluginUI* window;
     int id;
-    int modifiers = 0; // of the last mouse event
+    int modifiers = 0;      // of the last mouse event
     bool wasActive = false; // before a control had the focus
 };
 

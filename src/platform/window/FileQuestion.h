@@ -13,8 +13,8 @@ struct FileQuestion {
         std::vector<std::string> extensions; // without a dot
     };
 
-    bool save = false; // a file to write, which may be new; else one that is there
-    std::string title; // empty: the dialog's own
+    bool save = false;  // a file to write, which may be new; else one that is there
+    std::string title;  // empty: the dialog's own
     std::string folder; // where it starts, as the engine writes paths; empty: wherever it likes
     std::string name;   // proposed
     std::vector<Filter> filters;

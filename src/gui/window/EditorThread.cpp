@@ -1,0 +1,97 @@
+// The window's thread, from its host's Open to its host's Close.
+#include "gui/window/EditorThread.h"
+
+#include <exception>
+
+namespace korvane {
+
+using namespace std::chrono_literals;
+
+constexpr auto kPatience = 250ms; // with a thread that the host keeps
+constexpr int kRound = 1000;      // milliseconds between two looks; whatever matters wakes the thread
+
+EditorThread::~EditorThread()
+{
+    Close();
+    if (thread.joinable()) thread.join();
+}
+
+bool EditorThread::Open(void* parent, int height, int width)
+{
+    if (OnOwnThread()) return !closing;
+    if (thread.joinable() && !closing) {
+        std::unique_lock guard(lock);
+        if (state == State::Open) return true;
+    }
+    if (!Forget(kPatience)) return false;
+    const int scale = editor->Platform().Scale();
+    closing = false;
+    state = State::Opening;
+    try {
+        thread = std::thread(&EditorThread::Run, this, parent, Size{height / scale, width / scale});
+    } catch (const std::exception&) {
+        state = State::Closed;
+        return false;
+    }
+    std::unique_lock guard(lock);
+    news.wait(guard, [this] { return state != State::Opening; });
+    return state == State::Open;
+}
+
+void EditorThread::Close()
+{
+    if (!OnOwnThread() && !thread.joinable()) return;
+    closing = true;
+    editor->Platform().RequestClose();
+    if (!OnOwnThread() && Forget(kPatience)) return;
+    handle = nullptr;
+    editor->Platform().Withdraw();
+}
+
+void EditorThread::GetEditorSize(int& height, int& width) const
+{
+    const int scale = editor->Platform().Scale();
+    height = editor->editorHeight * scale;
+    width = editor->editorWidth * scale;
+}
+
+void EditorThread::Run(void* parent, Size size)
+{
+    own = std::this_thread::get_id();
+    try {
+        if (editor->Open(size.height, size.width, parent)) {
+            handle = editor->windowHandle;
+            Enter(State::Open);
+            while (!closing && editor->Platform().Serve(kRound)) {}
+            handle = nullptr;
+            if (editor->mouseCaptured) editor->CancelAll(); // the host hears of the end of a gesture
+        }
+    } catch (const std::exception&) { // no memory: the window goes, the host stays
+    }
+    editor->Close();
+    own = std::thread::id();
+    Enter(State::Ended);
+}
+
+void EditorThread::Enter(State next)
+{
+    {
+        std::lock_guard guard(lock);
+        state = next;
+    }
+    news.notify_all();
+}
+
+bool EditorThread::Forget(std::chrono::milliseconds patience)
+{
+    if (!thread.joinable()) return true;
+    {
+        std::unique_lock guard(lock);
+        if (!news.wait_for(guard, patience, [this] { return state == State::Ended; })) return false;
+        state = State::Closed;
+    }
+    thread.join();
+    return true;
+}
+
+} // namespace korvane
