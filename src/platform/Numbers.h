@@ -19,6 +19,12 @@ inline int Truncate(double value)
     return value < 0.0 ? INT32_MIN : value > 0.0 ? INT32_MAX : 0;
 }
 
+/// The nearest int.
+constexpr int Saturate(std::int64_t value)
+{
+    return static_cast<int>(value < INT32_MIN ? INT32_MIN : value > INT32_MAX ? INT32_MAX : value);
+}
+
 /// NaN gives low.
 template <class T>
 constexpr T Clamp(T value, T low, T high)

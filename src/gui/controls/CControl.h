@@ -21,7 +21,7 @@ public:
     // clang-format off
     virtual bool IsDirty() { return dirty; }
     virtual void SetDirty(bool on) { dirty = on; }
-    /// Whether that changed it. The engine hears of it by NotifyChanged only.
+    /// Whether that changed it; NaN changes nothing. The engine hears of it by NotifyChanged only.
     virtual bool SetValue(float newValue);
     virtual float GetValue() { return value; }
     virtual void SetRect(int x, int y, int w, int h) { rect = {x, y, w, h}; }
@@ -70,7 +70,7 @@ public:
     virtual bool OnFileDrop(const char*, int, int) { return false; } // whether it takes the file
     virtual Point GetMousePosition();                      // (-1, -1) without a window
     // clang-format on
-    virtual ~CControl() = default;
+    virtual ~CControl();
 
     Rect rect;
     int id;
@@ -82,8 +82,15 @@ public:
     CControlGroup* group = nullptr; // null until added
 
 protected:
+    /// Notifies. Whether the control is still there: who hears of its value may remove it, or close the window.
+    [[nodiscard]] bool Report();
     /// Draws the part of the page's background that lies under a rectangle.
     void DrawPage(CDrawBuffer* buffer, Rect part);
+    /// Shows what Draw has drawn outside of the control's own rectangle.
+    void ShowDrawn(Rect part);
+
+private:
+    bool* ended = nullptr; // set when the control ends, for a Report that waits
 };
 
 } // namespace korvane

@@ -5,7 +5,9 @@
 
 namespace korvane {
 
-/// Owns its controls. The window's thread.
+class ControlWalk;
+
+/// Owns its controls. The window's thread. Whoever hears an event may remove any control, or end the group.
 class CControlGroup {
 public:
     explicit CControlGroup(CPluginUI* owner, int number = -1) : window(owner), id(number) {}
@@ -53,6 +55,16 @@ public:
     int id;
     int modifiers = 0;      // of the last mouse event
     bool wasActive = false; // before a control had the focus
+
+private:
+    friend class ControlWalk;
+    CControl* ControlAt(int x, int y);
+    void Route(CControl* control, int x, int y, int type);
+    void Wheel(int x, int y);
+    void Hover(CControl& control, int x, int y);
+    void DrawBehindFocus();
+
+    ControlWalk* walks = nullptr; // under way, the innermost first
 };
 
 } // namespace korvane
