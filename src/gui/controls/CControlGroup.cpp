@@ -68,7 +68,7 @@ void CControlGroup::RefreshValues()
 {
     if (!window) return;
     window->LockRedraw();
-    for (ControlWalk walk(*this); CControl* const control = walk.Next();)
+    for (CControl* control = controls; control; control = control->next)
         control->SetValue(window->GetParameterValue(control));
     window->UnlockRedrawPending();
 }
