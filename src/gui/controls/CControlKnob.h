@@ -30,10 +30,10 @@ public:
     bool inverted = false;     // draws 1 minus the value
     bool crossfade = false;    // between neighbouring frames
     int frameCount = 0;
-    int frameSize;             // from frame to frame, pixels
-    int steps = 0;             // draws so many steps; 0: all values
-    bool springBack = false;   // to the default when it is let go
-    float smoothing = 0.0f;    // part of the way to the value that the drawing goes per tick; 0: shows the value at once
+    int frameSize;           // from frame to frame, pixels
+    int steps = 0;           // draws so many steps; 0: all values
+    bool springBack = false; // to the default when it is let go
+    float smoothing = 0.0f;  // part of the way to the value that the drawing goes per tick; 0: shows the value at once
     bool drawPointer = false;
     float pointerRadius;
     float sweep = 4.712389f; // radians from 0 to 1, clockwise around the top

@@ -16,8 +16,8 @@ void CControlSlider::OnLeftDown(int x, int y)
         const auto part = [](int place, int start, int length, int taken) { // of the way that the handle can go
             return static_cast<float>(std::int64_t{place} - start) / static_cast<float>(std::int64_t{length} - taken);
         };
-        const float clicked = horizontalTrack ? 1.0f - part(y, track.y, track.h, size.height)
-                                              : part(x, track.x, track.w, size.width);
+        const float clicked =
+            horizontalTrack ? 1.0f - part(y, track.y, track.h, size.height) : part(x, track.x, track.w, size.width);
         SetValue(Clamp(clicked, 0.0f, 1.0f));
         if (!Report()) return;
     }
@@ -42,9 +42,10 @@ void CControlSlider::DrawHandle(CDrawBuffer* buffer)
     const Size size = handle->GetSize();
     const auto spare = [](int length, int taken) { return static_cast<float>(std::int64_t{length} - taken); };
     const float position = ShownPosition();
-    const float left = static_cast<float>(std::int64_t{track.x} + handleOffset.x) + spare(track.w, size.width) * position;
-    const float top = static_cast<float>(std::int64_t{track.y} + handleOffset.y) +
-                      spare(track.h, size.height) * (1.0f - position);
+    const float left =
+        static_cast<float>(std::int64_t{track.x} + handleOffset.x) + spare(track.w, size.width) * position;
+    const float top =
+        static_cast<float>(std::int64_t{track.y} + handleOffset.y) + spare(track.h, size.height) * (1.0f - position);
     const float along = horizontalTrack ? top : left;
     const int whole = Truncate(std::floor(along));
     const auto draw = [&](int offset, float opacity) {

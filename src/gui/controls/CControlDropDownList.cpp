@@ -1,0 +1,198 @@
+// A text box that opens a list: how it is opened, scrolled and chosen from.
+#include "gui/controls/CControlDropDownList.h"
+
+#include <algorithm>
+#include <cstring>
+
+#include "gui/controls/KeptDrawState.h"
+#include "gui/window/CPluginUI.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+CControlDropDownList::~CControlDropDownList() = default;
+
+DropDownItem& CControlDropDownList::AddItem(const char* itemText, std::uint8_t kind)
+{
+    SetDirty(true);
+    return items.Add(itemText, kind);
+}
+
+void CControlDropDownList::ClearItems()
+{
+    Close();
+    items.Clear();
+    SetDirty(true);
+}
+
+void CControlDropDownList::SetClosedText(const char* newText)
+{
+    if (!newText) newText = "";
+    if (std::strncmp(closedText, newText, sizeof closedText - 1) == 0) return;
+    const std::size_t length = strnlen(newText, sizeof closedText - 1);
+    std::memmove(closedText, newText, length);
+    closedText[length] = 0;
+    SetDirty(true);
+}
+
+const char* CControlDropDownList::ClosedText()
+{
+    if (!showText) return "";
+    if (*closedText) return closedText;
+    const DropDownItem* const chosen = value < 0.0f ? nullptr : items.At(Truncate(value));
+    return chosen ? chosen->text : "<none>";
+}
+
+// Opening and choosing
+
+void CControlDropDownList::Open()
+{
+    CDrawBuffer* const page = GetDrawBuffer();
+    if (!page || !page->IsValid() || items.Count() == 0) return;
+    SetFocus(true); // first: it takes the mouse from whoever has it
+    CaptureMouse(false);
+    LayoutList();
+    open = true;
+    thumbHeld = false;
+    hoverIndex = -1;
+    listFade = 0.0f;
+    SetDirty(true);
+}
+
+void CControlDropDownList::LayoutList()
+{
+    CDrawBuffer* const page = GetDrawBuffer();
+    if (!page) return;
+    const KeptDrawState kept(page);
+    const auto measure = [&](const char* measured, int face) {
+        page->SetFont(face);
+        return page->DrawText(measured, 0, 0, 0, 0, align::Left, true);
+    };
+    OpenListLayout::Rows rows{items.Count(), 0, measure("QWERTY", itemFont).height + itemPadding};
+    int index = 0;
+    for (const DropDownItem* shown = items.First(); shown; shown = shown->next, ++index)
+        rows.width = std::max(rows.width, measure(shown->text, FontOf(index, *shown)).width);
+    rows.width += 2 * itemPadX;
+    layout.Place(rect, GetEditorSize(), rows);
+    scrollSpeed = layout.ScrollPerPixel();
+    scroll = layout.ScrollThatCentres(Truncate(value));
+}
+
+void CControlDropDownList::Close()
+{
+    if (!open) return;
+    open = thumbHeld = false;
+    picture.reset();
+    behind.reset();
+    ReleaseMouse();
+    SetFocus(false);
+    SetDirty(true);
+    InvalidateAll();
+}
+
+void CControlDropDownList::OnLeftDown(int x, int y)
+{
+    if (!open) return Open();
+    if (PressScrollBar(x, y)) return;
+    const int index = IndexAt(x, y);
+    Close();
+    if (index >= 0) Choose(index);
+}
+
+/// Whoever hears of a choice may fill the list anew, and choose another item meanwhile.
+void CControlDropDownList::Choose(int index)
+{
+    const float chosen = static_cast<float>(index), before = value;
+    if (items.At(index)->kind != item::Command) {
+        SetValue(chosen);
+        NotifyChanged(true);
+        return;
+    }
+    value = chosen;
+    if (Report() && value == chosen) value = before;
+}
+
+int CControlDropDownList::IndexAt(int x, int y)
+{
+    const int index = open ? layout.RowAt(x, y, scroll) : -1;
+    const DropDownItem* const found = items.At(index);
+    return found && !found->notSelectable ? index : -1;
+}
+
+DropDownItem* CControlDropDownList::ItemAt(int x, int y) { return items.At(IndexAt(x, y)); }
+
+// Scrolling
+
+Rect CControlDropDownList::GetItemRect(int index) { return layout.Row(index, scroll); }
+
+void CControlDropDownList::GetScrollBarRects(Rect& thumb, Rect& bar)
+{
+    thumb = layout.Thumb(scroll);
+    bar = layout.Bar();
+}
+
+/// Takes the thumb, or scrolls by a page towards the pointer. Whether the pointer is on the bar.
+bool CControlDropDownList::PressScrollBar(int x, int y)
+{
+    Rect thumb, bar;
+    GetScrollBarRects(thumb, bar);
+    if (!bar.Contains(x, y)) return false;
+    thumbHeld = thumb.Contains(x, y);
+    thumbStart = y;
+    scrollStart = scroll;
+    if (!thumbHeld) ScrollTo(scroll + (y < thumb.y ? -1.0f : 1.0f) * layout.ScrollPerPage());
+    return true;
+}
+
+void CControlDropDownList::OnLeftUp(int, int) { thumbHeld = false; }
+
+void CControlDropDownList::OnMouseMove(int x, int y)
+{
+    if (!open) return;
+    if (thumbHeld)
+        ScrollTo(scrollStart + static_cast<float>(std::int64_t{y} - thumbStart) * scrollSpeed);
+    else
+        Hover(x, y);
+}
+
+void CControlDropDownList::OnWheel(int, int notches)
+{
+    constexpr float kPixelsPerNotch = 15.0f;
+    if (!open || thumbHeld) return;
+    ScrollTo(scroll - static_cast<float>(notches) * kPixelsPerNotch * scrollSpeed);
+    const Point pointer = GetMousePosition();
+    Hover(pointer.x, pointer.y);
+}
+
+void CControlDropDownList::ScrollTo(float position)
+{
+    position = Clamp(position, 0.0f, 1.0f);
+    if (position == scroll) return;
+    scroll = position;
+    Redraw();
+}
+
+void CControlDropDownList::Hover(int x, int y)
+{
+    const int index = IndexAt(x, y);
+    if (index == hoverIndex) return;
+    hoverIndex = index;
+    Redraw();
+}
+
+void CControlDropDownList::OnTick()
+{
+    if (!open || listFade == 1.0f) return;
+    listFade = Clamp(listFade + listFadeStep, 0.0f, 1.0f);
+    SetDirty(true);
+}
+
+void CControlDropDownList::Draw(CDrawBuffer* buffer)
+{
+    if (!buffer) return;
+    SetText(ClosedText());
+    CControlTextDisplay::Draw(buffer);
+    if (open) DrawOpenList(buffer);
+}
+
+} // namespace korvane
