@@ -1,10 +1,10 @@
-// A text box that opens a list: how it is opened, scrolled and chosen from.
+// A text box that opens a list of choices and commands.
 #include "gui/controls/CControlDropDownList.h"
 
 #include <algorithm>
 #include <cstring>
 
-#include "gui/controls/KeptDrawState.h"
+#include "gui/controls/RaisedBox.h"
 #include "gui/window/CPluginUI.h"
 #include "platform/Numbers.h"
 
@@ -63,16 +63,13 @@ void CControlDropDownList::LayoutList()
 {
     CDrawBuffer* const page = GetDrawBuffer();
     if (!page) return;
-    const KeptDrawState kept(page);
-    const auto measure = [&](const char* measured, int face) {
-        page->SetFont(face);
-        return page->DrawText(measured, 0, 0, 0, 0, align::Left, true);
-    };
-    OpenListLayout::Rows rows{items.Count(), 0, measure("QWERTY", itemFont).height + itemPadding};
+    OpenListLayout::Rows rows{items.Count()};
     int index = 0;
-    for (const DropDownItem* shown = items.First(); shown; shown = shown->next, ++index)
-        rows.width = std::max(rows.width, measure(shown->text, FontOf(index, *shown)).width);
-    rows.width += 2 * itemPadX;
+    for (const DropDownItem* shown = items.First(); shown; shown = shown->next, ++index) {
+        const Size size = look.Measure(page, *shown, StateOf(index, *shown));
+        rows.width = std::max(rows.width, size.width);
+        rows.height = size.height;
+    }
     layout.Place(rect, GetEditorSize(), rows);
     scrollSpeed = layout.ScrollPerPixel();
     scroll = layout.ScrollThatCentres(Truncate(value));
@@ -187,12 +184,71 @@ void CControlDropDownList::OnTick()
     SetDirty(true);
 }
 
+// Drawing
+
 void CControlDropDownList::Draw(CDrawBuffer* buffer)
 {
     if (!buffer) return;
     SetText(ClosedText());
     CControlTextDisplay::Draw(buffer);
     if (open) DrawOpenList(buffer);
+}
+
+Rect CControlDropDownList::ListWithShadow()
+{
+    const Rect box = layout.Box();
+    const int shadow = Clamp(look.shadow, 0, 64);
+    return {box.x, box.y, Saturate(std::int64_t{box.w} + shadow), Saturate(std::int64_t{box.h} + shadow)};
+}
+
+/// Above the page as it was when the list opened: what is drawn there again and again is not all opaque.
+void CControlDropDownList::DrawOpenList(CDrawBuffer* buffer)
+{
+    const Rect box = layout.Box(), whole = ListWithShadow();
+    CPluginUI* const window = GetWindow();
+    if (!behind || (window && window->IsDirty())) {
+        behind = std::make_unique<CDrawBuffer>();
+        picture = std::make_unique<CDrawBuffer>();
+        if (!behind->Create(whole.h, whole.w, false) || !picture->Create(box.h, box.w, false)) return;
+        buffer->Draw(behind.get(), {0, 0, whole.w, whole.h}, {whole.x, whole.y});
+    }
+    behind->Draw(buffer, whole, {0, 0});
+    DrawListShadow(buffer);
+    RenderList(picture.get());
+    picture->DrawBlended(buffer, box, {0, 0}, static_cast<std::uint8_t>(Truncate(listFade * 255.0f + 0.5f)));
+    ShowDrawn(whole);
+}
+
+void CControlDropDownList::DrawListShadow(CDrawBuffer* buffer)
+{
+    const Rect whole = ListWithShadow();
+    DrawSoftShadow(buffer, whole, whole.w - layout.Box().w, look.shadowColor, listFade);
+}
+
+DropDownLook::State CControlDropDownList::StateOf(int index, const DropDownItem& shown)
+{
+    const bool current = shown.kind == item::Choice && value == static_cast<float>(index);
+    return {current || shown.marked, index == hoverIndex};
+}
+
+void CControlDropDownList::RenderList(CDrawBuffer* buffer)
+{
+    if (!buffer) return;
+    const Rect box = layout.Box();
+    const auto local = [&box](Rect r) {
+        return Rect{Saturate(std::int64_t{r.x} - box.x), Saturate(std::int64_t{r.y} - box.y), r.w, r.h};
+    };
+    DrawPanel(buffer, local(box), look.topColor, look.bottomColor, look.frameColor);
+    if (!buffer->SetClipRect(local(layout.View()))) return;
+    int index = 0;
+    for (const DropDownItem* shown = items.First(); shown; shown = shown->next, ++index) {
+        const Rect row = local(GetItemRect(index));
+        if (row.y < box.h && row.y > -row.h) look.DrawRow(buffer, row, *shown, StateOf(index, *shown));
+    }
+    buffer->ResetClipRect();
+    Rect thumb, bar;
+    GetScrollBarRects(thumb, bar);
+    if (bar.h > 0) look.DrawScrollBar(buffer, local(thumb), local(bar));
 }
 
 } // namespace korvane

@@ -4,7 +4,7 @@
 #include <memory>
 
 #include "gui/controls/CControlTextDisplay.h"
-#include "gui/controls/DropDownItems.h"
+#include "gui/controls/DropDownLook.h"
 #include "gui/controls/OpenListLayout.h"
 
 namespace korvane {
@@ -45,24 +45,13 @@ public:
     void Close();
 
     DropDownItems items;
-    bool showText = true; // while closed
-    int itemFont = 0, selectedFont = 1, headingFont = 0;
-    Color listTopColor = Rgb(253, 252, 245), listBottomColor = Rgb(238, 235, 219);
-    Color listFrameColor = Rgb(52, 44, 34);
-    Color itemColor = Rgb(44, 38, 30), selectedItemColor = Rgb(186, 84, 18), disabledItemColor = Rgb(160, 154, 138);
-    Color headingColor = Rgb(126, 104, 72), headingBandColor = Rgb(120, 96, 56, 30);
-    Color separatorColor = Rgb(120, 96, 56, 90);
-    Color hoverItemColor = kWhite, hoverTopColor = Rgb(244, 150, 78), hoverBottomColor = Rgb(228, 118, 42);
-    Color barColor = Rgb(120, 96, 56, 36);
-    Color thumbTopColor = Rgb(174, 162, 134), thumbBottomColor = Rgb(142, 130, 104);
-    Color listShadowColor = kBlack;
-    int listShadow = 6;                // pixels
-    int itemPadX = 8, itemPadding = 5; // beside the texts; above and below, together
-    float listFadeStep = 0.25f;        // per tick
-    float scroll = 0.0f;               // 0..1
-    float scrollSpeed = 0.0f;          // of the scroll position, per pixel
-    int hoverIndex = -1;               // of the item under the pointer
-    float listFade = 0.0f;             // 0..1, opacity of the open list
+    DropDownLook look;
+    bool showText = true;       // while closed
+    float listFadeStep = 0.25f; // per tick
+    float scroll = 0.0f;        // 0..1
+    float scrollSpeed = 0.0f;   // of the scroll position, per pixel
+    int hoverIndex = -1;        // of the item under the pointer
+    float listFade = 0.0f;      // 0..1, opacity of the open list
 
 private:
     void Open();
@@ -71,10 +60,7 @@ private:
     int IndexAt(int x, int y);
     void Hover(int x, int y);
     void ScrollTo(float position);
-    bool IsCurrent(int index, const DropDownItem& shown);
-    int FontOf(int index, const DropDownItem& shown);
-    void RenderItem(CDrawBuffer* buffer, int index, const DropDownItem& shown, Rect place);
-    void RenderScrollBar(CDrawBuffer* buffer);
+    DropDownLook::State StateOf(int index, const DropDownItem& shown);
     void DrawOpenList(CDrawBuffer* buffer);
     Rect ListWithShadow();
     const char* ClosedText();
