@@ -26,17 +26,24 @@ void CControl::NotifyChanged(bool notify)
     if (notify && group) group->ControlChanged(this);
 }
 
-bool CControl::Report()
+/// Whether the control is still there after a call.
+template <class Call>
+bool CControl::Survives(Call call)
 {
     bool gone = false;
     bool* const outer = ended;
     ended = &gone;
-    NotifyChanged(true);
+    call();
     if (!gone)
         ended = outer;
     else if (outer)
         *outer = true;
     return !gone;
+}
+
+bool CControl::Report()
+{
+    return Survives([this] { NotifyChanged(true); });
 }
 
 void CControl::Delete()
@@ -127,9 +134,7 @@ bool CControl::IsCapturing()
 
 void CControl::CancelInteraction()
 {
-    OnLeftUp(-1, -1);
-    OnRightUp(-1, -1);
-    OnMiddleUp(-1, -1);
+    if (Survives([this] { OnLeftUp(-1, -1); }) && Survives([this] { OnRightUp(-1, -1); })) OnMiddleUp(-1, -1);
 }
 
 void CControl::EndEdit()

@@ -90,7 +90,10 @@ protected:
     void ShowDrawn(Rect part);
 
 private:
-    bool* ended = nullptr; // set when the control ends, for a Report that waits
+    template <class Call>
+    bool Survives(Call call);
+
+    bool* ended = nullptr; // set when the control ends, for a call that waits
 };
 
 } // namespace korvane
