@@ -182,7 +182,7 @@ void CControlGroup::Hover(CControl& control, int x, int y)
 /// when the whole window is.
 void CControlGroup::DrawBehindFocus()
 {
-    if (!window || !window->IsDirty()) return;
+    if (!focus || !window || !window->IsDirty()) return;
     for (CControl* control = controls; control; control = control->next)
         if (control != focus && !control->hidden) window->DrawControl(control);
 }

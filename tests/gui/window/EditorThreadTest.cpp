@@ -1,0 +1,188 @@
+// The window's thread between hosts that open, close, write and wait as they like.
+#include <chrono>
+#include <future>
+
+#include <gtest/gtest.h>
+
+#include "gui/window/EditorThread.h"
+#include "support/EditorRig.h"
+
+namespace korvane {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+/// Begins a gesture at a press and tells the host of each move; ends it when let go.
+struct Knob : CControl {
+    using CControl::CControl;
+    void OnLeftDown(int, int) override
+    {
+        BeginEdit();
+        CaptureMouse(true);
+    }
+    void OnMouseMove(int x, int) override
+    {
+        if (IsCapturing() && SetValue(static_cast<float>(x) / 300.0f)) NotifyChanged(true);
+    }
+    void OnLeftUp(int, int) override
+    {
+        if (!IsCapturing()) return;
+        EndEdit();
+        ReleaseMouse();
+    }
+    void Draw(CDrawBuffer* buffer) override { buffer->FillRect(rect); }
+};
+
+struct EditorThreadTest : testing::Test {
+    EditorThreadTest() : host(log), engine(&host) { Make(1); }
+
+    void Make(int scale)
+    {
+        auto made = std::make_unique<MemoryWindow>(scale);
+        window = made.get();
+        auto content = std::make_unique<TestEditor>(std::move(made), &engine, log);
+        content->fill = [editor = content.get()] { return editor->AddControl(new Knob({0, 0, 300, 200}, 92)), true; };
+        ui = content.get();
+        thread = std::make_unique<EditorThread>(std::move(content));
+    }
+
+    void PressKnob()
+    {
+        window->MoveTo(10, 10);
+        window->Press(mouse::LeftDown);
+    }
+
+    Log log;
+    LoggingHost host;
+    NumberEngine engine;
+    MemoryWindow* window = nullptr;
+    TestEditor* ui = nullptr;
+    std::unique_ptr<EditorThread> thread;
+};
+
+TEST_F(EditorThreadTest, OpensAndClosesAgainAndAgain)
+{
+    for (int n = 0; n < 20; ++n) {
+        ASSERT_TRUE(thread->Open(nullptr, 200, 300));
+        EXPECT_TRUE(thread->Open(nullptr, 200, 300));
+        EXPECT_NE(thread->Handle(), nullptr);
+        thread->ShowParameter(92, 0.5f);
+        thread->RefreshAll();
+        thread->Close();
+        EXPECT_EQ(thread->Handle(), nullptr);
+        EXPECT_EQ(ui->windowHandle, nullptr);
+        thread->Close();
+    }
+}
+
+TEST_F(EditorThreadTest, TellsTheScaledSizeAndOpensThePlainOne)
+{
+    Make(2);
+    int height = 0, width = 0;
+    thread->GetEditorSize(height, width);
+    EXPECT_EQ(height, 400);
+    EXPECT_EQ(width, 600);
+    ASSERT_TRUE(thread->Open(nullptr, height, width));
+    thread->Close();
+    EXPECT_EQ(window->size, (Size{200, 300}));
+}
+
+TEST_F(EditorThreadTest, WhatDoesNotOpenIsClosed)
+{
+    ui->fill = [] { return false; };
+    EXPECT_FALSE(thread->Open(nullptr, 200, 300));
+    thread->Close();
+    EXPECT_FALSE(thread->Open(nullptr, 200, 300));
+}
+
+TEST_F(EditorThreadTest, NoticesArriveFromAnyThreadDuringADrag)
+{
+    ASSERT_TRUE(thread->Open(nullptr, 200, 300));
+    PressKnob();
+    std::thread writer([&] {
+        for (int n = 0; n < 2000; ++n) {
+            engine.SetParameter(92, static_cast<float>(n) / 2000.0f);
+            thread->ShowParameter(92, static_cast<float>(n) / 2000.0f);
+            if (n % 100 == 0) thread->RefreshAll();
+        }
+    });
+    for (int n = 0; n < 200; ++n) {
+        window->MoveTo(n, 10);
+        window->Advance(40);
+    }
+    writer.join();
+    window->Press(mouse::LeftUp);
+    thread->Close();
+    ASSERT_FALSE(log.empty());
+    EXPECT_EQ(std::count(log.begin(), log.end(), "begin 92 0"), 1);
+    EXPECT_EQ(std::count(log.begin(), log.end(), "end 92 0"), 1);
+}
+
+TEST_F(EditorThreadTest, CloseEndsAGesture)
+{
+    ASSERT_TRUE(thread->Open(nullptr, 200, 300));
+    std::promise<void> begun;
+    host.during = [&, told = false]() mutable {
+        if (!std::exchange(told, true)) begun.set_value();
+    };
+    PressKnob();
+    ASSERT_EQ(begun.get_future().wait_for(5s), std::future_status::ready);
+    thread->Close();
+    EXPECT_EQ(log.back(), "end 92 0");
+    EXPECT_FALSE(window->grabbed);
+}
+
+TEST_F(EditorThreadTest, CloseComesBackWhileTheHostKeepsTheThread)
+{
+    ASSERT_TRUE(thread->Open(nullptr, 200, 300));
+    std::promise<void> inside, release;
+    auto released = release.get_future().share();
+    host.during = [&, told = false]() mutable {
+        if (std::exchange(told, true)) return;
+        inside.set_value();
+        released.wait();
+    };
+    PressKnob();
+    ASSERT_EQ(inside.get_future().wait_for(5s), std::future_status::ready);
+    const auto begin = Clock::now();
+    thread->Close();
+    EXPECT_LT(Clock::now() - begin, 500ms);
+    EXPECT_TRUE(window->withdrawn) << "it is gone from the screen";
+    EXPECT_EQ(thread->Handle(), nullptr);
+    EXPECT_FALSE(thread->Open(nullptr, 200, 300)) << "its thread is still with the host";
+    release.set_value();
+    EXPECT_TRUE(thread->Open(nullptr, 200, 300));
+    EXPECT_FALSE(window->withdrawn);
+}
+
+TEST_F(EditorThreadTest, TheHostMayCloseFromInsideACall)
+{
+    ASSERT_TRUE(thread->Open(nullptr, 200, 300));
+    std::promise<bool> answer;
+    host.during = [&, told = false]() mutable {
+        if (std::exchange(told, true)) return;
+        thread->Close();
+        answer.set_value(thread->Open(nullptr, 200, 300));
+    };
+    PressKnob();
+    EXPECT_FALSE(answer.get_future().get()) << "not before the call has come back";
+    EXPECT_TRUE(thread->Open(nullptr, 200, 300));
+}
+
+TEST_F(EditorThreadTest, ALostParentCountsAsClosed)
+{
+    ASSERT_TRUE(thread->Open(nullptr, 200, 300));
+    window->LoseParent();
+    const auto begin = Clock::now();
+    while (thread->Handle() && Clock::now() - begin < 5s) std::this_thread::sleep_for(1ms);
+    EXPECT_EQ(thread->Handle(), nullptr);
+    EXPECT_TRUE(thread->Open(nullptr, 200, 300));
+    EXPECT_NE(thread->Handle(), nullptr);
+    window->LoseParent();
+    thread->Close();
+    EXPECT_EQ(ui->windowHandle, nullptr);
+}
+
+} // namespace
+} // namespace korvane
