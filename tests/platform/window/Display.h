@@ -1,0 +1,127 @@
+// A display server of a test's own, with a host's window on it, and a user who moves its mouse and keys.
+#pragma once
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <memory>
+#include <spawn.h>
+#include <string>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
+#include <xcb/xcb.h>
+#include <xcb/xtest.h>
+
+#include "platform/window/XcbConnection.h"
+#include "platform/window/XcbVisual.h"
+
+namespace korvane {
+
+/// Xvfb on a free display, which DISPLAY then names; of 800 by 600 pixels.
+class DisplayServer {
+public:
+    static bool Installed() { return std::system("command -v Xvfb >/dev/null") == 0; }
+
+    DisplayServer()
+    {
+        int ends[2];
+        if (pipe(ends) != 0) return;
+        const std::string report = std::to_string(ends[1]);
+        std::vector<const char*> words = {"Xvfb",       "-displayfd", report.c_str(), "-screen",  "0",
+                                          "800x600x24", "-nolisten",  "tcp",          "-noreset", nullptr};
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", 1, 0);
+        posix_spawnp(&process, words[0], &actions, nullptr, const_cast<char**>(words.data()), environ);
+        posix_spawn_file_actions_destroy(&actions);
+        close(ends[1]);
+        char number[16] = "";
+        for (ssize_t count = 0, got = 1; got > 0 && !std::string(number).ends_with('\n'); count += got)
+            got = read(ends[0], number + count, sizeof number - 1 - count);
+        close(ends[0]);
+        setenv("DISPLAY", std::string(":").append(number, std::strcspn(number, "\n")).c_str(), 1);
+    }
+    ~DisplayServer() { Kill(); }
+
+    void Kill()
+    {
+        if (process <= 0) return;
+        kill(process, SIGTERM);
+        waitpid(process, nullptr, 0);
+        process = 0;
+    }
+
+private:
+    pid_t process = 0;
+};
+
+/// The host's side: its window at (100, 50) of the screen, and all that a user does.
+class Host {
+public:
+    /// depth  of the host's window: 24, or 32 with a visual of its own
+    explicit Host(int depth = 24)
+    {
+        const XcbVisual visual = VisualOf(depth);
+        const xcb_colormap_t colours = xcb_generate_id(server);
+        xcb_create_colormap(server, XCB_COLORMAP_ALLOC_NONE, colours, Root(), visual.id);
+        const std::uint32_t values[] = {0, 0, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE, colours};
+        xcb_create_window(server, static_cast<std::uint8_t>(depth), window, Root(), 100, 50, 400, 300, 0,
+                          XCB_WINDOW_CLASS_INPUT_OUTPUT, visual.id,
+                          XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP, values);
+        xcb_map_window(server, window);
+        Sync();
+    }
+
+    void* Parent() const { return reinterpret_cast<void*>(std::uintptr_t{window}); }
+    xcb_window_t Root() const { return server.screen->root; }
+    void Sync() { std::free(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr)); }
+    xcb_window_t Focus() const
+    {
+        const XcbAnswer<xcb_get_input_focus_reply_t> reply(
+            xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+        return reply ? reply->focus : XCB_NONE;
+    }
+
+    void Fake(int type, int detail, int x = 0, int y = 0)
+    {
+        xcb_test_fake_input(server, static_cast<std::uint8_t>(type), static_cast<std::uint8_t>(detail),
+                            XCB_CURRENT_TIME, Root(), static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
+        Sync();
+    }
+    /// To a place of the screen.
+    void Move(int x, int y) { Fake(XCB_MOTION_NOTIFY, 0, x, y); }
+    void Button(int number, bool down) { Fake(down ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE, number); }
+    void Key(int number, bool down) { Fake(down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, number); }
+
+    /// What the screen shows; without the byte above red.
+    std::vector<std::uint32_t> Screen(int x, int y, int w, int h) const
+    {
+        const auto number = [](int value) { return static_cast<std::uint16_t>(value); };
+        const auto request = xcb_get_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, Root(), static_cast<std::int16_t>(x),
+                                           static_cast<std::int16_t>(y), number(w), number(h), ~0u);
+        const XcbAnswer<xcb_get_image_reply_t> reply(xcb_get_image_reply(server, request, nullptr));
+        if (!reply) return {};
+        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(reply.get()));
+        std::vector<std::uint32_t> result(pixels, pixels + xcb_get_image_data_length(reply.get()) / 4);
+        for (std::uint32_t& pixel : result) pixel &= 0xFFFFFF;
+        return result;
+    }
+
+    const XcbConnection server;
+    const xcb_window_t window = xcb_generate_id(server);
+
+private:
+    XcbVisual VisualOf(int depth) const
+    {
+        if (depth == 24) return FindVisual(xcb_get_setup(server), server.screen);
+        for (auto d = xcb_screen_allowed_depths_iterator(server.screen); d.rem > 0; xcb_depth_next(&d))
+            if (d.data->depth == depth && xcb_depth_visuals_length(d.data) > 0)
+                return {xcb_depth_visuals(d.data)->visual_id, static_cast<std::uint8_t>(depth), false};
+        return {};
+    }
+};
+
+} // namespace korvane
