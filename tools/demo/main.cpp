@@ -74,6 +74,7 @@ private:
 /// Opens and closes the editor so many times, then once more until its window is closed.
 int Show(int openings)
 {
+    std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ); // what the host hears is read as it happens
     EditorThread editor(std::make_unique<demo::DemoEditor>(MakeDesktopWindow()));
     int height = 0, width = 0;
     editor.GetEditorSize(height, width);
