@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "platform/window/DisplayScale.h"
+#include "platform/window/FileDialog.h"
 #include "platform/window/XcbChild.h"
 
 namespace korvane {
@@ -149,7 +150,21 @@ void XcbWindow::StopSharing()
     if (session) session->image.StopSharing();
 }
 
-std::string XcbWindow::AskForFile(const FileQuestion&) { return {}; }
+std::string XcbWindow::AskForFile(const FileQuestion& question)
+{
+    constexpr int kLook = 50; // milliseconds between two looks after a dialog that says nothing
+    const auto asker = session;
+    if (!asker || !asker->Runs() || asker->asking) return {};
+    asker->pointer.Ungrab(); // or the dialog would have none
+    asker->asking = true;
+    FileDialog dialog(question, asker->connection->TopLevel(asker->parent));
+    while (asker->Runs() && dialog.Goes()) {
+        asker->Wait(kLook, wakeDescriptor, dialog.Descriptor());
+        asker->TellAll();
+    }
+    asker->asking = false;
+    return asker->Runs() ? dialog.Answer() : std::string();
+}
 
 int XcbWindow::Scale() const
 {

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <memory>
 #include <spawn.h>
+#include <sstream>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -76,6 +77,20 @@ public:
     }
 
     void* Parent() const { return reinterpret_cast<void*>(std::uintptr_t{window}); }
+    static xcb_window_t Number(void* handle)
+    {
+        return static_cast<xcb_window_t>(reinterpret_cast<std::uintptr_t>(handle));
+    }
+    void Destroy()
+    {
+        xcb_destroy_window(server, window);
+        Sync();
+    }
+    void Focus(xcb_window_t owner)
+    {
+        xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, owner, XCB_CURRENT_TIME);
+        Sync();
+    }
     xcb_window_t Root() const { return server.screen->root; }
     void Sync() { std::free(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr)); }
     xcb_window_t Focus() const
@@ -85,16 +100,23 @@ public:
         return reply ? reply->focus : XCB_NONE;
     }
 
-    void Fake(int type, int detail, int x = 0, int y = 0)
+    /// One after another: "to 10,5" in the host's window, "press 1" and "release 1" of the mouse, "down 38" and "up 38"
+    /// of the keyboard.
+    void Do(const std::string& acts)
     {
-        xcb_test_fake_input(server, static_cast<std::uint8_t>(type), static_cast<std::uint8_t>(detail),
-                            XCB_CURRENT_TIME, Root(), static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
-        Sync();
+        std::istringstream words(acts);
+        for (std::string act; words >> act;) {
+            int number = 0, y = 0;
+            char comma = 0;
+            words >> number;
+            if (act == "to") words >> comma >> y;
+            if (act == "to") Fake(XCB_MOTION_NOTIFY, 0, number + 100, y + 50);
+            if (act == "press") Fake(XCB_BUTTON_PRESS, number);
+            if (act == "release") Fake(XCB_BUTTON_RELEASE, number);
+            if (act == "down") Fake(XCB_KEY_PRESS, number);
+            if (act == "up") Fake(XCB_KEY_RELEASE, number);
+        }
     }
-    /// To a place of the screen.
-    void Move(int x, int y) { Fake(XCB_MOTION_NOTIFY, 0, x, y); }
-    void Button(int number, bool down) { Fake(down ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE, number); }
-    void Key(int number, bool down) { Fake(down ? XCB_KEY_PRESS : XCB_KEY_RELEASE, number); }
 
     /// What the screen shows; without the byte above red.
     std::vector<std::uint32_t> Screen(int x, int y, int w, int h) const
@@ -114,6 +136,12 @@ public:
     const xcb_window_t window = xcb_generate_id(server);
 
 private:
+    void Fake(int type, int detail, int x = 0, int y = 0)
+    {
+        xcb_test_fake_input(server, static_cast<std::uint8_t>(type), static_cast<std::uint8_t>(detail),
+                            XCB_CURRENT_TIME, Root(), static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
+        Sync();
+    }
     XcbVisual VisualOf(int depth) const
     {
         if (depth == 24) return FindVisual(xcb_get_setup(server), server.screen);

@@ -1,95 +1,223 @@
-// The window on an X server, as a host, a musician and the desktop meet it.
-#include "platform/window/XcbWindow.h"
+// The window's life on an X server: opening, showing, timer, other threads and every kind of end.
+#include <filesystem>
+#include <thread>
 
-#include <functional>
-#include <gtest/gtest.h>
-#include <sstream>
-
-#include "platform/window/Display.h"
+#include "platform/window/OpenWindow.h"
 
 namespace korvane {
 
-/// Writes down what it hears, with the pointer's place.
-struct Ear : WindowListener {
-    explicit Ear(XcbWindow& w) : window(w) {}
-
-    void OnPaint(PixelSurface& surface, Rect part) override
-    {
-        surface.Copy(view, part, {part.x, part.y});
-        painted.push_back(part);
-    }
-    void OnMouse(int kind, int notches) override
-    {
-        static constexpr const char* kNames[] = {"L", "M", "R", "l", "m", "r", "move", "wheel"};
-        std::ostringstream text;
-        text << kNames[kind] << (notches ? std::to_string(notches) : "") << " " << Place();
-        if (window.Modifiers() != 0) text << " +" << window.Modifiers();
-        Say(text.str());
-    }
-    bool OnKey(int code, bool down) override
-    {
-        std::ostringstream text;
-        text << (down ? "down " : "up ") << code << " +" << window.Modifiers();
-        Say(text.str());
-        return code != unused;
-    }
-    void OnTimer() override
-    {
-        ++ticks;
-        if (onTimer) onTimer();
-    }
-    void OnFileDrop(const char* path) override
-    {
-        Say(std::string("drop ").append(path).append(" at ").append(Place()));
-    }
-    std::string Place() const
-    {
-        const Point place = window.Pointer();
-        return std::to_string(place.x) + "," + std::to_string(place.y);
-    }
-    void Say(const std::string& text) { said += said.empty() ? text : "; " + text; }
-
-    XcbWindow& window;
-    PixelView view;
-    std::vector<Rect> painted;
-    std::string said;
-    int ticks = 0, unused = 0;
-    std::function<void()> onTimer;
-};
-
-class XcbWindowTest : public testing::Test {
+class XcbWindowTest : public OpenWindow {
 protected:
-    void SetUp() override
+    /// An image in which no two pixels are the same, as the toolkit keeps it.
+    static std::vector<std::uint32_t> Picture(Size size)
     {
-        if (!DisplayServer::Installed()) GTEST_SKIP() << "Xvfb is not installed";
-        server = std::make_unique<DisplayServer>();
-        host = std::make_unique<Host>();
-        host->Move(0, 0);
+        std::vector<std::uint32_t> pixels(std::size_t{1} * size.width * size.height);
+        for (std::size_t n = 0; n < pixels.size(); ++n) pixels[n] = static_cast<std::uint32_t>(n * 2654435761u) >> 8;
+        return pixels;
     }
-    /// Until nothing comes for a while.
-    std::string Heard(int quiet = 20)
+    /// Places of the window where the screen shows something else than the image.
+    int Differences(const PixelView& image, int scale = 1)
     {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(quiet);
-        while (std::chrono::steady_clock::now() < end && window.Serve(quiet / 2)) {}
-        return std::exchange(ear.said, {});
+        const Size size = image.size;
+        host->Sync();
+        const auto screen = host->Screen(100, 50, size.width * scale, size.height * scale);
+        if (screen.empty()) return -1;
+        int count = 0;
+        for (int y = 0; y < size.height * scale; ++y)
+            for (int x = 0; x < size.width * scale; ++x)
+                count += screen[y * size.width * scale + x] !=
+                         image.pixels[(size.height - 1 - y / scale) * size.width + x / scale];
+        return count;
     }
-    bool Open(Size size = {60, 80}) { return window.Open(host->Parent(), size, ear); }
-
-    std::unique_ptr<DisplayServer> server;
-    std::unique_ptr<Host> host;
-    XcbWindow window;
-    Ear ear{window};
+    static long Descriptors()
+    {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
+                             std::filesystem::directory_iterator());
+    }
+    long Windows() const
+    {
+        const XcbAnswer<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(host->server, xcb_query_tree(host->server, host->window), nullptr));
+        return xcb_query_tree_children_length(tree.get());
+    }
 };
 
-TEST_F(XcbWindowTest, TellsWherePressesWere)
+// Whatever the host's window, the scale and the way to the screen: it shows the image.
+TEST_F(XcbWindowTest, TheScreenShowsTheImage)
 {
-    ASSERT_TRUE(Open()) << window.LastError();
+    struct Case {
+        const char* what;
+        int depth;
+        const char* scale;
+        bool shares;
+    };
+    const Case cases[] = {{"shared memory", 24, "1", true},
+                          {"through the socket", 24, "1", false},
+                          {"a host with opacity", 32, "1", true},
+                          {"blocks", 24, "2", true},
+                          {"blocks through the socket", 32, "2", false}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        setenv("KORVANE_SCALE", c.scale, 1);
+        host = std::make_unique<Host>(c.depth);
+        const Size size = {140, 190};
+        auto pixels = Picture(size);
+        XcbWindow shown;
+        Ear painter(shown);
+        painter.view = {pixels.data(), size};
+        ASSERT_TRUE(shown.Open(host->Parent(), size, painter)) << shown.LastError();
+        EXPECT_EQ(shown.Scale(), c.scale[0] - '0');
+        if (!c.shares) shown.StopSharing();
+        for (int n = 0; n < 10 && painter.paints == 0; ++n) shown.Serve(100);
+        EXPECT_EQ(Differences(painter.view, shown.Scale()), 0);
+
+        for (int x = 30; x < 60; ++x) pixels[(size.height - 1 - 20) * size.width + x] = 0x123456;
+        EXPECT_TRUE(shown.Copy(painter.view, {30, 20, 30, 1}, {30, 20}));
+        EXPECT_EQ(Differences(painter.view, shown.Scale()), 0);
+        EXPECT_FALSE(shown.Copy(painter.view, {30, 20, 30, 1}, {size.width, 0}));
+        host->Do("to 7,9");
+        shown.Serve(100);
+        EXPECT_EQ(shown.Pointer(), (Point{7 / shown.Scale(), 9 / shown.Scale()}));
+        EXPECT_EQ(shown.ScreenSize(), (Size{600 / shown.Scale(), 800 / shown.Scale()}));
+        EXPECT_EQ(shown.Warp({60, 40}), (Point{60, 40}));
+    }
+    unsetenv("KORVANE_SCALE");
+}
+
+TEST_F(XcbWindowTest, WhatIsUncoveredIsPaintedOnce)
+{
+    const auto pixels = Picture({60, 80});
+    ear.view = {pixels.data(), {60, 80}};
+    ASSERT_TRUE(Open());
+    ear.paints = 0;
+    for (const int x : {0, 30})
+        xcb_clear_area(host->server, 1, Host::Number(window.Handle()), static_cast<std::int16_t>(x), 0, 10, 10);
+    host->Sync();
     Heard();
-    host->Move(110, 55);
-    host->Button(1, true);
-    host->Move(120, 65);
-    host->Button(1, false);
-    EXPECT_EQ(Heard(), "move 10,5; L 10,5; move 20,15; l 20,15");
+    EXPECT_EQ(ear.paints, 1);
+    EXPECT_EQ(Differences(ear.view), 0);
+}
+
+TEST_F(XcbWindowTest, RefusesWhatCannotBe)
+{
+    struct Case {
+        const char* what;
+        std::uintptr_t parent;
+        Size size;
+    };
+    const Case cases[] = {{"no parent", 0, {9, 9}},
+                          {"no window's number", 0x7654321, {9, 9}},
+                          {"beyond 32 bits", std::uintptr_t{1} << 40, {9, 9}},
+                          {"no width", host->window, {9, 0}},
+                          {"negative", host->window, {-9, 9}},
+                          {"too large", host->window, {9, 40000}}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_FALSE(window.Open(reinterpret_cast<void*>(c.parent), c.size, ear));
+        EXPECT_FALSE(window.LastError().empty());
+        EXPECT_EQ(window.Handle(), nullptr);
+        EXPECT_FALSE(window.Serve(0));
+    }
+    EXPECT_EQ(window.Pointer(), (Point{-1, -1}));
+}
+
+TEST_F(XcbWindowTest, LateTicksComeOnce)
+{
+    ASSERT_TRUE(Open());
+    window.StartTimer(20);
+    ServeFor(210);
+    EXPECT_GE(ear.ticks, 8);
+    EXPECT_LE(ear.ticks, 13);
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    ear.ticks = 0;
+    ServeFor(8);
+    EXPECT_EQ(ear.ticks, 1);
+    window.StartTimer(0);
+    ServeFor(50);
+    EXPECT_EQ(ear.ticks, 1);
+}
+
+// The host ends its window, or the server ends: the editor counts as closed, and may be closed once more.
+TEST_F(XcbWindowTest, SurvivesTheEndOfHostAndServer)
+{
+    const std::function<void()> ends[] = {[&] { host->Destroy(); }, [&] { server->Kill(); }};
+    for (const auto& end : ends) {
+        host = std::make_unique<Host>();
+        ASSERT_TRUE(Open());
+        end();
+        window.Serve(500);
+        EXPECT_FALSE(window.Serve(500));
+        EXPECT_EQ(window.Handle(), nullptr);
+        EXPECT_EQ(window.Pointer(), (Point{-1, -1}));
+        EXPECT_FALSE(window.Copy(ear.view, {0, 0, 1, 1}, {}));
+        window.Grab(true);
+        EXPECT_FALSE(window.HasGrab());
+        window.Withdraw();
+        window.Close();
+        EXPECT_FALSE(window.Serve(0));
+    }
+    EXPECT_FALSE(Open()); // nowhere to open any more
+}
+
+TEST_F(XcbWindowTest, OpeningsLeaveNothing)
+{
+    ASSERT_TRUE(Open());
+    window.Close();
+    const long descriptors = Descriptors();
+    for (int n = 0; n < 200; ++n) {
+        ASSERT_TRUE(window.Open(host->Parent(), {60, 80}, ear)) << n << ": " << window.LastError();
+        window.StartTimer(25);
+        window.Serve(1);
+        window.Close();
+    }
+    EXPECT_EQ(Descriptors(), descriptors);
+    EXPECT_EQ(Windows(), 0);
+}
+
+TEST_F(XcbWindowTest, ListenersMayCloseAndOpenAgain)
+{
+    ASSERT_TRUE(Open());
+    ear.onMouse = [&](int kind) {
+        if (kind == mouse::LeftDown) window.Close();
+        if (kind == mouse::RightDown) window.Open(host->Parent(), {30, 30}, ear);
+    };
+    host->Do("to 5,5 press 3 release 3");
+    EXPECT_EQ(Heard().substr(0, 14), "move 5,5; R 5,");
+    host->Do("press 1 release 1");
+    EXPECT_EQ(Heard(), "L 5,5"); // what came after it is nobody's any more
+    EXPECT_EQ(Windows(), 0);
+}
+
+// The host's thread ends the window while its own is held up in the listener; it has gone at once.
+TEST_F(XcbWindowTest, OtherThreadsEndIt)
+{
+    for (int n = 0; n < 5; ++n) {
+        ASSERT_TRUE(Open());
+        const auto number = Host::Number(window.Handle());
+        std::atomic<bool> held{false}, go{false};
+        ear.onTimer = [&] {
+            held = true;
+            while (!go) std::this_thread::yield();
+            window.Copy(ear.view, {0, 0, 5, 5}, {});
+        };
+        window.StartTimer(1);
+        std::thread hosts([&] {
+            while (!held) window.Wake();
+            window.Withdraw();
+            const XcbAnswer<xcb_get_window_attributes_reply_t> state(xcb_get_window_attributes_reply(
+                host->server, xcb_get_window_attributes(host->server, number), nullptr));
+            EXPECT_TRUE(state && state->map_state == XCB_MAP_STATE_UNMAPPED);
+            window.RequestClose();
+            go = true;
+            for (int m = 0; m < 100; ++m) window.Withdraw();
+        });
+        while (window.Serve(10000)) {}
+        EXPECT_FALSE(window.Serve(10000));
+        window.Close();
+        hosts.join();
+        ear.onTimer = nullptr;
+    }
+    EXPECT_EQ(Windows(), 0);
 }
 
 } // namespace korvane

@@ -1,0 +1,179 @@
+// File dialogs, with a script in the place of the desktop's program.
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+#include "platform/window/OpenWindow.h"
+
+namespace korvane {
+
+namespace fs = std::filesystem;
+
+class FileDialogs : public OpenWindow {
+protected:
+    void SetUp() override
+    {
+        OpenWindow::SetUp();
+        char name[] = "/tmp/korvane-dialog-XXXXXX";
+        folder = mkdtemp(name);
+        Script("zenity", "exit 1");
+        path = std::getenv("PATH");
+        setenv("PATH", (folder.string() + ":" + path).c_str(), 1);
+        unsetenv("KORVANE_DIALOG");
+        unsetenv("XDG_CURRENT_DESKTOP");
+    }
+    void TearDown() override
+    {
+        if (!path.empty()) setenv("PATH", path.c_str(), 1);
+        fs::remove_all(folder);
+    }
+    /// Writes its words to "asked", a line each, then does what the body says.
+    void Script(const char* name, const std::string& body)
+    {
+        std::ofstream(folder / name) << "#!/bin/sh\ncd '" << folder.string() << "'\nprintf '%s\\n' \"$@\" >>asked\n"
+                                     << body << "\n";
+        fs::permissions(folder / name, fs::perms::owner_all);
+    }
+    std::string Asked()
+    {
+        std::ifstream file(folder / "asked");
+        std::string text((std::istreambuf_iterator<char>(file)), {});
+        fs::remove(folder / "asked");
+        const auto owner = text.find("--attach=" + std::to_string(host->window) + "\n");
+        EXPECT_NE(owner, std::string::npos) << text;
+        return text;
+    }
+
+    fs::path folder;
+    std::string path;
+    FileQuestion question{false, "Pick", "\\music\\mine", "-a.wav", {{"All", {"*"}}, {"Sounds | loud", {"wav", "aif"}}},
+                          1};
+};
+
+TEST_F(FileDialogs, AnswersAreTakenAsTheyAre)
+{
+    struct Case {
+        const char *what, *body, *answer;
+    };
+    const Case cases[] = {
+        {"plain", "echo /music/a.wav", "\\music\\a.wav"},
+        {"quotes", "echo \"/m/it's \\\"it\\\".wav\"", "\\m\\it's \"it\".wav"},
+        {"a newline at the end", "printf '/m/a\\n\\n'", "\\m\\a\n"},
+        {"another script", "printf '/m/\\320\\226\\n'", "\\m\\\xD0\x96"},
+        {"cancelled", "echo /m/a; exit 1", ""},
+        {"nothing", "exit 0", ""},
+        {"killed", "echo /m/a; kill -9 $$", ""},
+        {"ended, though a child holds on", "sleep 5 & echo /m/a", "\\m\\a"},
+    };
+    ASSERT_TRUE(Open());
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Script("zenity", c.body);
+        EXPECT_EQ(window.AskForFile(question), c.answer);
+    }
+    setenv("KORVANE_DIALOG", "/nowhere/zenity", 1);
+    EXPECT_EQ(window.AskForFile(question), "");
+}
+
+TEST_F(FileDialogs, AskInTheProgramsWords)
+{
+    ASSERT_TRUE(Open());
+    window.AskForFile(question);
+    const std::string id = std::to_string(host->window);
+    EXPECT_EQ(Asked(), "--attach=" + id +
+                           "\n--modal\n--title=Pick\n--file-selection\n--filename=/music/mine/-a.wav\n"
+                           "--file-filter=Sounds   loud | *.wav *.WAV *.aif *.AIF\n--file-filter=All | *\n");
+    Script("kdialog", "exit 1");
+    setenv("KORVANE_DIALOG", "kdialog", 1);
+    question.save = true;
+    question.folder.clear();
+    window.AskForFile(question);
+    EXPECT_EQ(Asked(), "--attach=" + id +
+                           "\n--title=Pick\n--getsavefilename\n./-a.wav\n"
+                           "Sounds   loud (*.wav *.WAV *.aif *.AIF);;All (*)\n");
+}
+
+// A new file gets its extension; one that exists is replaced only after a yes, otherwise the dialog comes again.
+TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
+{
+    question.save = true;
+    std::ofstream(folder / "old.wav") << "x";
+    struct Case {
+        const char *what, *body, *name;
+        int questions;
+    };
+    const Case cases[] = {
+        {"new", "echo $PWD/new", "new.wav", 1},
+        {"with an extension", "echo $PWD/new.kvs", "new.kvs", 1},
+        {"hidden", "echo $PWD/.new", ".new.wav", 1},
+        {"yes", "echo $PWD/old", "old.wav", 2},
+        {"no, then another", "case \"$*\" in *--question*) exit 1;; *old.wav*) echo $PWD/new;; *) echo $PWD/old;; esac",
+         "new.wav", 3},
+        {"no, then cancelled", "case \"$*\" in *--question*) exit 1;; *old.wav*) exit 1;; *) echo $PWD/old;; esac", "",
+         3},
+    };
+    ASSERT_TRUE(Open());
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        Script("zenity", c.body);
+        const std::string answer = window.AskForFile(question);
+        EXPECT_EQ(answer.substr(answer.rfind('\\') + 1), c.name);
+        const std::string asked = Asked();
+        int questions = 0;
+        for (std::size_t at = 0; (at = asked.find("--attach", at)) != std::string::npos; ++at) ++questions;
+        EXPECT_EQ(questions, c.questions) << asked;
+    }
+}
+
+// The window paints and ticks on beside a dialog, hears no mouse and no keys, and takes the dialog along when it ends.
+TEST_F(FileDialogs, EndWithTheWindow)
+{
+    Script("zenity", "echo $$ >pid; sleep 30 & echo $! >>pid; wait");
+    const std::function<void()> ends[] = {[&] { window.RequestClose(); }, [&] { window.Close(); },
+                                          [&] { host->Destroy(); }};
+    for (const auto& end : ends) {
+        fs::remove(folder / "pid");
+        host = std::make_unique<Host>();
+        ASSERT_TRUE(Open());
+        window.TakeFocus();
+        host->Do("down 38");
+        EXPECT_EQ(Heard(), "down 41 +0");
+        pid_t pids[2] = {};
+        ear.onTimer = [&] {
+            if (pids[1] > 0) return;
+            std::ifstream(folder / "pid") >> pids[0] >> pids[1];
+            host->Do("up 38 press 1 release 1");
+            EXPECT_EQ(window.AskForFile(question), ""); // not two at a time
+            if (pids[1] > 0) end();
+        };
+        window.StartTimer(5);
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(window.AskForFile(question), "");
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(10));
+        EXPECT_EQ(ear.said.str(), "");
+        EXPECT_EQ(kill(pids[0], 0), -1); // not even a zombie
+        for (int n = 0; n < 100 && kill(pids[1], 0) == 0; ++n)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        window.Close();
+        ear.onTimer = nullptr;
+    }
+}
+
+TEST_F(FileDialogs, KeysThatComeUpMeanwhileAreToldAfterwards)
+{
+    ASSERT_TRUE(Open());
+    window.TakeFocus();
+    host->Do("down 38");
+    EXPECT_EQ(Heard(), "down 41 +0");
+    Script("zenity", "while [ ! -e go ]; do sleep 0.01; done; rm go");
+    window.StartTimer(20);
+    ear.onTimer = [&] {
+        host->Do("up 38");
+        if (ear.ticks > 3) std::ofstream(folder / "go") << "go";
+    };
+    window.AskForFile(question);
+    EXPECT_EQ(ear.said.str(), "");
+    EXPECT_EQ(Heard(), "up 41 +0");
+}
+
+} // namespace korvane

@@ -1,0 +1,244 @@
+// Mouse, keys and drops from the server to the listener.
+#include "platform/window/OpenWindow.h"
+
+namespace korvane {
+
+class XcbInput : public OpenWindow {};
+
+// Each event tells its own place, however fast they follow each other; several motions are one.
+TEST_F(XcbInput, MouseEventsKeepTheirPlaces)
+{
+    struct Case {
+        const char *what, *acts, *heard;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"press, move, release", "to 10,5 press 1 to 20,15 release 1", "move 10,5; L 10,5; move 20,15; l 20,15"},
+        {"motions together",     "to 1,1 to 2,2 to 3,4",               "move 3,4"},
+        {"middle, right",        "press 2 release 2 press 3 release 3", "M 3,4; m 3,4; R 3,4; r 3,4"},
+        {"wheel",                "press 4 release 4 press 5 release 5", "wheel1 3,4; wheel-1 3,4"},
+        {"other buttons",        "press 6 release 6 press 7 release 7 press 8 release 8", ""},
+        {"held, beyond the window", "press 1 to -30,200 release 1",     "L 3,4; move -30,200; l -30,200"},
+        {"outside",              "to -10,10",                           ""},
+        {"Ctrl, Shift and Alt",  "to 5,5 down 37 down 50 down 64 press 1 up 64 up 50 up 37 release 1",
+                                 "move 5,5; L 5,5 +7; l 5,5"},
+    };
+    // clang-format on
+    ASSERT_TRUE(Open()) << window.LastError();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        host->Do(c.acts);
+        EXPECT_EQ(Heard(), c.heard);
+    }
+}
+
+// A hidden drag jumps at the screen's edge without a motion of its own, and what moved before the jump is forgotten.
+TEST_F(XcbInput, WarpedPointersGoOnFromThere)
+{
+    ASSERT_TRUE(Open());
+    host->Do("to 5,5 press 1");
+    Heard();
+    EXPECT_FALSE(window.HasGrab());
+    window.Grab(true);
+    EXPECT_TRUE(window.HasGrab());
+    EXPECT_EQ(window.ScreenSize(), (Size{600, 800}));
+    host->Do("to 200,549");
+    Heard();
+    EXPECT_EQ(window.ScreenPointer(), (Point{300, 599}));
+    EXPECT_EQ(window.Pointer(), (Point{200, 549}));
+    host->Do("to 210,540"); // not heard yet when the pointer is moved
+    EXPECT_EQ(window.Warp({300, 1}), (Point{300, 1}));
+    EXPECT_EQ(Heard(), "");
+    host->Do("to 201,-46 release 1");
+    EXPECT_EQ(Heard(), "move 201,-46; l 201,-46");
+    EXPECT_EQ(window.Warp({-5, 5000}), (Point{0, 599})); // as far as the screen goes
+    EXPECT_TRUE(window.HasGrab());
+    window.Ungrab();
+    EXPECT_FALSE(window.HasGrab());
+}
+
+// Another program's grab is not ours, but a held button is; a window out of sight holds nothing.
+TEST_F(XcbInput, GrabsAreTrueToTheServer)
+{
+    ASSERT_TRUE(Open());
+    const auto grabOfOther = [&](bool on) {
+        if (on)
+            std::free(xcb_grab_pointer_reply(
+                host->server, xcb_grab_pointer(host->server, 0, host->Root(), 0, 1, 1, 0, 0, 0), nullptr));
+        else
+            xcb_ungrab_pointer(host->server, 0);
+        host->Sync();
+    };
+    grabOfOther(true);
+    window.Grab(false);
+    EXPECT_FALSE(window.HasGrab());
+    grabOfOther(false);
+    window.Grab(false);
+    EXPECT_TRUE(window.HasGrab());
+    xcb_unmap_window(host->server, host->window);
+    host->Sync();
+    EXPECT_FALSE(window.HasGrab());
+    xcb_map_window(host->server, host->window);
+    host->Sync();
+    Heard();
+    EXPECT_FALSE(window.HasGrab()); // seen again, yet somebody else may hold the pointer by now
+}
+
+TEST_F(XcbInput, HeldKeysArePressedOnce)
+{
+    ASSERT_TRUE(Open());
+    window.TakeFocus();
+    host->Do("down 38");
+    const std::string first = Heard(1000); // repeats begin within 700 ms
+    host->Do("up 38");
+    EXPECT_EQ(first + " " + Heard(), "down 41 +0 up 41 +0");
+    host->Do("down 50 down 38 up 38 up 50"); // Shift changes the modifiers at once, and the letter not
+    EXPECT_EQ(Heard(), "down 10 +2; down 41 +2; up 41 +2; up 10 +0");
+}
+
+// Keys that the listener does not use, and those that were not meant for it, reach the host; others do not.
+TEST_F(XcbInput, UnusedKeysReachTheHost)
+{
+    const auto reachedHost = [&] {
+        std::ostringstream keys;
+        host->Sync();
+        while (XcbEvent event{xcb_poll_for_event(host->server)}) {
+            const int kind = event->response_type & 0x7F;
+            if (kind == XCB_KEY_PRESS || kind == XCB_KEY_RELEASE)
+                keys << (kind == XCB_KEY_PRESS ? "+" : "-") << static_cast<int>(event->pad0);
+        }
+        return keys.str();
+    };
+    ASSERT_TRUE(Open());
+    ear.unused = key::Space;
+    window.TakeFocus();
+    host->Do("down 65 up 65 down 38 up 38");
+    EXPECT_EQ(Heard(), "down 20 +0; up 20 +0; down 41 +0; up 41 +0");
+    EXPECT_EQ(reachedHost(), "+65-65");
+    host->Do("down 38");
+    Heard();
+    host->Focus(host->window);
+    EXPECT_EQ(Heard(), "up 41 +0"); // the keyboard is gone, and with it the key
+    host->Do("up 38 to 5,5");       // keys come by here now, but are the host's
+    Heard();
+    reachedHost();
+    host->Do("down 38 up 38");
+    EXPECT_EQ(Heard(), "");
+    EXPECT_EQ(reachedHost(), "+38-38");
+}
+
+TEST_F(XcbInput, LayoutsMayChangeWhileOpen)
+{
+    ASSERT_TRUE(Open());
+    window.TakeFocus();
+    host->Do("down 38");
+    Heard();
+    const xcb_keysym_t french[] = {'q', 'Q', 'q', 'Q'};
+    xcb_change_keyboard_mapping(host->server, 1, 38, 4, french);
+    host->Sync();
+    host->Do("up 38");
+    EXPECT_EQ(Heard(), "up 41 +0"); // as it went down
+    host->Do("down 38 up 38");
+    EXPECT_EQ(Heard(), "down 51 +0; up 51 +0");
+}
+
+TEST_F(XcbInput, TheFocusGoesBackToTheHost)
+{
+    ASSERT_TRUE(Open());
+    EXPECT_NE(host->Focus(), Host::Number(window.Handle()));
+    window.TakeFocus();
+    EXPECT_EQ(host->Focus(), Host::Number(window.Handle()));
+    window.Close();
+    EXPECT_EQ(host->Focus(), host->window);
+    ASSERT_TRUE(Open());
+    window.TakeFocus();
+    host->Focus(host->Root());
+    window.Close();
+    EXPECT_EQ(host->Focus(), host->Root()); // somebody else's by then
+}
+
+/// Another program that drags something over the window, and writes down the answers.
+class DragSource {
+public:
+    DragSource(Host& theHost, XcbWindow& theWindow)
+        : host(theHost), server(theHost.server), window(theWindow), target(Host::Number(theWindow.Handle()))
+    {
+        xcb_set_selection_owner(server, host.window, server.Atom(atom::XdndSelection), XCB_CURRENT_TIME);
+    }
+    std::string Drag(std::uint32_t version, int type, const std::string& what)
+    {
+        data = what;
+        heard.clear();
+        Send(atom::XdndEnter, version << 24, XCB_ATOM_STRING, server.Atom(type));
+        Send(atom::XdndPosition, 0, 112 << 16 | 84, XCB_CURRENT_TIME);
+        Send(atom::XdndDrop, 0, 1000 + version, 0);
+        Send(atom::XdndLeave, 0, 0, 0); // so that the end is heard
+        return heard;
+    }
+
+private:
+    void Send(int name, std::uint32_t b, std::uint32_t c, std::uint32_t d)
+    {
+        xcb_client_message_event_t event{XCB_CLIENT_MESSAGE, 32, 0, target, server.Atom(name), {}};
+        const std::uint32_t values[] = {host.window, b, c, d, server.Atom(atom::XdndActionCopy)};
+        std::copy_n(values, 5, event.data.data32);
+        xcb_send_event(server, 0, target, 0, reinterpret_cast<const char*>(&event));
+        host.Sync();
+        for (int n = 0; n < 3; ++n) window.Serve(10);
+        host.Sync();
+        while (XcbEvent answer{xcb_poll_for_event(server)}) {
+            const int kind = answer->response_type & 0x7F;
+            if (kind == XCB_CLIENT_MESSAGE) Hear(reinterpret_cast<const xcb_client_message_event_t&>(*answer));
+            if (kind == XCB_SELECTION_REQUEST) Give(reinterpret_cast<const xcb_selection_request_event_t&>(*answer));
+        }
+    }
+    void Hear(const xcb_client_message_event_t& answer)
+    {
+        const bool isEnd = answer.type == server.Atom(atom::XdndFinished);
+        const bool copies = answer.data.data32[isEnd ? 2 : 4] == server.Atom(atom::XdndActionCopy);
+        heard += (isEnd ? " end" : "status") + std::to_string(answer.data.data32[1]) + (copies ? "copy" : "");
+    }
+    void Give(const xcb_selection_request_event_t& wish)
+    {
+        xcb_change_property(server, XCB_PROP_MODE_REPLACE, target, wish.property, wish.target, 8,
+                            static_cast<std::uint32_t>(data.size()), data.data());
+        const xcb_selection_notify_event_t done{
+            XCB_SELECTION_NOTIFY, 0, 0, wish.time, target, wish.selection, wish.target, wish.property};
+        xcb_send_event(server, 0, target, 0, reinterpret_cast<const char*>(&done));
+    }
+
+    Host& host;
+    const XcbConnection& server;
+    XcbWindow& window;
+    const xcb_window_t target;
+    std::string data, heard;
+};
+
+TEST_F(XcbInput, FilesAreDropped)
+{
+    struct Case {
+        const char* what;
+        std::uint32_t version;
+        int type;
+        const char *data, *answers, *heard;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"a file",         5, atom::UriList, "file:///tmp/a%20b.wav\r\n", "status1copy end1copy", "\\tmp\\a b.wav 12,34"},
+        {"an old program", 3, atom::UriList, "file:///a\r\n",             "status1copy end1copy", "\\a 12,34"},
+        {"a text",         5, atom::WmState, "file:///a\r\n",             "status0 end0",         ""},
+        {"no file",        5, atom::UriList, "http://a/b\r\n",            "status1copy end0",     ""},
+        {"too old",        2, atom::UriList, "file:///a\r\n",             "",                     ""},
+        {"two files",      4, atom::UriList, "file:///1\r\nfile:///2",     "status1copy end1copy", "\\1 12,34"},
+    };
+    // clang-format on
+    ASSERT_TRUE(Open());
+    DragSource source(*host, window);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        EXPECT_EQ(source.Drag(c.version, c.type, c.data), c.answers);
+        EXPECT_EQ(Heard(), c.heard);
+    }
+}
+
+} // namespace korvane
