@@ -42,9 +42,9 @@ bool DemoEditor::CreateContent()
     return true;
 }
 
-void DemoEditor::Label(int x, int y, const char* text)
+void DemoEditor::Label(int x, int y, int width, const char* text)
 {
-    auto* label = new CControlTextDisplay({x, y, 120, 14}, -1);
+    auto* label = new CControlTextDisplay({x, y, width, 14}, -1);
     label->bitmap = FindBitmap(image::Led);
     label->imageOffset = {0, 100}; // beyond the image: only the page shows behind the text
     label->align = align::Left;
@@ -79,7 +79,7 @@ void DemoEditor::AddKnobs()
         knob->showValuePopup = true;
         row.set(*knob);
         AddControl(knob);
-        Label(x, 12, row.name);
+        Label(x, 12, 64, row.name);
         x += 72;
     }
 }
@@ -103,7 +103,7 @@ void DemoEditor::AddButtons()
 
 void DemoEditor::AddTabs()
 {
-    Label(400, 92, "Tabs: press, release, column");
+    Label(400, 92, 180, "Tabs: press, release, column");
     const auto add = [this](Rect place, int id, int img, int mode) {
         auto* tab = new CControlTab(place, id);
         tab->bitmap = FindBitmap(img);
@@ -126,7 +126,7 @@ void DemoEditor::AddTabs()
 
 void DemoEditor::AddSliders()
 {
-    Label(20, 150, "Sliders and number");
+    Label(20, 150, 180, "Sliders and number");
     auto* vertical = new CControlSlider({20, 170, 24, 110}, 72);
     vertical->backgroundColor = kBlack;
     vertical->handle = FindBitmap(image::Handle);
@@ -161,7 +161,7 @@ void DemoEditor::AddSliders()
 
 void DemoEditor::AddLists()
 {
-    Label(400, 190, "Lists: choices, commands");
+    Label(400, 190, 180, "Lists: choices, commands");
     const auto add = [this](Rect place) {
         auto* list = new CControlDropDownList(place, -1);
         list->bitmap = FindBitmap(image::Panel);

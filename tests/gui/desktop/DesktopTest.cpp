@@ -78,9 +78,7 @@ TEST_F(DesktopTest, TheScreenShowsTheBackBufferAfterADragAmongTheHostsWrites)
     ASSERT_TRUE(Open());
     editor->synth->SetParameter(kKnob, 0.0f);
     thread->RefreshAll();
-    const int x = 100 + 114, y = 50 + 52; // of the screen
-    host->Move(x, y);
-    host->Button(1, true);
+    host->Do("to 114,52 press 1");
     std::thread writer([&] {
         for (int n = 0; n <= 1000; ++n) {
             const float value = static_cast<float>(n % 100) / 100.0f;
@@ -89,11 +87,11 @@ TEST_F(DesktopTest, TheScreenShowsTheBackBufferAfterADragAmongTheHostsWrites)
             std::this_thread::sleep_for(100us);
         }
     });
-    for (int n = 1; n <= 50; ++n) host->Move(x, y - n); // a quarter of the way: 200 pixels are all of it
+    for (int n = 1; n <= 50; ++n) host->Do("to 114," + std::to_string(52 - n)); // a quarter of the way
     writer.join();
     EXPECT_TRUE(Within(5s, [&] { return std::abs(editor->synth->GetParameter(kKnob) - 0.25f) < 1e-4f; }))
         << editor->synth->GetParameter(kKnob);
-    host->Button(1, false);
+    host->Do("release 1");
     std::vector<std::uint32_t> screen, before;
     EXPECT_TRUE(Within(5s, [&] { // until nothing moves any more
         before = std::exchange(screen, host->Screen(100, 50, 400, 300));
@@ -115,8 +113,7 @@ TEST_F(DesktopTest, TheScreenShowsTheBackBufferAfterADragAmongTheHostsWrites)
 TEST_F(DesktopTest, AnEndOfTheHostsWindowOrOfTheServerCloses)
 {
     ASSERT_TRUE(Open());
-    xcb_destroy_window(host->server, host->window);
-    host->Sync();
+    host->Destroy();
     EXPECT_TRUE(Within(5s, [&] { return !thread->Handle(); }));
     thread->Close();
     host = std::make_unique<Host>();
