@@ -42,9 +42,9 @@ bool DemoEditor::CreateContent()
     return true;
 }
 
-void DemoEditor::Label(int x, int y, int width, const char* text)
+void DemoEditor::Label(int x, int y, int across, const char* text)
 {
-    auto* label = new CControlTextDisplay({x, y, width, 14}, -1);
+    auto* label = new CControlTextDisplay({x, y, across, 14}, -1);
     label->bitmap = FindBitmap(image::Led);
     label->imageOffset = {0, 100}; // beyond the image: only the page shows behind the text
     label->align = align::Left;

@@ -39,7 +39,7 @@ private:
     void AddTabs();
     void AddSliders();
     void AddLists();
-    void Label(int x, int y, int width, const char* text);
+    void Label(int x, int y, int across, const char* text);
     void Say(const std::string& text);
     void AskForFile(bool save);
 
