@@ -30,9 +30,10 @@ struct Glyph {
 };
 using Face = std::array<Glyph, kLast - kFirst + 1>;
 
+/// line  0 for the file as a whole
 [[noreturn]] void Fail(const std::string& file, std::size_t line, const std::string& what)
 {
-    throw std::runtime_error(file + ":" + std::to_string(line) + ": " + what);
+    throw std::runtime_error(file + (line ? ":" + std::to_string(line) : "") + ": " + what);
 }
 
 const Ink* InkOf(char character)
@@ -91,10 +92,11 @@ private:
     void Check(char character, const Glyph& glyph) const
     {
         const auto fail = [&](const std::string& what) {
-            Fail(name, glyph.line ? glyph.line : line, std::string("glyph ") + character + " " + what);
+            Fail(name, glyph.line, std::string("glyph ") + character + " " + what);
         };
         if (!glyph.line) fail("is missing");
-        if (glyph.rows.size() != kLineHeight) fail("has not " + std::to_string(kLineHeight) + " rows");
+        if (glyph.rows.size() != kLineHeight)
+            fail("has " + std::to_string(glyph.rows.size()) + " rows, not " + std::to_string(kLineHeight));
         std::size_t inked = 0;
         for (const std::string& row : glyph.rows)
             for (const char pixel : row) inked += pixel != '.';
