@@ -26,8 +26,8 @@ void OpenListLayout::Place(Rect control, Size editor, Rows newRows)
 
     const std::int64_t bottom = std::int64_t{editor.height} - kMargin - box.h;
     const std::int64_t below = std::int64_t{control.y} + control.h, above = std::int64_t{control.y} - box.h;
-    const std::int64_t y = below <= bottom || above < kMargin ? std::min(below, bottom) : above;
-    box.y = Saturate(std::max<std::int64_t>(y, kMargin));
+    const std::int64_t y = below > bottom && above >= kMargin ? above : below;
+    box.y = Saturate(std::max<std::int64_t>(std::min(y, bottom), kMargin));
     const std::int64_t right = std::int64_t{editor.width} - kMargin - box.w;
     box.x = Saturate(std::max<std::int64_t>(std::min<std::int64_t>(control.x, right), 0));
 }
