@@ -1,8 +1,6 @@
 // A page or layer of the editor: its controls in order, and who of them hears an event.
 #include "gui/controls/CControlGroup.h"
 
-#include <iterator>
-
 #include "gui/controls/ControlWalk.h"
 #include "gui/window/CPluginUI.h"
 
@@ -125,12 +123,17 @@ CControl* CControlGroup::ControlAt(int x, int y)
 
 void CControlGroup::Route(CControl* control, int x, int y, int type)
 {
-    using Handler = void (CControl::*)(int, int);
-    static constexpr Handler kHandlers[] = {
-        &CControl::OnLeftDown, &CControl::OnMiddleDown, &CControl::OnRightDown, &CControl::OnLeftUp,
-        &CControl::OnMiddleUp, &CControl::OnRightUp,    &CControl::OnMouseMove,
-    };
-    if (control && type >= 0 && type < static_cast<int>(std::size(kHandlers))) (control->*kHandlers[type])(x, y);
+    if (!control) return;
+    switch (type) {
+    case mouse::LeftDown: return control->OnLeftDown(x, y);
+    case mouse::MiddleDown: return control->OnMiddleDown(x, y);
+    case mouse::RightDown: return control->OnRightDown(x, y);
+    case mouse::LeftUp: return control->OnLeftUp(x, y);
+    case mouse::MiddleUp: return control->OnMiddleUp(x, y);
+    case mouse::RightUp: return control->OnRightUp(x, y);
+    case mouse::Move: return control->OnMouseMove(x, y);
+    default: return;
+    }
 }
 
 void CControlGroup::Wheel(int x, int y)
