@@ -13,9 +13,7 @@ namespace {
 constexpr int kBmp = 0x4D42; // "BM"
 constexpr int kTrueColor = 2;
 
-// A header alone must not cost more memory than its file is worth.
-constexpr std::int64_t kMostPixels = 64 << 20;
-constexpr std::int64_t kCheapPixels = 1 << 20; // up to here a file that ends early may be of any length
+constexpr std::int64_t kCheapPixels = 1 << 20; // a header of that many costs little, whatever follows it
 
 /// A row of the file; what the file lacks of it stays as it was.
 void ReadRow(CFileStreamer& file, std::vector<std::uint8_t>& row)
@@ -25,19 +23,24 @@ void ReadRow(CFileStreamer& file, std::vector<std::uint8_t>& row)
     if (there > 0) file.ReadBlock(row.data(), static_cast<std::int32_t>(there));
 }
 
-/// Rows in the order of the file, which is that of the memory.
-void ReadRows(CFileStreamer& file, CBitmap& bitmap, std::size_t rowBytes, int pixelBytes)
+/// A new image of that size and its rows, which come in the order of the memory.
+template <int pixelBytes>
+bool ReadRows(CFileStreamer& file, CBitmap& bitmap, int height, int width, std::size_t rowBytes)
 {
+    bitmap.Free(); // an image of the same size would keep its plane, or its lack of one
+    if (!bitmap.Create(height, width, pixelBytes == 4)) return false;
     std::vector<std::uint8_t> row(rowBytes);
-    std::size_t place = 0;
-    for (int y = 0; y < bitmap.height; ++y) {
+    std::uint32_t* pixels = bitmap.pixels.get();
+    std::uint8_t* alpha = bitmap.alpha.get();
+    for (int y = 0; y < height; ++y, pixels += width, alpha += pixelBytes == 4 ? width : 0) {
         ReadRow(file, row);
         const std::uint8_t* bytes = row.data();
-        for (int x = 0; x < bitmap.width; ++x, ++place, bytes += pixelBytes) {
-            bitmap.pixels[place] = static_cast<Color>(bytes[0] | bytes[1] << 8 | bytes[2] << 16);
-            if (pixelBytes == 4) bitmap.alpha[place] = bytes[3];
+        for (int x = 0; x < width; ++x, bytes += pixelBytes) {
+            pixels[x] = static_cast<Color>(bytes[0] | bytes[1] << 8 | bytes[2] << 16);
+            if constexpr (pixelBytes == 4) alpha[x] = bytes[3];
         }
     }
+    return true;
 }
 
 /// After the signature.
@@ -54,9 +57,7 @@ bool ReadBmp(CFileStreamer& file, CBitmap& bitmap)
     const std::uint64_t rowBytes = (3 * std::uint64_t{width} + 3) / 4 * 4;
     if (rowBytes > INT32_MAX || height > INT32_MAX) return false;
     if (offset + height * rowBytes > static_cast<std::uint64_t>(file.fileSize) || !file.Seek(offset)) return false;
-    if (!bitmap.Create(static_cast<int>(height), static_cast<int>(width), false)) return false;
-    ReadRows(file, bitmap, rowBytes, 3);
-    return true;
+    return ReadRows<3>(file, bitmap, static_cast<int>(height), static_cast<int>(width), rowBytes);
 }
 
 bool ReadTga(CFileStreamer& file, CBitmap& bitmap)
@@ -69,11 +70,11 @@ bool ReadTga(CFileStreamer& file, CBitmap& bitmap)
     file.ReadByte(); // the descriptor: whatever it says, the first row is the bottom one
     if (bits != 24 && bits != 32) return false;
     const std::int64_t pixelCount = std::int64_t{width} * height;
-    if (pixelCount > kMostPixels || (pixelCount > kCheapPixels && pixelCount > file.fileSize)) return false;
-    if (identifierBytes > 0 && !file.Skip(identifierBytes)) file.position = file.fileSize; // all of it is missing
-    if (!bitmap.Create(height, width, bits == 32)) return false;
-    ReadRows(file, bitmap, static_cast<std::size_t>(width) * (bits / 8), bits / 8);
-    return true;
+    if (pixelCount > kCheapPixels && pixelCount > file.fileSize) return false;
+    if (identifierBytes > 0 && !file.Skip(identifierBytes)) file.position = file.fileSize; // no row is there
+    const auto rowBytes = static_cast<std::size_t>(width * bits / 8);
+    return bits == 24 ? ReadRows<3>(file, bitmap, height, width, rowBytes)
+                      : ReadRows<4>(file, bitmap, height, width, rowBytes);
 }
 
 } // namespace

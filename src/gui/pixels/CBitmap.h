@@ -14,7 +14,9 @@ public:
     ~CBitmap() override = default;
 
     virtual int GetId() const { return id; }
-    /// Whether an image was read. An image that ends early counts: the rows that it lacks repeat the last that it has.
+    /// Whether an image was read; what was here before stays otherwise, unless memory ends. A TGA file that ends early
+    /// counts, as long as it has a byte for each pixel or they are at most 1 Mi: what it lacks repeats the last row, or
+    /// is black and invisible. Rows come from below whatever the file says.
     /// path  as the engine writes paths
     virtual bool Load(const char* path);
 

@@ -2,24 +2,25 @@
 #include "gui/pixels/CGraphicBuffer.h"
 
 #include <algorithm>
-#include <climits>
 #include <cstring>
 #include <new>
+#include <vector>
 
 #include "gui/pixels/Mixing.h"
+#include "platform/Numbers.h"
 
 namespace korvane {
 
 namespace {
 
-int ToInt(std::int64_t value) { return static_cast<int>(std::clamp<std::int64_t>(value, INT_MIN, INT_MAX)); }
+constexpr std::int64_t kMostPixels = 1 << 28; // 1 GiB
 
 bool Intersect(Rect& rect, const Rect& with)
 {
     const std::int64_t left = std::max(rect.x, with.x), top = std::max(rect.y, with.y);
     const std::int64_t right = std::min(std::int64_t{with.x} + with.w, std::int64_t{rect.x} + rect.w);
     const std::int64_t bottom = std::min(std::int64_t{with.y} + with.h, std::int64_t{rect.y} + rect.h);
-    rect = {ToInt(left), ToInt(top), ToInt(right - left), ToInt(bottom - top)};
+    rect = {Saturate(left), Saturate(top), Saturate(right - left), Saturate(bottom - top)};
     return rect.w >= 1 && rect.h >= 1;
 }
 
@@ -43,6 +44,21 @@ void ForRows(const CGraphicBuffer& source, const CGraphicBuffer& dest, Rect dest
     }
 }
 
+/// Mixes each row of a clipped copy with opacityOf (place here).
+template <class OpacityOf>
+void MixRows(const CGraphicBuffer& source, CGraphicBuffer& dest, Rect destRect, Point srcPoint, OpacityOf opacityOf)
+{
+    std::vector<std::uint32_t> before(&source == &dest ? destRect.w : 0); // a row that may overlap itself
+    ForRows(source, dest, destRect, srcPoint, [&](std::size_t to, std::size_t from) {
+        const std::uint32_t* row = &source.pixels[from];
+        if (!before.empty()) {
+            std::copy_n(row, destRect.w, before.data());
+            row = before.data();
+        }
+        mixing::MixRow(&dest.pixels[to], destRect.w, mixing::Pixels{row}, opacityOf(from));
+    });
+}
+
 } // namespace
 
 bool CGraphicBuffer::IsValid() const { return pixels && width > 0; }
@@ -52,6 +68,7 @@ bool CGraphicBuffer::Create(int newHeight, int newWidth, bool withAlpha)
     if (newHeight < 1 || newWidth < 1) return false;
     if (newHeight == height && newWidth == width) return true;
     Free();
+    if (std::int64_t{newHeight} * newWidth > kMostPixels) return false;
     const std::size_t count = static_cast<std::size_t>(newHeight) * newWidth;
     pixels.reset(new (std::nothrow) std::uint32_t[count]());
     if (withAlpha) alpha.reset(new (std::nothrow) std::uint8_t[count]());
@@ -94,7 +111,7 @@ bool CGraphicBuffer::ClipBlit(const CGraphicBuffer* dest, Rect& destRect, Point&
     if (!ClipToClipRect(source)) return false;
     destRect.w = source.w;
     destRect.h = source.h;
-    srcPoint = {ToInt(source.x + std::max<std::int64_t>(0, dx)), ToInt(source.y + std::max<std::int64_t>(0, dy))};
+    srcPoint = {Saturate(source.x + std::max<std::int64_t>(0, dx)), Saturate(source.y + std::max<std::int64_t>(0, dy))};
     return dest->ClipToClipRect(destRect);
 }
 
@@ -107,28 +124,28 @@ int CGraphicBuffer::BlitToDevice(PixelSurface* device, int x, int y, int w, int 
 void CGraphicBuffer::Draw(CGraphicBuffer* dest, Rect destRect, Point srcPoint) const
 {
     if (!pixels || !dest || !dest->pixels || !ClipBlit(dest, destRect, srcPoint)) return;
-    ForRows(*this, *dest, destRect, srcPoint, [&](std::size_t to, std::size_t from) {
-        if (alpha) {
-            const std::uint8_t* opacity = alpha.get() + from;
-            mixing::MixRow(&dest->pixels[to], &pixels[from], destRect.w, [=](int n) { return opacity[n]; });
-        } else
+    if (alpha)
+        MixRows(*this, *dest, destRect, srcPoint, [&](std::size_t from) { return mixing::Plane{&alpha[from]}; });
+    else
+        ForRows(*this, *dest, destRect, srcPoint, [&](std::size_t to, std::size_t from) {
             std::memmove(&dest->pixels[to], &pixels[from], sizeof pixels[0] * destRect.w);
-    });
+        });
 }
 
 void CGraphicBuffer::DrawBlended(CGraphicBuffer* dest, Rect destRect, Point srcPoint, std::uint8_t opacity) const
 {
-    if (opacity == 255) Draw(dest, destRect, srcPoint);
-    if (opacity == 255 || opacity == 0) return;
+    if (opacity == 0) return;
+    if (opacity == 255) {
+        Draw(dest, destRect, srcPoint);
+        return;
+    }
     if (!pixels || !dest || !dest->pixels || !ClipBlit(dest, destRect, srcPoint)) return;
-    ForRows(*this, *dest, destRect, srcPoint, [&](std::size_t to, std::size_t from) {
-        const std::uint32_t whole = opacity;
-        if (alpha) {
-            const std::uint8_t* part = alpha.get() + from;
-            mixing::MixRow(&dest->pixels[to], &pixels[from], destRect.w, [=](int n) { return part[n] * whole >> 8; });
-        } else
-            mixing::MixRow(&dest->pixels[to], &pixels[from], destRect.w, [=](int) { return whole; });
-    });
+    if (alpha)
+        MixRows(*this, *dest, destRect, srcPoint, [&](std::size_t from) {
+            return mixing::FaintPlane{&alpha[from], opacity};
+        });
+    else
+        MixRows(*this, *dest, destRect, srcPoint, [=](std::size_t) { return mixing::Even{opacity}; });
 }
 
 } // namespace korvane

@@ -24,11 +24,13 @@ public:
     // clang-format off
     virtual ~CGraphicBuffer() = default;
     virtual bool IsValid() const;
-    /// New memory of that size, each at least 1, clip over all of it; the contents are undefined. With the size that it
-    /// has, nothing changes. False, and empty, when there is no memory.
+    /// New memory of that size, all bytes 0, clip over all of it. With the size that it has, nothing changes, not even
+    /// whether it has an alpha plane. False when one is below 1: nothing changes; or when there is no memory or the
+    /// pixels would take more than 1 GiB: the buffer is empty then.
     virtual bool Create(int newHeight, int newWidth, bool withAlpha);
     virtual void ResetClipRect();
-    /// The part of the rectangle inside the buffer becomes the clip. False when there is none: the clip is the whole buffer.
+    /// The part of the rectangle inside the buffer becomes the clip. False when there is none: the clip is the whole
+    /// buffer.
     virtual bool SetClipRect(Rect rect);
     virtual Size GetSize() const;
     virtual Rect GetClipRect() const;
@@ -39,7 +41,8 @@ public:
     virtual bool ClipBlit(const CGraphicBuffer* dest, Rect& destRect, Point& srcPoint) const;
     /// Shows the rectangle w x h at (srcX, srcY) at (x, y) of the device. 1 when it is shown, 0 otherwise.
     virtual int BlitToDevice(PixelSurface* device, int x, int y, int w, int h, int srcX, int srcY) const;
-    /// Copies the part of destRect's size at srcPoint to destRect of the destination, mixed by the opacity and by the alpha plane if there is one.
+    /// Copies the part of destRect's size at srcPoint to destRect of the destination, mixed by the opacity and by the
+    /// alpha plane if there is one. Within one buffer they may overlap: what is read is what was there.
     virtual void DrawBlended(CGraphicBuffer* dest, Rect destRect, Point srcPoint, std::uint8_t opacity) const;
     virtual void Draw(CGraphicBuffer* dest, Rect destRect, Point srcPoint) const;
     virtual void Free();

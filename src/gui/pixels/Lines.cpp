@@ -9,8 +9,9 @@ namespace korvane {
 
 namespace {
 
-constexpr float kFar = 1 << 30;        // beyond it nothing is drawn
+constexpr double kFar = 1 << 30;       // beyond it nothing is drawn
 constexpr float kLineDistance = 0.83f; // of the parallel lines of a thick one, in pixels; by eye
+constexpr int kMostLines = 4096;       // of a thick one; wider than any page
 
 /// A coordinate along the line in 16.16 fixed point.
 struct Walk {
@@ -19,7 +20,7 @@ struct Walk {
     std::int64_t At(std::int64_t n) const { return start + n * step; }
 };
 
-std::int64_t Fixed(float value) { return static_cast<std::int64_t>(std::floor(value * 65536.0)); }
+std::int64_t Fixed(double value) { return static_cast<std::int64_t>(value * 65536.0); }
 
 /// Cuts the steps [first, last) to those whose pixel, or the one after it, lies in [low, low + count).
 void CutSteps(const Walk& walk, int low, int count, std::int64_t& first, std::int64_t& last)
@@ -42,20 +43,19 @@ void CDrawBuffer::DrawLine(Color color, float x0, float y0, float x1, float y1, 
     if (!IsValid()) return;
     for (const float value : {x0, y0, x1, y1})
         if (!(std::abs(value) < kFar)) return;
-    const float clipRight = static_cast<float>(clip.x + clip.w), clipBottom = static_cast<float>(clip.y + clip.h);
-    if (std::max(x0, x1) < static_cast<float>(clip.x) || std::min(x0, x1) > clipRight) return;
-    if (std::max(y0, y1) < static_cast<float>(clip.y) || std::min(y0, y1) > clipBottom) return;
-    const double dx = x1 - x0, dy = y1 - y0, length = std::sqrt(dx * dx + dy * dy);
+    if (std::max(x0, x1) < static_cast<double>(clip.x) || std::min(x0, x1) >= static_cast<double>(clip.x + clip.w) ||
+        std::max(y0, y1) < static_cast<double>(clip.y) || std::min(y0, y1) >= static_cast<double>(clip.y + clip.h))
+        return;
+    const double dx = double{x1} - x0, dy = double{y1} - y0, length = std::sqrt(dx * dx + dy * dy);
     if (!(length > 0.0)) return;
-    const Walk x{Fixed(x0), static_cast<std::int64_t>(dx / length * 65536.0)};
-    const Walk y{Fixed(y0), static_cast<std::int64_t>(dy / length * 65536.0)};
-    std::int64_t first = 0, last = (static_cast<std::int64_t>(length * 65536.0) + 65535) / 65536;
+    const Walk x{Fixed(x0), Fixed(dx / length)}, y{Fixed(y0), Fixed(dy / length)};
+    std::int64_t first = 0, last = (Fixed(length) + 65535) / 65536;
     CutSteps(x, clip.x, clip.w, first, last);
     CutSteps(y, clip.y, clip.h, first, last);
 
-    const auto cover = [&](std::int64_t px, std::int64_t py, std::uint32_t coverage) {
-        if (px < clip.x || py < clip.y || px >= clip.x + clip.w || py >= clip.y + clip.h) return;
-        std::uint32_t& pixel = pixels[static_cast<std::size_t>(height - 1 - py) * width + static_cast<std::size_t>(px)];
+    const auto cover = [&](int px, int py, std::uint32_t coverage) {
+        if (!clip.Contains(px, py)) return;
+        std::uint32_t& pixel = pixels[static_cast<std::size_t>(height - 1 - py) * width + px];
         const std::uint32_t stored = pixel >> 24;
         if (accumulate)
             pixel = (pixel & 0xFFFFFF) | std::min(stored + coverage, 255u) << 24;
@@ -63,7 +63,8 @@ void CDrawBuffer::DrawLine(Color color, float x0, float y0, float x1, float y1, 
             pixel = mixing::Mix(pixel & 0xFFFFFF, color, stored * static_cast<std::uint32_t>(AlphaOf(color)) >> 8);
     };
     for (std::int64_t n = first; n < last; ++n) {
-        const std::int64_t atX = x.At(n), atY = y.At(n), px = atX >> 16, py = atY >> 16;
+        const std::int64_t atX = x.At(n), atY = y.At(n);
+        const int px = static_cast<int>(atX >> 16), py = static_cast<int>(atY >> 16);
         const auto fx = static_cast<std::uint32_t>(atX >> 8 & 255), fy = static_cast<std::uint32_t>(atY >> 8 & 255);
         cover(px, py, (255 - fx) * (255 - fy) >> 8);
         cover(px + 1, py, (fx * 255 - fx * fy) >> 8);
@@ -77,7 +78,7 @@ void CDrawBuffer::DrawThickLine(Color color, float x0, float y0, float x1, float
     const float dx = x1 - x0, dy = y1 - y0, length = std::sqrt(dx * dx + dy * dy);
     if (!(length > 0.0f)) return;
     const float normalX = dy / length * kLineDistance, normalY = -dx / length * kLineDistance;
-    const int count = std::clamp(frameWidth, 1, width + height + 2); // more lie outside
+    const int count = std::clamp(frameWidth, 1, kMostLines);
     for (int n = 0; n < count; ++n) {
         const float place = static_cast<float>(n) - static_cast<float>(count) / 2.0f + 0.5f;
         const float offX = normalX * place, offY = normalY * place;

@@ -1,15 +1,19 @@
-// Mixing of pixels, in 8 bits with a shift by 8.
+// Mixing of rows of pixels, in 8 bits with a shift by 8.
 #pragma once
 
 #include <cstdint>
 #include <cstring>
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 #include "gui/pixels/Color.h"
 
 namespace korvane::mixing {
 
-/// The plain form: each colour byte becomes (src * a + dst * (255 - a)) >> 8; the top byte of dst stays. Red and blue
-/// go together, as neither product leaves its 16 bits.
+/// Each colour byte becomes (src * a + dst * (255 - a)) >> 8; the top byte of dst stays. Red and blue go together, as
+/// neither sum leaves its 16 bits.
 /// a  0..255
 inline std::uint32_t Mix(std::uint32_t dst, std::uint32_t src, std::uint32_t a)
 {
@@ -19,33 +23,135 @@ inline std::uint32_t Mix(std::uint32_t dst, std::uint32_t src, std::uint32_t a)
     return (dst & 0xFF000000) | (redBlue >> 8 & 0xFF00FF) | (green >> 8 & 0xFF00);
 }
 
-typedef std::uint8_t Bytes8 __attribute__((vector_size(8)));
-typedef std::uint16_t Words8 __attribute__((vector_size(16)));
+/// The four channels of a colour in 16.16 fixed point: blue, green, red, alpha.
+typedef std::int32_t Channels __attribute__((vector_size(16)));
 
-/// Two pixels at once, with two opacities.
-inline void MixTwo(std::uint32_t* dst, const std::uint32_t* src, std::uint32_t a0, std::uint32_t a1)
+#ifdef __SSE2__
+inline __m128i LoadFour(const void* from) { return _mm_loadu_si128(static_cast<const __m128i*>(from)); }
+
+/// Four opacities of a byte each, so that each colour byte of four pixels has its own; 0 at the top bytes.
+inline __m128i Spread(__m128i bytes)
 {
-    Bytes8 from, to;
-    std::memcpy(&from, src, sizeof from);
-    std::memcpy(&to, dst, sizeof to);
-    const auto x = static_cast<std::uint16_t>(a0), y = static_cast<std::uint16_t>(a1);
-    const Words8 a{x, x, x, 0, y, y, y, 0},
-        b{static_cast<std::uint16_t>(255 - x), static_cast<std::uint16_t>(255 - x),
-          static_cast<std::uint16_t>(255 - x), 256,
-          static_cast<std::uint16_t>(255 - y), static_cast<std::uint16_t>(255 - y),
-          static_cast<std::uint16_t>(255 - y), 256}; // the top byte comes out as it was
-    const Words8 mixed = __builtin_convertvector(from, Words8) * a + __builtin_convertvector(to, Words8) * b;
-    const Bytes8 result = __builtin_convertvector(mixed >> 8, Bytes8);
-    std::memcpy(dst, &result, sizeof result);
+    bytes = _mm_unpacklo_epi8(bytes, bytes);
+    return _mm_and_si128(_mm_unpacklo_epi16(bytes, bytes), _mm_set1_epi32(0xFFFFFF));
 }
 
-/// Mixes a row into another, pixel n with opacity alphaOf (n).
-template <class AlphaOf>
-void MixRow(std::uint32_t* dst, const std::uint32_t* src, int count, AlphaOf alphaOf)
+inline __m128i LoadBytes(const std::uint8_t* from)
+{
+    int four;
+    std::memcpy(&four, from, sizeof four);
+    return _mm_cvtsi32_si128(four);
+}
+
+/// Two pixels of 16 bits a channel. A top byte has opacity 0 and, as its counterpart is 256 there, stays.
+inline __m128i MixTwo(__m128i dst, __m128i src, __m128i a)
+{
+    const __m128i rest = _mm_sub_epi16(_mm_set1_epi64x(0x010000FF00FF00FF), a);
+    return _mm_srli_epi16(_mm_add_epi16(_mm_mullo_epi16(src, a), _mm_mullo_epi16(dst, rest)), 8);
+}
+
+inline void MixFour(std::uint32_t* dst, __m128i src, __m128i a)
+{
+    const __m128i zero = _mm_setzero_si128(), before = LoadFour(dst);
+    const __m128i low =
+        MixTwo(_mm_unpacklo_epi8(before, zero), _mm_unpacklo_epi8(src, zero), _mm_unpacklo_epi8(a, zero));
+    const __m128i high =
+        MixTwo(_mm_unpackhi_epi8(before, zero), _mm_unpackhi_epi8(src, zero), _mm_unpackhi_epi8(a, zero));
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(dst), _mm_packus_epi16(low, high));
+}
+#endif
+
+// What a row is mixed from, and how strongly: the one of a pixel, and those of four.
+
+struct Pixels {
+    const std::uint32_t* row;
+    std::uint32_t At(int n) const { return row[n]; }
+#ifdef __SSE2__
+    __m128i FourAt(int n) const { return LoadFour(row + n); }
+#endif
+};
+
+struct OneColor {
+    Color color;
+    std::uint32_t At(int) const { return color; }
+#ifdef __SSE2__
+    __m128i FourAt(int) const { return _mm_set1_epi32(static_cast<int>(color)); }
+#endif
+};
+
+struct Even {
+    std::uint8_t opacity;
+    std::uint32_t At(int) const { return opacity; }
+#ifdef __SSE2__
+    __m128i FourAt(int) const { return _mm_set1_epi32(opacity * 0x010101); }
+#endif
+};
+
+struct Plane {
+    const std::uint8_t* row;
+    std::uint32_t At(int n) const { return row[n]; }
+#ifdef __SSE2__
+    __m128i FourAt(int n) const { return Spread(LoadBytes(row + n)); }
+#endif
+};
+
+/// A plane that counts in part.
+struct FaintPlane {
+    const std::uint8_t* row;
+    std::uint8_t opacity;
+    std::uint32_t At(int n) const { return static_cast<std::uint32_t>(row[n] * opacity >> 8); }
+#ifdef __SSE2__
+    __m128i FourAt(int n) const
+    {
+        const __m128i words = _mm_unpacklo_epi8(LoadBytes(row + n), _mm_setzero_si128());
+        const __m128i faint = _mm_srli_epi16(_mm_mullo_epi16(words, _mm_set1_epi16(opacity)), 8);
+        return Spread(_mm_packus_epi16(faint, faint));
+    }
+#endif
+};
+
+/// The plain form, which the one below follows to the bit.
+template <class Source, class Opacity>
+void MixRowPlain(std::uint32_t* dst, int first, int end, Source source, Opacity opacity)
+{
+    for (int n = first; n < end; ++n) dst[n] = Mix(dst[n], source.At(n), opacity.At(n));
+}
+
+/// Mixes a row into another that it does not overlap.
+template <class Source, class Opacity>
+void MixRow(std::uint32_t* dst, int count, Source source, Opacity opacity)
 {
     int n = 0;
-    for (; n + 2 <= count; n += 2) MixTwo(dst + n, src + n, alphaOf(n), alphaOf(n + 1));
-    for (; n < count; ++n) dst[n] = Mix(dst[n], src[n], alphaOf(n));
+#ifdef __SSE2__
+    for (; n + 4 <= count; n += 4) MixFour(dst + n, source.FourAt(n), opacity.FourAt(n));
+#endif
+    MixRowPlain(dst, n, count, source, opacity);
+}
+
+inline void MixGradientPlain(std::uint32_t* dst, int count, Channels value, Channels step)
+{
+    for (int n = 0; n < count; ++n, value += step) {
+        const Channels whole = value >> 16;
+        const auto color = static_cast<std::uint32_t>(whole[2] << 16 | whole[1] << 8 | whole[0]);
+        dst[n] = Mix(dst[n], color, static_cast<std::uint32_t>(whole[3]));
+    }
+}
+
+/// Mixes a row with a colour that moves by a step per pixel.
+inline void MixGradient(std::uint32_t* dst, int count, Channels value, Channels step)
+{
+#ifdef __SSE2__
+    for (; count >= 2; count -= 2, dst += 2, value += step + step) {
+        const Channels first = value >> 16, second = (value + step) >> 16;
+        const __m128i src = _mm_packs_epi32(reinterpret_cast<__m128i>(first), reinterpret_cast<__m128i>(second));
+        const __m128i alphas = _mm_shufflehi_epi16(_mm_shufflelo_epi16(src, 0xFF), 0xFF);
+        auto* pair = reinterpret_cast<__m128i*>(dst);
+        const __m128i before = _mm_unpacklo_epi8(_mm_loadl_epi64(pair), _mm_setzero_si128());
+        const __m128i mixed = MixTwo(before, src, _mm_and_si128(alphas, _mm_set1_epi64x(0x0000FFFFFFFFFFFF)));
+        _mm_storel_epi64(pair, _mm_packus_epi16(mixed, mixed));
+    }
+#endif
+    MixGradientPlain(dst, count, value, step);
 }
 
 } // namespace korvane::mixing

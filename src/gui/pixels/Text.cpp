@@ -3,6 +3,7 @@
 
 #include "gui/pixels/BuiltInFonts.h"
 #include "gui/pixels/CDrawBuffer.h"
+#include "platform/Numbers.h"
 
 namespace korvane {
 
@@ -40,51 +41,57 @@ int TextWidth(const std::uint8_t* face, const char* text, std::size_t length, in
     return sum;
 }
 
-void InkPixel(std::uint32_t& pixel, Color color, std::uint32_t a)
+/// Unlike elsewhere each of the two products is shifted by itself.
+std::uint32_t Inked(std::uint32_t dst, Color color, std::uint32_t a)
 {
-    std::uint32_t inked = pixel & 0xFF000000;
-    for (int shift = 0; shift < 24; shift += 8) {
-        const std::uint32_t dst = pixel >> shift & 255, src = color >> shift & 255;
-        inked |= ((dst * (255 - a) >> 8) + (src * a >> 8)) << shift;
+    const auto part = [](std::uint32_t pixel, std::uint32_t share) {
+        return ((pixel & 0xFF00FF) * share >> 8 & 0xFF00FF) | ((pixel & 0xFF00) * share >> 8 & 0xFF00);
+    };
+    return (dst & 0xFF000000) | (part(dst, 255 - a) + part(color, a)); // together at most 254
+}
+
+void DrawGlyph(CDrawBuffer& buffer, const Glyph& glyph, int x, int y)
+{
+    for (int k = 0; k < glyph.count; ++k) {
+        const int place = glyph.ink[2 * k], transparency = glyph.ink[2 * k + 1];
+        const int px = x + (place & 15), py = y + (place >> 4);
+        if (!buffer.clip.Contains(px, py)) continue;
+        std::uint32_t& pixel = buffer.pixels[static_cast<std::size_t>(buffer.height - 1 - py) * buffer.width + px];
+        const int a = AlphaOf(buffer.textColor) * (255 - transparency) >> 8;
+        pixel = Inked(pixel, buffer.textColor, static_cast<std::uint32_t>(a));
     }
-    pixel = inked;
 }
 
 } // namespace
 
 Size CDrawBuffer::DrawText(const char* text, int x, int y, int w, int h, int alignment, bool measureOnly)
 {
-    Size answer;
-    if (!IsValid() || !text || *text == '\0') return answer;
+    if (!IsValid() || !text || *text == '\0') return {};
     const std::uint8_t* face = BuiltInFont(font);
-    if (!face) return answer;
-    const Setting setting = kSettings[font];
+    if (!face) return {};
+    const auto [letterSpacing, startOffset] = kSettings[font];
     const std::size_t length = strnlen(text, kLongestText);
-    answer = {face[0], TextWidth(face, text, length, setting.letterSpacing)};
-    if (answer.width < 1 || measureOnly) return answer;
+    const Size size{face[0], TextWidth(face, text, length, letterSpacing)};
+    if (size.width < 1 || measureOnly) return size;
 
-    const std::int64_t top = std::int64_t{y} + (std::int64_t{h} - answer.height) / 2;
-    std::int64_t pen = std::int64_t{x} + setting.startOffset;
-    if (alignment == align::Centre) pen = std::int64_t{x} + (std::int64_t{w} - answer.width) / 2;
-    if (alignment == align::Right) pen = std::int64_t{x} + w - answer.width;
-    if (pen >= clip.x + clip.w || pen + answer.width <= clip.x) return answer;
-    if (top >= clip.y + clip.h || top + answer.height <= clip.y) return answer;
+    const std::int64_t top = y + (std::int64_t{h} - size.height) / 2;
+    std::int64_t left = std::int64_t{x} + startOffset;
+    if (alignment == align::Centre) left = x + (std::int64_t{w} - size.width) / 2;
+    if (alignment == align::Right) left = std::int64_t{x} + w - size.width;
+    Rect box{Saturate(left), Saturate(top), size.width, size.height};
+    if (!ClipToClipRect(box)) return size;
+    int pen = static_cast<int>(left); // near the clip
     for (std::size_t n = 0; n < length; ++n) {
         if (text[n] == ' ') {
             pen += kSpaceWidth;
             continue;
         }
         const Glyph glyph = GlyphOf(face, text[n]);
-        if (glyph.count == 0 || glyph.count > answer.height * glyph.width) return answer;
-        for (int k = 0; k < glyph.count; ++k) {
-            const std::int64_t px = pen + (glyph.ink[2 * k] & 15), py = top + (glyph.ink[2 * k] >> 4);
-            if (px < clip.x || py < clip.y || px >= clip.x + clip.w || py >= clip.y + clip.h) continue;
-            const auto a = static_cast<std::uint32_t>(AlphaOf(textColor) * (255 - glyph.ink[2 * k + 1]) >> 8);
-            InkPixel(pixels[static_cast<std::size_t>((height - 1 - py) * width + px)], textColor, a);
-        }
-        pen += glyph.width + setting.letterSpacing;
+        if (glyph.count == 0 || glyph.count > size.height * glyph.width) break;
+        DrawGlyph(*this, glyph, pen, static_cast<int>(top));
+        pen += glyph.width + letterSpacing;
     }
-    return answer;
+    return size;
 }
 
 } // namespace korvane
