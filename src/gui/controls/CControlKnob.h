@@ -7,6 +7,8 @@
 
 namespace korvane {
 
+/// Its frames stand in a strip of the bitmap from `imageOffset` on. The value is written into a pop-up that opens below
+/// the control while it is dragged, or above it where the editor ends.
 class CControlKnob : public CControlNumber {
 public:
     /// Pixels, finer than a Rect.

@@ -5,6 +5,7 @@
 
 namespace korvane {
 
+/// Drawn over its bitmap or its background colour; what a knob's strip and pointer are for, the handle does here.
 class CControlSlider : public CControlKnob {
 public:
     CControlSlider(Rect place, int number) : CControlKnob(place, number), track(place) {}

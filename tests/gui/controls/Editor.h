@@ -4,8 +4,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <functional>
-#include <map>
-#include <memory>
 #include <string>
 #include <utility>
 
@@ -25,59 +23,50 @@ public:
         std::fill_n(page.pixels.get(), 200 * 300, kPage);
         backgroundId = 77;
         Open(200, 300, this);
-        SetBackground(77);
         Idle();
     }
     ~Editor() override { Close(); }
-
     bool CreateContent() override { return true; }
     CBitmap* FindBitmap(int number) override { return number == 77 ? &page : nullptr; }
-    float GetParameterValue(CControl* control) override { return values[control->id]; }
+    float GetParameterValue(CControl*) override { return parameter; }
     float GetDefaultValue(CControl*) override { return 0.25f; }
     void GetParameterDisplay(CControl*, char* text) override { std::snprintf(text, 1024, "50"); }
-    void GetParameterLabel(CControl*, char* text) override { std::snprintf(text, 1024, "%%"); }
     void BeginEdit(CControl*) override { Write("begin"); }
     void EndEdit(CControl*) override { Write("end"); }
     void ControlChanged(CControl* control) override
     {
-        char text[32];
-        std::snprintf(text, sizeof text, "%.4g", control->value);
-        Write(text);
-        if (const auto hears = onChange) hears(control); // a copy: it may end what it is kept in
+        char text[32] = "";
+        Write((std::snprintf(text, sizeof text, "%.4g", control->value), text));
+        if (onChange) onChange(control);
     }
 
+    /// Its parameter is number 5, with that value.
     template <class T>
-    T* Add(Rect place, int id = 5)
+    T* Add(Rect place, float value = 0.0f, CBitmap* image = nullptr)
     {
-        auto* const control = new T(place, id);
+        auto* const control = new T(place, 5);
+        parameter = value;
         AddControl(control);
+        if (image) control->bitmap = image;
         return control;
     }
     void Mouse(int type, int x, int y, int modifiers = 0) { MouseEvent(x, y, modifiers, type); }
-    void Click(int x, int y, int modifiers = 0)
-    {
-        Mouse(mouse::LeftDown, x, y, modifiers);
-        Mouse(mouse::LeftUp, x, y, modifiers);
-    }
+    void Click(int x, int y) { Mouse(mouse::LeftDown, x, y), Mouse(mouse::LeftUp, x, y); }
     /// What was told since the last call.
     std::string Heard() { return std::exchange(told, ""); }
     void Write(const std::string& line) { told += (told.empty() ? "" : " ") + line; }
     Color At(int x, int y) const { return backBuffer.pixels[(199 - y) * 300 + x]; }
-    Color Drawn(CControl* control, int x, int y)
-    {
-        control->Draw(&backBuffer);
-        return At(x, y);
-    }
+    Color OnScreen(int x, int y) { return Screen().shown[y * 300 + x]; }
     MemoryWindow& Screen() { return static_cast<MemoryWindow&>(Platform()); }
 
-    std::map<int, float> values;
+    float parameter = 0.0f; // of all controls
     std::function<void(CControl*)> onChange;
     CBitmap page{77};
     std::string told;
 };
 
 /// An image of cells; each has the colour 0x101010 times its number, counted from 1, row by row from the top.
-/// alpha  of all pixels; negative: no plane
+/// opacity  of all pixels; negative: no alpha
 struct Cells : CBitmap {
     Cells(int columns, int rows, int cellWidth, int cellHeight, int opacity = -1) : CBitmap(1)
     {
