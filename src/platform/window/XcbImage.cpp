@@ -62,6 +62,10 @@ bool XcbImage::Copy(const PixelView& image, Rect source, Point target)
 void XcbImage::WriteRow(const std::uint32_t* pixels, int count, std::uint32_t* out) const
 {
     const std::uint32_t opaque = visual.depth == 32 ? 0xFF000000 : 0;
+    if (scale == 1 && opaque == 0 && !visual.swapped) {
+        std::copy_n(pixels, count, out);
+        return;
+    }
     for (int n = 0; n < count; ++n) {
         const std::uint32_t pixel = pixels[n] | opaque;
         out = std::fill_n(out, scale, visual.swapped ? __builtin_bswap32(pixel) : pixel);

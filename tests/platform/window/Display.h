@@ -1,17 +1,11 @@
 // A display server of a test's own, with a host's window on it, and a user who moves its mouse and keys.
 #pragma once
 
-#include <chrono>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <memory>
-#include <spawn.h>
 #include <sstream>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
 #include <vector>
 #include <xcb/xcb.h>
 #include <xcb/xtest.h>
@@ -28,35 +22,26 @@ public:
 
     DisplayServer()
     {
-        int ends[2];
-        if (pipe(ends) != 0) return;
-        const std::string report = std::to_string(ends[1]);
-        std::vector<const char*> words = {"Xvfb",       "-displayfd", report.c_str(), "-screen",  "0",
-                                          "800x600x24", "-nolisten",  "tcp",          "-noreset", nullptr};
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_addopen(&actions, 2, "/dev/null", 1, 0);
-        posix_spawnp(&process, words[0], &actions, nullptr, const_cast<char**>(words.data()), environ);
-        posix_spawn_file_actions_destroy(&actions);
-        close(ends[1]);
-        char number[16] = "";
-        for (ssize_t count = 0, got = 1; got > 0 && !std::string(number).ends_with('\n'); count += got)
-            got = read(ends[0], number + count, sizeof number - 1 - count);
-        close(ends[0]);
-        setenv("DISPLAY", std::string(":").append(number, std::strcspn(number, "\n")).c_str(), 1);
+        int number = 0;
+        if (std::fscanf(output, "%d %d", &process, &number) == 2)
+            setenv("DISPLAY", std::string(":").append(std::to_string(number)).c_str(), 1);
     }
-    ~DisplayServer() { Kill(); }
-
+    ~DisplayServer()
+    {
+        Kill();
+        pclose(output);
+    }
     void Kill()
     {
-        if (process <= 0) return;
-        kill(process, SIGTERM);
-        waitpid(process, nullptr, 0);
+        if (process > 0) kill(process, SIGTERM);
         process = 0;
+        while (std::fgetc(output) != EOF) {} // until it has ended
     }
 
 private:
-    pid_t process = 0;
+    std::FILE* const output =
+        popen("echo $$; exec Xvfb -displayfd 1 -screen 0 800x600x24 -nolisten tcp 2>/dev/null", "re");
+    int process = 0;
 };
 
 /// The host's side: its window at (100, 50) of the screen, and all that a user does.
@@ -118,17 +103,14 @@ public:
         }
     }
 
-    /// What the screen shows; without the byte above red.
-    std::vector<std::uint32_t> Screen(int x, int y, int w, int h) const
+    /// What the screen shows of the host's window; without the byte above red.
+    std::vector<std::uint32_t> Screen(std::uint16_t w, std::uint16_t h) const
     {
-        const auto number = [](int value) { return static_cast<std::uint16_t>(value); };
-        const auto request = xcb_get_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, Root(), static_cast<std::int16_t>(x),
-                                           static_cast<std::int16_t>(y), number(w), number(h), ~0u);
+        const auto request = xcb_get_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, Root(), 100, 50, w, h, ~0u);
         const XcbAnswer<xcb_get_image_reply_t> reply(xcb_get_image_reply(server, request, nullptr));
-        if (!reply) return {};
-        const auto* const pixels = reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(reply.get()));
-        std::vector<std::uint32_t> result(pixels, pixels + xcb_get_image_data_length(reply.get()) / 4);
-        for (std::uint32_t& pixel : result) pixel &= 0xFFFFFF;
+        std::vector<std::uint32_t> result(reply ? std::size_t{1} * w * h : 0);
+        for (std::size_t n = 0; n < result.size(); ++n)
+            result[n] = reinterpret_cast<const std::uint32_t*>(xcb_get_image_data(reply.get()))[n] & 0xFFFFFF;
         return result;
     }
 

@@ -77,7 +77,7 @@ protected:
     void ServeFor(int milliseconds)
     {
         const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-        while (std::chrono::steady_clock::now() < end && window.Serve(milliseconds / 4)) {}
+        while (window.Serve(milliseconds / 4) && std::chrono::steady_clock::now() < end) {}
     }
     std::string Heard(int milliseconds = 40)
     {

@@ -8,10 +8,8 @@ class XcbInput : public OpenWindow {};
 // Each event tells its own place, however fast they follow each other; several motions are one.
 TEST_F(XcbInput, MouseEventsKeepTheirPlaces)
 {
-    struct Case {
-        const char *what, *acts, *heard;
-    };
     // clang-format off
+    struct Case { const char *what, *acts, *heard; };
     const Case cases[] = {
         {"press, move, release", "to 10,5 press 1 to 20,15 release 1", "move 10,5; L 10,5; move 20,15; l 20,15"},
         {"motions together",     "to 1,1 to 2,2 to 3,4",               "move 3,4"},
@@ -84,7 +82,7 @@ TEST_F(XcbInput, GrabsAreTrueToTheServer)
     EXPECT_FALSE(window.HasGrab()); // seen again, yet somebody else may hold the pointer by now
 }
 
-TEST_F(XcbInput, HeldKeysArePressedOnce)
+TEST_F(XcbInput, KeysComeUpAsTheyWentDown)
 {
     ASSERT_TRUE(Open());
     window.TakeFocus();
@@ -92,8 +90,12 @@ TEST_F(XcbInput, HeldKeysArePressedOnce)
     const std::string first = Heard(1000); // repeats begin within 700 ms
     host->Do("up 38");
     EXPECT_EQ(first + " " + Heard(), "down 41 +0 up 41 +0");
-    host->Do("down 50 down 38 up 38 up 50"); // Shift changes the modifiers at once, and the letter not
-    EXPECT_EQ(Heard(), "down 10 +2; down 41 +2; up 41 +2; up 10 +0");
+    host->Do("down 50 down 38"); // Shift changes the modifiers at once, and the letter not
+    EXPECT_EQ(Heard(), "down 10 +2; down 41 +2");
+    const xcb_keysym_t french[] = {'q', 'Q', 'q', 'Q'};
+    xcb_change_keyboard_mapping(host->server, 1, 38, 4, french);
+    host->Do("up 38 up 50 down 38 up 38"); // what is down comes up as it was told
+    EXPECT_EQ(Heard(), "up 41 +2; up 10 +0; down 51 +0; up 51 +0");
 }
 
 // Keys that the listener does not use, and those that were not meant for it, reach the host; others do not.
@@ -127,21 +129,6 @@ TEST_F(XcbInput, UnusedKeysReachTheHost)
     EXPECT_EQ(reachedHost(), "+38-38");
 }
 
-TEST_F(XcbInput, LayoutsMayChangeWhileOpen)
-{
-    ASSERT_TRUE(Open());
-    window.TakeFocus();
-    host->Do("down 38");
-    Heard();
-    const xcb_keysym_t french[] = {'q', 'Q', 'q', 'Q'};
-    xcb_change_keyboard_mapping(host->server, 1, 38, 4, french);
-    host->Sync();
-    host->Do("up 38");
-    EXPECT_EQ(Heard(), "up 41 +0"); // as it went down
-    host->Do("down 38 up 38");
-    EXPECT_EQ(Heard(), "down 51 +0; up 51 +0");
-}
-
 TEST_F(XcbInput, TheFocusGoesBackToTheHost)
 {
     ASSERT_TRUE(Open());
@@ -160,8 +147,7 @@ TEST_F(XcbInput, TheFocusGoesBackToTheHost)
 /// Another program that drags something over the window, and writes down the answers.
 class DragSource {
 public:
-    DragSource(Host& theHost, XcbWindow& theWindow)
-        : host(theHost), server(theHost.server), window(theWindow), target(Host::Number(theWindow.Handle()))
+    DragSource(Host& theHost, XcbWindow& theWindow) : host(theHost), server(theHost.server), window(theWindow)
     {
         xcb_set_selection_owner(server, host.window, server.Atom(atom::XdndSelection), XCB_CURRENT_TIME);
     }
@@ -202,29 +188,24 @@ private:
     {
         xcb_change_property(server, XCB_PROP_MODE_REPLACE, target, wish.property, wish.target, 8,
                             static_cast<std::uint32_t>(data.size()), data.data());
-        const xcb_selection_notify_event_t done{
-            XCB_SELECTION_NOTIFY, 0, 0, wish.time, target, wish.selection, wish.target, wish.property};
+        const xcb_selection_notify_event_t done{31,           0, 0, wish.time, target, wish.selection, wish.target,
+                                                wish.property};
         xcb_send_event(server, 0, target, 0, reinterpret_cast<const char*>(&done));
     }
 
     Host& host;
     const XcbConnection& server;
     XcbWindow& window;
-    const xcb_window_t target;
+    const xcb_window_t target = Host::Number(window.Handle());
     std::string data, heard;
 };
 
 TEST_F(XcbInput, FilesAreDropped)
 {
-    struct Case {
-        const char* what;
-        std::uint32_t version;
-        int type;
-        const char *data, *answers, *heard;
-    };
     // clang-format off
+    struct Case { const char* what; std::uint32_t version; int type; const char *data, *answers, *heard; };
     const Case cases[] = {
-        {"a file",         5, atom::UriList, "file:///tmp/a%20b.wav\r\n", "status1copy end1copy", "\\tmp\\a b.wav 12,34"},
+        {"a file",         5, atom::UriList, "file:///a%20b.wav\r\n",     "status1copy end1copy", "\\a b.wav 12,34"},
         {"an old program", 3, atom::UriList, "file:///a\r\n",             "status1copy end1copy", "\\a 12,34"},
         {"a text",         5, atom::WmState, "file:///a\r\n",             "status0 end0",         ""},
         {"no file",        5, atom::UriList, "http://a/b\r\n",            "status1copy end0",     ""},
