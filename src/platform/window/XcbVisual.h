@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <xcb/xcb.h>
 
 namespace korvane {
@@ -26,12 +27,14 @@ inline bool Takes32Bits(const xcb_setup_t* setup, int depth)
     return false;
 }
 
-inline XcbVisual FindVisual(const xcb_setup_t* setup, const xcb_screen_t* screen)
+/// wanted  depths that will do, the best first
+inline XcbVisual FindVisual(const xcb_setup_t* setup, const xcb_screen_t* screen,
+                            std::initializer_list<int> wanted = {24, 32})
 {
     const std::uint16_t one = 1;
     const bool bigEndian = *reinterpret_cast<const std::uint8_t*>(&one) == 0;
     const bool swapped = (setup->image_byte_order == XCB_IMAGE_ORDER_MSB_FIRST) != bigEndian;
-    for (const int depth : {24, 32}) {
+    for (const int depth : wanted) {
         if (!Takes32Bits(setup, depth)) continue;
         for (auto depths = xcb_screen_allowed_depths_iterator(screen); depths.rem > 0; xcb_depth_next(&depths)) {
             if (depths.data->depth != depth) continue;

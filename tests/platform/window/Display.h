@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -50,7 +51,7 @@ public:
     /// depth  of the host's window: 24, or 32 with a visual of its own
     explicit Host(int depth = 24)
     {
-        const XcbVisual visual = VisualOf(depth);
+        const XcbVisual visual = FindVisual(xcb_get_setup(server), server.screen, {depth});
         const xcb_colormap_t colours = xcb_generate_id(server);
         xcb_create_colormap(server, XCB_COLORMAP_ALLOC_NONE, colours, Root(), visual.id);
         const std::uint32_t values[] = {0, 0, XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE, colours};
@@ -89,17 +90,16 @@ public:
     /// of the keyboard.
     void Do(const std::string& acts)
     {
+        static const std::map<std::string, std::uint8_t> kTypes = {
+            {"to", XCB_MOTION_NOTIFY}, {"press", 4}, {"release", 5}, {"down", XCB_KEY_PRESS}, {"up", XCB_KEY_RELEASE}};
         std::istringstream words(acts);
         for (std::string act; words >> act;) {
             int number = 0, y = 0;
-            char comma = 0;
             words >> number;
-            if (act == "to") words >> comma >> y;
-            if (act == "to") Fake(XCB_MOTION_NOTIFY, 0, number + 100, y + 50);
-            if (act == "press") Fake(XCB_BUTTON_PRESS, number);
-            if (act == "release") Fake(XCB_BUTTON_RELEASE, number);
-            if (act == "down") Fake(XCB_KEY_PRESS, number);
-            if (act == "up") Fake(XCB_KEY_RELEASE, number);
+            if (act == "to") words.ignore(1) >> y;
+            xcb_test_fake_input(server, kTypes.at(act), act == "to" ? 0 : static_cast<std::uint8_t>(number), 0, Root(),
+                                static_cast<std::int16_t>(number + 100), static_cast<std::int16_t>(y + 50), 0);
+            Sync();
         }
     }
 
@@ -116,22 +116,6 @@ public:
 
     const XcbConnection server;
     const xcb_window_t window = xcb_generate_id(server);
-
-private:
-    void Fake(int type, int detail, int x = 0, int y = 0)
-    {
-        xcb_test_fake_input(server, static_cast<std::uint8_t>(type), static_cast<std::uint8_t>(detail),
-                            XCB_CURRENT_TIME, Root(), static_cast<std::int16_t>(x), static_cast<std::int16_t>(y), 0);
-        Sync();
-    }
-    XcbVisual VisualOf(int depth) const
-    {
-        if (depth == 24) return FindVisual(xcb_get_setup(server), server.screen);
-        for (auto d = xcb_screen_allowed_depths_iterator(server.screen); d.rem > 0; xcb_depth_next(&d))
-            if (d.data->depth == depth && xcb_depth_visuals_length(d.data) > 0)
-                return {xcb_depth_visuals(d.data)->visual_id, static_cast<std::uint8_t>(depth), false};
-        return {};
-    }
 };
 
 } // namespace korvane

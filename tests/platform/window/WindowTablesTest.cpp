@@ -66,7 +66,8 @@ TEST(DisplayScale, FollowsTheDesktopsResources)
 {
     const std::pair<const char*, int> cases[] = {
         {"", 1}, {"Xft.dpi:\t143\n", 1}, {"Xft.dpi: 144", 2}, {"Xft.dpi:239.5\n", 2}, {"Xft.dpi:240\n", 3},
-        {"Xft.dpi:", 1}, {"a: b\nXft.dpi: 288\nc: d\n", 3}, {"Xft.dpi: 9000\n", 4}, {"Xft.dpi: x\n", 1}, {"*Xft.dpi: 192\n", 1},
+        {"Xft.dpi:", 1}, {"a: b\nXft.dpi: 288\nc: d\n", 3}, {"Xft.dpi: 9000\n", 4}, {"Xft.dpi: x\n", 1},
+        {"*Xft.dpi: 192\n", 1},
     };
     for (const auto& [resources, scale] : cases) EXPECT_EQ(ScaleFromResources(resources), scale) << resources;
 }

@@ -41,8 +41,8 @@ TEST_F(XcbWindowTest, TheScreenShowsTheImage)
     // clang-format off
     struct Case { const char* what; int depth; const char* scale; bool shares; };
     const Case cases[] = {
-        {"shared memory",       24, "1", true}, {"through the socket",        24, "1", false}, {"blocks", 24, "2", true},
-        {"a host with opacity", 32, "1", true}, {"blocks through the socket", 32, "2", false},
+        {"shared memory",       24, "1", true}, {"through the socket", 24, "1", false}, {"blocks", 24, "2", true},
+        {"a host with opacity", 32, "1", true}, {"both, in blocks",    32, "2", false},
     };
     // clang-format on
     for (const Case& c : cases) {
