@@ -26,8 +26,44 @@ inline std::uint32_t Mix(std::uint32_t dst, std::uint32_t src, std::uint32_t a)
 /// The four channels of a colour in 16.16 fixed point: blue, green, red, alpha.
 typedef std::int32_t Channels __attribute__((vector_size(16)));
 
+// What a row is mixed from, and how strongly, pixel by pixel.
+
+struct Pixels {
+    const std::uint32_t* row;
+    std::uint32_t At(int n) const { return row[n]; }
+};
+
+struct OneColor {
+    Color color;
+    std::uint32_t At(int) const { return color; }
+};
+
+struct Even {
+    std::uint8_t opacity;
+    std::uint32_t At(int) const { return opacity; }
+};
+
+struct Plane {
+    const std::uint8_t* row;
+    std::uint32_t At(int n) const { return row[n]; }
+};
+
+/// A plane that counts in part.
+struct FaintPlane {
+    const std::uint8_t* row;
+    std::uint8_t opacity;
+    std::uint32_t At(int n) const { return static_cast<std::uint32_t>(row[n] * opacity >> 8); }
+};
+
 #ifdef __SSE2__
 inline __m128i LoadFour(const void* from) { return _mm_loadu_si128(static_cast<const __m128i*>(from)); }
+
+inline __m128i LoadBytes(const std::uint8_t* from)
+{
+    int four;
+    std::memcpy(&four, from, sizeof four);
+    return _mm_cvtsi32_si128(four);
+}
 
 /// Four opacities of a byte each, so that each colour byte of four pixels has its own; 0 at the top bytes.
 inline __m128i Spread(__m128i bytes)
@@ -36,11 +72,17 @@ inline __m128i Spread(__m128i bytes)
     return _mm_and_si128(_mm_unpacklo_epi16(bytes, bytes), _mm_set1_epi32(0xFFFFFF));
 }
 
-inline __m128i LoadBytes(const std::uint8_t* from)
+// The same of pixels n to n + 3.
+
+inline __m128i FourAt(Pixels source, int n) { return LoadFour(source.row + n); }
+inline __m128i FourAt(OneColor source, int) { return _mm_set1_epi32(static_cast<int>(source.color)); }
+inline __m128i FourAt(Even by, int) { return _mm_set1_epi32(by.opacity * 0x010101); }
+inline __m128i FourAt(Plane by, int n) { return Spread(LoadBytes(by.row + n)); }
+inline __m128i FourAt(FaintPlane by, int n)
 {
-    int four;
-    std::memcpy(&four, from, sizeof four);
-    return _mm_cvtsi32_si128(four);
+    const __m128i words = _mm_unpacklo_epi8(LoadBytes(by.row + n), _mm_setzero_si128());
+    const __m128i faint = _mm_srli_epi16(_mm_mullo_epi16(words, _mm_set1_epi16(by.opacity)), 8);
+    return Spread(_mm_packus_epi16(faint, faint));
 }
 
 /// Two pixels of 16 bits a channel. A top byte has opacity 0 and, as its counterpart is 256 there, stays.
@@ -61,55 +103,6 @@ inline void MixFour(std::uint32_t* dst, __m128i src, __m128i a)
 }
 #endif
 
-// What a row is mixed from, and how strongly: the one of a pixel, and those of four.
-
-struct Pixels {
-    const std::uint32_t* row;
-    std::uint32_t At(int n) const { return row[n]; }
-#ifdef __SSE2__
-    __m128i FourAt(int n) const { return LoadFour(row + n); }
-#endif
-};
-
-struct OneColor {
-    Color color;
-    std::uint32_t At(int) const { return color; }
-#ifdef __SSE2__
-    __m128i FourAt(int) const { return _mm_set1_epi32(static_cast<int>(color)); }
-#endif
-};
-
-struct Even {
-    std::uint8_t opacity;
-    std::uint32_t At(int) const { return opacity; }
-#ifdef __SSE2__
-    __m128i FourAt(int) const { return _mm_set1_epi32(opacity * 0x010101); }
-#endif
-};
-
-struct Plane {
-    const std::uint8_t* row;
-    std::uint32_t At(int n) const { return row[n]; }
-#ifdef __SSE2__
-    __m128i FourAt(int n) const { return Spread(LoadBytes(row + n)); }
-#endif
-};
-
-/// A plane that counts in part.
-struct FaintPlane {
-    const std::uint8_t* row;
-    std::uint8_t opacity;
-    std::uint32_t At(int n) const { return static_cast<std::uint32_t>(row[n] * opacity >> 8); }
-#ifdef __SSE2__
-    __m128i FourAt(int n) const
-    {
-        const __m128i words = _mm_unpacklo_epi8(LoadBytes(row + n), _mm_setzero_si128());
-        const __m128i faint = _mm_srli_epi16(_mm_mullo_epi16(words, _mm_set1_epi16(opacity)), 8);
-        return Spread(_mm_packus_epi16(faint, faint));
-    }
-#endif
-};
-
 /// The plain form, which the one below follows to the bit.
 template <class Source, class Opacity>
 void MixRowPlain(std::uint32_t* dst, int first, int end, Source source, Opacity opacity)
@@ -123,7 +116,7 @@ void MixRow(std::uint32_t* dst, int count, Source source, Opacity opacity)
 {
     int n = 0;
 #ifdef __SSE2__
-    for (; n + 4 <= count; n += 4) MixFour(dst + n, source.FourAt(n), opacity.FourAt(n));
+    for (; n + 4 <= count; n += 4) MixFour(dst + n, FourAt(source, n), FourAt(opacity, n));
 #endif
     MixRowPlain(dst, n, count, source, opacity);
 }
