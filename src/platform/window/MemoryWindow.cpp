@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <chrono>
 
+#include "platform/window/CopyClip.h"
+
 namespace korvane {
 
 // What a user does
@@ -147,14 +149,12 @@ bool MemoryWindow::Copy(const PixelView& image, Rect source, Point target)
 {
     if (!open || !image.pixels) return false;
     copies.push_back({target.x, target.y, source.w, source.h});
-    for (int y = 0; y < source.h; ++y)
-        for (int x = 0; x < source.w; ++x) {
-            const Point from{source.x + x, source.y + y}, to{target.x + x, target.y + y};
-            if (!Rect{0, 0, image.size.width, image.size.height}.Contains(from.x, from.y)) continue;
-            if (!Rect{0, 0, size.width, size.height}.Contains(to.x, to.y)) continue;
-            const std::size_t row = static_cast<std::size_t>(image.size.height - 1 - from.y);
-            shown[static_cast<std::size_t>(to.y) * size.width + to.x] =
-                image.pixels[row * image.size.width + from.x] & 0xFFFFFF;
+    const CopyPart part = ClipCopy(source, target, image.size, size);
+    for (int y = 0; y < part.source.h; ++y)
+        for (int x = 0; x < part.source.w; ++x) {
+            const int row = image.size.height - 1 - (part.source.y + y);
+            shown[static_cast<std::size_t>(part.target.y + y) * size.width + part.target.x + x] =
+                image.pixels[static_cast<std::size_t>(row) * image.size.width + part.source.x + x] & 0xFFFFFF;
         }
     return true;
 }

@@ -21,7 +21,6 @@ TEST(Drag, FollowsItsLaw)
         {"fine with Ctrl",            0.5f,  0,    modifier::Ctrl, false, {{{0, -100}, 0.6f}}},
         {"to the right",              0.5f,  0,    0,              true,  {{{40, 70}, 0.7f}, {{-300, 0}, 0}}},
         {"leaves the detent at once", 0.5f,  0.2f, 0,              false, {{{0, -1}, 0.505f}, {{0, -11}, 0.555f}}},
-        {"and downward",              0.5f,  0.2f, 0,              false, {{{0, 1}, 0.495f}}},
         {"stays for 40 pixels",       0.55f, 0.2f, 0,              false, {{{0, 49}, 0.5f}, {{0, 60}, 0.45f}}},
     };
     // clang-format on
@@ -80,7 +79,6 @@ TEST(Gestures, AreToldInOrder)
         {"jumps along a track",  Slider,      0, L, 0,             {30, 20}, {20, 20}, "0.5 begin",      "end"},
         {"toggle",               Button,      0, L, 0,             {20, 20}, {20, 20}, "begin 1 end",    ""},
         {"let go elsewhere",     Button,      1, L, 0,             {20, 20}, {200, 9}, "begin 1",        "end"},
-        {"LED",                  Button,      2, L, 0,             {20, 20}, {20, 20}, "begin 1 end",    ""},
         {"momentary",            Button,      3, L, 0,             {20, 20}, {200, 9}, "1",              "0"},
         {"tab",                  Tab,         0, L, 0,             {35, 20}, {20, 20}, "2",              ""},
         {"tab when let go",      Tab,         1, L, 0,             {49, 20}, {40, 49}, "",               "3"},
@@ -138,7 +136,6 @@ TEST(Controls, TakeWildNumbers)
             Cells image(4, 4, 10, 10, 128);
             auto* control = static_cast<CControlTextDisplay*>(Make(editor, kind, 1));
             control->bitmap = &image;
-            control->hidden = true; // drawn below only
             control->rect = control->textRect = place;
             for (const float wild : {NAN, 1e30f, -1e30f, INFINITY}) {
                 EXPECT_EQ(control->SetValue(wild), wild == wild) << wild;

@@ -12,10 +12,11 @@ struct Ear : CControl {
     {
         editor.AddControl(this);
     }
-    void Say(const char* what)
+    bool Say(const char* what, bool answer = true)
     {
         editor.Write(name + what);
         if (const auto hears = onHear) hears(); // a copy: it may end the control
+        return answer;
     }
     void OnLeftDown(int, int) override { Say(":left"); }
     void OnMiddleDown(int, int) override { Say(":middle"); }
@@ -28,7 +29,7 @@ struct Ear : CControl {
     void OnHoverChanged() override { Say(hovered ? ":enter" : ":leave"); }
     void OnTick() override { Say(":tick"); }
     void Draw(CDrawBuffer*) override { Say(":draw"); }
-    bool OnFileDrop(const char*, int, int) override { return Say(":file"), name == "a"; }
+    bool OnFileDrop(const char*, int, int) override { return Say(":file", id == 1); }
 
     Editor& editor;
     std::string name;
@@ -47,8 +48,7 @@ struct Stage {
     Stage()
     {
         hidden->hidden = true;
-        editor.Idle();
-        editor.Heard();
+        editor.Idle(), editor.Heard();
     }
 };
 
@@ -73,7 +73,6 @@ TEST(Group, RoutesEvents)
         if (row.capture) named(row.capture)->CaptureMouse(false);
         s.editor.Mouse(row.type, row.x, row.y, modifier::Alt);
         EXPECT_EQ(s.editor.Heard(), row.heard);
-        EXPECT_TRUE(s.a->IsAltDown() && !s.a->IsCtrlDown() && !s.a->IsShiftDown());
     }
 }
 
