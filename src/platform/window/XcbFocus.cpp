@@ -10,24 +10,25 @@ xcb_window_t XcbFocus::Owner() const
     return reply ? reply->focus : XCB_NONE;
 }
 
+/// Has it when this returns, so that the next key goes there; false when it cannot.
+bool XcbFocus::Give(xcb_window_t owner, xcb_timestamp_t time) const
+{
+    return connection.ErrorOf(xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, owner, time)) == 0;
+}
+
 void XcbFocus::Take(xcb_timestamp_t time)
 {
     const xcb_window_t owner = Owner();
     if (owner != window) before = owner;
-    xcb_set_input_focus(connection, XCB_INPUT_FOCUS_PARENT, window, time);
-    xcb_flush(connection);
+    Give(window, time);
 }
 
 void XcbFocus::GiveBack(xcb_window_t parent)
 {
     if (Owner() != window) return;
-    const auto give = [this](xcb_window_t owner) {
-        return connection.ErrorOf(
-                   xcb_set_input_focus_checked(connection, XCB_INPUT_FOCUS_PARENT, owner, XCB_CURRENT_TIME)) == 0;
-    };
     const bool isHosts = before > XCB_INPUT_FOCUS_POINTER_ROOT && before != connection.screen->root &&
                          connection.TopLevel(before) == connection.TopLevel(parent);
-    if (!isHosts || !give(before)) give(parent);
+    if (!isHosts || !Give(before, XCB_CURRENT_TIME)) Give(parent, XCB_CURRENT_TIME);
 }
 
 void XcbFocus::TakeChange(const xcb_focus_in_event_t& event)

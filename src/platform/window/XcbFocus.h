@@ -22,6 +22,7 @@ public:
 
 private:
     xcb_window_t Owner() const;
+    bool Give(xcb_window_t owner, xcb_timestamp_t time) const;
 
     const XcbConnection& connection;
     const xcb_window_t window;

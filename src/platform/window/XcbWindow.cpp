@@ -68,8 +68,8 @@ void XcbWindow::Publish(std::shared_ptr<XcbSession> next)
 {
     const std::lock_guard hold(guard);
     session = std::move(next);
-    if (!withdrawn) xcb_map_window(*session->connection, session->window);
-    xcb_flush(*session->connection);
+    const XcbConnection& connection = *session->connection;
+    if (!withdrawn) connection.ErrorOf(xcb_map_window_checked(connection, session->window)); // seen when we return
 }
 
 void XcbWindow::Close()

@@ -104,9 +104,10 @@ public:
     }
 
     /// What the screen shows of the host's window; without the byte above red.
-    std::vector<std::uint32_t> Screen(std::uint16_t w, std::uint16_t h) const
+    std::vector<std::uint32_t> Screen(int w, int h) const
     {
-        const auto request = xcb_get_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, Root(), 100, 50, w, h, ~0u);
+        const auto request = xcb_get_image(server, XCB_IMAGE_FORMAT_Z_PIXMAP, Root(), 100, 50,
+                                           static_cast<std::uint16_t>(w), static_cast<std::uint16_t>(h), ~0u);
         const XcbAnswer<xcb_get_image_reply_t> reply(xcb_get_image_reply(server, request, nullptr));
         std::vector<std::uint32_t> result(reply ? std::size_t{1} * w * h : 0);
         for (std::size_t n = 0; n < result.size(); ++n)
