@@ -158,9 +158,10 @@ std::string XcbWindow::AskForFile(const FileQuestion& question)
     asker->pointer.Ungrab(); // or the dialog would have none
     asker->asking = true;
     FileDialog dialog(question, asker->connection->TopLevel(asker->parent));
-    while (asker->Runs() && dialog.Goes()) {
-        asker->Wait(kLook, wakeDescriptor, dialog.Descriptor());
-        asker->TellAll();
+    for (bool goes = true; goes && asker->Runs();) {
+        goes = dialog.Goes();
+        asker->Wait(goes ? kLook : 0, wakeDescriptor, dialog.Descriptor());
+        asker->TellAll(); // at last what came while the dialog was still there
     }
     asker->asking = false;
     return asker->Runs() ? dialog.Answer() : std::string();

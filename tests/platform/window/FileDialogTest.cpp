@@ -126,6 +126,7 @@ TEST_F(FileDialogs, EndWithTheWindow)
                                                                   {[&] { window.Close(); }, ""},
                                                                   {[&] { kill(pids[0], SIGKILL); }, "up 41 +0"},
                                                                   {[&] { host->Destroy(); }, ""}};
+    host->Do("to 5,5");
     for (const auto& [end, heard] : ends) {
         ASSERT_TRUE(Open());
         window.TakeFocus();
