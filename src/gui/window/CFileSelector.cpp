@@ -3,6 +3,8 @@
 
 #include <cstring>
 
+#include "platform/Files.h"
+
 namespace korvane {
 
 constexpr std::size_t kExtensions = 4; // of a filter
@@ -21,7 +23,7 @@ const char* CFileSelector::Ask(CPluginFrame* owner, bool save)
     if (!owner || question.filters.empty()) return nullptr;
     question.save = save;
     const std::string answer = owner->Platform().AskForFile(question);
-    if (answer.empty() || answer.size() >= sizeof path) return nullptr;
+    if (answer.empty() || answer.size() >= sizeof path || (!save && !FileExists(answer.c_str()))) return nullptr;
     std::strcpy(path, answer.c_str());
     return path;
 }

@@ -2,6 +2,8 @@
 #include "gui/window/CPluginFrame.h"
 
 #include <algorithm>
+#include <cstring>
+#include <string>
 
 namespace korvane {
 
@@ -15,6 +17,8 @@ CPluginFrame::~CPluginFrame() { CloseWindow(); }
 bool CPluginFrame::OpenWindow(int newHeight, int newWidth, void* parent)
 {
     if (!platform->Open(parent, {newHeight, newWidth}, procedure)) return false;
+    inTimer = false; // whatever ended the last opening
+    redrawLock = 0;
     parentWindow = parent;
     windowHandle = platform->Handle();
     height = newHeight;
@@ -39,10 +43,9 @@ std::uint32_t CPluginFrame::QueryInterface(const InterfaceId& id, void** answer)
 
 std::uint32_t CPluginFrame::Drop(const char* path)
 {
-    if (path) {
-        const Point place = PointerPosition();
-        DropFile(path, place.x, place.y);
-    }
+    constexpr std::size_t kLongestName = 1024;
+    const Point place = PointerPosition();
+    if (path) DropFile(std::string(path, strnlen(path, kLongestName)).c_str(), place.x, place.y);
     return 0;
 }
 

@@ -13,7 +13,7 @@ namespace korvane {
 class CPluginFrame : public IDropTarget {
 public:
     /// platformWindow  closed
-    /// module          the plug-in library; names the window class
+    /// module          the plug-in library
     CPluginFrame(std::unique_ptr<Window> platformWindow, void* module);
     CPluginFrame(const CPluginFrame&) = delete;
 

@@ -45,6 +45,7 @@ void CPluginUI::Close()
         groups = group->next;
         group->Delete();
     }
+    activeGroup = nullptr; // a group whose focus ends may have become active again
     backgroundId = -1;
 }
 
@@ -73,9 +74,9 @@ void CPluginUI::RemoveGroup(CControlGroup* group)
     while (*link && *link != group) link = &(*link)->next;
     if (!*link) return;
     if (capturingGroup == group) group->Release();
-    if (activeGroup == group) activeGroup = nullptr;
     *link = group->next;
     group->Delete();
+    if (activeGroup == group) activeGroup = nullptr;
     SetDirty(true);
 }
 
@@ -115,7 +116,7 @@ CControl* CPluginUI::FindControl(int number)
     return nullptr;
 }
 
-// Events. What hears one may remove its group, so that the next is looked up before.
+// Events and ticks
 
 void CPluginUI::MouseEvent(int x, int y, int modifierBits, int type)
 {
@@ -124,32 +125,22 @@ void CPluginUI::MouseEvent(int x, int y, int modifierBits, int type)
         only->MouseEvent(x, y, modifierBits, type);
         return;
     }
-    for (CControlGroup *group = groups, *after; group; group = after) {
-        after = group->next;
-        group->MouseEvent(x, y, modifierBits, type);
-    }
+    for (CControlGroup* group = groups; group; group = group->next) group->MouseEvent(x, y, modifierBits, type);
 }
 
 bool CPluginUI::DropFile(const char* path, int x, int y)
 {
     if (activeGroup) return activeGroup->DropFile(path, x, y);
-    for (CControlGroup *group = groups, *after; group; group = after) {
-        after = group->next;
+    for (CControlGroup* group = groups; group; group = group->next)
         if (group->DropFile(path, x, y)) return true;
-    }
     return false;
 }
 
 void CPluginUI::CancelAll()
 {
-    for (CControlGroup *group = groups, *after; group; group = after) {
-        after = group->next;
-        group->CancelAll();
-    }
+    for (CControlGroup* group = groups; group; group = group->next) group->CancelAll();
     ReleaseMouse();
 }
-
-// The tick
 
 void CPluginUI::BeginTick()
 {
@@ -186,14 +177,11 @@ void CPluginUI::DrawBackground()
 
 void CPluginUI::TickGroups(bool moved)
 {
-    if (activeGroup) {
-        activeGroup->Tick(moved, lastIdlePointer.x, lastIdlePointer.y);
-        return;
-    }
-    for (CControlGroup *group = groups, *after; group; group = after) {
-        after = group->next;
-        group->Tick(moved, lastIdlePointer.x, lastIdlePointer.y);
-    }
+    const auto [x, y] = lastIdlePointer;
+    if (activeGroup)
+        activeGroup->Tick(moved, x, y);
+    else
+        for (CControlGroup* group = groups; group; group = group->next) group->Tick(moved, x, y);
 }
 
 void CPluginUI::DrawControl(CControl* control)

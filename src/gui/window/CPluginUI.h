@@ -7,8 +7,8 @@
 
 namespace korvane {
 
-/// Knows controls and groups, not what their numbers mean. Opens and closes any number of times, on the window's
-/// thread.
+/// Knows controls and groups, not what their numbers mean. None of them ends inside a call that it makes or hears.
+/// Opens and closes any number of times, on the window's thread.
 class CPluginUI : public CPluginFrame {
 public:
     CPluginUI(std::unique_ptr<Window> platformWindow, void* module, Size editorSize);

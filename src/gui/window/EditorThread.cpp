@@ -19,14 +19,13 @@ EditorThread::~EditorThread()
 bool EditorThread::Open(void* parent, int height, int width)
 {
     if (OnOwnThread()) return !closing;
-    if (thread.joinable() && !closing) {
-        std::unique_lock guard(lock);
-        if (state == State::Open) return true;
-    }
+    if (IsOpen() && parent == openedIn) return true;
+    if (IsOpen()) Close(); // its parent has gone, and the news is on its way
     if (!Forget(kPatience)) return false;
     const int scale = editor->Platform().Scale();
     closing = false;
-    state = State::Opening;
+    openedIn = parent;
+    state = State::Opening; // no thread looks at it
     try {
         thread = std::thread(&EditorThread::Run, this, parent, Size{height / scale, width / scale});
     } catch (const std::exception&) {
@@ -63,14 +62,20 @@ void EditorThread::Run(void* parent, Size size)
             handle = editor->windowHandle;
             Enter(State::Open);
             while (!closing && editor->Platform().Serve(kRound)) {}
-            handle = nullptr;
             if (editor->mouseCaptured) editor->CancelAll(); // the host hears of the end of a gesture
         }
     } catch (const std::exception&) { // no memory: the window goes, the host stays
     }
+    handle = nullptr;
     editor->Close();
     own = std::thread::id();
     Enter(State::Ended);
+}
+
+bool EditorThread::IsOpen()
+{
+    std::lock_guard guard(lock);
+    return state == State::Open && !closing;
 }
 
 void EditorThread::Enter(State next)

@@ -26,7 +26,10 @@ public:
     /// Waits for the thread, however long the host keeps it.
     ~EditorThread() override;
 
-    /// height, width  as GetEditorSize told them. False also when the last window's thread is still kept by the host.
+    /// True when the window is open in that parent afterwards; one in another parent is closed. False also when the
+    /// last window's thread is still kept by the host.
+    ///
+    /// height, width  as GetEditorSize told them
     bool Open(void* parent, int height, int width) override;
     void Close() override;
     void GetEditorSize(int& height, int& width) const override; // in pixels of the screen
@@ -40,18 +43,20 @@ private:
     enum class State { Closed, Opening, Open, Ended }; // Ended: the thread is done and waits to be joined
 
     void Run(void* parent, Size size);
+    bool IsOpen();
     void Enter(State next);
     bool Forget(std::chrono::milliseconds patience); // joins a thread that ended or does so in time
     bool OnOwnThread() const { return std::this_thread::get_id() == own; }
 
     const std::unique_ptr<CSynthEditor> editor;
     std::thread thread;
+    void* openedIn = nullptr; // the last parent; for Open alone
     std::atomic<bool> closing{false};
     Shared<std::thread::id> own; // the thread writes, as the next one
     Shared<void*> handle = nullptr;
     std::mutex lock;
     std::condition_variable news;
-    State state = State::Closed; // under the lock
+    State state = State::Closed; // under the lock while there is a thread
 };
 
 } // namespace korvane

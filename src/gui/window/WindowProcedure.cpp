@@ -46,7 +46,7 @@ bool WindowProcedure::OnKey(int code, bool down) { return down ? frame.OnKeyDown
 
 void WindowProcedure::OnTimer()
 {
-    if (frame.inTimer) return; // a dialog within a tick ticks too
+    if (frame.inTimer) return; // inside a dialog that a tick has opened, say
     frame.inTimer = true;
     frame.BeginTick();
     frame.Idle();

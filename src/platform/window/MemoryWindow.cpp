@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <utility>
 
 #include "platform/window/CopyClip.h"
 
@@ -47,7 +48,11 @@ void MemoryWindow::Wheel(int notches)
 
 void MemoryWindow::Key(int code, bool down)
 {
-    Post([=, this] { usedKeys.push_back(listener->OnKey(code, down)); });
+    Post([=, this] {
+        std::erase(heldKeys, code);
+        if (down) heldKeys.push_back(code);
+        usedKeys.push_back(listener->OnKey(code, down));
+    });
 }
 
 void MemoryWindow::HoldModifiers(int bits)
@@ -104,6 +109,7 @@ bool MemoryWindow::Open(void*, Size windowSize, WindowListener& hears)
 
 void MemoryWindow::Close()
 {
+    for (const int code : std::exchange(heldKeys, {})) listener->OnKey(code, false);
     open = focused = grabbed = pointerHidden = false;
     timerPeriod = 0;
 }

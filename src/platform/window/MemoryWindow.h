@@ -62,6 +62,7 @@ public:
     Size size;
     std::vector<std::uint32_t> shown;                               // what is on the screen, rows from the top
     std::vector<Rect> copies;                                       // in their order
+    std::vector<int> heldKeys;                                      // are told up when the window closes
     std::vector<bool> usedKeys;                                     // what the listener answered
     std::function<std::string(const FileQuestion&)> answerQuestion; // none: every dialog is cancelled
     std::atomic<bool> withdrawn{false};                             // any thread

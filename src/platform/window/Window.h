@@ -60,7 +60,7 @@ public:
     /// parent    the host's window: its number in the system
     /// listener  hears of everything until Close
     virtual bool Open(void* parent, Size size, WindowListener& listener) = 0;
-    /// Also ends a dialog, a grab and the timer. Nothing when closed.
+    /// Also ends a dialog, a grab and the timer; the listener is told that held keys are up. Nothing when closed.
     virtual void Close() = 0;
     /// The window's number in the system; null while closed.
     virtual void* Handle() const = 0;

@@ -42,7 +42,11 @@ struct EditorThreadTest : testing::Test {
         auto made = std::make_unique<MemoryWindow>(scale);
         window = made.get();
         auto content = std::make_unique<TestEditor>(std::move(made), &engine, log);
-        content->fill = [editor = content.get()] { return editor->AddControl(new Knob({0, 0, 300, 200}, 92)), true; };
+        content->fill = [this, editor = content.get()] {
+            openings.push_back(editor->parentWindow);
+            editor->AddControl(new Knob({0, 0, 300, 200}, 92));
+            return true;
+        };
         ui = content.get();
         thread = std::make_unique<EditorThread>(std::move(content));
     }
@@ -66,6 +70,7 @@ struct EditorThreadTest : testing::Test {
     NumberEngine engine;
     MemoryWindow* window = nullptr;
     TestEditor* ui = nullptr;
+    std::vector<void*> openings; // the parents
     std::unique_ptr<EditorThread> thread;
 };
 
@@ -176,6 +181,17 @@ TEST_F(EditorThreadTest, ALostParentCountsAsClosed)
     window->LoseParent();
     thread->Close();
     EXPECT_EQ(ui->windowHandle, nullptr);
+}
+
+TEST_F(EditorThreadTest, AnotherParentGetsAWindowOfItsOwn)
+{
+    int first = 0, second = 0;
+    ASSERT_TRUE(thread->Open(&first, 200, 300));
+    window->Key('A', true);
+    ASSERT_TRUE(thread->Open(&second, 200, 300));
+    thread->Close();
+    EXPECT_EQ(openings, (std::vector<void*>{&first, &second}));
+    EXPECT_TRUE(window->heldKeys.empty());
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "gui/window/CFileSelector.h"
+#include "platform/Files.h"
 #include "support/EditorRig.h"
 
 namespace korvane {
@@ -98,6 +99,12 @@ TEST_F(WindowTest, GroupsAreFoundAfterTheMainOne)
     CControlGroup* main = editor->GetMainGroup();
     editor->RemoveGroup(main);
     EXPECT_EQ(editor->GetMainGroup(), main);
+    editor->SetActiveGroup(first);
+    auto* focused = new Ear({0, 0, 5, 5}, 9, log);
+    first->AddControl(focused);
+    focused->SetFocus(true);
+    editor->Close();
+    EXPECT_EQ(editor->activeGroup, nullptr);
 }
 
 TEST_F(WindowTest, EventsAndTicksReachTheActiveGroupAlone)
@@ -345,16 +352,18 @@ TEST_F(WindowTest, IsADropTarget)
     void* answer = editor.get();
     EXPECT_EQ(editor->QueryInterface(kDropTargetId, &answer), 0u);
     EXPECT_EQ(answer, static_cast<IDropTarget*>(editor.get()));
-    EXPECT_EQ(editor->QueryInterface(InterfaceId{}, &answer), 0x80004002u);
+    EXPECT_EQ(editor->QueryInterface(InterfaceId{}, &answer), kNoInterface);
     EXPECT_EQ(answer, nullptr);
     EXPECT_EQ(editor->Drop(nullptr), 0u);
     EXPECT_TRUE(Take().empty());
+    editor->Drop(std::string(2000, 'x').c_str());
+    EXPECT_EQ(Take(), Log{"drop " + std::string(1024, 'x') + " -1 -1"});
 }
 
 TEST_F(WindowTest, AsksForFiles)
 {
     FileQuestion asked;
-    std::string answer = "C:\\x\\it's \"new\"\n.kvprj";
+    std::string answer = EnginePath(KORVANE_SOURCE "/README.md");
     window->answerQuestion = [&](const FileQuestion& question) { return asked = question, answer; };
     CFileSelector selector(nullptr);
     EXPECT_EQ(selector.Open(editor.get()), nullptr) << "no filter";
@@ -366,6 +375,8 @@ TEST_F(WindowTest, AsksForFiles)
     EXPECT_FALSE(asked.save);
     EXPECT_EQ(asked.title + asked.folder + asked.name, "Import Wave 1C:\\xkick");
     EXPECT_EQ(asked.filters.at(0).extensions, (std::vector<std::string>{"wav", "aif", "aiff", "a"}));
+    answer = "C:\\x\\it's \"new\"\n.kvprj";
+    EXPECT_EQ(selector.Open(editor.get()), nullptr) << "there is no such file";
     EXPECT_STREQ(selector.Save(editor.get()), answer.c_str());
     EXPECT_TRUE(asked.save);
     for (const std::string& none : {std::string(), std::string(1024, 'x')}) {
