@@ -45,14 +45,16 @@ struct Commands : CommandTest {
     }
 };
 
-const std::string kNeeded = "g++ cmake make pkg-config libsndfile1-dev";
+const std::string kLibraries = "libsndfile1-dev libcairo2-dev libxcb1-dev libxcb-shm0-dev libxcb-xkb-dev";
+const std::string kNeeded = "g++ cmake make pkg-config " + kLibraries;
 const std::string kAdvice = "korvane: packages are missing; as root: apt-get update && apt-get install ";
 
 TEST_F(Commands, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
 {
     Stand("dpkg-query", "exit 1");
     for (const char* tool : {"g++", "cmake", "make", "pkg-config"}) fs::remove(bin / tool);
-    for (const auto& [command, more] : {std::pair{"play", ""}, {"test", " libgtest-dev libbenchmark-dev"}}) {
+    for (const auto& [command, more] :
+         {std::pair{"play", ""}, {"test", " libgtest-dev libbenchmark-dev libxcb-xtest0-dev xvfb"}}) {
         const Answer answer = Run(command);
         EXPECT_EQ(std::pair(answer.status, answer.Called("apt-get")), std::pair(1, false));
         EXPECT_EQ(answer.output + answer.errors, kAdvice + kNeeded + more + "\n");
@@ -69,7 +71,7 @@ TEST_F(Commands, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
     Stand("sudo", "echo sudo: a password is required >&2; exit 1");
     const Answer refused = Run("play");
     EXPECT_EQ(refused.status, 1);
-    for (const std::string& part : {std::string("sudo: a password is required\n"), kAdvice + "libsndfile1-dev\n"})
+    for (const std::string& part : {std::string("sudo: a password is required\n"), kAdvice + kLibraries + "\n"})
         EXPECT_TRUE(refused.Complains(part)) << part << refused.errors;
     Stand("dpkg-query", "echo install ok installed");
     EXPECT_FALSE(Run("play").Called("apt-get")) << "nothing is missing";
