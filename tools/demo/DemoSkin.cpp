@@ -19,8 +19,8 @@ constexpr double kPi = std::numbers::pi;
 struct Shade {
     double red, green, blue;
 };
-constexpr Shade kDark{0.13, 0.14, 0.16}, kRaised{0.24, 0.25, 0.28}, kEdge{0.05, 0.05, 0.06}, kLit{0.94, 0.53, 0.25},
-    kDim{0.36, 0.24, 0.16}, kBright{0.86, 0.84, 0.8}, kDisplay{0.82, 0.75, 0.64};
+constexpr Shade kRaised{0.24, 0.25, 0.28}, kEdge{0.05, 0.05, 0.06}, kLit{0.94, 0.53, 0.25}, kDim{0.36, 0.24, 0.16},
+    kBright{0.86, 0.84, 0.8}, kDisplay{0.82, 0.75, 0.64};
 
 void Use(cairo_t* pen, Shade shade) { cairo_set_source_rgb(pen, shade.red, shade.green, shade.blue); }
 
