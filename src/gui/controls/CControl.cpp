@@ -8,11 +8,6 @@
 
 namespace korvane {
 
-CControl::~CControl()
-{
-    if (ended) *ended = true;
-}
-
 bool CControl::SetValue(float newValue)
 {
     if (newValue == value || newValue != newValue) return false;
@@ -24,26 +19,6 @@ bool CControl::SetValue(float newValue)
 void CControl::NotifyChanged(bool notify)
 {
     if (notify && group) group->ControlChanged(this);
-}
-
-/// Whether the control is still there after a call.
-template <class Call>
-bool CControl::Survives(Call call)
-{
-    bool gone = false;
-    bool* const outer = ended;
-    ended = &gone;
-    call();
-    if (!gone)
-        ended = outer;
-    else if (outer)
-        *outer = true;
-    return !gone;
-}
-
-bool CControl::Report()
-{
-    return Survives([this] { NotifyChanged(true); });
 }
 
 void CControl::Delete()
@@ -134,7 +109,9 @@ bool CControl::IsCapturing()
 
 void CControl::CancelInteraction()
 {
-    if (Survives([this] { OnLeftUp(-1, -1); }) && Survives([this] { OnRightUp(-1, -1); })) OnMiddleUp(-1, -1);
+    OnLeftUp(-1, -1);
+    OnRightUp(-1, -1);
+    OnMiddleUp(-1, -1);
 }
 
 void CControl::EndEdit()

@@ -10,7 +10,8 @@ class CPluginUI;
 
 /// Something on the screen with a rectangle and, mostly, a value that belongs to a parameter. Its owner is the group
 /// that it was added to. Everything happens on the window's thread. Without group, window, bitmap or buffer the
-/// operations that need them do nothing, or answer as told.
+/// operations that need them do nothing, or answer as told. No control or group ends inside a call that it makes or
+/// hears: an editor changes its content between events.
 class CControl {
 public:
     /// place   in the window
@@ -45,7 +46,8 @@ public:
     virtual void GetParameterDisplay(char* text);
     virtual void GetParameterName(char* text);
     virtual float GetDefaultValue();
-    /// Every mouse event of the window comes here until ReleaseMouse; hidden, the pointer has no end of the screen.
+    /// Every mouse event comes here until ReleaseMouse, but the wheel goes to a focus first; hidden, the pointer has no
+    /// end of the screen.
     virtual void CaptureMouse(bool hideCursor);
     virtual void ReleaseMouse();
     virtual bool IsCapturing();
@@ -69,8 +71,10 @@ public:
     virtual void OnHoverChanged() { dirty = true; }
     virtual bool OnFileDrop(const char*, int, int) { return false; } // whether it takes the file
     virtual Point GetMousePosition();                      // (-1, -1) without a window
+    /// Draws beyond its rectangle while it holds the mouse: above all others of its group.
+    virtual bool CoversOthers() { return false; }
     // clang-format on
-    virtual ~CControl();
+    virtual ~CControl() = default;
 
     Rect rect;
     int id;
@@ -82,18 +86,10 @@ public:
     CControlGroup* group = nullptr; // null until added
 
 protected:
-    /// Notifies. Whether the control is still there: who hears of its value may remove it, or close the window.
-    [[nodiscard]] bool Report();
     /// Draws the part of the page's background that lies under a rectangle.
     void DrawPage(CDrawBuffer* buffer, Rect part);
     /// Shows what Draw has drawn outside of the control's own rectangle.
     void ShowDrawn(Rect part);
-
-private:
-    template <class Call>
-    bool Survives(Call call);
-
-    bool* ended = nullptr; // set when the control ends, for a call that waits
 };
 
 } // namespace korvane

@@ -21,7 +21,7 @@ void CControlButton::OnLeftDown(int, int)
     pressed = held;
     if (gesture) BeginEdit();
     SetValue(value == 0.0f || mode == button::Momentary ? 1.0f : 0.0f);
-    if (!Report()) return;
+    NotifyChanged(true);
     if (held)
         CaptureMouse(false);
     else

@@ -35,11 +35,14 @@ void CControlDropDownList::SetClosedText(const char* newText)
     SetDirty(true);
 }
 
+/// -1: none.
+int CControlDropDownList::CurrentIndex() { return value < 0.0f ? -1 : Truncate(value); }
+
 const char* CControlDropDownList::ClosedText()
 {
     if (!showText) return "";
     if (*closedText) return closedText;
-    const DropDownItem* const chosen = value < 0.0f ? nullptr : items.At(Truncate(value));
+    const DropDownItem* const chosen = items.At(CurrentIndex());
     return chosen ? chosen->text : "<none>";
 }
 
@@ -49,7 +52,6 @@ void CControlDropDownList::Open()
 {
     CDrawBuffer* const page = GetDrawBuffer();
     if (!page || !page->IsValid() || items.Count() == 0) return;
-    SetFocus(true); // first: it takes the mouse from whoever has it
     CaptureMouse(false);
     LayoutList();
     open = true;
@@ -63,16 +65,13 @@ void CControlDropDownList::LayoutList()
 {
     CDrawBuffer* const page = GetDrawBuffer();
     if (!page) return;
-    OpenListLayout::Rows rows{items.Count()};
+    OpenListLayout::Rows rows{items.Count(), 0, look.RowHeight(page)};
     int index = 0;
-    for (const DropDownItem* shown = items.First(); shown; shown = shown->next, ++index) {
-        const Size size = look.Measure(page, *shown, StateOf(index, *shown));
-        rows.width = std::max(rows.width, size.width);
-        rows.height = size.height;
-    }
+    for (const DropDownItem* shown = items.First(); shown; shown = shown->next, ++index)
+        rows.width = std::max(rows.width, look.RowWidth(page, *shown, StateOf(index, *shown)));
     layout.Place(rect, GetEditorSize(), rows);
     scrollSpeed = layout.ScrollPerPixel();
-    scroll = layout.ScrollThatCentres(Truncate(value));
+    scroll = layout.ScrollThatCentres(CurrentIndex());
 }
 
 void CControlDropDownList::Close()
@@ -82,7 +81,6 @@ void CControlDropDownList::Close()
     picture.reset();
     behind.reset();
     ReleaseMouse();
-    SetFocus(false);
     SetDirty(true);
     InvalidateAll();
 }
@@ -96,7 +94,7 @@ void CControlDropDownList::OnLeftDown(int x, int y)
     if (index >= 0) Choose(index);
 }
 
-/// Whoever hears of a choice may fill the list anew, and choose another item meanwhile.
+/// Whoever hears of a choice may fill the list anew. A command leaves the value as it was.
 void CControlDropDownList::Choose(int index)
 {
     const float chosen = static_cast<float>(index), before = value;
@@ -106,7 +104,8 @@ void CControlDropDownList::Choose(int index)
         return;
     }
     value = chosen;
-    if (Report() && value == chosen) value = before;
+    NotifyChanged(true);
+    value = before;
 }
 
 int CControlDropDownList::IndexAt(int x, int y)
@@ -227,7 +226,7 @@ void CControlDropDownList::DrawListShadow(CDrawBuffer* buffer)
 
 DropDownLook::State CControlDropDownList::StateOf(int index, const DropDownItem& shown)
 {
-    const bool current = shown.kind == item::Choice && value == static_cast<float>(index);
+    const bool current = shown.kind == item::Choice && index == CurrentIndex();
     return {current || shown.marked, index == hoverIndex};
 }
 

@@ -9,8 +9,8 @@
 
 namespace korvane {
 
-/// Its value is the number of the chosen item. Open, it holds the mouse and has the focus of its group, so that nobody
-/// draws over it; any press but on its scroll bar closes it, and so does a mouse that somebody else takes.
+/// Its value is the number of the chosen item. Open, it holds the mouse; any press but on its scroll bar closes it, and
+/// so does a mouse that somebody else takes.
 class CControlDropDownList : public CControlTextDisplay {
 public:
     using CControlTextDisplay::CControlTextDisplay;
@@ -25,6 +25,7 @@ public:
     void OnWheel(int x, int y) override;
     void Draw(CDrawBuffer* buffer) override;
     void OnTick() override;
+    bool CoversOthers() override { return open; }
     ~CControlDropDownList() override;
     virtual void RenderList(CDrawBuffer* buffer);          // at the buffer's top-left corner
     virtual void DrawListShadow(CDrawBuffer* buffer);
@@ -63,6 +64,7 @@ private:
     DropDownLook::State StateOf(int index, const DropDownItem& shown);
     void DrawOpenList(CDrawBuffer* buffer);
     Rect ListWithShadow();
+    int CurrentIndex();
     const char* ClosedText();
 
     OpenListLayout layout;

@@ -1,16 +1,11 @@
 // A page or layer of the editor: its controls in order, and who of them hears an event.
 #include "gui/controls/CControlGroup.h"
 
-#include "gui/controls/ControlWalk.h"
 #include "gui/window/CPluginUI.h"
 
 namespace korvane {
 
-CControlGroup::~CControlGroup()
-{
-    CControlGroup::Clear();
-    for (ControlWalk* walk = walks; walk; walk = walk->outer) walk->walked = nullptr;
-}
+CControlGroup::~CControlGroup() { CControlGroup::Clear(); }
 
 void CControlGroup::AddControl(CControl* control)
 {
@@ -31,7 +26,6 @@ CControl* CControlGroup::RemoveControl(CControl* control)
     if (!control || !*place) return nullptr;
     if (capture == control) Release();
     if (focus == control) SetFocusControl(nullptr);
-    for (ControlWalk* walk = walks; walk; walk = walk->outer) walk->Forget(control);
     CControl* const after = control->next;
     *place = after;
     control->group = nullptr;
@@ -73,16 +67,14 @@ void CControlGroup::RefreshValues()
 
 void CControlGroup::CancelAll()
 {
-    ControlWalk walk(*this);
-    while (CControl* const control = walk.Next()) control->CancelInteraction();
-    if (!walk.GroupEnded() && capture) Release();
+    for (CControl* control = controls; control; control = control->next) control->CancelInteraction();
+    if (capture) Release();
 }
 
 bool CControlGroup::DropFile(const char* path, int x, int y)
 {
     if (focus) return focus->OnFileDrop(path, x, y);
-    ControlWalk walk(*this);
-    while (CControl* const control = walk.Next())
+    for (CControl* control = controls; control; control = control->next)
         if (!control->hidden && control->OnFileDrop(path, x, y)) return true;
     return false;
 }
@@ -99,7 +91,7 @@ void CControlGroup::SetFocusControl(CControl* control)
     if (!control && !focus) return;
     if (!focus) wasActive = IsActive();
     focus = control;
-    SetActive(control || wasActive);
+    if (control || !wasActive) SetActive(control); // another group may have become the active one meanwhile
 }
 
 void CControlGroup::Delete() { delete this; }
@@ -139,8 +131,7 @@ void CControlGroup::Route(CControl* control, int x, int y, int type)
 void CControlGroup::Wheel(int x, int y)
 {
     if (CControl* const holder = focus ? focus : capture) return holder->OnWheel(x, y);
-    ControlWalk walk(*this);
-    while (CControl* const control = walk.Next())
+    for (CControl* control = controls; control; control = control->next)
         if (!control->hidden) control->OnWheel(x, y);
 }
 
@@ -162,15 +153,26 @@ void CControlGroup::Release()
 
 void CControlGroup::Tick(bool pointerMoved, int x, int y)
 {
-    if (focus && focus->hidden) focus->CancelInteraction(); // nobody sees it any more
+    CControl* const holder = capture ? capture : focus;
+    if (holder && holder->hidden) holder->CancelInteraction(); // nobody sees it any more
+    CControl* const above = window && capture && capture->CoversOthers() ? capture : nullptr;
+    if (above) window->LockRedraw(); // one copy shows what changes below and what lies above
     DrawBehindFocus();
-    ControlWalk walk(*this);
-    while (CControl* const control = walk.Next()) {
-        if (control->hidden || (focus && control != focus)) continue;
-        if (pointerMoved) Hover(*control, x, y);
-        if (walk.Current()) control->OnTick();
-        if (walk.Current() && window) window->DrawControl(control);
-    }
+    for (CControl* control = controls; control; control = control->next)
+        if (control != above) TickControl(*control, pointerMoved, x, y);
+    if (!above) return;
+    if (window->redrawPending) above->SetDirty(true);
+    TickControl(*above, pointerMoved, x, y);
+    window->UnlockRedrawPending();
+}
+
+void CControlGroup::TickControl(CControl& control, bool pointerMoved, int x, int y)
+{
+    if (control.hidden) control.hovered = false; // also when it is shown again
+    if (control.hidden || (focus && &control != focus)) return;
+    if (pointerMoved) Hover(control, x, y);
+    control.OnTick();
+    if (window) window->DrawControl(&control);
 }
 
 void CControlGroup::Hover(CControl& control, int x, int y)

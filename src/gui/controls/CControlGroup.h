@@ -5,9 +5,8 @@
 
 namespace korvane {
 
-class ControlWalk;
-
-/// Owns its controls. The window's thread. Whoever hears an event may remove any control, or end the group.
+/// Owns its controls. The window's thread. No control ends inside an event, nor the group: an
+/// editor changes its content between events.
 class CControlGroup {
 public:
     explicit CControlGroup(CPluginUI* owner, int number = -1) : window(owner), id(number) {}
@@ -47,6 +46,9 @@ public:
     virtual CPluginUI* GetWindow() { return window; }
     // clang-format on
 
+    /// The one that an event at this place goes to while nobody holds mouse or focus; null: none.
+    CControl* ControlAt(int x, int y);
+
     CControl* capture = nullptr; // holds the mouse
     CControl* focus = nullptr;   // has the keyboard
     CControlGroup* next = nullptr;
@@ -57,14 +59,11 @@ public:
     bool wasActive = false; // before a control had the focus
 
 private:
-    friend class ControlWalk;
-    CControl* ControlAt(int x, int y);
     void Route(CControl* control, int x, int y, int type);
     void Wheel(int x, int y);
+    void TickControl(CControl& control, bool pointerMoved, int x, int y);
     void Hover(CControl& control, int x, int y);
     void DrawBehindFocus();
-
-    ControlWalk* walks = nullptr; // under way, the innermost first
 };
 
 } // namespace korvane

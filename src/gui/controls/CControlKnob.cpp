@@ -30,16 +30,15 @@ bool CControlKnob::SetValue(float newValue)
 
 void CControlKnob::OnLeftDown(int x, int y)
 {
-    const bool resets = IsAltDown(); // and whoever hears of that may remove the control
     CControlNumber::OnLeftDown(x, y);
-    if (!resets && showValuePopup && IsCapturing()) OpenPopup();
+    if (showValuePopup && IsCapturing()) OpenPopup();
 }
 
 void CControlKnob::OnLeftUp(int x, int y)
 {
     if (springBack && IsCapturing()) {
         SetValue(GetDefaultValue());
-        if (!Report()) return;
+        NotifyChanged(true);
     }
     CControlNumber::OnLeftUp(x, y);
     ClosePopup();
@@ -48,7 +47,6 @@ void CControlKnob::OnLeftUp(int x, int y)
 void CControlKnob::OnTick()
 {
     constexpr float kNear = 0.001f;
-    if (popup) SetDirty(true); // what changes below the pop-up draws over it
     if (!(smoothing >= kNear) || shownValue == value) return;
     shownValue += (value - shownValue) * std::min(smoothing, 1.0f);
     if (!(std::fabs(value - shownValue) >= kNear)) shownValue = value;
@@ -125,7 +123,7 @@ void CControlKnob::DrawPointerLines(CDrawBuffer* buffer, float position)
             buffer->DrawThickLine(color, x + right * from, y + down * from, x + right * to, y + down * to, accumulate);
     };
     if (pointerShadow)
-        line(pointerShadowColor, pointerShadowWidth, (pointerRadius - 1.0f) * pointerInner,
+        line(pointerShadowColor, pointerWidth, (pointerRadius - 1.0f) * pointerInner,
              (pointerRadius + 2.0f) * pointerOuter);
     line(pointerColor, pointerWidth, pointerRadius * pointerInner, pointerRadius * pointerOuter);
 }
@@ -169,12 +167,13 @@ void CControlKnob::DrawValuePopup(CDrawBuffer* buffer)
     char display[1024], label[1024];
     GetParameterDisplay(display);
     GetParameterLabel(label);
-    const KeptDrawState kept(buffer);
+    KeptDrawState kept(buffer);
+    const Rect box{popupRect.x, popupRect.y, popupRect.w - popupShadow, popupRect.h - popupShadow};
     popup->Draw(buffer, popupRect, {0, 0});
     buffer->SetFont(popupFont);
     buffer->SetTextColor(popupTextColor);
-    buffer->DrawText((std::string(display) + " " + label).c_str(), popupRect.x, popupRect.y, popupRect.w - popupShadow,
-                     popupRect.h - popupShadow, align::Centre, false);
+    const std::string shown = std::string(display) + " " + label;
+    if (kept.ClipTo(box)) buffer->DrawText(shown.c_str(), box.x, box.y, box.w, box.h, align::Centre, false);
     ShowDrawn(popupRect);
 }
 

@@ -24,6 +24,7 @@ public:
     void OnLeftUp(int x, int y) override;
     void Draw(CDrawBuffer* buffer) override;
     void OnTick() override;
+    bool CoversOthers() override { return popup != nullptr; }
     virtual void DrawValuePopup(CDrawBuffer* buffer);      // nothing while it is closed
     // clang-format on
 
@@ -45,7 +46,6 @@ public:
     float pointerInner = 0.0f, pointerOuter = 1.0f; // its ends, in radii
     bool pointerShadow = false;
     Color pointerShadowColor = Rgb(0, 0, 0, 128);
-    int pointerShadowWidth = 1;
     bool showValuePopup = false;
     int popupPadX = 2, popupPadY = 6;
     int popupFont = 0;

@@ -9,7 +9,8 @@ void CControlNumber::ResetToDefault()
 {
     BeginEdit();
     SetValue(GetDefaultValue());
-    if (Report()) EndEdit();
+    NotifyChanged(true);
+    EndEdit();
 }
 
 void CControlNumber::OnLeftDown(int x, int y)
@@ -36,7 +37,9 @@ void CControlNumber::OnMouseMove(int x, int y)
     firstMove = false;
     float position = dragOrigin - static_cast<float>(distance) * sensitivity * dragFactor;
     position = position >= edge ? position - edge : position <= -edge ? position + edge : 0.0f;
-    if (SetValue(Clamp(position * 0.5f + 0.5f, 0.0f, 1.0f)) && Report()) Redraw();
+    if (!SetValue(Clamp(position * 0.5f + 0.5f, 0.0f, 1.0f))) return;
+    NotifyChanged(true);
+    Redraw();
 }
 
 void CControlNumber::OnLeftUp(int, int)

@@ -5,8 +5,8 @@
 
 namespace korvane {
 
-/// A drag goes by its distance from where the button went down. The value counts as a position of -1..1 meanwhile, with
-/// a dead zone at its centre that is wider than the value knows.
+/// A drag goes by its distance from where the button went down. The value counts as a position of -1..1 meanwhile;
+/// for `centreDetent` to each side of where the drag crosses the centre, the value stays there.
 class CControlNumber : public CControlTextDisplay {
 public:
     using CControlTextDisplay::CControlTextDisplay;

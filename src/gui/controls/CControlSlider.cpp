@@ -19,7 +19,7 @@ void CControlSlider::OnLeftDown(int x, int y)
         const float clicked =
             horizontalTrack ? 1.0f - part(y, track.y, track.h, size.height) : part(x, track.x, track.w, size.width);
         SetValue(Clamp(clicked, 0.0f, 1.0f));
-        if (!Report()) return;
+        NotifyChanged(true);
     }
     CControlKnob::OnLeftDown(x, y);
 }

@@ -13,7 +13,6 @@ public:
     // clang-format off
     void OnLeftDown(int x, int y) override;
     void Draw(CDrawBuffer* buffer) override;
-    void DrawValuePopup(CDrawBuffer* buffer) override { CControlKnob::DrawValuePopup(buffer); }
     // clang-format on
 
     CBitmap* handle = nullptr; // crossfade: placed finer than by a pixel

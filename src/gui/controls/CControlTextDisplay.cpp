@@ -27,9 +27,8 @@ void CControlTextDisplay::Draw(CDrawBuffer* buffer)
 
 void CControlTextDisplay::DrawTextBox(CDrawBuffer* buffer, Color background, Color plainText)
 {
-    const KeptDrawState kept(buffer);
-    Rect box = textRect;
-    if (!buffer->ClipToClipRect(box) || !buffer->SetClipRect(box)) return;
+    KeptDrawState kept(buffer);
+    if (!kept.ClipTo(textRect)) return;
     buffer->SetFillColor(background);
     if (bitmap)
         DrawImage(buffer, imageOffset);
@@ -51,7 +50,8 @@ void CControlTextDisplay::DrawPageBehind(CDrawBuffer* buffer)
 
 void CControlTextDisplay::WriteText(CDrawBuffer* buffer, Color plainText)
 {
-    const KeptDrawState kept(buffer);
+    KeptDrawState kept(buffer);
+    if (!kept.ClipTo(textRect)) return;
     const Color color = hovered && hoverHighlight ? hoverTextColor : plainText;
     const auto write = [&](int dx, int dy) {
         const int x = Saturate(std::int64_t{textRect.x} + dx), y = Saturate(std::int64_t{textRect.y} + dy);

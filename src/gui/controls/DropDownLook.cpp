@@ -19,14 +19,18 @@ Color DropDownLook::TextColorOf(const DropDownItem& shown, State state) const
     return shown.notSelectable ? disabledItemColor : itemColor;
 }
 
-Size DropDownLook::Measure(CDrawBuffer* buffer, const DropDownItem& shown, State state) const
+int DropDownLook::RowHeight(CDrawBuffer* buffer) const
 {
     const KeptDrawState kept(buffer);
     buffer->SetFont(itemFont);
-    const int height = buffer->DrawText("QWERTY", 0, 0, 0, 0, align::Left, true).height;
+    return buffer->DrawText("QWERTY", 0, 0, 0, 0, align::Left, true).height + itemPadding;
+}
+
+int DropDownLook::RowWidth(CDrawBuffer* buffer, const DropDownItem& shown, State state) const
+{
+    const KeptDrawState kept(buffer);
     buffer->SetFont(FontOf(shown, state));
-    const int width = buffer->DrawText(shown.text, 0, 0, 0, 0, align::Left, true).width;
-    return {height + itemPadding, width + 2 * padX};
+    return buffer->DrawText(shown.text, 0, 0, 0, 0, align::Left, true).width + 2 * padX;
 }
 
 void DropDownLook::DrawRow(CDrawBuffer* buffer, Rect row, const DropDownItem& shown, State state) const

@@ -14,8 +14,9 @@ public:
         bool pointed = false; // by the mouse
     };
 
-    /// The row's size with what stands around its text.
-    Size Measure(CDrawBuffer* buffer, const DropDownItem& shown, State state) const;
+    /// Pixels, with what stands around the text.
+    int RowHeight(CDrawBuffer* buffer) const;
+    int RowWidth(CDrawBuffer* buffer, const DropDownItem& shown, State state) const;
     void DrawRow(CDrawBuffer* buffer, Rect row, const DropDownItem& shown, State state) const;
     void DrawScrollBar(CDrawBuffer* buffer, Rect thumb, Rect bar) const;
 

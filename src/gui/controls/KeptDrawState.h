@@ -24,6 +24,8 @@ public:
         buffer.SetTextColor(textColor);
         buffer.SetFont(font);
     }
+    /// Narrows the clip to a box; whether anything of that is left.
+    bool ClipTo(Rect box) { return buffer.ClipToClipRect(box) && buffer.SetClipRect(box); }
 
 private:
     CDrawBuffer& buffer;

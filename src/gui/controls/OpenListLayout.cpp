@@ -22,7 +22,9 @@ void OpenListLayout::Place(Rect control, Size editor, Rows newRows)
     const std::int64_t wanted = std::int64_t{rows.count} * rows.height + 2 * kBorder;
     const int room = std::max(editor.height - 2 * kMargin, rows.height + 2 * kBorder);
     box.h = Saturate(std::min<std::int64_t>(wanted, room));
-    box.w = Saturate(std::int64_t{rows.width} + 2 * kBorder + (wanted > room ? kBarWidth : 0));
+    const int frame = 2 * kBorder + (wanted > room ? kBarWidth : 0);
+    const int widest = std::max(editor.width - 2 * kMargin, frame + 1);
+    box.w = Saturate(std::min<std::int64_t>(std::int64_t{rows.width} + frame, widest));
 
     const std::int64_t bottom = std::int64_t{editor.height} - kMargin - box.h;
     const std::int64_t below = std::int64_t{control.y} + control.h, above = std::int64_t{control.y} - box.h;

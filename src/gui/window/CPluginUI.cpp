@@ -96,6 +96,7 @@ CControlGroup* CPluginUI::GetGroupByIndex(int index)
 
 void CPluginUI::SetActiveGroup(CControlGroup* group)
 {
+    if (capturingGroup && capturingGroup->capture) capturingGroup->capture->CancelInteraction();
     ReleaseMouse();
     if (capturingGroup) capturingGroup->capture = nullptr; // nobody would ever release it
     capturingGroup = nullptr;
