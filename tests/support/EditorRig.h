@@ -1,18 +1,22 @@
 // An editor in memory: its window, an engine of plain numbers, and what both were told.
 #pragma once
 
+#include <algorithm>
 #include <cstdio>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "gui/controls/CControlTextDisplay.h"
 #include "gui/window/CSynthEditor.h"
 #include "platform/window/MemoryWindow.h"
 
 namespace korvane {
 
 using Log = std::vector<std::string>;
+
+constexpr Color kPage = 0x102030; // all over the page, bitmap 77
 
 /// A host that writes down what it hears; `during` runs inside each call.
 struct LoggingHost : CPluginWrapper {
@@ -56,16 +60,20 @@ struct NumberEngine : CSynthesizer {
     Shared<float> values[196];
 };
 
-/// `fill` makes the content; the log has what the window's operations were called with.
+/// `fill` makes the content; the log has what the window's operations were called with, and what users changed.
 struct TestEditor : CSynthEditor {
     TestEditor(std::unique_ptr<Window> window, CSynthesizer* engine, Log& lines)
         : CSynthEditor(std::move(window), nullptr, {200, 300}, engine), log(lines)
     {
+        page.Create(200, 300, false);
+        std::fill_n(page.pixels.get(), 200 * 300, kPage);
     }
     bool CreateContent() override { return !fill || fill(); }
+    CBitmap* FindBitmap(int number) override { return number == 77 ? &page : CSynthEditor::FindBitmap(number); }
     void ControlChanged(CControl* control) override
     {
         if (synth && synth->wrapper) synth->wrapper->ParameterAutomated(control->GetId(), control->GetValue());
+        if (onChange) onChange(control);
     }
     void MouseEvent(int x, int y, int modifierBits, int type) override
     {
@@ -86,6 +94,8 @@ struct TestEditor : CSynthEditor {
     }
 
     std::function<bool()> fill;
+    std::function<void(CControl*)> onChange;
+    CBitmap page{77};
     Log& log;
 };
 
@@ -127,6 +137,56 @@ struct EditorRig {
     NumberEngine engine;
     MemoryWindow* window = nullptr;
     std::unique_ptr<TestEditor> editor;
+};
+
+/// One that is open and shows its page.
+struct ControlRig : EditorRig {
+    ControlRig()
+    {
+        editor->fill = [this] { return editor->SetBackground(77), true; };
+        Open();
+        editor->Idle();
+    }
+    /// Its parameter is number 100, with that value.
+    template <class T>
+    T* Add(Rect place, float value = 0.0f, CBitmap* image = nullptr)
+    {
+        auto* const control = new T(place, 100);
+        engine.SetParameter(100, value);
+        editor->AddControl(control);
+        if (image) control->bitmap = image;
+        return control;
+    }
+    void Mouse(int kind, int x, int y, int modifiers = 0) { editor->MouseEvent(x, y, modifiers, kind); }
+    void Click(int x, int y) { Mouse(mouse::LeftDown, x, y), Mouse(mouse::LeftUp, x, y); }
+    /// What was logged since the last time, but for mouse events.
+    Log Heard()
+    {
+        std::erase_if(log, [](const std::string& line) { return line.starts_with("mouse"); });
+        return Take();
+    }
+    Color At(int x, int y) const { return editor->backBuffer.pixels[(199 - y) * 300 + x]; }
+    Color OnScreen(int x, int y) const { return window->shown[static_cast<std::size_t>(y) * 300 + x]; }
+};
+
+/// Draws its colour anew on each tick.
+struct Blinker : CControlTextDisplay {
+    Blinker(Rect place, int number) : CControlTextDisplay(place, number) { SetText(""); }
+    void OnTick() override { dirty = true, ++ticks; }
+    int ticks = 0;
+};
+
+/// An image of cells; each has the colour 0x101010 times its number, counted from 1, row by row from the top.
+/// opacity  of all pixels; negative: no alpha
+struct Cells : CBitmap {
+    Cells(int columns, int rows, int cellWidth, int cellHeight, int opacity = -1) : CBitmap(1)
+    {
+        Create(rows * cellHeight, columns * cellWidth, opacity >= 0);
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                pixels[(height - 1 - y) * width + x] = 0x101010u * (y / cellHeight * columns + x / cellWidth + 1);
+        if (alpha) std::fill_n(alpha.get(), width * height, static_cast<std::uint8_t>(opacity));
+    }
 };
 
 } // namespace korvane

@@ -1,9 +1,9 @@
 // Which pixels controls draw.
 #include <gtest/gtest.h>
 
-#include "Editor.h"
 #include "gui/controls/CControlSlider.h"
 #include "gui/controls/CControlTab.h"
+#include "support/EditorRig.h"
 
 namespace korvane::test {
 
@@ -22,65 +22,54 @@ TEST(Knob, ShowsTheNearestFrame)
     Cells column(1, 5, 10, 10), row(5, 1, 10, 10), clear(1, 5, 10, 10, 100);
     const auto over = [](int cell) { return Mixed(Cell(cell), kPage, 100); };
     // clang-format off
-    struct Case { const char* what; CBitmap& strip; float value; int steps; bool inverted, fades; Color expected; };
+    struct Case { CBitmap& strip; float value; int steps; bool inverted, fades; Color expected; };
     const Case cases[] = {
-        {"rounds down",            column, 0.37f,  0, false, false, Cell(2)},
-        {"rounds up",              row,    0.375f, 0, false, false, Cell(3)},
-        {"above",                  row,    7,      0, false, false, Cell(5)},
-        {"below",                  column, -7,     0, false, false, Cell(1)},
-        {"inverted",               column, 0.25f,  0, true,  false, Cell(4)},
-        {"a step ends",            column, 0.99f,  2, false, false, Cell(3)},
-        {"fades",                  column, 0.1f,   0, false, true,  Mixed(Cell(2), Cell(1), 102)}, // round(0.4 * 255)
-        {"before its frame",       column, 0.2f,   0, false, true,  Cell(2)},
-        {"nothing behind it",      column, 1,      0, false, true,  Cell(5)},
-        {"fades above the page",   clear,  0.1f,   0, false, true,  Mixed(over(2), over(1), 102)},
-        {"on its frame, above it", clear,  0.5f,   0, false, true,  over(3)},
+        {column, 0.37f, 0, false, false, Cell(2)}, {row,    0.375f, 0, false, false, Cell(3)}, // rounded
+        {column, -7,    0, false, false, Cell(1)}, {row,    7,      0, false, false, Cell(5)}, // no such value
+        {column, 0.25f, 0, true,  false, Cell(4)}, {column, 0.99f,  2, false, false, Cell(3)}, // inverted, a step
+        {column, 0.1f,  0, false, true,  Mixed(Cell(2), Cell(1), 102)}, // round(0.4 * 255)
+        {column, 0.2f,  0, false, true,  Cell(2)}, {column, 1,      0, false, true,  Cell(5)}, // not before, nor behind
+        {clear,  0.1f,  0, false, true,  Mixed(over(2), over(1), 102)}, {clear, 0.5f, 0, false, true, over(3)},
     };
     // clang-format on
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        Editor editor;
-        auto* knob = editor.Add<CControlKnob>({10, 10, 10, 10}, c.value, &c.strip);
-        knob->frameCount = 5;
-        knob->verticalStrip = &c.strip != &row;
-        knob->steps = c.steps;
-        knob->inverted = c.inverted;
-        knob->crossfade = c.fades;
-        for (int again = 0; again < 2; ++again) knob->Draw(&editor.backBuffer);
-        EXPECT_EQ(editor.At(15, 15), c.expected);
+        ControlRig rig;
+        auto* knob = rig.Add<CControlKnob>({10, 10, 10, 10}, c.value, &c.strip);
+        knob->frameCount = 5, knob->verticalStrip = &c.strip != &row;
+        knob->steps = c.steps, knob->inverted = c.inverted, knob->crossfade = c.fades;
+        for (int again = 0; again < 2; ++again) knob->Draw(&rig.editor->backBuffer);
+        EXPECT_EQ(rig.At(15, 15), c.expected) << &c - cases;
     }
 }
 
 // A knob goes part of the way on each tick; the light of a button needs four.
 TEST(Ticks, MoveWhatIsShown)
 {
-    Editor editor;
-    auto* knob = editor.Add<CControlKnob>({10, 10, 40, 40}, 0.5f);
-    auto* led = editor.Add<CControlButton>({10, 60, 40, 40});
-    knob->smoothing = 0.8f; // from 0.5 on
-    led->mode = button::Led;
-    knob->SetValue(1.0f);
-    led->SetValue(1.0f);
+    ControlRig rig;
+    auto* knob = rig.Add<CControlKnob>({10, 10, 40, 40}, 0.5f);
+    Cells strip(1, 2, 40, 40);
+    auto* led = rig.Add<CControlButton>({10, 60, 40, 40}, 0, &strip);
+    knob->smoothing = 0.8f, led->mode = button::Led;
+    knob->SetValue(1.0f), led->SetValue(1.0f);
     for (const auto& [shown, light] : {std::pair{0.9f, 0.25f}, {0.98f, 0.5f}, {0.996f, 0.75f}, {1.0f, 1.0f}}) {
-        editor.Idle();
+        rig.Tick();
         EXPECT_NEAR(knob->shownValue, shown, 1e-5f); // 0.9992 is near enough
         EXPECT_FLOAT_EQ(led->fadeLevel, light);
+        EXPECT_TRUE(light > 0.25f || rig.At(30, 80) == Mixed(Cell(2), Mixed(Cell(1), kPage, 191), 64));
     }
 }
 
 TEST(Button, ShowsItsState)
 {
-    const int cases[][4] = {{0, 0, 0, 0}, {0, 1, 0, 1}, {1, 0, 0, 0}, {1, 1, 1, 1},
-                            {1, 1, 0, 2}, {1, 0, 1, 3}, {3, 0, 0, 0}, {3, 1, 1, 1}};
+    const int cases[][4] = {{0, 0, 0, 0}, {0, 1, 0, 1}, {1, 1, 1, 1}, {1, 1, 0, 2}, {1, 0, 1, 3}, {3, 1, 1, 1}};
     for (const auto& [mode, value, pressed, frame] : cases) {
-        Editor editor;
+        ControlRig rig;
         Cells strip(2, 5, 10, 10);
-        auto* shown = editor.Add<CControlButton>({10, 10, 10, 10}, static_cast<float>(value), &strip);
+        auto* shown = rig.Add<CControlButton>({10, 10, 10, 10}, static_cast<float>(value), &strip);
         shown->imageOffset = {10, 10}; // the second column, from the second row on
-        shown->mode = mode;
-        shown->pressed = pressed;
-        editor.Idle();
-        EXPECT_EQ(editor.At(15, 15), Cell(2 * (frame + 1) + 2)) << mode << value << pressed;
+        shown->mode = mode, shown->pressed = pressed;
+        rig.Tick();
+        EXPECT_EQ(rig.At(15, 15), Cell(2 * (frame + 1) + 2)) << mode << value << pressed;
     }
 }
 
@@ -99,15 +88,15 @@ TEST(Tab, ShowsTheSelectedOne)
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        Editor editor;
+        ControlRig rig;
         Cells image(4, 4, 10, 10);
-        auto* tab = editor.Add<CControlTab>({10, 10, 10, 10}, c.value, &image);
+        auto* tab = rig.Add<CControlTab>({10, 10, 10, 10}, c.value, &image);
         tab->tabCount = 4, tab->tabWidth = tab->tabHeight = 10;
         tab->normalized = c.normal, tab->reversed = c.reversed, tab->sharedImage = c.shared, tab->vertical = c.down;
         tab->mode = c.mode, tab->pressedTab = c.held;
-        editor.Idle();
+        rig.Tick();
         for (int n = 0; n < 4; ++n)
-            EXPECT_EQ(editor.At(c.down ? 15 : 15 + 10 * n, c.down ? 15 + 10 * n : 15), Cell(c.cells[n])) << n;
+            EXPECT_EQ(rig.At(c.down ? 15 : 15 + 10 * n, c.down ? 15 + 10 * n : 15), Cell(c.cells[n])) << n;
     }
 }
 
@@ -117,70 +106,141 @@ TEST(Slider, PlacesItsHandle)
     // clang-format off
     struct Case { bool downward, crossfade; float value; Rect handle; Color end; };
     const Case cases[] = {
-        {false, false, 0,          {13, 18, 6, 4}, Cell(1)},
         {false, false, 1,          {47, 18, 6, 4}, Cell(1)}, // 34 of 40 pixels
-        {true,  false, 0,          {27, 45, 6, 4}, Cell(1)},
         {true,  false, 1,          {27, 9, 6, 4},  Cell(1)}, // 36 of 40
         {false, true,  0.25f,      {21, 18, 7, 4}, Cell(1)}, // 8.5
         {true,  true,  0.75f / 36, {27, 44, 6, 5}, Mixed(Cell(1), 0, 128)}, // 35.25
     };
     // clang-format on
     for (const Case& c : cases) {
-        Editor editor;
+        ControlRig rig;
         Cells image(1, 1, 6, 4);
-        auto* slider = editor.Add<CControlSlider>({0, 0, 100, 100}, c.value);
-        slider->handle = &image;
+        auto* slider = rig.Add<CControlSlider>({0, 0, 100, 100}, c.value);
         slider->track = c.downward ? Rect{20, 10, 20, 40} : Rect{10, 10, 40, 20};
-        slider->handleOffset = {3, -1};
-        slider->horizontalTrack = c.downward;
-        slider->crossfade = c.crossfade;
-        editor.Idle();
+        slider->handle = &image, slider->handleOffset = {3, -1};
+        slider->horizontalTrack = c.downward, slider->crossfade = c.crossfade;
+        rig.Tick();
         const Rect& h = c.handle;
         const int end = c.downward ? h.y + h.h : h.x + h.w;
-        EXPECT_EQ(editor.At(h.x, h.y), Cell(1));
-        EXPECT_EQ(editor.At(h.x - 1, h.y) | editor.At(h.x, h.y - 1), 0u);
-        EXPECT_EQ(c.downward ? editor.At(h.x, end - 1) : editor.At(end - 1, h.y), c.end);
-        EXPECT_EQ(c.downward ? editor.At(h.x, end) : editor.At(end, h.y), 0u);
+        EXPECT_EQ(rig.At(h.x, h.y) | rig.At(h.x - 1, h.y) | rig.At(h.x, h.y - 1), Cell(1));
+        EXPECT_EQ(c.downward ? rig.At(h.x, end - 1) : rig.At(end - 1, h.y), c.end);
+        EXPECT_EQ(c.downward ? rig.At(h.x, end) : rig.At(end, h.y), 0u);
     }
 }
 
-// A text stays in its box, has a halo if it glows, and leaves the buffer as it was.
-TEST(TextDisplay, WritesIntoItsBox)
+TEST(Image, ShowsThePageBehindIt)
 {
-    const auto inked = [](float glow, Rect box) {
-        Editor editor;
-        CControlTextDisplay label({10, 10, 60, 20}, 1);
-        label.textRect = box;
-        label.glow = glow;
-        label.Draw(&editor.backBuffer);
-        EXPECT_EQ(editor.backBuffer.GetTextColor(), kBlack);
-        EXPECT_EQ(editor.backBuffer.GetClipRect(), (Rect{0, 0, 300, 200}));
-        int count = 0;
-        for (int y = 0; y < 200; ++y)
-            for (int x = 0; x < 300; ++x) count += editor.At(x, y) != (box.Contains(x, y) ? 0 : kPage);
-        return count;
-    };
-    const int plain = inked(0.0f, {10, 10, 60, 20});
-    EXPECT_GT(inked(0.5f, {10, 10, 60, 20}), plain);
-    EXPECT_LE(inked(0.0f, {10, 10, 1, 20}), 20);
+    ControlRig rig;
+    Cells image(1, 2, 40, 40, 100);
+    auto* tab = rig.Add<CControlTab>({0, 10, 40, 40}, 0, &image);
+    tab->tabCount = 1, tab->tabWidth = tab->tabHeight = 40; // the chosen one
+    rig.Add<CControlTextDisplay>({50, 10, 40, 40}, 0, &image);
+    rig.Add<CControlSlider>({100, 10, 40, 40}, 0, &image);
+    rig.Add<CControlButton>({150, 10, 40, 40}, 0, &image);
+    for (CControl* shown = tab; shown; shown = shown->next)
+        for (int again = 0; again < 2; ++again) shown->Draw(&rig.editor->backBuffer);
+    for (int n = 0; n < 4; ++n) EXPECT_EQ(rig.At(50 * n + 2, 12), Mixed(Cell(n == 0 ? 2 : 1), kPage, 100)) << n;
 }
 
-// "-100.00 %" is 52 pixels wide and 11 high.
+// At 16 of the pointer's 17 pixels from the centre, (30, 30); a shadow is 2 pixels longer.
+TEST(Knob, PointsToItsValue)
+{
+    // clang-format off
+    struct Case { float value, sweep, offset; bool shadow; Point end; };
+    const Case cases[] = {
+        {0, 4.712389f, 0, false, {19, 41}}, {0.5f, 4.712389f, 0,         false, {30, 14}}, // lower left, top
+        {1, 4.712389f, 0, false, {41, 41}}, {0.5f, 4.712389f, 1.570796f, false, {14, 30}}, // lower right, turned to the left
+        {0, 3.141593f, 0, false, {14, 30}}, {0.5f, 4.712389f, 0,         true,  {30, 14}}, // of a half circle
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        ControlRig rig;
+        auto* knob = rig.Add<CControlKnob>({10, 10, 40, 40}, c.value);
+        knob->sweep = c.sweep, knob->angleOffset = c.offset, knob->pointerShadow = c.shadow;
+        knob->drawPointer = true, knob->pointerWidth = 3, knob->pointerRadius = 17, knob->pointerColor = kWhite;
+        knob->pointerShadowColor = Rgb(0, 0, 255);
+        rig.Tick();
+        for (const Case& other : cases) EXPECT_EQ(rig.At(other.end.x, other.end.y) >> 23, other.end == c.end);
+        EXPECT_EQ(rig.At(30, 12) > 0, c.shadow);
+    }
+}
+
+// A text stays in its box, has a halo to all sides if it glows, and leaves the buffer as it was.
+TEST(TextDisplay, WritesIntoItsBox)
+{
+    const auto inked = [](float glow) {
+        ControlRig rig;
+        CControlTextDisplay label({10, 10, 60, 20}, 1);
+        label.glow = glow;
+        label.Draw(&rig.editor->backBuffer);
+        EXPECT_EQ(rig.editor->backBuffer.GetTextColor(), kBlack);
+        EXPECT_EQ(rig.editor->backBuffer.GetClipRect(), (Rect{0, 0, 300, 200}));
+        std::vector<bool> ink;
+        for (int n = 0; n < 300 * 200; ++n) ink.push_back(rig.At(n % 300, n / 300) % 0x1000000 > kPage);
+        return ink;
+    };
+    const std::vector<bool> plain = inked(0.0f), glowing = inked(0.9f);
+    EXPECT_GT(std::count(plain.begin(), plain.end(), true), 50);
+    for (std::size_t n = 0; n < plain.size(); ++n)
+        EXPECT_TRUE(!plain[n] || (glowing[n - 1] && glowing[n + 1] && glowing[n - 300] && glowing[n + 300])) << n;
+}
+
+// Green is plain, blue below the pointer, red on or dragged. The box is too small for the text.
+TEST(TextDisplay, HasTheColoursOfItsState)
+{
+    // clang-format off
+    enum Kind { Label, Button, Number };
+    struct Case { Kind kind; bool hovered, on; Color ink, ground; };
+    const Case cases[] = {
+        {Label,  false, false, 0x008000, 0}, {Label,  true,  false, 0x000080, 0}, {Button, false, false, 0x008000, 0},
+        {Button, false, true,  0x800000, 0}, {Button, true,  true,  0x000080, 0}, {Number, false, false, 0x008000, 0},
+        {Number, false, true,  0x800000, 0x646464},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        SCOPED_TRACE(&c - cases);
+        ControlRig rig;
+        auto* label = rig.Add<CControlTextDisplay>({10, 10, 40, 40});
+        auto* button = rig.Add<CControlButton>({10, 10, 40, 40}, c.on);
+        auto* number = rig.Add<CControlNumber>({10, 10, 40, 40});
+        if (c.kind == Number && c.on) number->OnLeftDown(20, 20);
+        button->drawText = true;
+        CControlTextDisplay* const all[] = {label, button, number};
+        CControlTextDisplay* const shown = all[c.kind];
+        shown->textRect = {14, 10, 32, 40};
+        shown->textColor = Rgb(0, 255, 0), shown->hoverTextColor = Rgb(0, 0, 255), shown->hoverHighlight = true;
+        shown->hovered = c.hovered;
+        shown->Draw(&rig.editor->backBuffer);
+        Color inside = 0, outside = 0;
+        for (int n = 0; n < 300 * 200; ++n)
+            (shown->textRect.Contains(n % 300, n / 300) ? inside : outside) |= rig.At(n % 300, n / 300) & 0x808080;
+        EXPECT_TRUE(inside == c.ink && outside == 0) << inside << " " << outside;
+        EXPECT_EQ(rig.At(14, 10), c.ground);
+        EXPECT_EQ(std::string(number->text) == "display 100", c.kind == Number);
+    }
+}
+
+// "-100.00 %" is 52 pixels wide and 11 high; what is longer is cut. Nothing covers it.
 TEST(Popup, OpensBelowTheKnobOrAboveIt)
 {
     for (const auto& [y, popupY] : {Point{100, 144}, {129, 173}, {130, 104}}) { // 173 + 22 is 5 before the end
-        Editor editor;
-        auto* knob = editor.Add<CControlKnob>({100, y, 40, 40});
-        knob->showValuePopup = true;
-        editor.Idle();
-        editor.Mouse(mouse::LeftDown, 120, y + 10);
+        ControlRig rig;
+        auto* knob = rig.Add<CControlKnob>({100, y, 40, 40});
+        rig.Add<Blinker>({0, 0, 300, 200})->backgroundColor = kPage;
+        knob->showValuePopup = true, knob->popupBottomColor = Rgb(249, 249, 0);
+        rig.Tick();
+        rig.Mouse(mouse::LeftDown, 120, y + 10);
         EXPECT_EQ(knob->popupRect, (Rect{93, popupY, 59, 22}));
-        editor.Idle();
-        EXPECT_EQ(editor.OnScreen(93, popupY), 0u);            // the frame
-        EXPECT_EQ(editor.OnScreen(94, popupY + 1), 0xF9F9EBu); // the box
-        editor.Mouse(mouse::LeftUp, 120, y + 10);
-        editor.Idle();
-        EXPECT_EQ(editor.OnScreen(94, popupY + 1), kPage);
+        rig.Tick(), rig.Tick();
+        EXPECT_EQ(rig.OnScreen(93, popupY), 0u); // the frame
+        EXPECT_GT(rig.OnScreen(94, popupY + 1) & 255, 192u);
+        EXPECT_LT(rig.OnScreen(94, popupY + 15) & 255, 64u);
+        for (int n = 0; n < 300 * 200; ++n)
+            EXPECT_TRUE(knob->popupRect.Contains(n % 300, n / 300) || knob->rect.Contains(n % 300, n / 300) ||
+                        rig.OnScreen(n % 300, n / 300) == kPage);
+        rig.Mouse(mouse::LeftUp, 120, y + 10), rig.Tick();
+        EXPECT_EQ(rig.OnScreen(94, popupY + 1), kPage);
     }
 }
 

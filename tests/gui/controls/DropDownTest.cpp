@@ -1,84 +1,104 @@
 // The list that drops down: what it shows, where it opens and what is chosen.
 #include <gtest/gtest.h>
 
-#include "Editor.h"
+#include <cstring>
+
 #include "gui/controls/CControlDropDownList.h"
+#include "support/EditorRig.h"
 
 namespace korvane::test {
 
 /// A list of choices; one of six items has all kinds of them.
-struct ListStage {
-    Editor editor;
+struct ListRig : ControlRig {
     CControlDropDownList* list;
 
-    explicit ListStage(Rect place = {20, 20, 60, 16}, int choices = 6)
+    explicit ListRig(Rect place = {20, 20, 60, 16}, int choices = 6)
     {
-        list = editor.Add<CControlDropDownList>(place);
+        list = Add<CControlDropDownList>(place);
         const std::uint8_t kinds[] = {item::Heading, item::Command, item::Separator, item::Choice};
         for (int n = 0; n < choices; ++n) list->AddItem("Choice", kinds[choices == 6 ? std::min(n, 3) : 3]);
         if (choices == 6) list->items.At(4)->notSelectable = true;
-        editor.Idle();
+        Tick();
     }
-    void ClickItem(int index) { editor.Click(list->GetItemRect(index).x, list->GetItemRect(index).y); }
-    void Open() { editor.Click(list->rect.x, list->rect.y); }
-    bool HoldsNothing() { return !list->IsOpen() && !editor.IsMouseCaptured() && !editor.activeGroup; }
+    void ClickItem(int index) { Click(list->GetItemRect(index).x, list->GetItemRect(index).y); }
+    void Open() { Click(list->rect.x, list->rect.y); }
+    bool HoldsNothing() { return !list->IsOpen() && !editor->IsMouseCaptured() && !editor->activeGroup; }
 };
 
 TEST(DropDown, ReadsTheItemOfItsValue)
 {
-    ListStage s;
-    const auto read = [&](float value) { return s.list->SetValue(value), s.editor.Idle(), s.list->text; };
-    EXPECT_STREQ(read(3), "Choice");
-    EXPECT_STREQ(read(6), "<none>");
+    ListRig s;
+    const auto read = [&](float value) { return s.list->SetValue(value), s.Tick(), std::string(s.list->text); };
+    EXPECT_EQ(read(3) + read(5.9f) + read(6) + read(-0.5f), "ChoiceChoice<none><none>");
     s.list->SetClosedText("<user>");
-    EXPECT_STREQ(read(5), "<user>");
+    EXPECT_EQ(read(5), "<user>");
     s.list->showText = false;
-    EXPECT_STREQ(read(1), "");
+    EXPECT_EQ(read(1), "");
 }
 
-// A choice becomes the value; a command is told with its number and leaves the value; nothing else is heard of. Whoever
-// hears of it may fill the list anew and even end it.
+// A choice becomes the value; a command is told with its number and leaves the value, whatever becomes of it meanwhile;
+// nothing else is heard of. Whoever hears of it may fill the list anew.
 TEST(DropDown, TellsWhatIsChosen)
 {
-    const std::pair<const char*, float> rows[] = {{"", 5}, {"1", 5}, {"", 5}, {"3", 3}, {"", 5}, {"5", 5}};
+    const std::pair<Log, float> rows[] = {{{}, 5}, {{"automate 100 1"}, 5}, {{}, 5}, {{"automate 100 3"}, 3},
+                                          {{}, 5}, {{"automate 100 5"}, 5}};
     for (int row = 0; row < 6; ++row) {
         SCOPED_TRACE(row);
-        ListStage s;
+        ListRig s;
         s.list->SetValue(5.0f);
         bool free = true;
-        s.editor.onChange = [&](CControl*) { free = s.HoldsNothing(); };
-        s.Open();
-        EXPECT_TRUE(s.list->IsOpen() && s.list->IsCapturing() && s.editor.GetMainGroup()->focus == s.list);
-        s.ClickItem(row);
-        EXPECT_EQ(s.editor.Heard(), rows[row].first);
-        EXPECT_FLOAT_EQ(s.list->value, rows[row].second);
-        EXPECT_TRUE(free && s.HoldsNothing() && s.editor.IsDirty());
-        s.editor.onChange = [&](CControl*) {
-            s.list->ClearItems();
-            s.list->Delete();
+        s.editor->onChange = [&](CControl*) {
+            free = s.HoldsNothing();
+            s.list->ClearItems(), s.list->AddItem("anew");
+            if (row == 1) s.list->SetValue(0.0f);
         };
         s.Open();
+        EXPECT_TRUE(s.list->IsOpen() && s.list->IsCapturing() && !s.editor->activeGroup);
         s.ClickItem(row);
-        EXPECT_EQ(!s.editor.GetMainGroup()->controls, *rows[row].first != 0);
+        EXPECT_EQ(s.Heard(), rows[row].first);
+        EXPECT_FLOAT_EQ(s.list->value, rows[row].second);
+        EXPECT_TRUE(free && s.HoldsNothing() && s.editor->IsDirty());
+    }
+}
+
+// Which shows in the width of the row, 16 pixels more than the text.
+TEST(DropDown, WritesWhatStandsOutInItsFace)
+{
+    // clang-format off
+    struct Case { const char* what; std::uint8_t kind; bool marked; float value; int font; };
+    const Case cases[] = {
+        {"plain",          item::Choice, false, 1,    0}, {"heading",    item::Heading, false, 1,     1},
+        {"marked",         item::Choice, true,  1,    1}, {"current",    item::Choice,  false, 0,     1},
+        {"between values", item::Choice, false, 0.7f, 1}, {"below them", item::Choice,  false, -0.5f, 0},
+        {"command",        item::Command, false, 0,   0},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        ListRig s({20, 20, 60, 16}, 0);
+        s.list->AddItem("WWWWiiii", c.kind).marked = c.marked;
+        s.list->look.headingFont = 1, s.list->SetValue(c.value);
+        s.Open();
+        s.editor->backBuffer.SetFont(c.font);
+        const Size text = s.editor->backBuffer.DrawText("WWWWiiii", 0, 0, 0, 0, align::Left, true);
+        EXPECT_EQ(s.list->GetItemRect(0).w, text.width + 16) << c.what;
     }
 }
 
 TEST(DropDown, ClosesWithoutAChoice)
 {
-    const std::function<void(ListStage&)> acts[] = {
-        [](ListStage& s) { s.editor.Click(290, 190); },
-        [](ListStage& s) { s.editor.Mouse(mouse::RightDown, 25, 45); },
-        [](ListStage& s) { s.editor.Screen().grabbed = false; }, // somebody else has the mouse
-        [](ListStage& s) { s.list->hidden = true; },
-        [](ListStage& s) { s.list->ClearItems(); },
+    const std::function<void(ListRig&)> acts[] = {
+        [](ListRig& s) { s.Click(290, 190); },
+        [](ListRig& s) { s.Mouse(mouse::RightDown, 25, 45); },
+        [](ListRig& s) { s.Mouse(mouse::MiddleDown, 25, 45); },
+        [](ListRig& s) { s.window->grabbed = false; }, // somebody else has the mouse
+        [](ListRig& s) { s.list->hidden = true; },
+        [](ListRig& s) { s.list->ClearItems(); },
     };
     for (const auto& act : acts) {
-        ListStage s;
-        s.Open();
-        act(s);
-        s.editor.Idle();
+        ListRig s;
+        s.Open(), act(s), s.Tick();
         EXPECT_TRUE(s.HoldsNothing()) << &act - acts;
-        EXPECT_EQ(s.editor.Heard(), "");
+        EXPECT_EQ(s.Heard(), Log{});
     }
 }
 
@@ -97,7 +117,7 @@ TEST(DropDown, OpensWhereThereIsRoom)
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        ListStage s(c.place, c.choices);
+        ListRig s(c.place, c.choices);
         s.list->OnLeftDown(0, 0);
         const Rect row = s.list->GetItemRect(0);
         EXPECT_EQ(row.x, c.x ? c.x : 293 - row.w);
@@ -110,47 +130,46 @@ TEST(DropDown, OpensWhereThereIsRoom)
 // 50 rows of 16 in 186 pixels: 614 are hidden, the thumb is 43 high and has a way of 143.
 TEST(DropDown, Scrolls)
 {
-    ListStage s({20, 90, 60, 16}, 50);
-    s.list->SetValue(25.0f);
+    ListRig s({20, 90, 60, 16}, 50);
+    s.list->SetValue(25);
+    std::memset(s.list->items.At(9)->text, 'W', 200);
     s.Open(); // with the choice in the middle
     EXPECT_NEAR(s.list->GetItemRect(25).y, 92, 1);
     Rect thumb, bar;
     const auto thumbTop = [&] { return s.list->GetScrollBarRects(thumb, bar), thumb.y - bar.y; };
-    s.editor.Mouse(mouse::Wheel, 0, 9);
-    s.editor.Mouse(mouse::Wheel, 0, -2);
+    s.Mouse(mouse::Wheel, 0, 9), s.Mouse(mouse::Wheel, 0, -2);
     EXPECT_EQ(thumbTop(), 30);
     EXPECT_EQ(s.list->GetItemRect(0).y, 7 - 129); // 30 / 143 of 614
-    s.editor.Mouse(mouse::LeftDown, thumb.x, thumb.y + 42);
-    s.editor.Mouse(mouse::Move, 0, thumb.y + 42 + 100);
+    s.Mouse(mouse::LeftDown, thumb.x, thumb.y + 42), s.Mouse(mouse::Move, 0, thumb.y + 42 + 100);
     EXPECT_EQ(thumbTop(), 130);
-    s.editor.Mouse(mouse::Move, 0, 999);
-    s.editor.Mouse(mouse::LeftUp, 0, 999);
-    s.editor.Mouse(mouse::Move, 0, 20);
+    s.Mouse(mouse::Move, 0, 999), s.Mouse(mouse::LeftUp, 0, 999), s.Mouse(mouse::Move, 0, 20);
     EXPECT_EQ(thumbTop(), 143);
-    s.editor.Click(bar.x, bar.y);
+    s.Click(bar.x, bar.y);
     EXPECT_EQ(thumbTop(), 100); // a page back: 186 of 614
+    EXPECT_EQ(bar.x + bar.w, 300 - 4 - 3) << "what is too wide ends at the margin of the editor";
 }
 
 // It fades in above the page, and neither a control that changes nor a window that is drawn anew covers it.
 TEST(DropDown, LiesAboveEverything)
 {
-    struct Blinker : CControlTextDisplay {
-        using CControlTextDisplay::CControlTextDisplay;
-        void OnTick() override { dirty = true; }
-    };
-    ListStage s;
-    s.editor.Add<Blinker>({0, 40, 300, 100})->backgroundColor = Rgb(255, 0, 0);
-    s.editor.Idle();
-    s.editor.Click(25, 25);
+    ListRig s;
+    auto* blinker = s.Add<Blinker>({0, 40, 300, 100});
+    blinker->backgroundColor = Rgb(255, 0, 0);
+    s.Tick(), s.Click(25, 25);
+    const int before = blinker->ticks;
     for (const Color blue : {0x3Cu, 0x78u, 0xB4u, 0xF0u}) { // of the list, about
-        s.editor.SetDirty(blue == 0xF0);
-        s.editor.Idle();
-        EXPECT_NEAR(s.editor.OnScreen(25, 60) & 255, blue, 16);
-        EXPECT_EQ(s.editor.OnScreen(290, 60), 0xFF0000u);
+        s.editor->SetDirty(blue == 0xF0);
+        s.window->copies.clear(), s.Tick();
+        EXPECT_NEAR(s.OnScreen(25, 60) & 255, blue, 16);
+        EXPECT_EQ(s.OnScreen(290, 60), 0xFF0000u);
+        EXPECT_EQ(s.window->copies.size(), 1u) << "nothing flickers";
     }
+    EXPECT_EQ(blinker->ticks, before + 4);
     const Rect row = s.list->GetItemRect(3);
-    s.editor.Mouse(mouse::Move, row.x + 2, row.y);
-    EXPECT_NEAR(s.editor.OnScreen(row.x + 2, row.y) & 255, s.list->look.hoverTopColor & 255, 8);
+    const Color shadow = s.OnScreen(row.x + row.w + 5, row.y);
+    s.Mouse(mouse::Move, row.x + 2, row.y);
+    EXPECT_NEAR(s.OnScreen(row.x + 2, row.y) & 255, s.list->look.hoverTopColor & 255, 8);
+    EXPECT_EQ(s.OnScreen(row.x + row.w + 5, row.y), shadow);
 }
 
 } // namespace korvane::test

@@ -3,9 +3,9 @@
 
 #include <cmath>
 
-#include "Editor.h"
 #include "gui/controls/CControlSlider.h"
 #include "gui/controls/CControlTab.h"
+#include "support/EditorRig.h"
 
 namespace korvane::test {
 
@@ -26,37 +26,39 @@ TEST(Drag, FollowsItsLaw)
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        Editor editor;
-        auto* knob = editor.Add<CControlKnob>({10, 10, 40, 40}, c.start);
-        knob->centreDetent = c.detent;
-        knob->horizontal = c.horizontal;
-        editor.Mouse(mouse::LeftDown, 20, 20, c.modifiers);
+        ControlRig rig;
+        auto* knob = rig.Add<CControlKnob>({10, 10, 40, 40}, c.start);
+        knob->centreDetent = c.detent, knob->horizontal = c.horizontal;
+        rig.Mouse(mouse::LeftDown, 20, 20, c.modifiers);
         for (const auto& [moved, expected] : c.moves) {
-            editor.Mouse(mouse::Move, 20 + moved.x, 20 + moved.y);
+            rig.Mouse(mouse::Move, 20 + moved.x, 20 + moved.y);
             EXPECT_NEAR(knob->value, expected, 1e-5f);
         }
     }
 }
 
-enum class Kind { Number, Spring, Slider, Button, Tab, Reversed };
+enum class Kind { Number, Spring, Slider, Label, Button, Tab, Reversed };
 
-CControl* Make(Editor& editor, Kind kind, int mode)
+/// mode  of a button; -1: it is disabled
+CControlTextDisplay* Make(ControlRig& rig, Kind kind, int mode)
 {
     const Rect place{10, 10, 40, 40};
-    if (kind == Kind::Number) return editor.Add<CControlNumber>(place);
+    if (kind == Kind::Number) return rig.Add<CControlNumber>(place);
+    if (kind == Kind::Label) {
+        auto* label = rig.Add<CControlTextDisplay>(place);
+        return label->clickNotifies = mode == 1, label;
+    }
     if (kind == Kind::Slider || kind == Kind::Spring) {
-        auto* slider = editor.Add<CControlSlider>(place);
-        slider->horizontalTrack = mode == 1;
-        slider->jumpToClick = kind == Kind::Slider;
+        auto* slider = rig.Add<CControlSlider>(place);
+        slider->horizontalTrack = mode == 1, slider->jumpToClick = kind == Kind::Slider;
         slider->springBack = slider->showValuePopup = kind == Kind::Spring;
         return slider;
     }
-    auto* made = kind == Kind::Button ? editor.Add<CControlButton>(place) : editor.Add<CControlTab>(place);
-    made->mode = mode;
+    auto* made = kind == Kind::Button ? rig.Add<CControlButton>(place) : rig.Add<CControlTab>(place);
+    made->disabled = mode < 0, made->mode = std::max(mode, 0);
     if (kind == Kind::Button) return made;
     auto* tab = static_cast<CControlTab*>(made);
-    tab->tabCount = 4;
-    tab->tabWidth = tab->tabHeight = 10;
+    tab->tabCount = 4, tab->tabWidth = tab->tabHeight = 10;
     tab->reversed = tab->normalized = tab->vertical = kind == Kind::Reversed;
     return tab;
 }
@@ -66,86 +68,78 @@ TEST(Gestures, AreToldInOrder)
 {
     // clang-format off
     struct Case {
-        const char* what; Kind kind; int mode, press, modifiers; Point at, release; const char *pressed, *released;
+        const char* what; Kind kind; int mode, press, modifiers; Point at, release; Log pressed, released;
     };
     using enum Kind;
-    const int L = mouse::LeftDown, R = mouse::RightDown;
+    const int L = mouse::LeftDown, R = mouse::RightDown, Alt = modifier::Alt;
+    const auto told = [](const char* value) { return std::string("automate 100 ") + value; };
+    const std::string begin = "begin 100 0", end = "end 100 0", reset = told("0.1"), one = told("1"), zero = told("0");
     const Case cases[] = {
-        {"number",               Number,      0, L, 0,             {20, 20}, {20, 20}, "begin",          "end"},
-        {"with Alt",             Number,      0, L, modifier::Alt, {20, 20}, {20, 20}, "begin 0.25 end", ""},
-        {"right",                Number,      0, R, 0,             {20, 20}, {20, 20}, "begin 0.25 end", ""},
-        {"springs back",         Spring,      0, L, 0,             {20, 20}, {20, 20}, "begin",          "0.25 end"},
-        {"jumps up the track",   Slider,      1, L, 0,             {20, 40}, {20, 20}, "0.25 begin",     "end"},
-        {"jumps along a track",  Slider,      0, L, 0,             {30, 20}, {20, 20}, "0.5 begin",      "end"},
-        {"toggle",               Button,      0, L, 0,             {20, 20}, {20, 20}, "begin 1 end",    ""},
-        {"let go elsewhere",     Button,      1, L, 0,             {20, 20}, {200, 9}, "begin 1",        "end"},
-        {"momentary",            Button,      3, L, 0,             {20, 20}, {200, 9}, "1",              "0"},
-        {"tab",                  Tab,         0, L, 0,             {35, 20}, {20, 20}, "2",              ""},
-        {"tab when let go",      Tab,         1, L, 0,             {49, 20}, {40, 49}, "",               "3"},
-        {"tab let go elsewhere", Tab,         1, L, 0,             {49, 20}, {20, 49}, "",               ""},
-        {"last tab of 1 to 0",   Reversed,    0, L, 0,             {20, 45}, {20, 20}, "0",              ""},
+        {"number",               Number,   0,  L, 0,   {20, 20}, {20, 20}, {begin},             {end}},
+        {"with Alt",             Number,   0,  L, Alt, {20, 20}, {20, 20}, {begin, reset, end}, {}},
+        {"right",                Number,   0,  R, 0,   {20, 20}, {20, 20}, {begin, reset, end}, {}},
+        {"springs back",         Spring,   0,  L, 0,   {20, 20}, {20, 20}, {begin},             {reset, end}},
+        {"jumps up the track",   Slider,   1,  L, 0,   {20, 40}, {20, 20}, {told("0.25"), begin}, {end}},
+        {"jumps along a track",  Slider,   0,  L, 0,   {30, 20}, {20, 20}, {told("0.5"), begin}, {end}},
+        {"label",                Label,    0,  L, 0,   {20, 20}, {20, 20}, {},                  {}},
+        {"label that tells",     Label,    1,  L, 0,   {20, 20}, {20, 20}, {zero},              {}},
+        {"toggle",               Button,   0,  L, 0,   {20, 20}, {20, 20}, {begin, one, end},   {}},
+        {"let go elsewhere",     Button,   1,  L, 0,   {20, 20}, {200, 9}, {begin, one},        {end}},
+        {"momentary",            Button,   3,  L, 0,   {20, 20}, {200, 9}, {one},               {zero}},
+        {"disabled",             Button,   -1, L, 0,   {20, 20}, {20, 20}, {},                  {}},
+        {"tab",                  Tab,      0,  L, 0,   {35, 20}, {20, 20}, {told("2")},           {}},
+        {"disabled tab",         Tab,      -1, L, 0,   {35, 20}, {20, 20}, {},                  {}},
+        {"tab when let go",      Tab,      1,  L, 0,   {49, 20}, {40, 49}, {},                  {told("3")}},
+        {"tab let go elsewhere", Tab,      1,  L, 0,   {49, 20}, {20, 49}, {},                  {}},
+        {"last tab of 1 to 0",   Reversed, 0,  L, 0,   {20, 45}, {20, 20}, {zero},              {}},
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.what);
-        Editor editor;
-        Make(editor, c.kind, c.mode);
-        editor.Mouse(c.press, c.at.x, c.at.y, c.modifiers);
-        EXPECT_EQ(editor.Heard(), c.pressed);
-        const bool captured = editor.IsMouseCaptured();
-        editor.Mouse(c.press == L ? mouse::LeftUp : mouse::RightUp, c.release.x, c.release.y);
-        EXPECT_EQ(editor.Heard(), c.released);
-        EXPECT_FALSE(editor.IsMouseCaptured());
+        ControlRig rig;
+        Make(rig, c.kind, c.mode);
+        rig.Mouse(c.press, c.at.x, c.at.y, c.modifiers);
+        EXPECT_EQ(rig.Heard(), c.pressed);
+        const bool captured = rig.editor->IsMouseCaptured();
+        EXPECT_EQ(rig.window->pointerHidden, captured && c.kind <= Slider);
+        rig.Mouse(c.press == L ? mouse::LeftUp : mouse::RightUp, c.release.x, c.release.y);
+        EXPECT_EQ(rig.Heard(), c.released);
+        EXPECT_FALSE(rig.editor->IsMouseCaptured());
 
-        // A mouse that somebody else takes ends the gesture, and only one that is under way.
-        if (!captured) continue;
-        editor.Mouse(c.press, c.at.x, c.at.y);
-        editor.Heard();
-        editor.Screen().grabbed = false;
-        editor.Idle();
-        EXPECT_EQ(editor.Heard(), c.kind == Kind::Tab ? "" : c.released);
-        editor.CancelAll();
-        EXPECT_EQ(editor.Heard(), "");
+        // A gesture that nobody can go on with ends, and only one that is under way.
+        for (int loss = 0; captured && loss < 3; ++loss) {
+            ControlRig again;
+            CControl* control = Make(again, c.kind, c.mode);
+            again.Mouse(c.press, c.at.x, c.at.y), again.Heard();
+            if (loss == 0) again.window->grabbed = false; // somebody else takes the mouse
+            if (loss == 1) control->hidden = true;
+            if (loss == 2) again.editor->GetMainGroup()->SetActive(true); // takes it from all that hold it
+            again.Tick();
+            EXPECT_EQ(again.Heard(), c.kind == Tab ? Log{} : c.released) << loss;
+            EXPECT_FALSE(again.editor->IsMouseCaptured());
+            again.editor->CancelAll();
+            EXPECT_EQ(again.Heard(), Log{});
+        }
     }
-}
-
-// Whoever hears of a value may remove the control that tells it, or close the window.
-TEST(Gestures, SurviveTheEndOfTheirControl)
-{
-    for (const Kind kind : {Kind::Number, Kind::Spring, Kind::Slider, Kind::Button, Kind::Tab})
-        for (int mode = 0; mode < 4; ++mode)
-            for (const bool closes : {false, true}) {
-                Editor editor;
-                Make(editor, kind, mode);
-                editor.onChange = [&](CControl* told) { closes ? editor.Close() : told->Delete(); };
-                editor.Mouse(mouse::LeftDown, 20, 20);
-                editor.Mouse(mouse::Move, 20, 5);
-                editor.Mouse(mouse::LeftUp, 20, 20);
-                EXPECT_FALSE(editor.IsMouseCaptured());
-                EXPECT_FALSE(editor.GetMainGroup() && editor.GetMainGroup()->controls) << mode;
-            }
 }
 
 // Values that are none, and places at the ends of int.
 TEST(Controls, TakeWildNumbers)
 {
+    const Rect places[] = {{10, 10, 40, 40}, {INT32_MAX - 5, INT32_MIN, INT32_MAX, INT32_MAX}, {INT32_MIN, 9, -1, -1}};
     for (const Kind kind : {Kind::Number, Kind::Spring, Kind::Slider, Kind::Button, Kind::Tab, Kind::Reversed})
-        for (const Rect place : {Rect{10, 10, 40, 40}, Rect{INT32_MAX - 5, INT32_MIN, INT32_MAX, INT32_MAX},
-                                 Rect{INT32_MIN, INT32_MAX, -1, INT32_MIN}}) {
-            Editor editor;
-            Cells image(4, 4, 10, 10, 128);
-            auto* control = static_cast<CControlTextDisplay*>(Make(editor, kind, 1));
-            control->bitmap = &image;
-            control->rect = control->textRect = place;
-            for (const float wild : {NAN, 1e30f, -1e30f, INFINITY}) {
+        for (const float wild : {NAN, 1e30f, -1e30f, INFINITY})
+            for (const Rect place : places) {
+                ControlRig rig;
+                Cells image(4, 4, 10, 10, 128);
+                auto* control = Make(rig, kind, 1);
+                control->bitmap = &image;
+                control->rect = control->textRect = place;
                 EXPECT_EQ(control->SetValue(wild), wild == wild) << wild;
-                control->OnLeftDown(place.x, place.y);
-                control->OnMouseMove(INT32_MAX, INT32_MIN);
-                control->OnTick();
-                control->Draw(&editor.backBuffer);
+                control->OnLeftDown(place.x, place.y), control->OnMouseMove(INT32_MAX, INT32_MIN);
+                control->OnTick(), control->Draw(&rig.editor->backBuffer);
                 control->OnLeftUp(INT32_MIN, INT32_MAX);
             }
-        }
 }
 
 } // namespace korvane::test

@@ -1,23 +1,14 @@
 // Who of a group hears what.
 #include <gtest/gtest.h>
 
-#include "Editor.h"
+#include "support/EditorRig.h"
 
 namespace korvane::test {
 
 /// Writes down what it hears.
 struct Ear : CControl {
-    Ear(Editor& hears, const char* called, Rect place, int number)
-        : CControl(place, number), editor(hears), name(called)
-    {
-        editor.AddControl(this);
-    }
-    bool Say(const char* what, bool answer = true)
-    {
-        editor.Write(name + what);
-        if (const auto hears = onHear) hears(); // a copy: it may end the control
-        return answer;
-    }
+    Ear(Log& lines, const char* called, Rect place, int number) : CControl(place, number), log(lines), name(called) {}
+    void Say(const char* what) { log.push_back(name + what); }
     void OnLeftDown(int, int) override { Say(":left"); }
     void OnMiddleDown(int, int) override { Say(":middle"); }
     void OnRightDown(int, int) override { Say(":right"); }
@@ -29,112 +20,113 @@ struct Ear : CControl {
     void OnHoverChanged() override { Say(hovered ? ":enter" : ":leave"); }
     void OnTick() override { Say(":tick"); }
     void Draw(CDrawBuffer*) override { Say(":draw"); }
-    bool OnFileDrop(const char*, int, int) override { return Say(":file", id == 1); }
+    bool OnFileDrop(const char*, int, int) override { return Say(":file"), id == 1; }
 
-    Editor& editor;
+    Log& log;
     std::string name;
-    std::function<void()> onHear;
 };
 
 /// Three controls: b lies on a's right half, c is alone; under all lies a hidden one.
-struct Stage {
-    Editor editor;
-    Ear* hidden = new Ear(editor, "hidden", {0, 0, 300, 200}, -1);
-    Ear* b = new Ear(editor, "b", {20, 10, 10, 20}, 2);
-    Ear* a = new Ear(editor, "a", {10, 10, 20, 20}, 1);
-    Ear* c = new Ear(editor, "c", {50, 50, 20, 20}, 3);
-    CControlGroup& group = *editor.GetMainGroup();
+struct GroupTest : testing::Test, ControlRig {
+    Ear* hidden = new Ear(log, "hidden", {0, 0, 300, 200}, -1);
+    Ear* b = new Ear(log, "b", {20, 10, 10, 20}, 2);
+    Ear* a = new Ear(log, "a", {10, 10, 20, 20}, 1);
+    Ear* c = new Ear(log, "c", {50, 50, 20, 20}, 3);
+    CControlGroup& group = *editor->GetMainGroup();
 
-    Stage()
+    GroupTest()
     {
-        hidden->hidden = true;
-        editor.Idle(), editor.Heard();
+        for (Ear* ear : {hidden, b, a, c}) editor->AddControl(ear);
+        hidden->hidden = true, Tick(), Heard();
     }
 };
 
-TEST(Group, RoutesEvents)
+TEST_F(GroupTest, RoutesEvents)
 {
     // clang-format off
-    struct Case { char capture, focus; int type, x, y; const char* heard; }; // who has it; 0: none
+    struct Case { char capture, focus; int type, x, y; Log heard; }; // who has it; 0: none
     const Case cases[] = {
-        {0,   0,   mouse::LeftDown,   20, 10, "b:left"},      {0,   0,   mouse::RightDown,  10, 29, "a:right"},
-        {0,   0,   mouse::MiddleDown, 30, 10, ""},            {0,   0,   mouse::MiddleDown, 50, 50, "c:middle"},
-        {0,   0,   mouse::LeftUp,     69, 69, "c:left-up"},   {0,   0,   mouse::RightUp,    69, 69, "c:right-up"},
-        {0,   0,   mouse::MiddleUp,   69, 69, "c:middle-up"}, {0,   0,   mouse::Move,       15, 15, "a:move"},
-        {'c', 'a', mouse::Move,       25, 15, "c:move"},      {0,   'c', mouse::LeftDown,   15, 15, "c:left"},
-        {'a', 0,   mouse::Wheel,      0,  -1, "a:wheel-down"}, {'a', 'c', mouse::Wheel,     0,  1,  "c:wheel-up"},
-        {0,   0,   mouse::Wheel,      0,  1,  "b:wheel-up a:wheel-up c:wheel-up"},
+        {0,   0,   mouse::LeftDown,   20, 10, {"b:left"}},      {0,   0,   mouse::RightDown,  10, 29, {"a:right"}},
+        {0,   0,   mouse::MiddleDown, 30, 10, {}},            {0,   0,   mouse::MiddleDown, 50, 50, {"c:middle"}},
+        {0,   0,   mouse::LeftUp,     69, 69, {"c:left-up"}},   {0,   0,   mouse::RightUp,    69, 69, {"c:right-up"}},
+        {0,   0,   mouse::MiddleUp,   69, 69, {"c:middle-up"}}, {0,   0,   mouse::Move,       15, 15, {"a:move"}},
+        {'c', 'a', mouse::Move,       25, 15, {"c:move"}},      {0,   'c', mouse::LeftDown,   15, 15, {"c:left"}},
+        {'a', 0,   mouse::Wheel,      0,  -1, {"a:wheel-down"}}, {'a', 'c', mouse::Wheel,     0,  1,  {"c:wheel-up"}},
+        {0,   0,   mouse::Wheel,      0,  1,  {"b:wheel-up", "a:wheel-up", "c:wheel-up"}},
     };
     // clang-format on
+    const auto named = [this](char name) { return name == 'a' ? a : c; };
     for (const Case& row : cases) {
-        Stage s;
-        const auto named = [&](char name) { return name == 'a' ? s.a : s.c; };
         if (row.focus) named(row.focus)->SetFocus(true);
         if (row.capture) named(row.capture)->CaptureMouse(false);
-        s.editor.Mouse(row.type, row.x, row.y, modifier::Alt);
-        EXPECT_EQ(s.editor.Heard(), row.heard);
+        Mouse(row.type, row.x, row.y);
+        EXPECT_EQ(Heard(), row.heard);
+        group.Release(), group.SetFocusControl(nullptr);
+    }
+    for (int bits = 0; bits < 8; ++bits) {
+        Mouse(mouse::Move, 0, 0, bits);
+        EXPECT_EQ(a->IsCtrlDown() + 2 * a->IsShiftDown() + 4 * a->IsAltDown(), bits);
     }
 }
 
-TEST(Group, TicksAndDrawsWhatIsSeen)
+TEST_F(GroupTest, TicksAndDrawsWhatIsSeen)
 {
-    Stage s;
-    s.a->SetDirty(true);
-    s.group.Tick(true, 55, 55);
-    EXPECT_EQ(s.editor.Heard(), "b:tick a:tick a:draw c:enter c:tick");
-    s.group.Tick(true, 15, 15);
-    EXPECT_EQ(s.editor.Heard(), "b:tick a:enter a:tick c:leave c:tick");
+    a->SetDirty(true);
+    hidden->Redraw();
+    group.Tick(true, 55, 55);
+    EXPECT_EQ(Heard(), (Log{"b:tick", "a:tick", "a:draw", "c:enter", "c:tick"}));
+    group.Tick(true, 15, 15);
+    EXPECT_EQ(Heard(), (Log{"b:tick", "a:enter", "a:tick", "c:leave", "c:tick"}));
+    a->hidden = true, group.Tick(false, 15, 15);
+    EXPECT_FALSE(a->hovered) << "it may be shown when the pointer has left";
+    a->hidden = false;
 
     // With a focus, only that one; the others are drawn below it when the window is drawn anew.
-    s.b->SetFocus(true);
-    s.a->SetDirty(true);
-    s.group.Tick(true, 25, 15);
-    EXPECT_EQ(s.editor.Heard(), "b:enter b:tick");
-    s.editor.SetDirty(true);
-    s.editor.Idle();
-    EXPECT_EQ(s.editor.Heard(), "a:draw c:draw b:tick b:draw");
+    b->SetFocus(true), a->SetDirty(true), Heard();
+    group.Tick(true, 25, 15);
+    EXPECT_EQ(Heard(), (Log{"b:enter", "b:tick"}));
+    editor->SetDirty(true), Tick();
+    EXPECT_EQ(Heard(), (Log{"a:draw", "c:draw", "b:tick", "b:draw"}));
 }
 
 // Which alone is offered files then.
-TEST(Group, IsActiveWhileAControlHasTheFocus)
+TEST_F(GroupTest, IsActiveWhileAControlHasTheFocus)
 {
-    for (const bool before : {false, true}) {
-        Stage s;
-        s.group.SetActive(before);
-        s.a->SetFocus(true);
-        s.c->SetFocus(true);
-        EXPECT_TRUE(s.group.IsActive());
-        EXPECT_FALSE(s.editor.DropFile("x", 0, 0));
-        s.c->CaptureMouse(true);
-        EXPECT_EQ(s.editor.RemoveControl(s.a), s.c);
-        EXPECT_FALSE(s.editor.RemoveControl(s.c) || s.group.focus || s.editor.IsMouseCaptured());
-        EXPECT_EQ(s.group.IsActive(), before);
-    }
+    auto* other = new CControlGroup(editor.get(), 7);
+    editor->AddGroup(other);
+    CControlGroup* const all[] = {nullptr, &group, other};
+    for (CControlGroup* before : all)
+        for (CControlGroup* meanwhile : all) { // whoever becomes active stays so
+            editor->SetActiveGroup(before);
+            a->SetFocus(true), c->SetFocus(true);
+            EXPECT_TRUE(group.IsActive() && !editor->DropFile("x", 0, 0));
+            editor->SetActiveGroup(meanwhile);
+            a->SetFocus(false);
+            EXPECT_EQ(editor->activeGroup, meanwhile == &group && before != &group ? nullptr : meanwhile);
+        }
 }
 
-// Each way through the controls goes on behind one that ends, and ends with its group.
-TEST(Group, SurvivesTheEndOfItsControls)
+TEST_F(GroupTest, OwnsItsControls)
 {
-    const std::function<void(Editor&)> events[] = {
-        [](Editor& editor) { editor.Mouse(mouse::Wheel, 0, 1); },
-        [](Editor& editor) { editor.GetMainGroup()->Tick(true, 25, 15); },
-        [](Editor& editor) { editor.CancelAll(); },
-        [](Editor& editor) { editor.DropFile("x", 0, 0); },
-    };
-    for (const auto& event : events) {
-        Stage itself, next, all;
-        itself.b->onHear = [&] { itself.b->Delete(); };
-        event(itself.editor);
-        EXPECT_NE(itself.editor.Heard().find("a:"), std::string::npos);
+    for (Ear* known : {a, c, b}) group.AddControl(known);
+    group.AddControl(nullptr);
+    EXPECT_TRUE(group.GetControlByIndex(3) == c && group.FindControlById(1) == a);
+    EXPECT_FALSE(group.GetControlByIndex(4) || group.GetControlByIndex(-1));
+    engine.SetParameter(3, 0.5f), group.RefreshValues();
+    EXPECT_EQ(c->value, 0.5f);
+    c->CaptureMouse(true), c->SetFocus(true);
+    EXPECT_EQ(editor->RemoveControl(a), c);
+    EXPECT_FALSE(editor->RemoveControl(c) || group.focus || editor->IsMouseCaptured() || group.IsActive());
+    EXPECT_TRUE(editor->IsDirty());
+}
 
-        next.b->onHear = [&] { next.editor.FindControl(1) ? next.a->Delete() : void(); };
-        event(next.editor);
-        EXPECT_EQ(next.editor.Heard().find("a:"), std::string::npos);
-
-        all.b->onHear = [&] { all.editor.Close(); };
-        event(all.editor);
-        EXPECT_FALSE(all.editor.GetMainGroup());
-    }
+TEST(Control, AnswersWithoutAGroup)
+{
+    CControl alone({}, 1);
+    char text[1024];
+    alone.GetParameterDisplay(text);
+    EXPECT_STREQ(text, "undefined");
+    EXPECT_TRUE(alone.GetEditorSize() == (Size{100, 100}) && alone.GetMousePosition() == (Point{-1, -1}));
 }
 
 } // namespace korvane::test
