@@ -176,7 +176,16 @@ struct Blinker : CControlTextDisplay {
     int ticks = 0;
 };
 
-/// An image of cells; each has the colour 0x101010 times its number, counted from 1, row by row from the top.
+constexpr Color Cell(int number) { return 0x101010u * number; }
+
+/// As images mix: (a * weight + b * (255 - weight)) >> 8, each byte.
+inline Color Mixed(Color a, Color b, int weight)
+{
+    const auto byte = [=](int n) { return ((a >> n & 255) * weight + (b >> n & 255) * (255 - weight)) >> 8 << n; };
+    return byte(0) | byte(8) | byte(16);
+}
+
+/// An image of cells, each in the colour of its number, counted from 1, row by row from the top.
 /// opacity  of all pixels; negative: no alpha
 struct Cells : CBitmap {
     Cells(int columns, int rows, int cellWidth, int cellHeight, int opacity = -1) : CBitmap(1)
@@ -184,7 +193,7 @@ struct Cells : CBitmap {
         Create(rows * cellHeight, columns * cellWidth, opacity >= 0);
         for (int y = 0; y < height; ++y)
             for (int x = 0; x < width; ++x)
-                pixels[(height - 1 - y) * width + x] = 0x101010u * (y / cellHeight * columns + x / cellWidth + 1);
+                pixels[(height - 1 - y) * width + x] = Cell(y / cellHeight * columns + x / cellWidth + 1);
         if (alpha) std::fill_n(alpha.get(), width * height, static_cast<std::uint8_t>(opacity));
     }
 };

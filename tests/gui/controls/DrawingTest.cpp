@@ -7,15 +7,6 @@
 
 namespace korvane::test {
 
-constexpr Color Cell(int number) { return 0x101010u * number; }
-
-/// As images mix: (a * weight + b * (255 - weight)) >> 8, each byte.
-Color Mixed(Color a, Color b, int weight)
-{
-    const auto byte = [=](int n) { return ((a >> n & 255) * weight + (b >> n & 255) * (255 - weight)) >> 8 << n; };
-    return byte(0) | byte(8) | byte(16);
-}
-
 // The nearest frame; fading, the next one over it as far as the value lies beyond; a transparent one above the page.
 TEST(Knob, ShowsTheNearestFrame)
 {
@@ -76,18 +67,15 @@ TEST(Button, ShowsItsState)
 TEST(Tab, ShowsTheSelectedOne)
 {
     // clang-format off
-    struct Case { const char* what; bool normal, reversed, shared, down; int mode, held; float value; int cells[4]; };
+    struct Case { int normal, reversed, shared, down, mode, held; float value; int cells[4]; };
     const Case cases[] = {
-        {"index",             false, false, false, false, 0, -1, 2.9f,  {1, 2, 7, 4}},
-        {"0..1",              true,  false, false, false, 0, -1, 0.66f, {1, 2, 7, 4}},
-        {"reversed",          true,  true,  false, false, 0, -1, 1.0f,  {5, 2, 3, 4}},
-        {"shared, downward",  true,  false, true,  true,  0, -1, 1.0f,  {1, 1, 1, 5}},
-        {"held",              false, false, false, false, 1, 1,  2.0f,  {1, 6, 11, 4}},
-        {"selected and held", false, false, false, false, 1, 2,  2.0f,  {1, 2, 15, 4}},
+        {0, 0, 0, 0, 0, -1, 2.9f, {1, 2, 7, 4}}, {1, 0, 0, 0, 0, -1, 0.66f, {1, 2, 7, 4}}, // an index, a part of 1
+        {1, 1, 0, 0, 0, -1, 1,    {5, 2, 3, 4}}, {1, 0, 1, 1, 0, -1, 1,     {1, 1, 1, 5}},
+        {0, 0, 0, 0, 1, 1,  2,   {1, 6, 11, 4}}, {0, 0, 0, 0, 1, 2,  2,    {1, 2, 15, 4}}, // held; and selected
     };
     // clang-format on
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
+        SCOPED_TRACE(&c - cases);
         ControlRig rig;
         Cells image(4, 4, 10, 10);
         auto* tab = rig.Add<CControlTab>({10, 10, 10, 10}, c.value, &image);
@@ -104,12 +92,10 @@ TEST(Tab, ShowsTheSelectedOne)
 TEST(Slider, PlacesItsHandle)
 {
     // clang-format off
-    struct Case { bool downward, crossfade; float value; Rect handle; Color end; };
+    struct Case { int downward, crossfade; float value; Rect handle; Color end; };
     const Case cases[] = {
-        {false, false, 1,          {47, 18, 6, 4}, Cell(1)}, // 34 of 40 pixels
-        {true,  false, 1,          {27, 9, 6, 4},  Cell(1)}, // 36 of 40
-        {false, true,  0.25f,      {21, 18, 7, 4}, Cell(1)}, // 8.5
-        {true,  true,  0.75f / 36, {27, 44, 6, 5}, Mixed(Cell(1), 0, 128)}, // 35.25
+        {0, 0, 1,     {47, 18, 6, 4}, Cell(1)}, {1, 0, 1,          {27, 9, 6, 4},  Cell(1)}, // 34 and 36 of 40 pixels
+        {0, 1, 0.25f, {21, 18, 7, 4}, Cell(1)}, {1, 1, 0.75f / 36, {27, 44, 6, 5}, Mixed(Cell(1), 0, 128)},
     };
     // clang-format on
     for (const Case& c : cases) {
@@ -149,19 +135,19 @@ TEST(Knob, PointsToItsValue)
     struct Case { float value, sweep, offset; bool shadow; Point end; };
     const Case cases[] = {
         {0, 4.712389f, 0, false, {19, 41}}, {0.5f, 4.712389f, 0,         false, {30, 14}}, // lower left, top
-        {1, 4.712389f, 0, false, {41, 41}}, {0.5f, 4.712389f, 1.570796f, false, {14, 30}}, // lower right, turned to the left
+        {1, 4.712389f, 0, false, {41, 41}}, {0.5f, 4.712389f, 1.570796f, false, {14, 30}}, // lower right, turned left
         {0, 3.141593f, 0, false, {14, 30}}, {0.5f, 4.712389f, 0,         true,  {30, 14}}, // of a half circle
     };
     // clang-format on
     for (const Case& c : cases) {
-        SCOPED_TRACE(&c - cases);
         ControlRig rig;
         auto* knob = rig.Add<CControlKnob>({10, 10, 40, 40}, c.value);
         knob->sweep = c.sweep, knob->angleOffset = c.offset, knob->pointerShadow = c.shadow;
         knob->drawPointer = true, knob->pointerWidth = 3, knob->pointerRadius = 17, knob->pointerColor = kWhite;
         knob->pointerShadowColor = Rgb(0, 0, 255);
         rig.Tick();
-        for (const Case& other : cases) EXPECT_EQ(rig.At(other.end.x, other.end.y) >> 23, other.end == c.end);
+        for (const auto& [x, y] : {Point{19, 41}, {30, 14}, {41, 41}, {14, 30}})
+            EXPECT_EQ(rig.At(x, y) >> 23, (c.end == Point{x, y})) << &c - cases;
         EXPECT_EQ(rig.At(30, 12) > 0, c.shadow);
     }
 }
@@ -172,10 +158,9 @@ TEST(TextDisplay, WritesIntoItsBox)
     const auto inked = [](float glow) {
         ControlRig rig;
         CControlTextDisplay label({10, 10, 60, 20}, 1);
-        label.glow = glow;
-        label.Draw(&rig.editor->backBuffer);
-        EXPECT_EQ(rig.editor->backBuffer.GetTextColor(), kBlack);
-        EXPECT_EQ(rig.editor->backBuffer.GetClipRect(), (Rect{0, 0, 300, 200}));
+        CDrawBuffer& page = rig.editor->backBuffer;
+        label.glow = glow, label.Draw(&page);
+        EXPECT_TRUE(page.GetTextColor() == kBlack && page.GetClipRect() == (Rect{0, 0, 300, 200}));
         std::vector<bool> ink;
         for (int n = 0; n < 300 * 200; ++n) ink.push_back(rig.At(n % 300, n / 300) % 0x1000000 > kPage);
         return ink;
@@ -190,34 +175,31 @@ TEST(TextDisplay, WritesIntoItsBox)
 TEST(TextDisplay, HasTheColoursOfItsState)
 {
     // clang-format off
-    enum Kind { Label, Button, Number };
-    struct Case { Kind kind; bool hovered, on; Color ink, ground; };
+    struct Case { int kind; bool hovered, on; Color ink, ground; };
     const Case cases[] = {
-        {Label,  false, false, 0x008000, 0}, {Label,  true,  false, 0x000080, 0}, {Button, false, false, 0x008000, 0},
-        {Button, false, true,  0x800000, 0}, {Button, true,  true,  0x000080, 0}, {Number, false, false, 0x008000, 0},
-        {Number, false, true,  0x800000, 0x646464},
+        {0, false, false, 0x008000, 0}, {0, true,  false, 0x000080, 0}, {1, false, false, 0x008000, 0},
+        {1, false, true,  0x800000, 0}, {1, true,  true,  0x000080, 0}, {2, false, false, 0x008000, 0},
+        {2, false, true,  0x800000, 0x646464}, // label, button, number
     };
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(&c - cases);
         ControlRig rig;
-        auto* label = rig.Add<CControlTextDisplay>({10, 10, 40, 40});
         auto* button = rig.Add<CControlButton>({10, 10, 40, 40}, c.on);
         auto* number = rig.Add<CControlNumber>({10, 10, 40, 40});
-        if (c.kind == Number && c.on) number->OnLeftDown(20, 20);
-        button->drawText = true;
-        CControlTextDisplay* const all[] = {label, button, number};
+        CControlTextDisplay* const all[] = {rig.Add<CControlTextDisplay>({10, 10, 40, 40}), button, number};
         CControlTextDisplay* const shown = all[c.kind];
+        button->drawText = true;
+        if (shown == number && c.on) number->OnLeftDown(20, 20);
         shown->textRect = {14, 10, 32, 40};
         shown->textColor = Rgb(0, 255, 0), shown->hoverTextColor = Rgb(0, 0, 255), shown->hoverHighlight = true;
-        shown->hovered = c.hovered;
-        shown->Draw(&rig.editor->backBuffer);
+        shown->hovered = c.hovered, shown->Draw(&rig.editor->backBuffer);
         Color inside = 0, outside = 0;
         for (int n = 0; n < 300 * 200; ++n)
             (shown->textRect.Contains(n % 300, n / 300) ? inside : outside) |= rig.At(n % 300, n / 300) & 0x808080;
         EXPECT_TRUE(inside == c.ink && outside == 0) << inside << " " << outside;
         EXPECT_EQ(rig.At(14, 10), c.ground);
-        EXPECT_EQ(std::string(number->text) == "display 100", c.kind == Number);
+        EXPECT_EQ(std::string(number->text) == "display 100", shown == number);
     }
 }
 
@@ -227,10 +209,9 @@ TEST(Popup, OpensBelowTheKnobOrAboveIt)
     for (const auto& [y, popupY] : {Point{100, 144}, {129, 173}, {130, 104}}) { // 173 + 22 is 5 before the end
         ControlRig rig;
         auto* knob = rig.Add<CControlKnob>({100, y, 40, 40});
-        rig.Add<Blinker>({0, 0, 300, 200})->backgroundColor = kPage;
+        rig.Add<Blinker>({0, 0, 300, 200})->backgroundColor = Rgb(0x10, 0x20, 0x30);
         knob->showValuePopup = true, knob->popupBottomColor = Rgb(249, 249, 0);
-        rig.Tick();
-        rig.Mouse(mouse::LeftDown, 120, y + 10);
+        rig.Tick(), rig.Mouse(mouse::LeftDown, 120, y + 10);
         EXPECT_EQ(knob->popupRect, (Rect{93, popupY, 59, 22}));
         rig.Tick(), rig.Tick();
         EXPECT_EQ(rig.OnScreen(93, popupY), 0u); // the frame

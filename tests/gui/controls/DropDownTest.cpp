@@ -45,14 +45,13 @@ TEST(DropDown, TellsWhatIsChosen)
     for (int row = 0; row < 6; ++row) {
         SCOPED_TRACE(row);
         ListRig s;
-        s.list->SetValue(5.0f);
         bool free = true;
         s.editor->onChange = [&](CControl*) {
             free = s.HoldsNothing();
             s.list->ClearItems(), s.list->AddItem("anew");
             if (row == 1) s.list->SetValue(0.0f);
         };
-        s.Open();
+        s.list->SetValue(5), s.Open();
         EXPECT_TRUE(s.list->IsOpen() && s.list->IsCapturing() && !s.editor->activeGroup);
         s.ClickItem(row);
         EXPECT_EQ(s.Heard(), rows[row].first);
@@ -65,40 +64,36 @@ TEST(DropDown, TellsWhatIsChosen)
 TEST(DropDown, WritesWhatStandsOutInItsFace)
 {
     // clang-format off
-    struct Case { const char* what; std::uint8_t kind; bool marked; float value; int font; };
+    struct Case { std::uint8_t kind; bool marked; float value; int font; };
     const Case cases[] = {
-        {"plain",          item::Choice, false, 1,    0}, {"heading",    item::Heading, false, 1,     1},
-        {"marked",         item::Choice, true,  1,    1}, {"current",    item::Choice,  false, 0,     1},
-        {"between values", item::Choice, false, 0.7f, 1}, {"below them", item::Choice,  false, -0.5f, 0},
-        {"command",        item::Command, false, 0,   0},
+        {item::Choice, true,  1,    1}, {item::Choice, false, 0,     1}, {item::Heading, false, 1, 1},
+        {item::Choice, false, 0.7f, 1}, {item::Choice, false, -0.5f, 0}, {item::Command, false, 0, 0},
     };
     // clang-format on
     for (const Case& c : cases) {
         ListRig s({20, 20, 60, 16}, 0);
         s.list->AddItem("WWWWiiii", c.kind).marked = c.marked;
-        s.list->look.headingFont = 1, s.list->SetValue(c.value);
-        s.Open();
+        s.list->look.headingFont = 1;
+        s.list->SetValue(c.value), s.Open();
         s.editor->backBuffer.SetFont(c.font);
         const Size text = s.editor->backBuffer.DrawText("WWWWiiii", 0, 0, 0, 0, align::Left, true);
-        EXPECT_EQ(s.list->GetItemRect(0).w, text.width + 16) << c.what;
+        EXPECT_EQ(s.list->GetItemRect(0).w, text.width + 16) << &c - cases;
     }
 }
 
 TEST(DropDown, ClosesWithoutAChoice)
 {
-    const std::function<void(ListRig&)> acts[] = {
-        [](ListRig& s) { s.Click(290, 190); },
-        [](ListRig& s) { s.Mouse(mouse::RightDown, 25, 45); },
-        [](ListRig& s) { s.Mouse(mouse::MiddleDown, 25, 45); },
-        [](ListRig& s) { s.window->grabbed = false; }, // somebody else has the mouse
-        [](ListRig& s) { s.list->hidden = true; },
-        [](ListRig& s) { s.list->ClearItems(); },
-    };
-    for (const auto& act : acts) {
+    for (int act = 0; act < 6; ++act) {
         ListRig s;
-        s.Open(), act(s), s.Tick();
-        EXPECT_TRUE(s.HoldsNothing()) << &act - acts;
-        EXPECT_EQ(s.Heard(), Log{});
+        s.Open();
+        if (act == 0) s.Click(290, 190);
+        if (act == 1) s.Mouse(mouse::RightDown, 25, 45);
+        if (act == 2) s.Mouse(mouse::MiddleDown, 25, 45);
+        if (act == 3) s.window->grabbed = false; // somebody else has the mouse
+        if (act == 4) s.list->hidden = true;
+        if (act == 5) s.list->ClearItems();
+        s.Tick();
+        EXPECT_TRUE(s.HoldsNothing() && s.Heard().empty()) << act;
     }
 }
 
@@ -106,24 +101,19 @@ TEST(DropDown, ClosesWithoutAChoice)
 TEST(DropDown, OpensWhereThereIsRoom)
 {
     // clang-format off
-    struct Case { const char* what; Rect place; int choices, x, y, height; }; // the first row's corner; of all rows
+    struct Case { Rect place; int choices; Point at; int height; }; // the first row's corner; of all rows
     const Case cases[] = {
-        {"above",             {20, 150, 60, 16},            5,  23, 67,  80},
-        {"neither",           {20, 90, 60, 16},             7,  23, 81,  112},
-        {"at the right",      {290, 20, 60, 16},            5,  0,  39,  80},
-        {"beyond the editor", {20, 90, 60, 16},             50, 23, 7,   186},
-        {"nowhere",           {INT32_MAX, INT32_MAX, 1, 1}, 3,  0,  145, 48},
+        {{20, 150, 60, 16}, 5, {23, 67}, 80},  {{20, 90, 60, 16}, 7,  {23, 81}, 112}, // above, where neither has room
+        {{290, 20, 60, 16}, 5, {0, 39},  80},  {{20, 90, 60, 16}, 50, {23, 7},  186}, // at the right, as high as all
+        {{INT32_MAX, INT32_MAX, 1, 1}, 3, {0, 145}, 48},
     };
     // clang-format on
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
         ListRig s(c.place, c.choices);
         s.list->OnLeftDown(0, 0);
         const Rect row = s.list->GetItemRect(0);
-        EXPECT_EQ(row.x, c.x ? c.x : 293 - row.w);
-        EXPECT_EQ(row.y, c.y);
-        EXPECT_TRUE(s.list->ItemAt(row.x + 1, row.y + c.height - 1));
-        EXPECT_FALSE(s.list->ItemAt(row.x + 1, row.y + c.height));
+        EXPECT_EQ((Point{row.x, row.y}), (Point{c.at.x ? c.at.x : 293 - row.w, c.at.y}));
+        EXPECT_TRUE(s.list->ItemAt(row.x + 1, row.y + c.height - 1) && !s.list->ItemAt(row.x + 1, row.y + c.height));
     }
 }
 
@@ -131,9 +121,8 @@ TEST(DropDown, OpensWhereThereIsRoom)
 TEST(DropDown, Scrolls)
 {
     ListRig s({20, 90, 60, 16}, 50);
-    s.list->SetValue(25);
     std::memset(s.list->items.At(9)->text, 'W', 200);
-    s.Open(); // with the choice in the middle
+    s.list->SetValue(25), s.Open(); // with the choice in the middle
     EXPECT_NEAR(s.list->GetItemRect(25).y, 92, 1);
     Rect thumb, bar;
     const auto thumbTop = [&] { return s.list->GetScrollBarRects(thumb, bar), thumb.y - bar.y; };
@@ -155,16 +144,15 @@ TEST(DropDown, LiesAboveEverything)
     ListRig s;
     auto* blinker = s.Add<Blinker>({0, 40, 300, 100});
     blinker->backgroundColor = Rgb(255, 0, 0);
-    s.Tick(), s.Click(25, 25);
-    const int before = blinker->ticks;
-    for (const Color blue : {0x3Cu, 0x78u, 0xB4u, 0xF0u}) { // of the list, about
+    s.Tick(), s.Click(25, 25), blinker->ticks = 0;
+    for (const Color blue : {0x3Cu, 0x78u, 0xB4u, 0xF0u, 0xF1u}) { // of the list, about
         s.editor->SetDirty(blue == 0xF0);
         s.window->copies.clear(), s.Tick();
         EXPECT_NEAR(s.OnScreen(25, 60) & 255, blue, 16);
         EXPECT_EQ(s.OnScreen(290, 60), 0xFF0000u);
         EXPECT_EQ(s.window->copies.size(), 1u) << "nothing flickers";
     }
-    EXPECT_EQ(blinker->ticks, before + 4);
+    EXPECT_EQ(blinker->ticks, 5);
     const Rect row = s.list->GetItemRect(3);
     const Color shadow = s.OnScreen(row.x + row.w + 5, row.y);
     s.Mouse(mouse::Move, row.x + 2, row.y);
