@@ -30,10 +30,8 @@ TEST(DropDown, ReadsTheItemOfItsValue)
     ListRig s;
     const auto read = [&](float value) { return s.list->SetValue(value), s.Tick(), std::string(s.list->text); };
     EXPECT_EQ(read(3) + read(5.9f) + read(6) + read(-0.5f), "ChoiceChoice<none><none>");
-    s.list->SetClosedText("<user>");
-    EXPECT_EQ(read(5), "<user>");
-    s.list->showText = false;
-    EXPECT_EQ(read(1), "");
+    EXPECT_EQ((s.list->SetClosedText("<user>"), read(5)), "<user>");
+    EXPECT_EQ((s.list->showText = false, read(1)), "");
 }
 
 // A choice becomes the value; a command is told with its number and leaves the value, whatever becomes of it meanwhile;
