@@ -63,7 +63,7 @@ TEST_F(GroupTest, RoutesEvents)
         group.Release(), group.SetFocusControl(nullptr);
     }
     for (int bits = 0; bits < 8; ++bits)
-        EXPECT_EQ((Mouse(6, 0, 0, bits), a->IsCtrlDown() + 2 * a->IsShiftDown() + 4 * a->IsAltDown()), bits);
+        EXPECT_EQ((Mouse(mouse::Move, 0, 0, bits), a->IsCtrlDown() + 2 * a->IsShiftDown() + 4 * a->IsAltDown()), bits);
 }
 
 TEST_F(GroupTest, TicksAndDrawsWhatIsSeen)
