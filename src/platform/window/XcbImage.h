@@ -25,7 +25,6 @@ public:
     XcbImage(const XcbImage&) = delete;
 
     bool Copy(const PixelView& image, Rect source, Point target) override;
-    bool IsShared() const { return shared != nullptr; }
     void StopSharing();
 
 private:

@@ -22,6 +22,9 @@ static int ModifiersOf(int state)
            (state & XCB_MOD_MASK_1 ? modifier::Alt : 0);
 }
 
+/// A bit each for the first five.
+static int ButtonsOf(int state) { return state >> 8 & 0x1F; }
+
 XcbPointer::XcbPointer(const XcbConnection& theConnection, xcb_window_t theWindow)
     : connection(theConnection), window(theWindow), arrow(Arrow()), blank(Blank())
 {
@@ -87,12 +90,13 @@ bool XcbPointer::Take(const xcb_motion_notify_event_t& event)
     const Point oldPlace = place, oldScreenPlace = screenPlace;
     MoveTo({event.event_x, event.event_y}, {event.root_x, event.root_y});
     modifiers = ModifiersOf(event.state);
+    buttonsDown = ButtonsOf(event.state);
     return isButtonOrKey || oldPlace != place || oldScreenPlace != screenPlace;
 }
 
 void XcbPointer::TakeButton(const xcb_button_press_event_t& event, bool down)
 {
-    const int bit = 1 << std::min<int>(event.detail, 30);
+    const int bit = event.detail <= 5 ? 1 << event.detail >> 1 : 0;
     buttonsDown = down ? buttonsDown | bit : buttonsDown & ~bit;
     if (untilRelease && buttonsDown == 0) granted = untilRelease = false;
 }

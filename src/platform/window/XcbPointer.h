@@ -16,7 +16,7 @@ public:
     /// What key, button, motion, enter and leave events have in common: where the pointer is and what is held. False
     /// for a motion that tells nothing new: one from before a warp, or one to the place that is known.
     bool Take(const xcb_motion_notify_event_t& event);
-    /// A button went down or came up.
+    /// A button went down or came up; after Take, which tells what was before.
     void TakeButton(const xcb_button_press_event_t& event, bool down);
     /// The pointer entered or left: so one hears that a grab was broken.
     void TakeCrossing(const xcb_enter_notify_event_t& event);
