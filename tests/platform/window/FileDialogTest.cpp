@@ -120,7 +120,7 @@ TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
 // came up meanwhile is told when the dialog alone ends.
 TEST_F(FileDialogs, EndWithTheWindow)
 {
-    Script("zenity", "echo $$ >pid; sleep 30 & echo $! >>pid; wait");
+    Script("zenity", "echo $$ >pid; sleep 5 & echo $! >>pid; wait");
     pid_t pids[2] = {};
     const std::pair<std::function<void()>, const char*> ends[] = {{[&] { window.RequestClose(); }, ""},
                                                                   {[&] { window.Close(); }, ""},
