@@ -2,6 +2,9 @@
 #include "platform/window/XcbConnection.h"
 
 #include <cstring>
+#include <mutex>
+#include <thread>
+#include <xcb/xcbext.h>
 
 namespace korvane {
 
@@ -12,14 +15,22 @@ static const xcb_screen_t* ScreenOf(xcb_connection_t* connection, int number)
     return screens.rem > 0 ? screens.data : nullptr;
 }
 
+/// One at a time: the library that finds the server's key keeps the name of its file in a place that threads share.
+static xcb_connection_t* Connect(int& screen)
+{
+    static std::mutex guard;
+    const std::lock_guard hold(guard);
+    return xcb_connect(nullptr, &screen);
+}
+
 XcbConnection::XcbConnection()
 {
     static constexpr const char* kNames[atom::Count] = {
-        "_XEMBED_INFO", "WM_STATE",       "XdndAware",     "XdndEnter",    "XdndPosition",
-        "XdndStatus",   "XdndLeave",      "XdndDrop",      "XdndFinished", "XdndSelection",
-        "XdndTypeList", "XdndActionCopy", "text/uri-list", "KORVANE_DROP"};
+        "_XEMBED_INFO",  "WM_STATE",     "XdndAware",      "XdndProxy",     "XdndEnter",
+        "XdndPosition",  "XdndStatus",   "XdndLeave",      "XdndDrop",      "XdndFinished",
+        "XdndSelection", "XdndTypeList", "XdndActionCopy", "text/uri-list", "KORVANE_DROP"};
     int number = 0;
-    connection = xcb_connect(nullptr, &number);
+    connection = Connect(number);
     if (Lost()) return;
     screen = ScreenOf(connection, number);
     xcb_intern_atom_cookie_t requests[atom::Count];
