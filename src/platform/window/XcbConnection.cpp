@@ -50,6 +50,21 @@ int XcbConnection::ErrorOf(xcb_void_cookie_t request) const
     return error ? error->error_code : Lost() ? -1 : 0;
 }
 
+void XcbConnection::WaitUntilDone(std::chrono::milliseconds longest) const
+{
+    const auto end = std::chrono::steady_clock::now() + longest;
+    const auto question = xcb_get_input_focus(connection);
+    xcb_flush(connection);
+    void* reply = nullptr;
+    xcb_generic_error_t* error = nullptr;
+    while (xcb_poll_for_reply(connection, question.sequence, &reply, &error) == 0) {
+        if (std::chrono::steady_clock::now() > end) return xcb_discard_reply(connection, question.sequence);
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+    std::free(reply);
+    std::free(error);
+}
+
 XcbAnswer<xcb_get_property_reply_t> XcbConnection::Property(xcb_window_t window, xcb_atom_t property,
                                                             bool andDelete) const
 {

@@ -1,6 +1,7 @@
 // A connection to the display server, with what everything that uses it needs.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <cstdlib>
 #include <memory>
@@ -48,6 +49,8 @@ public:
     bool Lost() const { return xcb_connection_has_error(connection) != 0; }
     /// Waits for the server's word on a checked request: 0, the number of the X error, or -1 without a server.
     int ErrorOf(xcb_void_cookie_t request) const;
+    /// Waits until the server has done all that it was sent, at most so long.
+    void WaitUntilDone(std::chrono::milliseconds longest) const;
     xcb_atom_t Atom(int index) const { return atoms[index]; }
     /// A window's property of any type, at most 1 MiB of it; null where there is none.
     XcbAnswer<xcb_get_property_reply_t> Property(xcb_window_t window, xcb_atom_t property, bool andDelete) const;

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -195,7 +196,12 @@ void XcbWindow::Withdraw()
     }
     if (!shown) return;
     // Of the session only what never changes: its own thread may be working with the rest.
-    shown->connection->ErrorOf(xcb_unmap_window_checked(*shown->connection, shown->window));
+    const XcbConnection& connection = *shown->connection;
+    constexpr int kPatience = 100; // milliseconds: the server may be listening to another program alone
+    pollfd socket = {xcb_get_file_descriptor(connection), POLLOUT, 0};
+    if (poll(&socket, 1, kPatience) < 1) return; // it is full, and writing would wait
+    xcb_unmap_window(connection, shown->window);
+    connection.WaitUntilDone(std::chrono::milliseconds(kPatience));
     Wake(); // events may have come with the answer, of which the other thread's poll does not know
 }
 
