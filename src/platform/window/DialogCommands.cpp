@@ -106,8 +106,8 @@ std::vector<std::string> FileCommand(const DialogProgram& program, const FileQue
     return words;
 }
 
-/// As the programs show a text: they read '\' as the beginning of another sign. What is no UTF-8 they refuse whole.
-static std::string Shown(const std::string& text)
+/// As the programs show a text: kdialog reads '\' as the beginning of another sign. What is no UTF-8 they refuse whole.
+static std::string Shown(const std::string& text, bool isKdialog)
 {
     std::string result;
     int expected = 0; // bytes that belong to the character before
@@ -117,7 +117,7 @@ static std::string Shown(const std::string& text)
         const bool follows = (byte & 0xC0) == 0x80;
         valid = valid && follows == (expected > 0) && byte < 0xF8;
         expected = follows ? expected - 1 : byte >= 0xF0 ? 3 : byte >= 0xE0 ? 2 : byte >= 0xC0 ? 1 : 0;
-        result.append(c == '\\' ? "\\\\" : std::string(1, c));
+        result.append(c == '\\' && isKdialog ? "\\\\" : std::string(1, c));
     }
     if (!valid || expected != 0)
         std::replace_if(
@@ -127,9 +127,11 @@ static std::string Shown(const std::string& text)
 
 std::vector<std::string> ReplaceCommand(const DialogProgram& program, const std::string& path, std::uint32_t owner)
 {
-    const std::string name = Shown(path.substr(path.rfind('/') + 1));
+    const std::string name = Shown(path.substr(path.rfind('/') + 1), program.isKdialog);
     const std::string text = std::string("\"").append(name).append("\" exists already. Replace it?");
-    std::vector<std::string> words = {program.path, Option("--attach", std::to_string(owner))};
+    // The yes is also written down: a host that ignores the ends of its children takes away the program's result.
+    std::vector<std::string> words = {"/bin/sh", "-c",         "\"$@\" && echo yes",
+                                      "sh",      program.path, Option("--attach", std::to_string(owner))};
     if (program.isKdialog)
         words.insert(words.end(), {"--warningyesno", text});
     else
