@@ -23,6 +23,7 @@ enum : int {
     XembedInfo,
     WmState,
     XdndAware,
+    XdndProxy,
     XdndEnter,
     XdndPosition,
     XdndStatus,

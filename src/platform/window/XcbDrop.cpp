@@ -11,8 +11,8 @@ namespace korvane {
 
 static constexpr std::uint32_t kOldest = 3, kNewest = 5;
 
-XcbDrop::XcbDrop(const XcbConnection& theConnection, xcb_window_t theWindow)
-    : connection(theConnection), window(theWindow)
+XcbDrop::XcbDrop(const XcbConnection& theConnection, xcb_window_t theWindow, Size theSize)
+    : connection(theConnection), window(theWindow), size(theSize)
 {
     xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, connection.Atom(atom::XdndAware), XCB_ATOM_ATOM, 32,
                         1, &kNewest);
@@ -22,11 +22,12 @@ void XcbDrop::TakeMessage(const xcb_client_message_event_t& event, bool accepts)
 {
     const std::uint32_t* const data = event.data.data32;
     if (event.format != 32) return;
-    if (event.type == connection.Atom(atom::XdndEnter)) return Enter(data);
+    if (event.type == connection.Atom(atom::XdndEnter)) return Enter(event);
     if (source == XCB_NONE || data[0] != source) return;
     if (event.type == connection.Atom(atom::XdndPosition)) {
-        screenPlace = {static_cast<std::int16_t>(data[2] >> 16), static_cast<std::int16_t>(data[2] & 0xFFFF)};
-        Reply(atom::XdndStatus, 4, accepts && offersFiles);
+        MoveTo({static_cast<std::int16_t>(data[2] >> 16), static_cast<std::int16_t>(data[2] & 0xFFFF)});
+        welcome = offersFiles && Rect{0, 0, size.width, size.height}.Contains(place.x, place.y);
+        Reply(atom::XdndStatus, 4, accepts && welcome);
     } else if (event.type == connection.Atom(atom::XdndLeave)) {
         source = XCB_NONE;
     } else if (event.type == connection.Atom(atom::XdndDrop)) {
@@ -34,10 +35,23 @@ void XcbDrop::TakeMessage(const xcb_client_message_event_t& event, bool accepts)
     }
 }
 
-void XcbDrop::Enter(const std::uint32_t* data)
+void XcbDrop::MoveTo(Point newScreenPlace)
 {
-    version = std::min(data[1] >> 24, kNewest);
-    source = version >= kOldest ? data[0] : XCB_NONE;
+    screenPlace = newScreenPlace;
+    const auto request =
+        xcb_translate_coordinates(connection, connection.screen->root, window, static_cast<std::int16_t>(screenPlace.x),
+                                  static_cast<std::int16_t>(screenPlace.y));
+    const XcbAnswer<xcb_translate_coordinates_reply_t> reply(
+        xcb_translate_coordinates_reply(connection, request, nullptr));
+    if (reply) place = {reply->dst_x, reply->dst_y};
+}
+
+void XcbDrop::Enter(const xcb_client_message_event_t& event)
+{
+    const std::uint32_t* const data = event.data.data32;
+    target = event.window;
+    welcome = false;
+    source = data[1] >> 24 >= kOldest ? data[0] : XCB_NONE;
     offersFiles = source != XCB_NONE && OffersFiles(data);
     asked = 0;
 }
@@ -55,7 +69,7 @@ bool XcbDrop::OffersFiles(const std::uint32_t* data) const
 
 void XcbDrop::AskForData(xcb_timestamp_t time, bool accepts)
 {
-    if (!accepts || !offersFiles) return Finish(false);
+    if (!accepts || !welcome) return Finish(false);
     asked = time;
     xcb_convert_selection(connection, window, connection.Atom(atom::XdndSelection), connection.Atom(atom::UriList),
                           connection.Atom(atom::DropData), time);
@@ -91,7 +105,7 @@ void XcbDrop::Reply(int messageAtom, int actionIndex, bool accepted)
     event.format = 32;
     event.window = source;
     event.type = connection.Atom(messageAtom);
-    event.data.data32[0] = window;
+    event.data.data32[0] = target;
     event.data.data32[1] = accepted ? 1 : 0;
     event.data.data32[actionIndex] = accepted ? connection.Atom(atom::XdndActionCopy) : XCB_NONE;
     xcb_send_event(connection, 0, source, XCB_EVENT_MASK_NO_EVENT, reinterpret_cast<const char*>(&event));

@@ -23,12 +23,15 @@ XcbSession::XcbSession(std::unique_ptr<XcbConnection> theConnection, const Frame
     : connection(std::move(theConnection)), window(frame.window), parent(frame.parent),
       image(*connection, window, frame.visual, frame.size, frame.scale), pointer(*connection, window),
       focus(*connection, window), listener(theListener), closing(closingFlag), scale(frame.scale),
-      keyboard(*connection, window, parent, pointer, theListener), drop(*connection, window)
+      keyboard(*connection, window, parent, pointer, theListener),
+      drop(*connection, window, {frame.size.height * scale, frame.size.width * scale}), dropProxy(*connection, window)
 {
+    dropProxy.Install(connection->TopLevel(parent));
 }
 
 void XcbSession::End()
 {
+    if (!connection->Lost()) dropProxy.Remove(); // the top-level window may outlive ours
     if (Lives() && !connection->Lost()) {
         focus.GiveBack(parent);
         pointer.Ungrab();
@@ -115,9 +118,13 @@ bool XcbSession::TakeChange(const xcb_generic_event_t& event)
         lost = lost || destroyed == window || destroyed == parent;
     } else if (KindOf(event) == XCB_UNMAP_NOTIFY) {
         pointer.LoseGrab();
+    } else if (KindOf(event) == XCB_PROPERTY_NOTIFY) {
+        dropProxy.TakeChange(As<xcb_property_notify_event_t>(event));
     } else if (KindOf(event) == XCB_REPARENT_NOTIFY && As<xcb_reparent_notify_event_t>(event).window == window) {
         parent = As<xcb_reparent_notify_event_t>(event).parent;
+        lost = lost || parent == connection->screen->root; // where windows go whose host in another process ended
         ListenToParent(*connection, parent);
+        dropProxy.Install(connection->TopLevel(parent));
     } else {
         return false;
     }
@@ -179,12 +186,7 @@ void XcbSession::TellDrop(const xcb_selection_notify_event_t& event)
 {
     const std::string path = drop.TakeData(event);
     if (path.empty() || asking) return;
-    const Point at = drop.screenPlace;
-    const auto request = xcb_translate_coordinates(*connection, connection->screen->root, window,
-                                                   static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y));
-    const XcbAnswer<xcb_translate_coordinates_reply_t> reply(
-        xcb_translate_coordinates_reply(*connection, request, nullptr));
-    if (reply) pointer.MoveTo({reply->dst_x, reply->dst_y}, at);
+    pointer.MoveTo(drop.place, drop.screenPlace);
     listener.OnFileDrop(EnginePath(path.c_str()).c_str());
 }
 

@@ -8,6 +8,7 @@
 
 #include "platform/window/XcbConnection.h"
 #include "platform/window/XcbDrop.h"
+#include "platform/window/XcbDropProxy.h"
 #include "platform/window/XcbFocus.h"
 #include "platform/window/XcbImage.h"
 #include "platform/window/XcbKeyboard.h"
@@ -75,6 +76,7 @@ private:
     const int scale;
     XcbKeyboard keyboard;
     XcbDrop drop;
+    XcbDropProxy dropProxy;
     std::deque<XcbEvent> events; // have come and were not told yet
     bool moved = false;          // the pointer has, and nobody was told
     Rect exposed;                // what must be shown again, in the server's pixels
