@@ -88,7 +88,8 @@ bool XcbPointer::Take(const xcb_motion_notify_event_t& event)
     const bool isButtonOrKey = kind >= XCB_KEY_PRESS && kind <= XCB_BUTTON_RELEASE;
     if (!isButtonOrKey && IsBefore(SequenceOf(event), placeRequest)) return false;
     const Point oldPlace = place, oldScreenPlace = screenPlace;
-    MoveTo({event.event_x, event.event_y}, {event.root_x, event.root_y});
+    const bool isFromProgram = (event.response_type & 0x80) != 0; // a host sends keys, with any place
+    if (!isFromProgram) MoveTo({event.event_x, event.event_y}, {event.root_x, event.root_y});
     modifiers = ModifiersOf(event.state);
     buttonsDown = ButtonsOf(event.state);
     return isButtonOrKey || oldPlace != place || oldScreenPlace != screenPlace;
