@@ -117,6 +117,7 @@ void XcbPointer::Grab(bool hide)
                                       XCB_EVENT_MASK_POINTER_MOTION | XCB_EVENT_MASK_ENTER_WINDOW |
                                       XCB_EVENT_MASK_LEAVE_WINDOW;
     const xcb_cursor_t cursor = hide ? blank : arrow;
+    if (hide) hiddenAt = screenPlace;
     Show(cursor);
     const auto request = xcb_grab_pointer(connection, 0, window, kEvents, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
                                           XCB_NONE, cursor, XCB_CURRENT_TIME);

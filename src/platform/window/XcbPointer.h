@@ -31,6 +31,7 @@ public:
     void MoveTo(Point newPlace, Point newScreenPlace);
 
     Point place, screenPlace; // in the window, on the screen
+    Point hiddenAt;           // on the screen, where the last hiding began
     int modifiers = 0;        // of modifier::
 
 private:

@@ -138,7 +138,10 @@ Point XcbWindow::Warp(Point place)
 {
     const auto scaled = [this](int value) { return std::clamp(value, SHRT_MIN, SHRT_MAX) * scale; };
     XcbSession* const living = Living();
-    return living ? Divided(living->pointer.Warp({scaled(place.x), scaled(place.y)}), scale) : Point{-1, -1};
+    if (!living) return {-1, -1};
+    const Point hiddenAt = living->pointer.hiddenAt; // within its block, too, the pointer comes back to where it was
+    const bool comesBack = place == Divided(hiddenAt, scale);
+    return Divided(living->pointer.Warp(comesBack ? hiddenAt : Point{scaled(place.x), scaled(place.y)}), scale);
 }
 
 bool XcbWindow::Copy(const PixelView& image, Rect source, Point target)
