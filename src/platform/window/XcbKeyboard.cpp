@@ -34,14 +34,15 @@ void XcbKeyboard::Down(const xcb_key_press_event_t& event, bool isOurs)
 
 void XcbKeyboard::Up(const xcb_key_press_event_t& event)
 {
-    const HeldKey key = held.Remove(event.detail);
-    if (key.handedOn) HandOn(event);
-    Tell(key);
+    UpUnheard(event);
+    TellUnheard();
 }
 
 void XcbKeyboard::UpUnheard(const xcb_key_press_event_t& event)
 {
-    if (HeldKey* const key = held.Find(event.detail)) key->released = true;
+    HeldKey* const key = held.Find(event.detail);
+    if (key) key->released = true;
+    if (!key || key->handedOn) HandOn(event); // who has seen the press sees the release
 }
 
 void XcbKeyboard::TellUnheard()
