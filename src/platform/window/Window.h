@@ -27,8 +27,8 @@ protected:
     ~PixelSurface() = default;
 };
 
-/// Who hears what happens to a window. All calls come on the window's thread, from within Serve or AskForFile; each may
-/// close the window.
+/// Who hears what happens to a window. All calls come on the window's thread, from within Serve, AskForFile or Close;
+/// each may close the window.
 class WindowListener {
 public:
     /// The part must be shown again.

@@ -40,6 +40,12 @@ void XcbSession::End()
     ended = true;
 }
 
+void XcbSession::TellKeysUp()
+{
+    keyboard.AllUp();
+    keyboard.TellUnheard();
+}
+
 void XcbSession::StartTimer(int milliseconds)
 {
     period = std::max(milliseconds, 0);

@@ -44,6 +44,8 @@ public:
     /// All that has happened.
     void TellAll();
     void StartTimer(int milliseconds);
+    /// The listener hears that every key it knows to be held has come up.
+    void TellKeysUp();
 
     const std::unique_ptr<XcbConnection> connection;
     const xcb_window_t window;

@@ -24,7 +24,7 @@ XcbWindow::XcbWindow() : wakeDescriptor(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) 
 
 XcbWindow::~XcbWindow()
 {
-    Close();
+    End(); // the listener may be gone
     if (wakeDescriptor >= 0) close(wakeDescriptor);
 }
 
@@ -75,6 +75,13 @@ void XcbWindow::Publish(std::shared_ptr<XcbSession> next)
 
 void XcbWindow::Close()
 {
+    const auto closed = session; // the listener, too, may close it, and open another one
+    if (closed) closed->TellKeysUp();
+    if (closed == session) End();
+}
+
+void XcbWindow::End()
+{
     if (!session) return;
     session->End();
     std::shared_ptr<XcbSession> ended;
@@ -93,6 +100,7 @@ bool XcbWindow::Serve(int milliseconds)
     if (!served || !served->Runs()) return false;
     served->Wait(milliseconds, wakeDescriptor, -1);
     served->TellAll();
+    if (!served->Lives()) served->TellKeysUp(); // nobody else would tell
     return session && session->Runs();
 }
 

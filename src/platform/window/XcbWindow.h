@@ -45,6 +45,7 @@ public:
     void StopSharing();
 
 private:
+    void End();
     bool Refuse(const char* what);
     XcbSession* Living() const { return session && session->Lives() ? session.get() : nullptr; }
     void Publish(std::shared_ptr<XcbSession> next);
