@@ -17,8 +17,11 @@ using KeyFaces = std::array<KeyFace, 4>;
 /// The code of key::, or 0 where the toolkit has none.
 ///
 /// The letter that the key shows in the layout in force. Where that is no Latin one, what it shows in another layout,
-/// at last what is printed at this place of an American keyboard. Digits that need Shift count without it too. layout
-/// in force, 0..3 numLock  keypad keys are digits number   of the key, as Linux numbers them for X
+/// at last what is printed at this place of an American keyboard. Digits that need Shift count without it too.
+///
+/// layout   in force, 0..3
+/// numLock  keypad keys are digits
+/// number   of the key, as Linux numbers them for X
 int KeyCodeOf(const KeyFaces& faces, int layout, bool numLock, int number);
 
 } // namespace korvane

@@ -47,15 +47,15 @@ protected:
     ~WindowListener() = default;
 };
 
-/// A child window of a fixed size in a window of the host's; opens and closes any number of times. Lengths and positions
-/// are in the toolkit's pixels, of which the screen may show each as a block.
+/// A child window of a fixed size in a window of the host's; opens and closes any number of times. Lengths and
+/// positions are in the toolkit's pixels, of which the screen may show each as a block.
 ///
 /// Everything belongs to the window's thread, which is the one that calls Open, but for the operations at the end.
 class Window : public PixelSurface {
 public:
     virtual ~Window() = default;
 
-    /// Shows the window at the parent's top-left corner and gives it the keyboard where that needs no asking. False, and
+    /// Shows the window at the parent's top-left corner; the keyboard stays with the host until TakeFocus. False, and
     /// still closed, when the system refuses.
     /// parent    the host's window: its number in the system
     /// listener  hears of everything until Close
@@ -73,7 +73,7 @@ public:
     /// once. 0: never.
     virtual void StartTimer(int milliseconds) = 0;
 
-    virtual void TakeFocus() = 0; // of the keyboard
+    virtual void TakeFocus() = 0;            // of the keyboard
     virtual Point Pointer() const = 0;       // relative to the window, as of the event that is told; (-1, -1) closed
     virtual Point ScreenPointer() const = 0; // the same place on the screen
     virtual Size ScreenSize() const = 0;

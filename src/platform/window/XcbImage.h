@@ -21,7 +21,7 @@ public:
     /// size   of the window, in the toolkit's pixels
     /// scale  how many pixels of the screen each of these takes across and down
     XcbImage(const XcbConnection& connection, xcb_window_t window, const XcbVisual& visual, Size size, int scale);
-    virtual ~XcbImage();
+    ~XcbImage();
     XcbImage(const XcbImage&) = delete;
 
     bool Copy(const PixelView& image, Rect source, Point target) override;
