@@ -3,12 +3,9 @@
 
 #include <csignal>
 #include <cstdio>
-#include <cstdlib>
 #include <map>
 #include <sstream>
-#include <string>
 #include <vector>
-#include <xcb/xcb.h>
 #include <xcb/xtest.h>
 
 #include "platform/window/XcbConnection.h"
@@ -58,26 +55,16 @@ public:
         xcb_create_window(server, static_cast<std::uint8_t>(depth), window, Root(), 100, 50, 400, 300, 0,
                           XCB_WINDOW_CLASS_INPUT_OUTPUT, visual.id,
                           XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_EVENT_MASK | XCB_CW_COLORMAP, values);
-        xcb_map_window(server, window);
-        Sync();
+        Now(xcb_map_window(server, window));
     }
 
     void* Parent() const { return reinterpret_cast<void*>(std::uintptr_t{window}); }
-    static xcb_window_t Number(void* handle)
-    {
-        return static_cast<xcb_window_t>(reinterpret_cast<std::uintptr_t>(handle));
-    }
-    void Destroy()
-    {
-        xcb_destroy_window(server, window);
-        Sync();
-    }
-    void Focus(xcb_window_t owner)
-    {
-        xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, owner, XCB_CURRENT_TIME);
-        Sync();
-    }
+    static xcb_window_t Number(void* handle) { return static_cast<xcb_window_t>(std::uintptr_t(handle)); }
+    void Destroy() { Now(xcb_destroy_window(server, window)); }
+    void Focus(xcb_window_t owner) { Now(xcb_set_input_focus(server, XCB_INPUT_FOCUS_PARENT, owner, 0)); }
     xcb_window_t Root() const { return server.screen->root; }
+    bool Has(xcb_window_t owner, int name) const { return !!server.Property(owner, server.Atom(name), false); }
+    void Now(xcb_void_cookie_t) { Sync(); } // the request is done when this returns
     void Sync() { std::free(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr)); }
     xcb_window_t Focus() const
     {

@@ -1,14 +1,9 @@
 // What tests of the X window share: a display, a host, a window and an ear that writes down what it hears.
 #pragma once
 
-#include <chrono>
 #include <functional>
 #include <gtest/gtest.h>
-#include <memory>
-#include <sstream>
-#include <string>
-#include <utility>
-#include <vector>
+#include <thread>
 
 #include "platform/window/Display.h"
 #include "platform/window/XcbWindow.h"
@@ -74,14 +69,17 @@ protected:
         Heard();
         return opened;
     }
-    void ServeFor(int milliseconds)
+    /// At the latest when other programs have had their time.
+    static bool Soon(const std::function<bool()>& happened)
     {
-        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
-        while (window.Serve(milliseconds / 4) && std::chrono::steady_clock::now() < end) {}
+        for (int wait = 0; wait < 500; ++wait, std::this_thread::sleep_for(std::chrono::milliseconds(10)))
+            if (happened()) return true;
+        return false;
     }
     std::string Heard(int milliseconds = 40)
     {
-        ServeFor(milliseconds);
+        const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);
+        while (window.Serve(milliseconds / 4) && std::chrono::steady_clock::now() < end) {}
         return std::exchange(ear.said, std::ostringstream()).str();
     }
 

@@ -24,9 +24,8 @@ TEST_F(XcbInput, MouseEventsKeepTheirPlaces)
     // clang-format on
     ASSERT_TRUE(Open()) << window.LastError();
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
         host->Do(c.acts);
-        EXPECT_EQ(Heard(), c.heard);
+        EXPECT_EQ(Heard(), c.heard) << c.what;
     }
 }
 
@@ -39,7 +38,6 @@ TEST_F(XcbInput, WarpedPointersGoOnFromThere)
     EXPECT_FALSE(window.HasGrab());
     window.Grab(true);
     EXPECT_TRUE(window.HasGrab());
-    EXPECT_EQ(window.ScreenSize(), (Size{600, 800}));
     host->Do("to 200,549");
     Heard();
     EXPECT_EQ(window.ScreenPointer(), (Point{300, 599}));
@@ -58,20 +56,19 @@ TEST_F(XcbInput, WarpedPointersGoOnFromThere)
 // Another program's grab is not ours; a window out of sight holds nothing, nor does it once it is seen again.
 TEST_F(XcbInput, GrabsAreTrueToTheServer)
 {
-    ASSERT_TRUE(Open());
+    XcbWindow outer, inner; // around ours: of what befalls the outer one only the lost grab tells
+    ASSERT_TRUE(outer.Open(host->Parent(), {60, 80}, ear) && inner.Open(outer.Handle(), {60, 80}, ear));
+    ASSERT_TRUE(window.Open(inner.Handle(), {60, 80}, ear));
     const auto others = xcb_grab_pointer(host->server, 0, host->Root(), 0, 1, 1, 0, 0, 0);
     std::free(xcb_grab_pointer_reply(host->server, others, nullptr));
     window.Grab(false);
     EXPECT_FALSE(window.HasGrab());
-    xcb_ungrab_pointer(host->server, 0);
-    host->Sync();
+    host->Now(xcb_ungrab_pointer(host->server, 0));
     window.Grab(false);
     EXPECT_TRUE(window.HasGrab());
-    xcb_unmap_window(host->server, host->window);
-    host->Sync();
+    host->Now(xcb_unmap_window(host->server, Host::Number(outer.Handle())));
     EXPECT_FALSE(window.HasGrab());
-    xcb_map_window(host->server, host->window);
-    host->Sync();
+    host->Now(xcb_map_window(host->server, Host::Number(outer.Handle())));
     Heard();
     EXPECT_FALSE(window.HasGrab());
 }
@@ -95,9 +92,9 @@ TEST_F(XcbInput, KeysComeUpAsTheyWentDown)
 // Keys that the listener does not use, and those that were not meant for it, reach the host; others do not.
 TEST_F(XcbInput, UnusedKeysReachTheHost)
 {
-    const auto reachedHost = [&] { // a press and a release
+    const auto reachedHost = [&](std::size_t letters) {
         std::ostringstream keys;
-        for (int wait = 0; wait < 50 && keys.str().size() < 6; ++wait) {
+        for (int wait = 0; wait < 50 && keys.str().size() < letters; ++wait) {
             window.Serve(10);
             host->Sync();
             while (XcbEvent event{xcb_poll_for_event(host->server)})
@@ -111,24 +108,37 @@ TEST_F(XcbInput, UnusedKeysReachTheHost)
     window.TakeFocus();
     host->Do("down 65 up 65 down 38 up 38");
     EXPECT_EQ(Heard(), "down 20 +0; up 20 +0; down 41 +0; up 41 +0");
-    EXPECT_EQ(reachedHost(), "+65-65");
-    host->Do("down 38");
+    EXPECT_EQ(reachedHost(6), "+65-65");
+    host->Do("to 5,5 down 38");
     Heard();
     host->Focus(host->window);
-    EXPECT_EQ(Heard(), "up 41 +0");   // the keyboard is gone, and with it the key
-    host->Do("to 5,5 down 39 up 39"); // keys come by here now, but are the host's
-    EXPECT_EQ(Heard(), "move 5,5");
-    EXPECT_EQ(reachedHost(), "+39-39");
+    EXPECT_EQ(Heard(), "up 41 +0");  // the keyboard is gone, and with it the key
+    host->Do("up 38 down 39 up 39"); // keys come by here now, but are the host's
+    EXPECT_EQ(reachedHost(9), "-38+39-39");
+    const auto number = Host::Number(window.Handle());
+    xcb_key_press_event_t sent{XCB_KEY_PRESS, 38, 0, 0, host->Root(), number, 0, 0, 0, 90, 90, 0, 1, 0};
+    host->Now(xcb_send_event(host->server, 0, number, XCB_EVENT_MASK_KEY_PRESS, reinterpret_cast<const char*>(&sent)));
+    EXPECT_EQ(Heard(), "down 41 +0"); // a host that keeps the keyboard sends keys; they do not move the mouse
+    EXPECT_EQ(window.Pointer(), (Point{5, 5}));
 }
 
 TEST_F(XcbInput, TheFocusGoesBackToTheHost)
 {
-    ASSERT_TRUE(Open());
+    XcbWindow other;
+    ASSERT_TRUE(other.Open(host->Parent(), {9, 9}, ear) && Open());
     EXPECT_NE(host->Focus(), Host::Number(window.Handle()));
+    other.TakeFocus();
     window.TakeFocus();
     EXPECT_EQ(host->Focus(), Host::Number(window.Handle()));
     window.Close();
-    EXPECT_EQ(host->Focus(), host->window);
+    EXPECT_EQ(host->Focus(), Host::Number(other.Handle())); // who had it before
+    ASSERT_TRUE(Open());
+    xcb_reparent_window(host->server, Host::Number(window.Handle()), Host::Number(other.Handle()), 0, 0);
+    host->Focus(host->Root());
+    Heard();
+    window.TakeFocus();
+    window.Close();
+    EXPECT_EQ(host->Focus(), Host::Number(other.Handle())); // its parent by then
     ASSERT_TRUE(Open());
     window.TakeFocus();
     host->Focus(host->Root());
@@ -136,65 +146,65 @@ TEST_F(XcbInput, TheFocusGoesBackToTheHost)
     EXPECT_EQ(host->Focus(), host->Root()); // somebody else's by then
 }
 
-/// Another program that drags something over the window, and writes down the answers.
-class DragSource {
-public:
-    DragSource(Host& theHost, XcbWindow& theWindow) : host(theHost), server(theHost.server), window(theWindow)
-    {
-        xcb_set_selection_owner(server, host.window, server.Atom(atom::XdndSelection), XCB_CURRENT_TIME);
-    }
-    std::string Drag(std::uint32_t version, int type, const std::string& what)
+/// Another program drags something over the window, and writes down the answers.
+class FileDrops : public OpenWindow {
+protected:
+    /// place   in the host's window
+    /// atHost  that is what is addressed, as by programs that look at no windows within others
+    std::string Drag(std::uint32_t version, int type, const std::string& what, Point place, bool atHost)
     {
         data = what;
-        heard.clear();
-        Send(atom::XdndEnter, version << 24, XCB_ATOM_STRING, server.Atom(type));
-        Send(atom::XdndPosition, 0, 112 << 16 | 84, XCB_CURRENT_TIME);
+        target = Host::Number(window.Handle());
+        named = atHost ? host->window : target;
+        answers.clear();
+        xcb_set_selection_owner(host->server, host->window, Atom(atom::XdndSelection), XCB_CURRENT_TIME);
+        Send(atom::XdndEnter, version << 24, XCB_ATOM_STRING, Atom(type));
+        Send(atom::XdndPosition, 0, (place.x + 100) << 16 | (place.y + 50), XCB_CURRENT_TIME);
         Send(atom::XdndDrop, 0, 1000 + version, 0);
-        for (int n = 0; n < 30 && heard.find("end") == std::string::npos; ++n) {
+        for (int n = 0; n < 30 && answers.find("end") == std::string::npos; ++n) {
             window.Serve(10);
-            host.Sync();
-            while (XcbEvent answer{xcb_poll_for_event(server)}) Take(*answer);
+            host->Sync();
+            while (XcbEvent answer{xcb_poll_for_event(host->server)}) Take(*answer);
         }
-        return heard;
+        return answers;
     }
-
-private:
+    xcb_atom_t Atom(int index) const { return host->server.Atom(index); }
     void Send(int name, std::uint32_t b, std::uint32_t c, std::uint32_t d)
     {
-        xcb_client_message_event_t event{XCB_CLIENT_MESSAGE, 32, 0, target, server.Atom(name), {}};
-        const std::uint32_t values[] = {host.window, b, c, d, server.Atom(atom::XdndActionCopy)};
-        std::copy_n(values, 5, event.data.data32);
-        xcb_send_event(server, 0, target, 0, reinterpret_cast<const char*>(&event));
-        host.Sync();
+        const xcb_client_message_event_t event{XCB_CLIENT_MESSAGE,
+                                               32,
+                                               0,
+                                               named,
+                                               Atom(name),
+                                               {.data32 = {host->window, b, c, d, Atom(atom::XdndActionCopy)}}};
+        host->Now(xcb_send_event(host->server, 0, target, 0, reinterpret_cast<const char*>(&event)));
     }
     void Take(const xcb_generic_event_t& event)
     {
         const auto& answer = reinterpret_cast<const xcb_client_message_event_t&>(event);
         const auto& wish = reinterpret_cast<const xcb_selection_request_event_t&>(event);
-        if ((event.response_type & 0x7F) == XCB_CLIENT_MESSAGE) {
-            const bool copies = (answer.data.data32[2] | answer.data.data32[4]) == server.Atom(atom::XdndActionCopy);
-            heard += answer.type == server.Atom(atom::XdndFinished) ? " end" : "status";
-            heard += std::to_string(answer.data.data32[1]) + (copies ? "copy" : "");
+        if ((event.response_type & 0x7F) == XCB_CLIENT_MESSAGE && answer.data.data32[0] == named) {
+            const bool copies = (answer.data.data32[2] | answer.data.data32[4]) == Atom(atom::XdndActionCopy);
+            answers += answer.type == Atom(atom::XdndFinished) ? " end" : "status";
+            answers += std::to_string(answer.data.data32[1]) + (copies ? "copy" : "");
         } else if (event.response_type == XCB_SELECTION_REQUEST) {
-            xcb_change_property(server, 0, target, wish.property, wish.target, 8,
+            xcb_change_property(host->server, 0, target, wish.property, wish.target, 8,
                                 static_cast<std::uint32_t>(data.size()), data.data());
             const xcb_selection_notify_event_t done{
                 XCB_SELECTION_NOTIFY, 0, 0, wish.time, target, wish.selection, wish.target, wish.property};
-            xcb_send_event(server, 0, target, 0, reinterpret_cast<const char*>(&done));
+            xcb_send_event(host->server, 0, target, 0, reinterpret_cast<const char*>(&done));
         }
     }
 
-    Host& host;
-    const XcbConnection& server;
-    XcbWindow& window;
-    const xcb_window_t target = Host::Number(window.Handle());
-    std::string data, heard;
+    xcb_window_t target, named;
+    std::string data, answers;
 };
 
-TEST_F(XcbInput, FilesAreDropped)
+TEST_F(FileDrops, ReachTheWindow)
 {
     // clang-format off
-    struct Case { const char* what; std::uint32_t version; int type; const char *data, *answers, *heard; };
+    struct Case { const char* what; std::uint32_t version; int type; const char *data, *answers, *heard; Point place{12, 34};
+                  bool atHost = false; };
     const Case cases[] = {
         {"a file",         5, atom::UriList, "file:///a%20b.wav\r\n",     "status1copy end1copy", "\\a b.wav 12,34"},
         {"an old program", 3, atom::UriList, "file:///a\r\n",             "status1copy end1copy", "\\a 12,34"},
@@ -202,15 +212,24 @@ TEST_F(XcbInput, FilesAreDropped)
         {"no file",        5, atom::UriList, "http://a/b\r\n",            "status1copy end0",     ""},
         {"too old",        2, atom::UriList, "file:///a\r\n",             "",                     ""},
         {"two files",      4, atom::UriList, "file:///1\r\nfile:///2",     "status1copy end1copy", "\\1 12,34"},
+        {"to the host",    5, atom::UriList, "file:///a\r\n",             "status1copy end1copy", "\\a 9,9", {9, 9}, true},
+        {"beside us",      5, atom::UriList, "file:///a\r\n",             "status0 end0",         "", {80, 34}, true},
     };
     // clang-format on
     ASSERT_TRUE(Open());
-    DragSource source(*host, window);
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.what);
-        EXPECT_EQ(source.Drag(c.version, c.type, c.data), c.answers);
-        EXPECT_EQ(Heard(), c.heard);
+        EXPECT_EQ(Drag(c.version, c.type, c.data, c.place, c.atHost), c.answers) << c.what;
+        EXPECT_EQ(Heard(), c.heard) << c.what;
     }
+    EXPECT_TRUE(host->Has(host->window, atom::XdndAware) && host->Has(host->window, atom::XdndProxy));
+    window.Close();
+    EXPECT_FALSE(host->Has(host->window, atom::XdndAware) || host->Has(host->window, atom::XdndProxy));
+    ASSERT_TRUE(Open());
+    const xcb_atom_t version = 5; // the host wants drops itself
+    xcb_change_property(host->server, 0, host->window, Atom(atom::XdndAware), 4, 32, 1, &version);
+    EXPECT_TRUE(Soon([&] { return !window.Serve(10) || !host->Has(host->window, atom::XdndProxy); }));
+    window.Close();
+    EXPECT_TRUE(host->Has(host->window, atom::XdndAware));
 }
 
 } // namespace korvane
