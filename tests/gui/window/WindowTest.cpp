@@ -33,12 +33,22 @@ struct Ear : CControl {
 };
 
 struct WindowTest : testing::Test, EditorRig {
-    Ear* Add(Rect place, int number)
+    Ear* Add(Rect place, int number, CControlGroup* group = nullptr)
     {
         auto* ear = new Ear(place, number, log);
-        editor->AddControl(ear);
+        if (group)
+            group->AddControl(ear);
+        else
+            editor->AddControl(ear);
         return ear;
     }
+    CControlGroup* AddGroup(int number)
+    {
+        auto* group = new CControlGroup(editor.get(), number);
+        editor->AddGroup(group);
+        return group;
+    }
+    const std::vector<Rect> none, all{{0, 0, 300, 200}};
 };
 
 TEST_F(WindowTest, OpensOnceAndAgainAfterClose)
@@ -77,32 +87,25 @@ TEST_F(WindowTest, DoesNotOpenWithoutContentOrWindow)
 TEST_F(WindowTest, GroupsAreFoundAfterTheMainOne)
 {
     ASSERT_TRUE(Open());
-    auto* first = new CControlGroup(editor.get(), 7);
-    auto* second = new CControlGroup(editor.get(), 8);
-    for (CControlGroup* group : {first, second, first}) editor->AddGroup(group);
+    CControlGroup *first = AddGroup(7), *second = AddGroup(8);
+    editor->AddGroup(first);
     EXPECT_EQ(editor->GetGroupByIndex(0), first);
     EXPECT_EQ(editor->GetGroupByIndex(1), second);
     EXPECT_EQ(editor->GetGroupByIndex(2), nullptr);
     EXPECT_EQ(editor->GetGroupByIndex(-1), nullptr);
     EXPECT_EQ(editor->FindGroupById(8), second);
     EXPECT_EQ(editor->FindGroupById(-1), nullptr) << "the main group is not found";
-    second->AddControl(new Ear({0, 0, 5, 5}, 9, log));
-    EXPECT_EQ(editor->FindControl(9)->GetGroup(), second);
+    EXPECT_EQ(editor->FindControl(9), Add({0, 0, 5, 5}, 9, second));
     editor->SetActiveGroup(second);
     second->Capture(editor->FindControl(9), false);
     editor->SetDirty(false);
     editor->RemoveGroup(second);
-    EXPECT_EQ(editor->activeGroup, nullptr);
-    EXPECT_EQ(editor->capturingGroup, nullptr);
-    EXPECT_FALSE(window->grabbed);
+    EXPECT_FALSE(editor->activeGroup || editor->capturingGroup || window->grabbed);
     EXPECT_TRUE(editor->IsDirty());
-    CControlGroup* main = editor->GetMainGroup();
-    editor->RemoveGroup(main);
-    EXPECT_EQ(editor->GetMainGroup(), main);
+    editor->RemoveGroup(editor->GetMainGroup());
+    EXPECT_NE(editor->GetMainGroup(), nullptr);
     editor->SetActiveGroup(first);
-    auto* focused = new Ear({0, 0, 5, 5}, 9, log);
-    first->AddControl(focused);
-    focused->SetFocus(true);
+    Add({0, 0, 5, 5}, 9, first)->SetFocus(true);
     editor->Close();
     EXPECT_EQ(editor->activeGroup, nullptr);
 }
@@ -111,10 +114,8 @@ TEST_F(WindowTest, EventsAndTicksReachTheActiveGroupAlone)
 {
     ASSERT_TRUE(Open());
     Ear* below = Add({0, 0, 50, 50}, 1);
-    auto* layer = new CControlGroup(editor.get(), 7);
-    editor->AddGroup(layer);
-    auto* above = new Ear({0, 0, 50, 50}, 2, log);
-    layer->AddControl(above);
+    CControlGroup* layer = AddGroup(7);
+    Ear* above = Add({0, 0, 50, 50}, 2, layer);
     Move(10, 20);
     EXPECT_EQ(Take(), (Log{"mouse 10 20 mod 0 type 6", "1 move 10 20", "2 move 10 20"}));
     editor->SetActiveGroup(layer);
@@ -146,15 +147,12 @@ TEST_F(WindowTest, TellsPositionModifiersWheelKeysAndDrops)
                            "key 32", "key 81", "drop D:\\a b.wav -3 250"}));
     EXPECT_EQ(editor->lastMousePosition, (Point{-3, 250})) << "a wheel has no place";
     EXPECT_EQ(window->usedKeys, (std::vector<bool>{true, false, false}));
-    EXPECT_FALSE(window->focused);
-    Press(mouse::RightDown);
-    EXPECT_FALSE(window->focused);
-    Press(mouse::LeftDown);
-    EXPECT_TRUE(window->focused);
-    window->focused = false;
-    editor->flags = 2;
-    Press(mouse::LeftDown);
-    EXPECT_FALSE(window->focused);
+    for (const auto& [flags, kind] : {std::pair{3, mouse::RightDown}, {3, mouse::LeftDown}, {2, mouse::LeftDown}}) {
+        window->focused = false;
+        editor->flags = flags;
+        Press(kind);
+        EXPECT_EQ(window->focused, flags == 3 && kind == mouse::LeftDown);
+    }
 }
 
 TEST_F(WindowTest, AHiddenDragHasNoEnd)
@@ -231,18 +229,16 @@ TEST_F(WindowTest, ATickShowsWhatIsDirtyAndNoMore)
     window->copies.clear();
     left->draws = right->draws = 0;
     Tick();
-    EXPECT_TRUE(window->copies.empty());
+    EXPECT_EQ(window->copies, none);
     left->SetDirty(true);
     Tick();
     EXPECT_EQ(window->copies, (std::vector<Rect>{{10, 20, 30, 40}}));
-    EXPECT_EQ(left->draws, 1);
-    EXPECT_EQ(right->draws, 0);
+    EXPECT_EQ(std::pair(left->draws, right->draws), std::pair(1, 0));
     editor->SetDirty(true);
     window->copies.clear();
     Tick();
-    EXPECT_EQ(window->copies, (std::vector<Rect>{{0, 0, 300, 200}})) << "one copy at the end";
-    EXPECT_EQ(left->draws, 2);
-    EXPECT_EQ(right->draws, 1);
+    EXPECT_EQ(window->copies, all) << "one copy at the end";
+    EXPECT_EQ(std::pair(left->draws, right->draws), std::pair(2, 1));
     EXPECT_FALSE(editor->IsDirty());
     Move(12, 22);
     Tick();
@@ -261,7 +257,6 @@ TEST_F(WindowTest, ATickShowsWhatIsDirtyAndNoMore)
 TEST_F(WindowTest, LockedRedrawsAreShownOnceAfterwards)
 {
     ASSERT_TRUE(Open());
-    const std::vector<Rect> none, all{{0, 0, 300, 200}};
     editor->LockRedraw();
     editor->LockRedraw();
     editor->RedrawRect({1, 1, 2, 2});
@@ -308,12 +303,10 @@ TEST_F(WindowTest, ControlsShowTheEngine)
     Ear* knob = Add({0, 0, 5, 5}, 92);
     Ear* label = Add({0, 0, 5, 5}, -1);
     char text[1024];
-    knob->GetParameterName(text);
-    EXPECT_STREQ(text, "name 92");
-    knob->GetParameterDisplay(text);
-    EXPECT_STREQ(text, "display 92");
-    knob->GetParameterLabel(text);
-    EXPECT_STREQ(text, "label 92");
+    const auto read = [&](auto ask) { return (knob->*ask)(text), std::string(text); };
+    EXPECT_EQ(read(&CControl::GetParameterName), "name 92");
+    EXPECT_EQ(read(&CControl::GetParameterDisplay), "display 92");
+    EXPECT_EQ(read(&CControl::GetParameterLabel), "label 92");
     EXPECT_EQ(knob->GetDefaultValue(), 0.092f);
     Add({0, 0, 5, 5}, 153)->BeginEdit();
     Ear* stored = Add({0, 0, 5, 5}, 154); // no host knows it
@@ -325,14 +318,11 @@ TEST_F(WindowTest, ControlsShowTheEngine)
     EXPECT_EQ(Take(), (Log{"begin 153 0", "end 92 0"}));
 
     Tick();
-    editor->notices.Post(92, 0.75f);
-    editor->notices.Post(196, 0.5f);
-    editor->notices.Post(-1, 0.5f);
+    for (const int index : {92, 196, -1}) editor->notices.Post(index, 0.75f);
     EXPECT_EQ(knob->GetValue(), 0.0f) << "the window's thread takes it";
     knob->draws = 0;
     Tick();
-    EXPECT_EQ(knob->GetValue(), 0.75f);
-    EXPECT_EQ(knob->draws, 1);
+    EXPECT_EQ(std::pair(knob->GetValue(), knob->draws), std::pair(0.75f, 1));
     engine.SetParameter(92, 0.5f);
     editor->notices.PostAll();
     Tick();
@@ -379,8 +369,8 @@ TEST_F(WindowTest, AsksForFiles)
     EXPECT_EQ(selector.Open(editor.get()), nullptr) << "there is no such file";
     EXPECT_STREQ(selector.Save(editor.get()), answer.c_str());
     EXPECT_TRUE(asked.save);
-    for (const std::string& none : {std::string(), std::string(1024, 'x')}) {
-        answer = none;
+    for (const std::string& nothing : {std::string(), std::string(1024, 'x')}) {
+        answer = nothing;
         EXPECT_EQ(selector.Save(editor.get()), nullptr);
         EXPECT_STREQ(selector.path, "");
     }
