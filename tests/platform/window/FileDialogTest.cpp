@@ -92,7 +92,7 @@ TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
         {"with an extension", "echo $PWD/new.kvs", "new.kvs",  1},
         {"hidden",            "echo $PWD/.new",    ".new.wav", 1},
         {"yes",               "echo $PWD/old",     "old.wav",  2},
-        {"yes, unseen",       "case \"$*\" in *--question*) ;; *) echo $PWD/old; esac", "old.wav", 2},
+        {"yes, unseen", "case \"$*\" in *--question*) ;; *old.wav*) exit 1;; *) echo $PWD/old; esac", "old.wav", 2},
         {"no, another", "case \"$*\" in *--question*) exit 1;; *old.wav*) echo $PWD/new;; *) echo $PWD/old; esac",
                         "new.wav", 3},
         {"no, none",    "case \"$*\" in *--question*) exit 1;; *old.wav*) exit 1;; *) echo $PWD/old; esac", "", 3},
