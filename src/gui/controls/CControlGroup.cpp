@@ -24,7 +24,7 @@ CControl* CControlGroup::RemoveControl(CControl* control)
     CControl** place = &controls;
     while (*place && *place != control) place = &(*place)->next;
     if (!control || !*place) return nullptr;
-    if (capture == control) Release();
+    if (capture == control) CancelCapture();
     if (focus == control) SetFocusControl(nullptr);
     CControl* const after = control->next;
     *place = after;
@@ -36,7 +36,7 @@ CControl* CControlGroup::RemoveControl(CControl* control)
 
 void CControlGroup::Clear()
 {
-    if (capture) Release();
+    CancelCapture();
     while (controls) RemoveControl(controls);
 }
 
@@ -68,6 +68,12 @@ void CControlGroup::RefreshValues()
 void CControlGroup::CancelAll()
 {
     for (CControl* control = controls; control; control = control->next) control->CancelInteraction();
+    if (capture) Release();
+}
+
+void CControlGroup::CancelCapture()
+{
+    if (capture) capture->CancelInteraction();
     if (capture) Release();
 }
 
@@ -153,26 +159,14 @@ void CControlGroup::Release()
 
 void CControlGroup::Tick(bool pointerMoved, int x, int y)
 {
-    CControl* const holder = capture ? capture : focus;
-    if (holder && holder->hidden) holder->CancelInteraction(); // nobody sees it any more
-    CControl* const above = window && capture && capture->CoversOthers() ? capture : nullptr;
-    if (above) window->LockRedraw(); // one copy shows what changes below and what lies above
     DrawBehindFocus();
-    for (CControl* control = controls; control; control = control->next)
-        if (control != above) TickControl(*control, pointerMoved, x, y);
-    if (!above) return;
-    if (window->redrawPending) above->SetDirty(true);
-    TickControl(*above, pointerMoved, x, y);
-    window->UnlockRedrawPending();
-}
-
-void CControlGroup::TickControl(CControl& control, bool pointerMoved, int x, int y)
-{
-    if (control.hidden) control.hovered = false; // also when it is shown again
-    if (control.hidden || (focus && &control != focus)) return;
-    if (pointerMoved) Hover(control, x, y);
-    control.OnTick();
-    if (window) window->DrawControl(&control);
+    for (CControl* control = controls; control; control = control->next) {
+        if (control->hidden) control->hovered = false; // also when it is shown again
+        if (control->hidden || (focus && control != focus)) continue;
+        if (pointerMoved) Hover(*control, x, y);
+        control->OnTick();
+        if (window) window->DrawControl(control);
+    }
 }
 
 void CControlGroup::Hover(CControl& control, int x, int y)

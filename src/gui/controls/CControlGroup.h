@@ -45,6 +45,7 @@ public:
     virtual float GetDefaultValue(CControl* control);
     virtual CPluginUI* GetWindow() { return window; }
     // clang-format on
+    void CancelCapture(); // ends the interaction of who holds the mouse
 
     /// The one that an event at this place goes to while nobody holds mouse or focus; null: none.
     CControl* ControlAt(int x, int y);
@@ -61,7 +62,6 @@ public:
 private:
     void Route(CControl* control, int x, int y, int type);
     void Wheel(int x, int y);
-    void TickControl(CControl& control, bool pointerMoved, int x, int y);
     void Hover(CControl& control, int x, int y);
     void DrawBehindFocus();
 };

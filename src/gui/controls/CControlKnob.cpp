@@ -36,9 +36,11 @@ void CControlKnob::OnLeftDown(int x, int y)
 
 void CControlKnob::OnLeftUp(int x, int y)
 {
-    if (springBack && IsCapturing()) {
+    if (springBack && !springing && IsCapturing()) {
+        springing = true; // who hears of it may cancel what goes on, and so come back here
         SetValue(GetDefaultValue());
         NotifyChanged(true);
+        springing = false;
     }
     CControlNumber::OnLeftUp(x, y);
     ClosePopup();

@@ -67,6 +67,8 @@ private:
     bool LayOutPopup(CDrawBuffer* page);
     void OpenPopup();
     void ClosePopup();
+
+    bool springing = false;
 };
 
 } // namespace korvane

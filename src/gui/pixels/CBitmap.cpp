@@ -68,7 +68,7 @@ bool ReadTga(CFileStreamer& file, CBitmap& bitmap)
     file.ReadBlock(ignored, sizeof ignored);
     const int width = file.ReadWord(), height = file.ReadWord(), bits = file.ReadByte();
     file.ReadByte(); // the descriptor: whatever it says, the first row is the bottom one
-    if (bits != 24 && bits != 32) return false;
+    if (width == 0 || height == 0 || (bits != 24 && bits != 32)) return false;
     const std::int64_t pixelCount = std::int64_t{width} * height;
     if (pixelCount > kCheapPixels && pixelCount > file.fileSize) return false;
     if (identifierBytes > 0 && !file.Skip(identifierBytes)) file.position = file.fileSize; // no row is there

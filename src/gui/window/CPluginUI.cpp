@@ -3,6 +3,7 @@
 
 #include <cstring>
 #include <string>
+#include <utility>
 
 namespace korvane {
 
@@ -45,7 +46,6 @@ void CPluginUI::Close()
         groups = group->next;
         group->Delete();
     }
-    activeGroup = nullptr; // a group whose focus ends may have become active again
     backgroundId = -1;
 }
 
@@ -73,7 +73,7 @@ void CPluginUI::RemoveGroup(CControlGroup* group)
     CControlGroup** link = &groups->next; // the main group stays
     while (*link && *link != group) link = &(*link)->next;
     if (!*link) return;
-    if (capturingGroup == group) group->Release();
+    if (capturingGroup == group) group->CancelCapture();
     *link = group->next;
     group->Delete();
     if (activeGroup == group) activeGroup = nullptr;
@@ -96,10 +96,8 @@ CControlGroup* CPluginUI::GetGroupByIndex(int index)
 
 void CPluginUI::SetActiveGroup(CControlGroup* group)
 {
-    if (capturingGroup && capturingGroup->capture) capturingGroup->capture->CancelInteraction();
+    if (capturingGroup) capturingGroup->CancelCapture();
     ReleaseMouse();
-    if (capturingGroup) capturingGroup->capture = nullptr; // nobody would ever release it
-    capturingGroup = nullptr;
     activeGroup = group;
 }
 
@@ -162,10 +160,13 @@ void CPluginUI::Idle()
         moved = pointer != lastIdlePointer;
         lastIdlePointer = pointer;
     }
-    if (dirty) DrawBackground();
+    CControl* const holder = capturingGroup ? capturingGroup->capture : nullptr;
+    if (holder && holder->hidden) holder->CancelInteraction(); // nobody sees it any more
+    const bool whole = dirty;
+    if (whole) DrawBackground();
     TickGroups(moved);
     if (dirty || HasPendingRedraw()) {
-        dirty = false;
+        dirty = dirty && !whole; // what became dirty within this tick has no page behind it yet
         RedrawAll();
     }
 }
@@ -179,15 +180,23 @@ void CPluginUI::DrawBackground()
 void CPluginUI::TickGroups(bool moved)
 {
     const auto [x, y] = lastIdlePointer;
+    CControl* const holder = capturingGroup ? capturingGroup->capture : nullptr;
+    drawnLast = holder && holder->CoversOthers() ? holder : nullptr;
+    if (drawnLast) LockRedraw(); // one copy shows what changes below it and itself
     if (activeGroup)
         activeGroup->Tick(moved, x, y);
     else
         for (CControlGroup* group = groups; group; group = group->next) group->Tick(moved, x, y);
+    CControl* const last = std::exchange(drawnLast, nullptr);
+    if (!last) return;
+    if (redrawPending) last->SetDirty(true);
+    DrawControl(last);
+    UnlockRedrawPending();
 }
 
 void CPluginUI::DrawControl(CControl* control)
 {
-    if (!control || !(control->IsDirty() || dirty)) return;
+    if (!control || control == drawnLast || !(control->IsDirty() || dirty)) return;
     control->Draw(&backBuffer);
     control->SetDirty(false);
     if (!dirty) RedrawRect(control->GetRect());

@@ -71,6 +71,8 @@ public:
 private:
     void DrawBackground();
     void TickGroups(bool moved);
+
+    CControl* drawnLast = nullptr; // in a tick: covers others, of whatever group
 };
 
 } // namespace korvane

@@ -13,7 +13,7 @@ bool CSynthEditor::Open(int newHeight, int newWidth, void* parent)
 
 void CSynthEditor::BeginTick()
 {
-    if (notices.TakeAll()) RefreshAll();
+    if (!activeGroup && notices.TakeAll()) RefreshAll(); // an active group would be refreshed alone
     notices.Take([this](int index, float value) { ParameterChanged(index, value); });
     CPluginUI::BeginTick();
 }

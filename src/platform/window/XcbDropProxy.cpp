@@ -46,7 +46,8 @@ void XcbDropProxy::Remove()
 {
     if (topLevel == XCB_NONE) return;
     if (Is(atom::XdndProxy, {window})) xcb_delete_property(connection, topLevel, connection.Atom(atom::XdndProxy));
-    if (IsAwareForUs()) xcb_delete_property(connection, topLevel, connection.Atom(atom::XdndAware));
+    if (IsAwareForUs()) // a connection that ends at once would take the request along
+        connection.ErrorOf(xcb_delete_property_checked(connection, topLevel, connection.Atom(atom::XdndAware)));
     topLevel = XCB_NONE;
 }
 

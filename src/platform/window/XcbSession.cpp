@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <poll.h>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/Files.h"
 #include "platform/window/XcbChild.h"
@@ -84,7 +85,7 @@ void XcbSession::Fetch()
 
 void XcbSession::TellAll()
 {
-    if (!asking) keyboard.TellUnheard();
+    if (!asking) TellUnheard();
     while (Runs() && !events.empty()) {
         const XcbEvent event = std::move(events.front());
         events.pop_front();
@@ -153,11 +154,29 @@ void XcbSession::TellButton(const xcb_button_press_event_t& event)
     pointer.Take(reinterpret_cast<const xcb_motion_notify_event_t&>(event));
     pointer.TakeButton(event, down);
     time = event.time;
-    if (asking) return;
     if (event.detail >= 1 && event.detail <= 3)
-        listener.OnMouse((down ? mouse::LeftDown : mouse::LeftUp) + event.detail - 1, 0);
-    else if (down && (event.detail == 4 || event.detail == 5))
+        TellPress(event.detail - 1, down);
+    else if (!asking && down && (event.detail == 4 || event.detail == 5))
         listener.OnMouse(mouse::Wheel, event.detail == 4 ? 1 : -1);
+}
+
+/// Whose press was told hears of the release, if need be when the dialog is over that the press has opened.
+void XcbSession::TellPress(int button, bool down)
+{
+    const int bit = 1 << button;
+    if (asking) {
+        if (!down) unheardUp |= pressed & bit;
+        return;
+    }
+    pressed = down ? pressed | bit : pressed & ~bit;
+    listener.OnMouse((down ? mouse::LeftDown : mouse::LeftUp) + button, 0);
+}
+
+void XcbSession::TellUnheard()
+{
+    keyboard.TellUnheard();
+    for (int button = 0; button < 3; ++button)
+        if (std::exchange(unheardUp, unheardUp & ~(1 << button)) & 1 << button) TellPress(button, false);
 }
 
 /// A server that cannot keep it to itself tells of each repetition as a release and a press at the same time.

@@ -64,6 +64,8 @@ private:
     void Tell(const xcb_generic_event_t& event);
     void TellMotion(const xcb_motion_notify_event_t& event);
     void TellButton(const xcb_button_press_event_t& event);
+    void TellPress(int button, bool down);
+    void TellUnheard();
     void TellKey(const xcb_key_press_event_t& event);
     void TellFocus(const xcb_focus_in_event_t& event);
     void TellDrop(const xcb_selection_notify_event_t& event);
@@ -81,6 +83,8 @@ private:
     XcbDropProxy dropProxy;
     std::deque<XcbEvent> events; // have come and were not told yet
     bool moved = false;          // the pointer has, and nobody was told
+    int pressed = 0;             // bits: the buttons whose press was told
+    int unheardUp = 0;           // those of them that came up beside a dialog
     Rect exposed;                // what must be shown again, in the server's pixels
     int period = 0;              // of the timer, milliseconds; 0: none
     Clock::time_point due;

@@ -83,6 +83,7 @@ TEST(DropDown, ClosesWithoutAChoice)
 {
     for (int act = 0; act < 6; ++act) {
         ListRig s;
+        const Color page = s.OnScreen(25, 60);
         s.Open();
         if (act == 0) s.Click(290, 190);
         if (act == 1) s.Mouse(mouse::RightDown, 25, 45);
@@ -92,6 +93,8 @@ TEST(DropDown, ClosesWithoutAChoice)
         if (act == 5) s.list->ClearItems();
         s.Tick();
         EXPECT_TRUE(s.HoldsNothing() && s.Heard().empty()) << act;
+        s.Tick();
+        EXPECT_EQ(s.OnScreen(25, 60), page) << act;
     }
 }
 
@@ -140,7 +143,9 @@ TEST(DropDown, Scrolls)
 TEST(DropDown, LiesAboveEverything)
 {
     ListRig s;
-    auto* blinker = s.Add<Blinker>({0, 40, 300, 100});
+    auto* blinker = new Blinker({0, 40, 300, 100}, -1);
+    auto* page = new CControlGroup(s.editor.get(), 7); // after the list's
+    s.editor->AddGroup(page), page->AddControl(blinker);
     blinker->backgroundColor = Rgb(255, 0, 0);
     s.Tick(), s.Click(25, 25), blinker->ticks = 0;
     for (const Color blue : {0x3Cu, 0x78u, 0xB4u, 0xF0u, 0xF1u}) { // of the list, about

@@ -113,6 +113,18 @@ TEST(Gestures, AreToldInOrder)
     }
 }
 
+TEST(Knob, SpringsBackOnceWhateverItsHearerCancels)
+{
+    ControlRig rig;
+    Make(rig, Spring, 0);
+    rig.editor->onChange = [&](CControl*) { rig.editor->SetActiveGroup(nullptr); };
+    rig.Mouse(mouse::LeftDown, 20, 20);
+    rig.Mouse(mouse::Move, 20, 10);
+    const Log heard = rig.Heard();
+    EXPECT_EQ(heard.back(), "end 100 0");
+    EXPECT_EQ(std::count(heard.begin(), heard.end(), heard.back()), 1);
+}
+
 // Values that are none, and places at the ends of int.
 TEST(Controls, TakeWildNumbers)
 {

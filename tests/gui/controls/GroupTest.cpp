@@ -83,8 +83,6 @@ TEST_F(GroupTest, TicksAndDrawsWhatIsSeen)
     EXPECT_EQ(Heard(), (Log{"b:enter", "b:tick"}));
     editor->SetDirty(true), Tick();
     EXPECT_EQ(Heard(), (Log{"a:draw", "c:draw", "b:tick", "b:draw"}));
-    b->hidden = true, Tick();
-    EXPECT_EQ(Heard(), (Log{"b:left-up", "b:right-up", "b:middle-up"})) << "nobody sees it any more";
 }
 
 // Which alone is offered files then.

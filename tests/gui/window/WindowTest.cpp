@@ -325,6 +325,9 @@ TEST_F(WindowTest, ControlsShowTheEngine)
     EXPECT_EQ(std::pair(knob->GetValue(), knob->draws), std::pair(0.75f, 1));
     engine.SetParameter(92, 0.5f);
     editor->notices.PostAll();
+    editor->SetActiveGroup(AddGroup(7)); // keeps the rest as it is
+    Tick();
+    editor->SetActiveGroup(nullptr);
     Tick();
     EXPECT_EQ(knob->GetValue(), 0.5f);
     EXPECT_TRUE(Take().empty()) << "the host hears of none of it";

@@ -110,6 +110,24 @@ TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
     }
 }
 
+TEST_F(FileDialogs, AButtonThatComesUpBesideThemIsHeardAfterwards)
+{
+    Script("zenity", "sleep 0.3; exit 1");
+    ear.onMouse = [&](int kind) {
+        if (kind != mouse::LeftDown) return;
+        window.StartTimer(5);
+        window.AskForFile(question);
+    };
+    ear.onTimer = [&] {
+        window.StartTimer(0);
+        host->Do("release 1");
+    };
+    ASSERT_TRUE(Open());
+    host->Do("to 5,5 press 1");
+    EXPECT_EQ(Heard(100), "move 5,5; L 5,5");
+    EXPECT_EQ(Heard(), "l 5,5");
+}
+
 // The window ticks on beside a dialog but hears no mouse and no keys, and takes the dialog along when it ends. What
 // came up meanwhile is told when the dialog alone ends.
 TEST_F(FileDialogs, EndWithTheWindow)

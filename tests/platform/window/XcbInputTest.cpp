@@ -230,6 +230,17 @@ TEST_F(FileDrops, ReachTheWindow)
     EXPECT_TRUE(Soon([&] { return !window.Serve(10) || !host->Has(host->window, atom::XdndProxy); }));
     window.Close();
     EXPECT_TRUE(host->Has(host->window, atom::XdndAware));
+
+    xcb_delete_property(host->server, host->window, Atom(atom::XdndAware));
+    const xcb_window_t frame = xcb_generate_id(host->server); // in the host's, and ends before it
+    xcb_create_window(host->server, 0, frame, host->window, 0, 0, 9, 9, 0, 0, 0, 0, nullptr);
+    host->Sync();
+    ASSERT_TRUE(window.Open(reinterpret_cast<void*>(std::uintptr_t{frame}), {9, 9}, ear));
+    xcb_destroy_window(host->server, frame);
+    host->Sync();
+    EXPECT_TRUE(Soon([&] { return !window.Serve(10); }));
+    window.Close();
+    EXPECT_FALSE(host->Has(host->window, atom::XdndAware));
 }
 
 } // namespace korvane
