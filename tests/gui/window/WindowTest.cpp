@@ -48,7 +48,7 @@ struct WindowTest : testing::Test, EditorRig {
         editor->AddGroup(group);
         return group;
     }
-    const std::vector<Rect> none, all{{0, 0, 300, 200}};
+    const std::vector<Rect> none{}, all{{0, 0, 300, 200}};
 };
 
 TEST_F(WindowTest, OpensOnceAndAgainAfterClose)
