@@ -110,19 +110,5 @@ TEST_F(DesktopTest, TheScreenShowsTheBackBufferAfterADragAmongTheHostsWrites)
     EXPECT_EQ(different, 0);
 }
 
-TEST_F(DesktopTest, AnEndOfTheHostsWindowOrOfTheServerCloses)
-{
-    ASSERT_TRUE(Open());
-    host->Destroy();
-    EXPECT_TRUE(Within(5s, [&] { return !thread->Handle(); }));
-    thread->Close();
-    host = std::make_unique<Host>();
-    ASSERT_TRUE(Open());
-    display->Kill();
-    EXPECT_TRUE(Within(5s, [&] { return !thread->Handle(); }));
-    thread->Close();
-    EXPECT_FALSE(Open());
-}
-
 } // namespace
 } // namespace korvane
