@@ -95,7 +95,8 @@ TEST_F(WindowTest, GroupsAreFoundAfterTheMainOne)
     EXPECT_EQ(editor->GetGroupByIndex(-1), nullptr);
     EXPECT_EQ(editor->FindGroupById(8), second);
     EXPECT_EQ(editor->FindGroupById(-1), nullptr) << "the main group is not found";
-    EXPECT_EQ(editor->FindControl(9), Add({0, 0, 5, 5}, 9, second));
+    CControl* control = Add({0, 0, 5, 5}, 9, second);
+    EXPECT_EQ(editor->FindControl(9), control);
     editor->SetActiveGroup(second);
     second->Capture(editor->FindControl(9), false);
     editor->SetDirty(false);
