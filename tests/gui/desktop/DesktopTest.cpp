@@ -7,9 +7,9 @@
 
 #include "demo/DemoEditor.h"
 #include "demo/DemoSkin.h"
+#include "desktop/Display.h"
 #include "gui/window/EditorThread.h"
 #include "platform/window/DesktopWindow.h"
-#include "platform/window/Display.h"
 
 namespace korvane {
 namespace {
@@ -69,8 +69,7 @@ TEST_F(DesktopTest, TwoHundredOpeningsLeaveNothing)
         ASSERT_TRUE(Open()) << n;
         thread->Close();
     }
-    EXPECT_EQ(OpenFiles(), files);
-    EXPECT_EQ(Windows(), 0);
+    EXPECT_EQ(std::pair(OpenFiles(), Windows()), std::pair(files, 0L));
 }
 
 TEST_F(DesktopTest, TheScreenShowsTheBackBufferAfterADragAmongTheHostsWrites)

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 #include <thread>
 
-#include "platform/window/Display.h"
+#include "desktop/Display.h"
 #include "platform/window/XcbWindow.h"
 
 namespace korvane {

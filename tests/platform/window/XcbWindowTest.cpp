@@ -23,7 +23,6 @@ protected:
             expected[n] = image.pixels[(height - 1 - n / w / scale) * width + n % w / scale];
         return Soon([&] { return host->Screen(w, height * scale) == expected; });
     }
-    static long Descriptors() { return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {}); }
     long Windows() const
     {
         const XcbAnswer<xcb_query_tree_reply_t> tree(
@@ -135,21 +134,6 @@ TEST_F(XcbWindowTest, SurvivesTheEndOfHostAndServer)
         EXPECT_FALSE(window.Serve(0));
     }
     EXPECT_FALSE(Open()); // nowhere to open any more
-}
-
-TEST_F(XcbWindowTest, OpeningsLeaveNothing)
-{
-    ASSERT_TRUE(Open());
-    window.Close();
-    const long descriptors = Descriptors();
-    for (int n = 0; n < 200; ++n) {
-        ASSERT_TRUE(window.Open(host->Parent(), {60, 80}, ear)) << n << ": " << window.LastError();
-        window.StartTimer(25);
-        window.Serve(1);
-        window.Close();
-    }
-    EXPECT_EQ(Descriptors(), descriptors);
-    EXPECT_EQ(Windows(), 0);
 }
 
 TEST_F(XcbWindowTest, ListenersMayCloseAndOpenAgain)
