@@ -64,7 +64,7 @@ bool ReadTga(CFileStreamer& file, CBitmap& bitmap)
 {
     const int identifierBytes = file.ReadByte(), colorMap = file.ReadByte(), type = file.ReadByte();
     if (colorMap != 0 || type != kTrueColor) return false;
-    std::uint8_t ignored[9]; // the colour map's specification, the origin
+    std::uint8_t ignored[9]; // where a colour map would be, the origin
     file.ReadBlock(ignored, sizeof ignored);
     const int width = file.ReadWord(), height = file.ReadWord(), bits = file.ReadByte();
     file.ReadByte(); // the descriptor: whatever it says, the first row is the bottom one
