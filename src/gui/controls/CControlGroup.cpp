@@ -74,7 +74,7 @@ void CControlGroup::CancelAll()
 void CControlGroup::CancelCapture()
 {
     if (capture) capture->CancelInteraction();
-    if (capture) Release();
+    Release(); // also what holds the mouse for nobody
 }
 
 bool CControlGroup::DropFile(const char* path, int x, int y)

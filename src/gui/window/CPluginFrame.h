@@ -70,7 +70,6 @@ protected:
     void CloseWindow();
 
 private:
-    friend class WindowProcedure;
     std::unique_ptr<Window> platform;
     WindowProcedure procedure;
 };

@@ -98,6 +98,7 @@ void CPluginUI::SetActiveGroup(CControlGroup* group)
 {
     if (capturingGroup) capturingGroup->CancelCapture();
     ReleaseMouse();
+    capturingGroup = nullptr;
     activeGroup = group;
 }
 
