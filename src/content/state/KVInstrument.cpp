@@ -193,6 +193,17 @@ void KVInstrument::LoadSample(int channel, int slot, const char* path)
     });
 }
 
+void KVInstrument::ResetGroove() {}
+void KVInstrument::ResetPart() {}
+void KVInstrument::ResetProgram() {}
+bool KVInstrument::SelectProgramFolder(int) { return false; }
+bool KVInstrument::SelectProgram(int) { return false; }
+bool KVInstrument::StepProgram(int) { return false; }
+ProgramLibrary KVInstrument::Library(bool sampler) const
+{
+    return ProgramLibrary(sampler ? samplerPrograms : synthPrograms);
+}
+
 // MIDI
 
 void KVInstrument::ProgramChangeReceived(int program) { Ask(false, program); }

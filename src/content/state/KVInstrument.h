@@ -6,6 +6,7 @@
 
 #include "content/CFileList.h"
 #include "content/CPresetList.h"
+#include "content/ProgramLibrary.h"
 #include "content/state/ImageFile.h"
 #include "engine/KVSynth.h"
 #include "platform/CommandQueue.h"
@@ -53,6 +54,22 @@ public:
     bool LoadPartFile(const char* path);
     bool SaveProgramFile(const char* path);
     bool LoadProgramFile(const char* path);
+
+    // Back to the beginning. What a load keeps of the channel a reset keeps, too, but for ResetPart.
+
+    void ResetGroove();  // the empty groove; its name stays
+    void ResetPart();    // the selected channel and its steps in the current pattern
+    void ResetProgram(); // the selected channel; its steps stay
+
+    // The program library of the selected channel's kind. True: a program was loaded into the channel. Outside of the
+    // library nothing happens.
+
+    bool SelectProgramFolder(int index); // and the folder's first program
+    bool SelectProgram(int index);       // of the selected folder; also the one that is selected
+    /// The one before (-1) or after (1) the selected program, without wrapping; the first one when none is selected.
+    bool StepProgram(int direction);
+    /// What a library shows. Waits for nothing but a folder that is being read. Any thread but audio.
+    ProgramLibrary Library(bool sampler) const;
 
     /// Loads a file into a slot of a channel; the next block plays it. One that is not found empties the slot.
     /// channel  0..12
