@@ -6,7 +6,10 @@
 #include <exception>
 
 #include "content/state/KVInstrument.h"
+#include "editor/KVEditor.h"
 #include "framework/ParameterTable.h"
+#include "gui/window/EditorThread.h"
+#include "platform/window/DesktopWindow.h"
 
 namespace korvane {
 
@@ -36,6 +39,17 @@ CSynthesizer* SMX_Def::CreateSynth(CPluginWrapper* wrapper)
 {
     try {
         return new KVInstrument(wrapper);
+    } catch (const std::exception&) {
+        return nullptr;
+    }
+}
+
+CPluginEditor* SMX_Def::CreateEditor(CSynthesizer* engine)
+{
+    auto* const instrument = dynamic_cast<KVInstrument*>(engine);
+    if (!instrument) return nullptr;
+    try {
+        return new EditorThread(std::make_unique<KVEditor>(MakeDesktopWindow(), moduleHandle, *instrument));
     } catch (const std::exception&) {
         return nullptr;
     }

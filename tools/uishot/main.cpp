@@ -12,6 +12,7 @@
 
 #include "demo/DemoEditor.h"
 #include "demo/Picture.h"
+#include "demo/ShownEditor.h"
 #include "uishot/Script.h"
 
 namespace korvane {
@@ -24,14 +25,19 @@ struct Content {
     MakeContent make;
 };
 
-constexpr Content kContents[] = {{"demo", [](std::unique_ptr<Window> window) -> std::unique_ptr<CSynthEditor> {
-                                      return std::make_unique<demo::DemoEditor>(std::move(window));
-                                  }}};
+template <class Editor>
+std::unique_ptr<CSynthEditor> Make(std::unique_ptr<Window> window)
+{
+    return std::make_unique<Editor>(std::move(window));
+}
+
+constexpr Content kContents[] = {{"editor", Make<demo::ShownEditor>}, {"demo", Make<demo::DemoEditor>}};
 
 void Usage(std::FILE* out)
 {
     std::fputs("Usage: korvane-uishot CONTENT FILE.png [OPTION]...\n"
-               "  CONTENT          demo: every kind of control\n"
+               "  CONTENT          editor: the instrument's, over an engine that plays as long as ticks last;\n"
+               "                   demo: every kind of control\n"
                "  -s FILE          plays a script first; - is the standard input\n"
                "  -e COMMANDS      plays these\n"
                "  -x N             shows every pixel as N by N, 1 to 8\n"

@@ -77,8 +77,8 @@ enum : unsigned {
     NoPopup = 4,    // does not show its value while it is dragged
     Detent = 8,     // stays for a while at its centre
     Crossfade = 16, // between frames
-    Popup = 32,
-    Amber = 64 // text
+    OneSpeed = 32,  // Ctrl does not slow it down
+    Amber = 64      // text
 };
 }
 
@@ -99,8 +99,8 @@ struct ControlRow {
 };
 
 inline constexpr int kNoImage = -1, kNoId = -1;
+inline constexpr int kFirstPageParameter = 182; // of those that only the channel page shows
 inline constexpr int kGrooveMenuId = 179, kScreenSwitchId = 181;
-inline constexpr int kSamplerColumns = kSamplerChannels, kSynthColumns = kChannels - kSamplerChannels;
 
 // clang-format off
 /// In the order in which they are created, drawn and looked at under the pointer.
@@ -182,8 +182,8 @@ inline constexpr ControlRow kLayout[] = {
     {Widget::LedTab,         454, 358,   0,   0, image::Led,              114,  Page::All,     Role::None,     1,  0,  0,   0,   0, 4},
     // Synth page
     {Widget::Toggle,         438, 207,  45,  25, image::MonoVoice,        115,  Page::Synth,   Role::None},
-    {Widget::Steps,          384, 141,   0,   0, image::UnisonVoices,     116,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 16, look::Popup},
-    {Widget::Steps,          389, 175,   0,   0, image::UnisonStereo,     118,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 5, look::Popup | look::Crossfade},
+    {Widget::Steps,          384, 141,   0,   0, image::UnisonVoices,     116,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 16, look::OneSpeed},
+    {Widget::Steps,          389, 175,   0,   0, image::UnisonStereo,     118,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 5, look::Crossfade},
     {Widget::TabColumn,      449, 138,   0,   0, image::TabOctaves,       119,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 5, look::Normalized | look::Reversed},
     {Widget::SmallKnob,      400, 210,   0,   0, image::KnobLcd,          117,  Page::Synth,   Role::None},
     {Widget::SmallKnob,      299, 210,   0,   0, image::KnobLcd,          120,  Page::Synth,   Role::None},
@@ -241,6 +241,9 @@ inline constexpr ControlRow kLayout[] = {
     {Widget::Toggle,          67, 238,  58,  20, image::ScreenSwitch, kScreenSwitchId, Page::All, Role::ScreenSwitch},
 };
 // clang-format on
+
+/// Drawn over what the page shows there.
+constexpr bool ShowsPage(Widget widget) { return widget >= Widget::Fader && widget <= Widget::GlowingText; }
 
 inline constexpr int kKnobFrames = 129, kSmallKnobFrames = 141;
 inline constexpr Rect kLogoArea{420, 0, 300, 80}; // a click there opens the about page

@@ -1,0 +1,223 @@
+// Controls from the rows of the layout.
+#include "editor/layout/ControlFactory.h"
+
+#include "editor/elements/FXControl.h"
+#include "editor/elements/KVMeter.h"
+#include "editor/elements/KVMonitor.h"
+#include "gui/controls/CControlDropDownList.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr Color kAmber = Rgb(240, 136, 63), kInk = Rgb(87, 70, 46), kSilk = Rgb(210, 192, 164);
+
+void SetTextColor(CControlTextDisplay& control, Color color) { control.textColor = control.hoverTextColor = color; }
+
+void SetTabs(CControlTab& tab, const ControlRow& row, Size image)
+{
+    tab.tabCount = row.parts;
+    tab.vertical = row.widget == Widget::TabColumn;
+    tab.tabWidth = image.width / row.parts;
+    tab.tabHeight = image.height / 2;
+    tab.normalized = row.look & look::Normalized;
+    tab.reversed = row.look & look::Reversed;
+}
+
+} // namespace
+
+ControlFactory::Maker ControlFactory::MakerOf(Widget widget)
+{
+    using F = ControlFactory;
+    switch (widget) {
+    case Widget::Toggle: return &F::Button<button::Toggle>;
+    case Widget::Latch: return &F::Button<button::ToggleOnPress>;
+    case Widget::Momentary: return &F::Button<button::Momentary>;
+    case Widget::Led: return &F::Button<button::Toggle, true>;
+    case Widget::Knob: return &F::Knob;
+    case Widget::SmallKnob: return &F::SmallKnob;
+    case Widget::Steps: return &F::Steps;
+    case Widget::LedTab: return &F::LedTab;
+    case Widget::Tab:
+    case Widget::TabColumn: return &F::Tab;
+    case Widget::Fader:
+    case Widget::LevelFader: return &F::Fader;
+    case Widget::LengthFader: return &F::LengthFader;
+    case Widget::ModulationFader: return &F::ModulationFader;
+    case Widget::DarkNumber:
+    case Widget::LightNumber: return &F::Number;
+    case Widget::List: return &F::List;
+    case Widget::Text:
+    case Widget::GlowingText: return &F::Text;
+    case Widget::Meter: return &F::Meter;
+    case Widget::Pad: return &F::Pad;
+    case Widget::Monitor: break;
+    }
+    return &F::Monitor;
+}
+
+std::unique_ptr<CControl> ControlFactory::Make(const ControlRow& row, int n)
+{
+    CBitmap* const image = window.FindBitmap(row.image);
+    const int id = row.id == kNoId ? kNoId : row.id + n;
+    return (this->*MakerOf(row.widget))({row, n, id, image, PlaceOf(row, n, image ? image->GetSize() : Size{})});
+}
+
+// Buttons
+
+template <int kMode, bool kPassive>
+std::unique_ptr<CControl> ControlFactory::Button(const Order& order)
+{
+    auto made = std::make_unique<CControlButton>(order.place, order.id);
+    made->bitmap = order.image;
+    made->imageOffset.x = order.row.column + order.n * order.row.columnStep;
+    made->mode = kMode;
+    made->disabled = kPassive;
+    return made;
+}
+
+// Knobs
+
+std::unique_ptr<CControl> ControlFactory::Knob(const Order& order)
+{
+    auto made = std::make_unique<CControlKnob>(order.place, order.id);
+    made->bitmap = order.image;
+    made->frameCount = kKnobFrames;
+    made->smoothing = 0.8f;
+    made->crossfade = made->showValuePopup = true;
+    made->fineFactor = 1.0f;
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::SmallKnob(const Order& order)
+{
+    auto made = std::make_unique<CControlKnob>(order.place, order.id);
+    made->bitmap = order.image;
+    made->frameCount = kSmallKnobFrames;
+    made->crossfade = made->showValuePopup = true;
+    made->fineFactor = 1.0f;
+    if (order.row.look & look::Detent) made->centreDetent = 0.1f;
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::Steps(const Order& order)
+{
+    auto made = std::make_unique<CControlKnob>(order.place, order.id);
+    made->bitmap = order.image;
+    made->frameCount = order.row.parts;
+    made->showValuePopup = true;
+    made->crossfade = order.row.look & look::Crossfade;
+    if (order.row.look & look::OneSpeed) made->fineFactor = 1.0f;
+    return made;
+}
+
+// Tabs
+
+std::unique_ptr<CControl> ControlFactory::LedTab(const Order& order)
+{
+    auto made = std::make_unique<CControlTab>(order.place, order.id);
+    made->bitmap = order.image;
+    made->tabCount = order.row.parts;
+    made->tabWidth = order.place.w;
+    made->tabHeight = order.place.h / order.row.parts;
+    made->vertical = made->normalized = made->sharedImage = true;
+    made->reversed = order.row.look & look::Reversed;
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::Tab(const Order& order)
+{
+    auto made = std::make_unique<CControlTab>(order.place, order.id);
+    made->bitmap = order.image;
+    if (order.image) SetTabs(*made, order.row, order.image->GetSize());
+    return made;
+}
+
+// Over the page
+
+template <class Control>
+std::unique_ptr<Control> ControlFactory::OverPage(const Order& order)
+{
+    auto made = std::make_unique<Control>(order.place, order.id);
+    made->bitmap = window.GetBackgroundBitmap();
+    made->imageOffset = {order.place.x, order.place.y};
+    return made;
+}
+
+std::unique_ptr<CControlSlider> ControlFactory::Slider(const Order& order)
+{
+    auto made = OverPage<CControlSlider>(order);
+    made->handle = order.image;
+    made->sensitivity = 0.005f;
+    made->fineFactor = 1.0f;
+    made->showValuePopup = !(order.row.look & look::NoPopup);
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::Fader(const Order& order)
+{
+    constexpr int kAboveTrack = 8;
+    auto made = Slider(order);
+    made->track.y += kAboveTrack;
+    made->handleOffset = {0, -kAboveTrack};
+    made->horizontalTrack = made->crossfade = true;
+    made->smoothing = 0.8f;
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::LengthFader(const Order& order)
+{
+    auto made = Slider(order);
+    made->horizontal = true;
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::ModulationFader(const Order& order)
+{
+    auto made = OverPage<CControlSlider>(order);
+    made->handle = order.image;
+    made->horizontal = true;
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::Number(const Order& order)
+{
+    auto made = OverPage<CControlNumber>(order);
+    SetTextColor(*made, order.row.widget == Widget::DarkNumber ? kInk : kSilk);
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::List(const Order& order)
+{
+    auto made = OverPage<CControlDropDownList>(order);
+    SetTextColor(*made, order.row.look & look::Amber ? kAmber : kBlack);
+    return made;
+}
+
+std::unique_ptr<CControl> ControlFactory::Text(const Order& order)
+{
+    const bool glows = order.row.widget == Widget::GlowingText;
+    auto made = OverPage<CControlTextDisplay>(order);
+    SetTextColor(*made, glows ? kAmber : kSilk);
+    if (glows) made->glow = 0.2f;
+    return made;
+}
+
+// The instrument's own
+
+std::unique_ptr<CControl> ControlFactory::Meter(const Order& order)
+{
+    return std::make_unique<KVMeter>(order.place, order.image);
+}
+
+std::unique_ptr<CControl> ControlFactory::Pad(const Order& order)
+{
+    return std::make_unique<FXControl>(order.place, order.id, instrument);
+}
+
+std::unique_ptr<CControl> ControlFactory::Monitor(const Order& order)
+{
+    return std::make_unique<KVMonitor>(order.place, *instrument.engine);
+}
+
+} // namespace korvane
