@@ -1,0 +1,79 @@
+// Texts in Roboto Condensed.
+#include "skin/Print.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace korvane::skin {
+
+namespace {
+
+constexpr double kCapitals = 0.711; // of the size
+
+void Choose(cairo_t* pen, Type type)
+{
+    cairo_select_font_face(pen, type.weight == Weight::Medium ? "Roboto Condensed Medium" : "Roboto Condensed",
+                           CAIRO_FONT_SLANT_NORMAL,
+                           type.weight == Weight::Bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
+    cairo_set_font_size(pen, type.size);
+    cairo_font_options_t* options = cairo_font_options_create();
+    cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
+    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT); // stems stand on whole rows
+    cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
+    cairo_set_font_options(pen, options);
+    cairo_font_options_destroy(options);
+}
+
+double Advance(cairo_t* pen, char letter)
+{
+    const char text[] = {letter, '\0'};
+    cairo_text_extents_t extents;
+    cairo_text_extents(pen, text, &extents);
+    return extents.x_advance;
+}
+
+double Measure(cairo_t* pen, double spacing, const char* text)
+{
+    double width = -spacing;
+    for (const char* letter = text; *letter; ++letter) width += Advance(pen, *letter) + spacing;
+    return width;
+}
+
+void Letters(cairo_t* pen, double spacing, const char* text, double x, double y)
+{
+    for (const char* letter = text; *letter; ++letter) {
+        const char one[] = {*letter, '\0'};
+        cairo_move_to(pen, x, y);
+        cairo_show_text(pen, one);
+        x += Advance(pen, *letter) + spacing;
+    }
+}
+
+} // namespace
+
+double WidthOf(cairo_t* pen, Type type, const char* text)
+{
+    Choose(pen, type);
+    return Measure(pen, type.spacing, text);
+}
+
+void Write(cairo_t* pen, Type type, Shade shade, const char* text, double x, double y, Stand stand)
+{
+    const double width = WidthOf(pen, type, text);
+    const double part = stand == Stand::Left ? 0.0 : stand == Stand::Middle ? 0.5 : 1.0;
+    cairo_set_source_rgba(pen, shade.red, shade.green, shade.blue, shade.alpha);
+    Letters(pen, type.spacing, text, x - width * part, std::round(y + type.size * kCapitals / 2));
+}
+
+void WriteUp(cairo_t* pen, Type type, Shade shade, const char* text, double x, double y)
+{
+    cairo_save(pen);
+    cairo_translate(pen, std::round(x + type.size * kCapitals / 2), y);
+    cairo_rotate(pen, -std::numbers::pi / 2);
+    const double width = WidthOf(pen, type, text);
+    cairo_set_source_rgba(pen, shade.red, shade.green, shade.blue, shade.alpha);
+    Letters(pen, type.spacing, text, -width / 2, 0);
+    cairo_restore(pen);
+}
+
+} // namespace korvane::skin
