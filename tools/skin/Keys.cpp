@@ -54,7 +54,7 @@ Shade Charcoal(int) { return kCharcoal; }
 Shade Taupe(int) { return kTaupe; }
 Shade Ivory(int) { return kIvory; }
 Shade StepCap(int column) { return column >= 16 ? kSlate : column / 4 % 2 == 0 ? kTaupe : kCharcoal; }
-Shade ChannelCap(int column) { return column < kSamplerColumns ? kCharcoal : kSlate; }
+Shade ChannelCap(int column) { return column < kSamplerChannels ? kCharcoal : kSlate; }
 
 // Legends
 
@@ -77,8 +77,8 @@ void PatternLegend(cairo_t* pen, Box face, int column, Shade ink)
 
 void ChannelLegend(cairo_t* pen, Box face, int column, Shade ink)
 {
-    const bool sampler = column < kSamplerColumns;
-    const int number = sampler ? column + 1 : column - kSamplerColumns + 1;
+    const bool sampler = column < kSamplerChannels;
+    const int number = sampler ? column + 1 : column - kSamplerChannels + 1;
     Write(pen, kBig, ink, std::to_string(number).c_str(), face.MiddleX(), face.MiddleY() - 5);
     Write(pen, {7.5, Weight::Bold, 0.2}, Fade(ink, 0.85), sampler ? "SMP" : "SYN", face.MiddleX(), face.MiddleY() + 9);
 }

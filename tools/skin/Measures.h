@@ -46,7 +46,7 @@ inline constexpr ImageSize kImageSizes[] = {
     {image::TabEnvelope,       72,   40,                     true},
     {image::TabLfo,            72,   40,                     true},
     {image::LoopBar,           39,   192,                    true},
-    {image::FaderLevel,        31,   34,                     true},
+    {image::FaderLevel,        33,   34,                     true},
     {image::KnobLcd,           22,   22 * kSmallKnobFrames,  true},
     {image::TabModKind,        195,  36,                     true},
     {image::Osc2Invert,        24,   18,                     true},
