@@ -191,6 +191,7 @@ std::unique_ptr<CControl> ControlFactory::List(const Order& order)
 {
     auto made = OverPage<CControlDropDownList>(order);
     SetTextColor(*made, order.row.look & look::Amber ? kAmber : kBlack);
+    made->beginsInside = true;
     return made;
 }
 
@@ -200,6 +201,7 @@ std::unique_ptr<CControl> ControlFactory::Text(const Order& order)
     auto made = OverPage<CControlTextDisplay>(order);
     SetTextColor(*made, glows ? kAmber : kSilk);
     if (glows) made->glow = 0.2f;
+    made->beginsInside = true;
     return made;
 }
 

@@ -53,11 +53,14 @@ void CControlTextDisplay::WriteText(CDrawBuffer* buffer, Color plainText)
     KeptDrawState kept(buffer);
     if (!kept.ClipTo(textRect)) return;
     const Color color = hovered && hoverHighlight ? hoverTextColor : plainText;
+    buffer->SetFont(font);
+    const bool tooWide =
+        beginsInside && buffer->DrawText(text, 0, 0, textRect.w, textRect.h, align, true).width > textRect.w;
+    const int place = tooWide ? align::Left : align;
     const auto write = [&](int dx, int dy) {
         const int x = Saturate(std::int64_t{textRect.x} + dx), y = Saturate(std::int64_t{textRect.y} + dy);
-        buffer->DrawText(text, x, y, textRect.w, textRect.h, align, false);
+        buffer->DrawText(text, x, y, textRect.w, textRect.h, place, false);
     };
-    buffer->SetFont(font);
     if (glow > 0.0f) {
         const float halo = static_cast<float>(AlphaOf(color)) / 255.0f * glow * 255.0f;
         buffer->SetTextColor(WithAlpha(color, Clamp(Truncate(halo), 0, 255)));

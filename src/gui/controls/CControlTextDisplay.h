@@ -26,7 +26,8 @@ public:
     Color hoverTextColor = kWhite; // with hoverHighlight, under the pointer
     int font = 0;
     int align = align::Centre;
-    float glow = 0.0f; // 0..1, opacity of a halo
+    bool beginsInside = false; // a text that is wider than its box stands at the left
+    float glow = 0.0f;         // 0..1, opacity of a halo
     bool hoverHighlight = false;
     bool clickNotifies = false; // a click is told to window and engine
     char text[1024] = "<no info>";
