@@ -1,6 +1,4 @@
-// About
-#include <string_view>
-
+// The about page.
 #include "skin/Images.h"
 #include "skin/Measures.h"
 
@@ -8,9 +6,9 @@ namespace korvane::skin {
 
 bool DrawAbout(Picture& picture, int id)
 {
-    if (!SizeOf(id).alpha && std::string_view("About") != "Pages" && std::string_view("About") != "Scores") return false;
-    Rounded(picture.pen, {0.5, 0.5, picture.width - 1.0, picture.height - 1.0}, 2);
-    Fill(picture.pen, kTaupe);
+    if (id != image::About) return false;
+    cairo_rectangle(picture.pen, 0, 0, picture.width, picture.height);
+    Fill(picture.pen, Black(0.6));
     return true;
 }
 

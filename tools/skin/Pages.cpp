@@ -1,16 +1,20 @@
-// Pages
-#include <string_view>
-
+// The three pages: housing, grounds of what they show, legends.
+#include "skin/Grounds.h"
 #include "skin/Images.h"
-#include "skin/Measures.h"
+#include "skin/Legends.h"
+#include "skin/Panel.h"
 
 namespace korvane::skin {
 
 bool DrawPages(Picture& picture, int id)
 {
-    if (!SizeOf(id).alpha && std::string_view("Pages") != "Pages" && std::string_view("Pages") != "Scores") return false;
-    Rounded(picture.pen, {0.5, 0.5, picture.width - 1.0, picture.height - 1.0}, 2);
-    Fill(picture.pen, kTaupe);
+    if (id != image::PageSampler && id != image::PageSynth && id != image::PageChannel) return false;
+    const Page page = id == image::PageSampler ? Page::Sampler : id == image::PageSynth ? Page::Synth : Page::Channel;
+    DrawPanel(picture);
+    for (const ControlRow& row : kLayout)
+        for (int n = 0; n < row.count; ++n)
+            if (row.page == Page::All || row.page == page) DrawGround(picture.pen, row, n);
+    PrintLegends(picture.pen, page);
     return true;
 }
 

@@ -1,6 +1,4 @@
-// Scores
-#include <string_view>
-
+// The score editor's grounds, below what it draws itself.
 #include "skin/Images.h"
 #include "skin/Measures.h"
 
@@ -8,9 +6,9 @@ namespace korvane::skin {
 
 bool DrawScores(Picture& picture, int id)
 {
-    if (!SizeOf(id).alpha && std::string_view("Scores") != "Pages" && std::string_view("Scores") != "Scores") return false;
-    Rounded(picture.pen, {0.5, 0.5, picture.width - 1.0, picture.height - 1.0}, 2);
-    Fill(picture.pen, kTaupe);
+    if (id != image::ScoreEdit && id != image::DrumsEditor && id != image::NoteEditorButtons) return false;
+    cairo_rectangle(picture.pen, 0, 0, picture.width, picture.height);
+    Fill(picture.pen, kNight);
     return true;
 }
 

@@ -1,0 +1,12 @@
+// What the page shows where a control stands: ways of faders, lenses, fields, displays.
+#pragma once
+
+#include "skin/Measures.h"
+#include "skin/Kit.h"
+
+namespace korvane::skin {
+
+/// Of the n-th control of a row.
+void DrawGround(cairo_t* pen, const ControlRow& row, int n);
+
+} // namespace korvane::skin

@@ -1,0 +1,195 @@
+// The housing.
+#include "skin/Panel.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+
+#include "skin/Print.h"
+
+namespace korvane::skin {
+
+namespace {
+
+constexpr int kCheek = 20; // width of the wooden sides
+
+/// A group of controls; its title stands in the upper left, or upward beside its left edge.
+struct Group {
+    Box box;
+    const char* title;
+    double titleX, titleY; // middle of its capitals; its left end, or its middle when it stands upward
+    bool upward = false;
+};
+
+constexpr double kLeft = 32, kRight = 1033;
+// clang-format off
+constexpr Group kGroups[] = {
+    {{kLeft, 14, 390, 68},               "EXT CONTROL",  42, 25},
+    {{726, 14, 169, 68},                 "MIDI LINK",   734, 24},
+    {{897, 14, kRight - 897, 68},        "GROOVE",      904, 23},
+    {{kLeft, 86, 465, 183},              nullptr,         0,  0},
+    {{kLeft, 272, 133, 175},             "FILTER",       42, 281},
+    {{167, 272, 142, 175},               "ENVELOPES",   176, 281},
+    {{311, 272, 186, 175},               "LFO",         320, 281},
+    {{499, 86, 73, 361},                 "AMP",         508, 97},
+    {{574, 86, 68, 361},                 "CHANNEL",     582, 97},
+    {{644, 86, kRight - 644, 243},       "EFFECTS",     654, 91},
+    {{644, 331, kRight - 644, 128},      nullptr,         0,  0},
+    {{kLeft, 449, 610, 82},              "SAMPLERS",     44, 457},
+    {{644, 461, 185, 70},                "PATTERN EDIT", 654, 472},
+    {{831, 461, kRight - 831, 70},       "NOTE LENGTH", 841, 472},
+    {{kLeft, 533, 936, 82},              "STEPS",        44, 541},
+    {{970, 533, kRight - 970, 91},       "SHUFFLE",     978, 541},
+};
+struct Title {
+    const char* text;
+    double x, y;
+    bool upward;
+};
+constexpr Title kTitles[] = {
+    {"SYNTHS",    362, 457, false}, {"BARS", 652, 541, false},     {"PATTERN", 655, 366, true},
+    {"TRANSPORT", 655, 418, true},  {"STUTTER", 975, 146, false}, {"LFO",     870, 151, false},
+};
+// clang-format on
+constexpr Type kTitle{9.5, Weight::Bold, 1.0};
+
+double Hash(int x, int y)
+{
+    std::uint32_t h = static_cast<std::uint32_t>(x) * 374761393u + static_cast<std::uint32_t>(y) * 668265263u;
+    h = (h ^ (h >> 13)) * 1274126177u;
+    return static_cast<double>((h ^ (h >> 16)) & 0xffffu) / 65535.0;
+}
+
+double Noise(double x, double y)
+{
+    const int left = static_cast<int>(std::floor(x)), top = static_cast<int>(std::floor(y));
+    const auto eased = [](double t) { return t * t * (3 - 2 * t); };
+    const double u = eased(x - left), v = eased(y - top);
+    const auto row = [&](int y0) { return Hash(left, y0) * (1 - u) + Hash(left + 1, y0) * u; };
+    return row(top) * (1 - v) + row(top + 1) * v;
+}
+
+/// Long fibres, and rings that bend along them.
+double WoodAt(double x, double y)
+{
+    const double bend = Noise(x * 0.06, y * 0.006) * 5 + x * 0.16;
+    const double rings = 0.5 + 0.5 * std::sin(bend * 6.2);
+    const double fibres = Noise(x * 1.1, y * 0.022) * 0.6 + Noise(x * 2.7, y * 0.06) * 0.4;
+    return 0.62 + 0.3 * rings * fibres + 0.26 * fibres;
+}
+
+void DrawCheek(Picture& page, int left, bool outerIsLeft)
+{
+    unsigned char* data = cairo_image_surface_get_data(page.surface);
+    const std::ptrdiff_t stride = cairo_image_surface_get_stride(page.surface);
+    cairo_surface_flush(page.surface);
+    for (int y = 0; y < page.height; ++y)
+        for (int x = 0; x < kCheek; ++x) {
+            const double across = (outerIsLeft ? x : kCheek - 1 - x) / (kCheek - 1.0); // 0 at the outer edge
+            const double round = 0.72 + 0.5 * std::sin(std::min(1.0, across * 1.15) * 2.6 + 0.3);
+            const double light = WoodAt(left + x + (outerIsLeft ? 0 : 400), y) * round * 0.92;
+            const double parts[] = {kWood.blue, kWood.green, kWood.red};
+            unsigned char* pixel = data + y * stride + std::ptrdiff_t{4} * (left + x);
+            for (int n = 0; n < 3; ++n)
+                pixel[n] = static_cast<unsigned char>(std::clamp(parts[n] * light * 255.0, 0.0, 255.0));
+            pixel[3] = 255;
+        }
+    cairo_surface_mark_dirty(page.surface);
+}
+
+void DrawChassis(Picture& page)
+{
+    const double left = kCheek, right = page.width - kCheek, h = page.height;
+    cairo_rectangle(page.pen, 0, 0, page.width, h);
+    FillDown(page.pen, {0, 0, page.width * 1.0, h}, kChassisTop, kChassisBottom);
+    DrawCheek(page, 0, true);
+    DrawCheek(page, page.width - kCheek, false);
+    cairo_t* const pen = page.pen;
+    Line(pen, left, 0.5, right, 0.5);
+    Stroke(pen, White(0.18), 1);
+    Line(pen, left, h - 0.5, right, h - 0.5);
+    Stroke(pen, Black(0.5), 1);
+    for (const double x : {left, right - 1}) { // the gap between wood and metal
+        cairo_rectangle(pen, x, 0, 1, h);
+        Fill(pen, Black(0.75));
+    }
+    cairo_rectangle(pen, left + 1, 0, 1, h);
+    Fill(pen, White(0.1));
+}
+
+void DrawScrew(cairo_t* pen, double x, double y)
+{
+    Circle(pen, x + 0.3, y + 0.8, 4.4);
+    Fill(pen, White(0.1));
+    Circle(pen, x, y, 4.4);
+    Fill(pen, kHole);
+    Circle(pen, x, y, 3.8);
+    FillLit(pen, {x - 4, y - 4, 8, 8}, Rgb(120, 114, 106), Rgb(52, 48, 44));
+    for (int n = 0; n < 6; ++n) {
+        const double angle = n * 1.0471975512 + 0.3;
+        cairo_line_to(pen, x + 1.9 * std::cos(angle), y + 1.9 * std::sin(angle));
+    }
+    cairo_close_path(pen);
+    Fill(pen, kHole);
+}
+
+void DrawGroups(cairo_t* pen)
+{
+    for (const Group& group : kGroups) {
+        Plate(pen, group.box, 4, kPlateTop, kPlateBottom);
+        if (group.title) Write(pen, kTitle, kAmber, group.title, group.titleX, group.titleY, Stand::Left);
+    }
+    for (const Title& title : kTitles)
+        if (title.upward)
+            WriteUp(pen, kTitle, kAmber, title.text, title.x, title.y);
+        else
+            Write(pen, kTitle, kAmber, title.text, title.x, title.y, Stand::Left);
+}
+
+void DrawGlass(cairo_t* pen)
+{
+    Hole(pen, kGlass.Inset(-9), 7, Rgb(26, 23, 21));
+    Rounded(pen, kGlass.Inset(-1), 4);
+    Fill(pen, Black(0.8));
+    Rounded(pen, kGlass, 3);
+    FillDown(pen, kGlass, kGlassTop, kGlassBottom);
+    cairo_save(pen);
+    Rounded(pen, kGlass, 3);
+    cairo_clip(pen);
+    Glow(pen, kGlass.MiddleX(), kGlass.MiddleY(), kGlass.w * 0.62, Rgb(255, 246, 222, 0.4));
+    for (double y = kGlass.y + 1; y < kGlass.y + kGlass.h; y += 2) cairo_rectangle(pen, kGlass.x, y, kGlass.w, 1);
+    Fill(pen, Black(0.022));
+    for (const double width : {2.0, 5.0, 9.0}) { // the bezel's shadow
+        Rounded(pen, kGlass.Inset(-1).Moved(width / 5, width / 3), 3);
+        Stroke(pen, Rgb(60, 40, 16, 0.13), width);
+    }
+    cairo_restore(pen);
+}
+
+void DrawLogo(cairo_t* pen)
+{
+    constexpr double kMiddle = 574;
+    constexpr Type kLogo{42, Weight::Bold, 12}, kLine{9, Weight::Medium, 3.1};
+    Write(pen, kLogo, Black(0.6), "KORVANE", kMiddle + 1, 42.5);
+    Write(pen, kLogo, kCream, "KORVANE", kMiddle, 41);
+    const double half = WidthOf(pen, kLogo, "KORVANE") / 2;
+    cairo_rectangle(pen, kMiddle - half, 62, half * 2, 2);
+    Fill(pen, kAmber);
+    Write(pen, kLine, kDimCream, "BRASSMOOR  GROOVEBOX", kMiddle, 73);
+}
+
+} // namespace
+
+void DrawPanel(Picture& page)
+{
+    DrawChassis(page);
+    for (const double x : {kCheek + 6.5, page.width - kCheek - 6.5})
+        for (const double y : {7.5, page.height - 7.5}) DrawScrew(page.pen, x, y);
+    DrawGroups(page.pen);
+    Grain(page, kCheek, 0, page.width - 2 * kCheek, page.height, 2);
+    DrawGlass(page.pen);
+    DrawLogo(page.pen);
+}
+
+} // namespace korvane::skin

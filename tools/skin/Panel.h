@@ -1,0 +1,18 @@
+// The housing: wood, metal, plates, displays, logo.
+#pragma once
+
+#include "skin/Kit.h"
+
+namespace korvane::skin {
+
+/// The lit display's glass.
+inline constexpr Box kGlass{56, 101, 436, 162};
+
+constexpr bool OnGlass(double x, double y)
+{
+    return x >= kGlass.x && x < kGlass.x + kGlass.w && y >= kGlass.y && y < kGlass.y + kGlass.h;
+}
+
+void DrawPanel(Picture& page);
+
+} // namespace korvane::skin
