@@ -1,14 +1,109 @@
-// The about page.
+// The about page: who made it, and the computer keyboard.
+#include <algorithm>
+
+
+#include "editor/KeyTable.h"
+#include "skin/Caps.h"
 #include "skin/Images.h"
 #include "skin/Measures.h"
+#include "skin/Print.h"
 
 namespace korvane::skin {
+
+namespace {
+
+constexpr Box kSheet{252, 92, 560, 446};
+constexpr Type kPlain{11, Weight::Plain, 0.1}, kHead{10, Weight::Bold, 1.2};
+
+/// What the keys of some parameters do.
+struct KeyRow {
+    int first, count; // of param::
+    bool toggles;     // those that turn over; else those that act while they are down
+    const char* text;
+};
+
+// clang-format off
+constexpr KeyRow kLeftRows[] = {
+    {param::Play,         1, true,  "Play, stop"},
+    {param::Edit,         1, true,  "Edit mode on, off"},
+    {param::Edit,         1, false, "Edit mode while held"},
+    {param::Back,         2, false, "Back, forward"},
+    {param::Clear,        3, false, "Copy, paste, clear"},
+    {param::MuteSelected, 1, false, "Mute"},
+};
+constexpr KeyRow kRightRows[] = {
+    {param::Channel1,                    kSamplerChannels,             false, "Sampler channels 1 to 8"},
+    {param::Channel1 + kSamplerChannels, kChannels - kSamplerChannels, false, "Synth channels 1 to 5"},
+    {param::Pattern1,                    8,                            false, "Patterns 1 to 8"},
+};
+// clang-format on
+
+/// x  where the key begins. Where the next one may.
+double DrawKeyOf(cairo_t* pen, const char* name, double x, double y)
+{
+    constexpr Type kName{9.5, Weight::Bold, 0.2};
+    constexpr double kSide = 21;
+    const CapLook look{kTaupe, kAmber, 0, false};
+    const double width = std::max(kSide, WidthOf(pen, kName, name) + 14);
+    const Box face = DrawCap(pen, {x, y - kSide / 2, width, kSide}, look);
+    Write(pen, kName, kCream, name, face.MiddleX(), face.MiddleY());
+    return x + width + 1;
+}
+
+void DrawKeyRow(cairo_t* pen, const KeyRow& row, double x, double textX, double y)
+{
+    for (const PanelKey& key : kPanelKeys)
+        if (key.parameter >= row.first && key.parameter < row.first + row.count && key.toggles == row.toggles)
+            x = DrawKeyOf(pen, key.name, x, y);
+    Write(pen, kPlain, kCream, row.text, textX, y, Stand::Left);
+}
+
+void DrawKeyboard(cairo_t* pen)
+{
+    const double left = kSheet.x + 36, right = kSheet.x + 272, top = kSheet.y + 200;
+    Write(pen, kHead, kAmber, "KEYBOARD", left, top, Stand::Left);
+    double y = top + 26;
+    for (const KeyRow& row : kLeftRows) {
+        DrawKeyRow(pen, row, left, left + 76, y);
+        y += 27;
+    }
+    y = top + 26;
+    for (const KeyRow& row : kRightRows) {
+        DrawKeyRow(pen, row, right, right, y);
+        y += 50;
+    }
+}
+
+void DrawMaker(cairo_t* pen)
+{
+    const double middle = kSheet.MiddleX();
+    Write(pen, {46, Weight::Bold, 14}, Black(0.6), "KORVANE", middle + 1, kSheet.y + 57.5);
+    Write(pen, {46, Weight::Bold, 14}, kCream, "KORVANE", middle, kSheet.y + 56);
+    cairo_rectangle(pen, middle - 140, kSheet.y + 82, 280, 2);
+    Fill(pen, kAmber);
+    Write(pen, {12, Weight::Medium, 0.4}, kCream, "Version " KORVANE_VERSION, middle, kSheet.y + 102);
+    Write(pen, kPlain, kDimCream, "A groovebox of eight samplers and five synthesizers, made by Brassmoor", middle,
+          kSheet.y + 126);
+    Write(pen, kPlain, kDimCream, "Sources, documents and tests are in the project's repository: begin with README.md",
+          middle, kSheet.y + 144);
+}
+
+} // namespace
 
 bool DrawAbout(Picture& picture, int id)
 {
     if (id != image::About) return false;
-    cairo_rectangle(picture.pen, 0, 0, picture.width, picture.height);
-    Fill(picture.pen, Black(0.6));
+    cairo_t* const pen = picture.pen;
+    cairo_rectangle(pen, 0, 0, picture.width, picture.height);
+    Fill(pen, Black(0.62));
+    Shadow(pen, kSheet.Moved(0, 6), 8, 24, 0.7);
+    Plate(pen, kSheet, 8, Lighter(kPlateTop, 0.03), kPlateBottom);
+    DrawMaker(pen);
+    Line(pen, kSheet.x + 36, kSheet.y + 173.5, kSheet.x + kSheet.w - 36, kSheet.y + 173.5);
+    Stroke(pen, Fade(kCream, 0.25), 1);
+    DrawKeyboard(pen);
+    Write(pen, kPlain, kDimCream, "A right click on a knob or a step opens the score editor. A click closes this page.",
+          kSheet.MiddleX(), kSheet.y + kSheet.h - 24);
     return true;
 }
 

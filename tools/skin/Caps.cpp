@@ -29,7 +29,7 @@ void FillFace(cairo_t* pen, Box face, double radius, const CapLook& look)
     cairo_save(pen);
     Rounded(pen, face, radius);
     cairo_clip(pen);
-    Glow(pen, face.MiddleX(), face.MiddleY(), std::max(face.w, face.h) * 0.7, {1, 0.93, 0.72, 0.55 * look.lit});
+    Glow(pen, face.MiddleX(), face.MiddleY(), std::max(face.w, face.h) * 0.7, {1, 0.86, 0.55, 0.4 * look.lit});
     cairo_restore(pen);
 }
 

@@ -49,7 +49,8 @@ void DrawWords(Picture& picture, const WordStrip& strip)
     for (int row = 0; row < 2; ++row)
         for (int n = 0; n < strip.columns; ++n) {
             const Box cell{n * w, row * h, w, h};
-            const Box gap = w > 26 ? Box{cell.x + 0.5, cell.y, w - 1, h} : cell;
+            const bool tall = h > 18; // neighbours stand close above
+            const Box gap = w > 26 ? Box{cell.x + 0.5, cell.y + (tall ? 1 : 0), w - 1, tall ? h - 2 : h} : cell;
             const Shade ink = DrawPatch(picture.pen, gap, row == 1);
             Write(picture.pen, strip.type, ink, strip.words[n], gap.MiddleX(), gap.MiddleY());
         }

@@ -124,7 +124,11 @@ void NumberedLegend(cairo_t* pen, Box face, int column, Shade ink)
     Write(pen, kName, ink, shown.c_str(), face.MiddleX(), face.MiddleY());
 }
 
-void NoLegend(cairo_t*, Box, int, Shade) {}
+/// On to the next position.
+void NextLegend(cairo_t* pen, Box face, int, Shade ink)
+{
+    Arrow(pen, face.MiddleX(), face.MiddleY(), 7, 0, 1, Fade(ink, 0.75));
+}
 
 /// A lamp that a latching key lights.
 void LampLegend(cairo_t* pen, Box face, int, Shade ink)
@@ -161,7 +165,7 @@ constexpr KeyImage kKeys[] = {
     {image::ButtonStutter,     5,  50,  50, 33, Frames::Momentary, Taupe,      kAmber,      StutterLegend},
     {image::TabEnvelope,       2,  36,  36, 20, Frames::Chosen,    Charcoal,   kAmber,      NumberedLegend<kEnv>},
     {image::TabLfo,            2,  36,  36, 20, Frames::Chosen,    Charcoal,   kAmber,      NumberedLegend<kLfo>},
-    {image::ButtonSynth,       1,  32,  32, 21, Frames::Momentary, Ivory,      kAmber,      NoLegend},
+    {image::ButtonSynth,       1,  32,  32, 21, Frames::Momentary, Ivory,      kAmber,      NextLegend},
     {image::ButtonSynthLed,    1,  32,  32, 24, Frames::Latch,     Charcoal,   kCharcoal,   LampLegend},
 };
 // clang-format on

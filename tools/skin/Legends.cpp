@@ -10,13 +10,14 @@ namespace korvane::skin {
 
 namespace {
 
-constexpr Type kType{8.5, Weight::Bold, 0.25};
+constexpr Type kType{8.5, Weight::Bold, 0.25}, kDense{8, Weight::Bold}, kDensest{7.5, Weight::Bold};
 constexpr double kGap = 5; // from a control's edge to the middle of its capitals
 
 struct Found {
     Rect place;
     Page page;
     Widget widget;
+    int image;
 };
 
 std::optional<Found> FindPlace(int id, Role role = Role::None, int number = 0)
@@ -24,7 +25,7 @@ std::optional<Found> FindPlace(int id, Role role = Role::None, int number = 0)
     for (const ControlRow& row : kLayout) {
         const int n = id == kNoId ? number - row.first : id - row.id;
         const bool meant = id == kNoId ? row.role == role : row.id != kNoId;
-        if (meant && n >= 0 && n < row.count) return Found{PlaceOf(row, n), row.page, row.widget};
+        if (meant && n >= 0 && n < row.count) return Found{PlaceOf(row, n), row.page, row.widget, row.image};
     }
     return std::nullopt;
 }
@@ -33,16 +34,24 @@ bool Shows(Page shown, Page page) { return page == Page::All || page == shown; }
 
 Shade InkAt(double x, double y) { return OnGlass(x, y) ? kInk : kCream; }
 
+/// Where controls stand closely beside each other.
+Type TypeFor(Widget widget, int image)
+{
+    if (widget == Widget::SmallKnob || image == image::ButtonLcd) return kDensest;
+    return widget == Widget::Fader || image == image::ButtonSynth || image == image::ButtonSynthLed ? kDense : kType;
+}
+
 void Print(cairo_t* pen, const Found& found, const Legend& legend)
 {
+    const Type type = TypeFor(found.widget, found.image);
     const Rect& at = found.place;
     const double x = at.x + at.w / 2.0 + legend.dx, y = at.y + at.h / 2.0 + legend.dy;
     const Shade ink = InkAt(at.x, at.y);
     switch (legend.side) {
-    case Side::Above: return Write(pen, kType, ink, legend.text, x, at.y + legend.dy - kGap);
-    case Side::Below: return Write(pen, kType, ink, legend.text, x, at.y + at.h + legend.dy + kGap);
-    case Side::Left: return Write(pen, kType, ink, legend.text, at.x + legend.dx - 3, y, Stand::Right);
-    case Side::Right: return Write(pen, kType, ink, legend.text, at.x + at.w + legend.dx + 3, y, Stand::Left);
+    case Side::Above: return Write(pen, type, ink, legend.text, x, at.y + legend.dy - kGap);
+    case Side::Below: return Write(pen, type, ink, legend.text, x, at.y + at.h + legend.dy + kGap);
+    case Side::Left: return Write(pen, type, ink, legend.text, at.x + legend.dx - 3, y, Stand::Right);
+    case Side::Right: return Write(pen, type, ink, legend.text, at.x + at.w + legend.dx + 3, y, Stand::Left);
     }
 }
 
@@ -51,7 +60,7 @@ void PrintLights(cairo_t* pen)
     for (const LightLegend& legend : kLightLegends) {
         const Rect at = FindPlace(legend.id).value().place;
         for (int n = 0; n < at.h / 13; ++n)
-            Write(pen, kType, kCream, legend.texts[n], at.x + at.w, at.y + 13 * n + 6.5, Stand::Left);
+            Write(pen, kDense, kCream, legend.texts[n], at.x + at.w, at.y + 13 * n + 6.5, Stand::Left);
     }
     for (const CurveLegend& legend : kCurveLegends) {
         const Rect at = FindPlace(legend.id).value().place;

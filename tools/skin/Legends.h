@@ -23,7 +23,6 @@ struct Legend {
 // clang-format off
 inline constexpr Legend kLegends[] = {
     // Patterns, transport
-    {  0, "ALL",      Side::Left, 2, -14},
     { 89, "CHANNEL",  Side::Below},
     { 20, "ONCE",     Side::Above},
     {  6, "EDIT",     Side::Below}, {4, "BACK", Side::Below}, {5, "FORWARD", Side::Below}, {3, "RECORD", Side::Below},
@@ -35,13 +34,14 @@ inline constexpr Legend kLegends[] = {
     {kNoId, "5", Side::Below, -2, 0, Role::ExtLed, 4},
     {kNoId, "LINK", Side::Right, 0, 0, Role::LinkSwitch, 0},
     // Effects
-    { 71, "RATE",     Side::Below, -2},
+    { 71, "RATE",     Side::Below, 3},
     { 72, "AMOUNT",   Side::Below},
     { 73, "SHAPE",    Side::Above}, {75, "SYNC", Side::Above},
-    { 77, "X",        Side::Left, 41, -17}, {78, "Y", Side::Left, 41, -17},
-    { 79, "BYPASS",   Side::Above},
+    {kNoId, "PAD X",  Side::Above, -26, 0, Role::PadAxis, 0}, {kNoId, "PAD Y", Side::Above, -26, 0, Role::PadAxis, 1},
+    { 79, "STUTTER",  Side::Below}, {79, "BYPASS", Side::Below, 0, 8},
     // Strip
-    { 80, "LEVEL",    Side::Below, 0, -1},
+    { 80, "LEVEL",    Side::Below, 1, -1},
+    {kNoId, "L",      Side::Above, 0, -1, Role::Meter, 0}, {kNoId, "R", Side::Above, 0, -1, Role::Meter, 1},
     { 81, "PAN",      Side::Below}, {82, "PITCH", Side::Below},
     { 90, "SLIDE",    Side::Above}, {91, "ON", Side::Below},
     { 84, "ATTACK",   Side::Below}, {85, "DECAY", Side::Below}, {86, "SUSTAIN", Side::Below},
@@ -57,7 +57,7 @@ inline constexpr Legend kLegends[] = {
     {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 1}, {117, "DETUNE", Side::Above},
     {119, "OCTAVE",   Side::Above}, {120, "NOISE", Side::Above}, {121, "PHASE", Side::Above},
     {122, "RETRIG",   Side::Left}, {128, "RETRIG", Side::Left},
-    {123, "OSC 2",    Side::Above}, {124, "OSC 3", Side::Above}, {127, "OFFSET", Side::Above},
+    {123, "OSC 2",    Side::Above}, {124, "OSC 3", Side::Above, 0, 2}, {127, "OFFSET", Side::Above},
     {130, "PITCH",    Side::Above, 0, 1}, {131, "CENTS", Side::Above, 0, 1},
     {126, "OSC 1 BY OSC 2", Side::Above}, {125, "AMOUNT", Side::Below},
     {kNoId, "WAVEFORM", Side::Above, 0, 1, Role::WaveList, 0},
@@ -73,9 +73,9 @@ inline constexpr Legend kLegends[] = {
     {182, "AMOUNT",   Side::Right}, {184, "SENS", Side::Right, -5}, {185, "AMOUNT", Side::Right},
     {187, "AMOUNT",   Side::Right},
     {190, "ON",       Side::Left},
-    {191, "80 HZ",    Side::Above}, {192, "220 HZ", Side::Above}, {193, "1.2 KHZ", Side::Above},
-    {194, "6 KHZ",    Side::Above}, {195, "12 KHZ", Side::Above},
-    {189, "SEMITONES", Side::Below},
+    {191, "80 Hz",    Side::Above}, {192, "220 Hz", Side::Above}, {193, "1.2 kHz", Side::Above},
+    {194, "6 kHz",    Side::Above}, {195, "12 kHz", Side::Above},
+    {189, "BEND RANGE", Side::Above},
     // Programs
     {kNoId, "BANK",   Side::Left, -2, 0, Role::FolderList, 0},
     {kNoId, "PROGRAM", Side::Left, -2, 0, Role::ProgramArrow, 0},
@@ -112,13 +112,13 @@ struct Heading {
     int y; // its middle
 };
 inline constexpr Heading kHeadings[] = {
-    {Page::Synth,   123, 123, "MIX",         114}, {Page::Synth,   127, 127, "PHASE",      114},
-    {Page::Synth,   116, 119, "UNISON",      114},
-    {Page::Sampler, 136, 138, "LAYER",       114}, {Page::Sampler, 139, 141, "ENVELOPE",   114},
-    {Page::Sampler, 142, 144, "FILTER",      114},
+    {Page::Synth,   123, 123, "MIX",         111}, {Page::Synth,   127, 127, "PHASE",      111},
+    {Page::Synth,   116, 118, "UNISON",      111},
+    {Page::Sampler, 136, 138, "LAYER",       108}, {Page::Sampler, 139, 141, "ENVELOPE",   108},
+    {Page::Sampler, 142, 144, "FILTER",      108},
     {Page::Channel, 183, 183, "VELOCITY",    122}, {Page::Channel, 186, 186, "MOD WHEEL",  122},
-    {Page::Channel, 188, 188, "PRESSURE",    122}, {Page::Channel, 189, 189, "BEND RANGE", 134},
-    {Page::Channel, 191, 195, "EQUALISER OF EFFECT 10", 193},
+    {Page::Channel, 188, 188, "PRESSURE",    122},
+    {Page::Channel, 191, 195, "EQUALISER OF FX 10", 193},
 };
 // clang-format on
 

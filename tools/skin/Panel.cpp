@@ -25,21 +25,21 @@ struct Group {
 constexpr double kLeft = 32, kRight = 1033;
 // clang-format off
 constexpr Group kGroups[] = {
-    {{kLeft, 14, 390, 68},               "EXT CONTROL",  42, 25},
-    {{726, 14, 169, 68},                 "MIDI LINK",   734, 24},
-    {{897, 14, kRight - 897, 68},        "GROOVE",      904, 23},
-    {{kLeft, 86, 465, 183},              nullptr,         0,  0},
-    {{kLeft, 272, 133, 175},             "FILTER",       42, 281},
-    {{167, 272, 142, 175},               "ENVELOPES",   176, 281},
-    {{311, 272, 186, 175},               "LFO",         320, 281},
-    {{499, 86, 73, 361},                 "AMP",         508, 97},
-    {{574, 86, 68, 361},                 "CHANNEL",     582, 97},
-    {{644, 86, kRight - 644, 243},       "EFFECTS",     654, 91},
-    {{644, 331, kRight - 644, 128},      nullptr,         0,  0},
-    {{kLeft, 449, 610, 82},              "SAMPLERS",     44, 457},
-    {{644, 461, 185, 70},                "PATTERN EDIT", 654, 472},
-    {{831, 461, kRight - 831, 70},       "NOTE LENGTH", 841, 472},
-    {{kLeft, 533, 936, 82},              "STEPS",        44, 541},
+    {{kLeft, 12, 390, 68},               "EXT CONTROL",  42, 22},
+    {{726, 12, 169, 68},                 "MIDI LINK",   734, 22},
+    {{897, 12, kRight - 897, 68},        "GROOVE",      904, 22},
+    {{kLeft, 83, 465, 189},              nullptr,         0,  0},
+    {{kLeft, 274, 133, 172},             "FILTER",       42, 284},
+    {{167, 274, 142, 172},               "ENVELOPES",   176, 284},
+    {{311, 274, 186, 172},               "LFO",         320, 284},
+    {{499, 83, 73, 363},                 "AMP",         508, 94},
+    {{574, 83, 68, 363},                 "CHANNEL",     582, 94},
+    {{644, 83, kRight - 644, 246},       "EFFECTS",     654, 91},
+    {{644, 331, kRight - 644, 125},      nullptr,         0,  0},
+    {{kLeft, 448, 621, 83},              "SAMPLERS",     44, 456},
+    {{655, 458, 174, 73},                "PATTERN EDIT", 664, 469},
+    {{831, 458, kRight - 831, 73},       "NOTE LENGTH", 840, 467},
+    {{kLeft, 533, 936, 91},              "STEPS",        44, 541},
     {{970, 533, kRight - 970, 91},       "SHUFFLE",     978, 541},
 };
 struct Title {
@@ -48,11 +48,17 @@ struct Title {
     bool upward;
 };
 constexpr Title kTitles[] = {
-    {"SYNTHS",    362, 457, false}, {"BARS", 652, 541, false},     {"PATTERN", 655, 366, true},
-    {"TRANSPORT", 655, 418, true},  {"STUTTER", 975, 146, false}, {"LFO",     870, 151, false},
+    {"SYNTHS",    362, 456, false}, {"BARS",      653, 541, false},
+    {"PATTERN",   655, 366, true},  {"TRANSPORT", 655, 418, true},
 };
 // clang-format on
-constexpr Type kTitle{9.5, Weight::Bold, 1.0};
+struct Frame {
+    Box box;
+    const char* title;
+    double titleAt; // from the box's left
+};
+constexpr Frame kFrames[] = {{{776.5, 141.5, 180, 129}, "LFO", 95}, {{967.5, 141.5, 61, 182}, "STUTTER", 9}};
+constexpr Type kTitle{9.5, Weight::Bold, 1.0}, kUpward{8.5, Weight::Bold, 0.4}, kFrameTitle{8.5, Weight::Bold, 0.6};
 
 double Hash(int x, int y)
 {
@@ -142,14 +148,45 @@ void DrawGroups(cairo_t* pen)
     }
     for (const Title& title : kTitles)
         if (title.upward)
-            WriteUp(pen, kTitle, kAmber, title.text, title.x, title.y);
+            WriteUp(pen, kUpward, kAmber, title.text, title.x, title.y);
         else
             Write(pen, kTitle, kAmber, title.text, title.x, title.y, Stand::Left);
 }
 
+/// Printed around what belongs together within a group; its title interrupts the upper line.
+void DrawFrames(cairo_t* pen)
+{
+    for (const Frame& frame : kFrames) {
+        const double right = frame.box.x + frame.box.w;
+        const double end = frame.box.x + frame.titleAt + WidthOf(pen, kFrameTitle, frame.title);
+        cairo_save(pen);
+        cairo_rectangle(pen, 0, 0, frame.box.x + frame.titleAt - 4, 630);
+        cairo_rectangle(pen, end + 4, 0, right, 630);
+        cairo_rectangle(pen, 0, frame.box.y + 5, 1065, 630);
+        cairo_clip(pen);
+        Rounded(pen, frame.box, 4);
+        Stroke(pen, Fade(kCream, 0.28), 1);
+        cairo_restore(pen);
+        Write(pen, kFrameTitle, kAmber, frame.title, frame.box.x + frame.titleAt, frame.box.y, Stand::Left);
+    }
+}
+
+/// What the knobs below it shape.
+void DrawEnvelope(cairo_t* pen)
+{
+    constexpr double kPoints[][2] = {{511, 210}, {521, 197}, {531, 204}, {549, 204}, {560, 210}};
+    for (const auto& point : kPoints) cairo_line_to(pen, point[0], point[1]);
+    cairo_set_line_join(pen, CAIRO_LINE_JOIN_ROUND);
+    Stroke(pen, Fade(kCream, 0.75), 1.3);
+    for (const auto& point : kPoints) {
+        Circle(pen, point[0], point[1], 1.5);
+        Fill(pen, kCream);
+    }
+}
+
 void DrawGlass(cairo_t* pen)
 {
-    Hole(pen, kGlass.Inset(-9), 7, Rgb(26, 23, 21));
+    Hole(pen, kGlass.Inset(-6), 6, Rgb(26, 23, 21));
     Rounded(pen, kGlass.Inset(-1), 4);
     Fill(pen, Black(0.8));
     Rounded(pen, kGlass, 3);
@@ -187,6 +224,8 @@ void DrawPanel(Picture& page)
     for (const double x : {kCheek + 6.5, page.width - kCheek - 6.5})
         for (const double y : {7.5, page.height - 7.5}) DrawScrew(page.pen, x, y);
     DrawGroups(page.pen);
+    DrawFrames(page.pen);
+    DrawEnvelope(page.pen);
     Grain(page, kCheek, 0, page.width - 2 * kCheek, page.height, 2);
     DrawGlass(page.pen);
     DrawLogo(page.pen);

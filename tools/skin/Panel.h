@@ -6,7 +6,7 @@
 namespace korvane::skin {
 
 /// The lit display's glass.
-inline constexpr Box kGlass{56, 101, 436, 162};
+inline constexpr Box kGlass{42, 95, 445, 168};
 
 constexpr bool OnGlass(double x, double y)
 {

@@ -41,12 +41,14 @@ double Measure(cairo_t* pen, double spacing, const char* text)
 
 void Letters(cairo_t* pen, double spacing, const char* text, double x, double y)
 {
+    cairo_new_path(pen);
     for (const char* letter = text; *letter; ++letter) {
         const char one[] = {*letter, '\0'};
         cairo_move_to(pen, x, y);
-        cairo_show_text(pen, one);
+        cairo_text_path(pen, one); // which stands between pixels; a glyph would not
         x += Advance(pen, *letter) + spacing;
     }
+    cairo_fill(pen);
 }
 
 } // namespace
