@@ -1,7 +1,6 @@
 // The about page: who made it, and the computer keyboard.
 #include <algorithm>
 
-
 #include "editor/KeyTable.h"
 #include "skin/Caps.h"
 #include "skin/Images.h"
@@ -50,12 +49,11 @@ double DrawKeyOf(cairo_t* pen, const char* name, double x, double y)
     return x + width + 1;
 }
 
-void DrawKeyRow(cairo_t* pen, const KeyRow& row, double x, double textX, double y)
+void DrawKeyRow(cairo_t* pen, const KeyRow& row, double x, double y)
 {
     for (const PanelKey& key : kPanelKeys)
         if (key.parameter >= row.first && key.parameter < row.first + row.count && key.toggles == row.toggles)
             x = DrawKeyOf(pen, key.name, x, y);
-    Write(pen, kPlain, kCream, row.text, textX, y, Stand::Left);
 }
 
 void DrawKeyboard(cairo_t* pen)
@@ -64,13 +62,15 @@ void DrawKeyboard(cairo_t* pen)
     Write(pen, kHead, kAmber, "KEYBOARD", left, top, Stand::Left);
     double y = top + 26;
     for (const KeyRow& row : kLeftRows) {
-        DrawKeyRow(pen, row, left, left + 76, y);
+        DrawKeyRow(pen, row, left, y);
+        Write(pen, kPlain, kCream, row.text, left + 76, y, Stand::Left);
         y += 27;
     }
-    y = top + 26;
+    y = top + 24;
     for (const KeyRow& row : kRightRows) {
-        DrawKeyRow(pen, row, right, right, y);
-        y += 50;
+        Write(pen, kPlain, kCream, row.text, right, y, Stand::Left);
+        DrawKeyRow(pen, row, right - 1, y + 20);
+        y += 54;
     }
 }
 
@@ -96,7 +96,7 @@ bool DrawAbout(Picture& picture, int id)
     cairo_t* const pen = picture.pen;
     cairo_rectangle(pen, 0, 0, picture.width, picture.height);
     Fill(pen, Black(0.62));
-    Shadow(pen, kSheet.Moved(0, 6), 8, 24, 0.7);
+    Shadow(pen, kSheet.Moved(0, 5), 8, 18, 0.55);
     Plate(pen, kSheet, 8, Lighter(kPlateTop, 0.03), kPlateBottom);
     DrawMaker(pen);
     Line(pen, kSheet.x + 36, kSheet.y + 173.5, kSheet.x + kSheet.w - 36, kSheet.y + 173.5);

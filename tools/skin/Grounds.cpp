@@ -4,9 +4,8 @@
 #include <cmath>
 #include <numbers>
 
-#include "framework/KnobLaws.h"
 #include "skin/Lights.h"
-#include "skin/Panel.h"
+#include "skin/Print.h"
 
 namespace korvane::skin {
 
@@ -47,11 +46,13 @@ void DrawWay(cairo_t* pen, Box place, double handle, double middle, double tickF
 void DrawLengthWay(cairo_t* pen, Box place, double handle)
 {
     const double left = place.x + handle / 2, way = place.w - handle, y = place.MiddleY();
-    constexpr int kDoublings = 8; // from an eighth of a beat to 32 beats
+    constexpr const char* kBeats[] = {"1/8", "1/4", "1/2", "1", "2", "4", "8", "16", "32"}; // each twice the last
+    constexpr int kDoublings = 8;
     for (int n = 0; n <= kDoublings; ++n) {
         const double x = std::floor(left + way * n / kDoublings) + 0.5;
         for (const double side : {-1.0, 1.0}) Line(pen, x, y + side * 6, x, y + side * 11);
-        Stroke(pen, Fade(kCream, n == 3 ? 0.9 : 0.4), 1);
+        Stroke(pen, Fade(kCream, 0.45), 1);
+        Write(pen, {8, Weight::Bold}, kDimCream, kBeats[n], x, place.y - 3);
     }
     Hole(pen, {left - 6, y - 2.5, way + 12, 5}, 2.5, kHole);
 }

@@ -1,8 +1,8 @@
 // What the page shows where a control stands: ways of faders, lenses, fields, displays.
 #pragma once
 
-#include "skin/Measures.h"
 #include "skin/Kit.h"
+#include "skin/Measures.h"
 
 namespace korvane::skin {
 

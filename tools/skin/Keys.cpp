@@ -17,22 +17,24 @@ struct State {
     bool down;
 };
 
-/// Frames below each other.
-enum class Frames { Momentary, Latch, Learning, Chosen, Lights };
-
-struct StateList {
-    std::array<State, 6> states;
-    int count;
+enum class Frames {
+    Press,  // up, down
+    Hold,   // off, on and lit
+    Latch,  // off, on and held, on, off and held
+    Chosen, // off, held, on, on and held
+    Lights  // the same with a dim light between
 };
 
-StateList StatesOf(Frames frames)
+using States = std::array<State, 6>;
+
+States StatesOf(Frames frames)
 {
     switch (frames) {
-    case Frames::Momentary: return {{{{0, false}, {0, true}}}, 2};
-    case Frames::Latch: return {{{{0, false}, {1, true}, {1, false}, {0, true}}}, 4};
-    case Frames::Learning:
-    case Frames::Chosen: return {{{{0, false}, {0, true}, {1, false}, {1, true}}}, 4};
-    default: return {{{{0, false}, {0, true}, {0.42, false}, {0.42, true}, {1, false}, {1, true}}}, 6};
+    case Frames::Press: return {{{0, false}, {0, true}}};
+    case Frames::Hold: return {{{0, false}, {1, true}}};
+    case Frames::Latch: return {{{0, false}, {1, true}, {1, false}, {0, true}}};
+    case Frames::Chosen: return {{{0, false}, {0, true}, {1, false}, {1, true}}};
+    default: return {{{0, false}, {0, true}, {0.42, false}, {0.42, true}, {1, false}, {1, true}}};
     }
 }
 
@@ -41,11 +43,13 @@ using Legend = void (*)(cairo_t*, Box face, int column, Shade ink);
 
 struct KeyImage {
     int id;
-    int columns, step, w, h; // of a cell; from a column to the next; the rest of a step stays empty
+    int columns, right, down; // from a column to the next, from a frame to the next
+    int w, h;                 // of the key; the rest stays empty, for what stands closely beside it
     Frames frames;
     CapOf cap;
     Shade light;
     Legend legend;
+    bool lamp = false; // of its own; the cap stays dark
 };
 
 // Caps
@@ -70,10 +74,7 @@ void StepLegend(cairo_t* pen, Box face, int column, Shade ink)
     Number(pen, face, column < 16 ? column + 1 : column - 15, ink);
 }
 
-void PatternLegend(cairo_t* pen, Box face, int column, Shade ink)
-{
-    Number(pen, face, column + 1, ink);
-}
+void PatternLegend(cairo_t* pen, Box face, int column, Shade ink) { Number(pen, face, column + 1, ink); }
 
 void ChannelLegend(cairo_t* pen, Box face, int column, Shade ink)
 {
@@ -144,31 +145,38 @@ void LampLegend(cairo_t* pen, Box face, int, Shade ink)
 
 // clang-format off
 constexpr KeyImage kKeys[] = {
-//   id                      cols step   w   h  frames             cap         light        legend
-    {image::ButtonSteps,      24,  40,  38, 46, Frames::Lights,    StepCap,    kAmber,      StepLegend},
-    {image::ButtonParts,      13,  42,  38, 49, Frames::Lights,    ChannelCap, kAmber,      ChannelLegend},
-    {image::ButtonPatterns,    8,  42,  38, 49, Frames::Chosen,    Taupe,      kAmber,      PatternLegend},
-    {image::ButtonMute,        1,  39,  39, 48, Frames::Momentary, Charcoal,   kAmber,      TextLegend<kMuteText>},
-    {image::ButtonSolo,        1,  39,  39, 48, Frames::Latch,     Charcoal,   kAmberLight, TextLegend<kSoloText>},
-    {image::ButtonEdit,        1,  63,  63, 50, Frames::Latch,     Charcoal,   kAmberLight, IconLegend<Icon::Pencil>},
-    {image::ButtonPrev,        1,  63,  63, 50, Frames::Momentary, Charcoal,   kAmber,      IconLegend<Icon::Back>},
-    {image::ButtonNext,        1,  63,  63, 50, Frames::Momentary, Charcoal,   kAmber,      IconLegend<Icon::Forward>},
-    {image::ButtonRec,         1,  63,  63, 50, Frames::Latch,     Charcoal,   kRedLight,   RecordLegend},
-    {image::ButtonPlay,        1,  63,  63, 50, Frames::Latch,     Charcoal,   kGreenLight, IconLegend<Icon::Play>},
-    {image::LoopBar,           1,  39,  39, 48, Frames::Latch,     Charcoal,   kAmberLight, IconLegend<Icon::Loop>},
-    {image::ButtonCopy,        1,  47,  47, 29, Frames::Momentary, Taupe,      kAmber,      TextLegend<kCopyText>},
-    {image::ButtonPaste,       1,  47,  47, 29, Frames::Momentary, Taupe,      kAmber,      TextLegend<kPasteText>},
-    {image::ButtonClear,       1,  47,  47, 29, Frames::Momentary, Taupe,      kAmber,      TextLegend<kClearText>},
-    {image::ButtonFX,         10,  30,  30, 31, Frames::Momentary, Taupe,      kAmber,      EffectLegend},
-    {image::ButtonGlue,        1,  48,  48, 29, Frames::Latch,     Charcoal,   kAmberLight, TextLegend<kGlueText>},
-    {image::ButtonLink,        1,  47,  47, 29, Frames::Learning,  Charcoal,   kAmberLight, TextLegend<kLearnText>},
-    {image::ButtonStutter,     5,  50,  50, 33, Frames::Momentary, Taupe,      kAmber,      StutterLegend},
-    {image::TabEnvelope,       2,  36,  36, 20, Frames::Chosen,    Charcoal,   kAmber,      NumberedLegend<kEnv>},
-    {image::TabLfo,            2,  36,  36, 20, Frames::Chosen,    Charcoal,   kAmber,      NumberedLegend<kLfo>},
-    {image::ButtonSynth,       1,  32,  32, 21, Frames::Momentary, Ivory,      kAmber,      NextLegend},
-    {image::ButtonSynthLed,    1,  32,  32, 24, Frames::Latch,     Charcoal,   kCharcoal,   LampLegend},
+//   id                    cols right down   w   h  frames             cap         light        legend
+    {image::ButtonSteps,     24,   40,  46,  38, 44, Frames::Lights,  StepCap,    kAmber,      StepLegend},
+    {image::ButtonParts,     13,   42,  49,  38, 49, Frames::Lights,  ChannelCap, kAmber,      ChannelLegend},
+    {image::ButtonPatterns,   8,   42,  49,  38, 49, Frames::Chosen,  Taupe,      kAmber,      PatternLegend},
+    {image::ButtonMute,       1,   39,  48,  39, 48, Frames::Hold,    Charcoal,   kAmber,      TextLegend<kMuteText>},
+    {image::ButtonSolo,       1,   39,  48,  39, 48, Frames::Latch,   Charcoal,   kAmberLight, TextLegend<kSoloText>},
+    {image::ButtonEdit,       1,   63,  50,  63, 50, Frames::Latch,   Charcoal,   kAmberLight, IconLegend<Icon::Pencil>},
+    {image::ButtonPrev,       1,   63,  50,  63, 50, Frames::Press,   Charcoal,   kAmber,      IconLegend<Icon::Back>},
+    {image::ButtonNext,       1,   63,  50,  63, 50, Frames::Press,   Charcoal,   kAmber,      IconLegend<Icon::Forward>},
+    {image::ButtonRec,        1,   63,  50,  63, 50, Frames::Latch,   Charcoal,   kRedLight,   RecordLegend},
+    {image::ButtonPlay,       1,   63,  50,  63, 50, Frames::Latch,   Charcoal,   kGreenLight, IconLegend<Icon::Play>},
+    {image::LoopBar,          1,   39,  48,  39, 48, Frames::Latch,   Charcoal,   kAmberLight, IconLegend<Icon::Loop>},
+    {image::ButtonCopy,       1,   47,  29,  47, 29, Frames::Press,   Taupe,      kAmber,      TextLegend<kCopyText>},
+    {image::ButtonPaste,      1,   47,  29,  47, 29, Frames::Press,   Taupe,      kAmber,      TextLegend<kPasteText>},
+    {image::ButtonClear,      1,   47,  29,  47, 29, Frames::Press,   Taupe,      kAmber,      TextLegend<kClearText>},
+    {image::ButtonFX,        10,   30,  31,  30, 29, Frames::Hold,    Taupe,      kAmber,      EffectLegend},
+    {image::ButtonGlue,       1,   48,  29,  48, 29, Frames::Latch,   Charcoal,   kAmberLight, TextLegend<kGlueText>},
+    {image::ButtonLink,       1,   47,  29,  47, 29, Frames::Chosen,  Charcoal,   kAmberLight, TextLegend<kLearnText>},
+    {image::ButtonStutter,    5,   50,  33,  50, 33, Frames::Hold,    Taupe,      kAmber,      StutterLegend},
+    {image::TabEnvelope,      2,   36,  20,  36, 20, Frames::Hold,    Charcoal,   kAmber,      NumberedLegend<kEnv>},
+    {image::TabLfo,           2,   36,  20,  36, 20, Frames::Hold,    Charcoal,   kAmber,      NumberedLegend<kLfo>},
+    {image::ButtonSynth,      1,   32,  21,  32, 21, Frames::Press,   Ivory,      kAmber,      NextLegend},
+    {image::ButtonSynthLed,   1,   32,  24,  32, 24, Frames::Latch,   Charcoal,   kCharcoal,   LampLegend, true},
 };
 // clang-format on
+
+void DrawKey(cairo_t* pen, const KeyImage& key, int column, int row, State state)
+{
+    const CapLook look{key.cap(column), key.light, key.lamp ? 0.0 : state.lit, state.down};
+    const Box face = DrawCap(pen, {column * 1.0 * key.right, row * 1.0 * key.down, key.w * 1.0, key.h * 1.0}, look);
+    key.legend(pen, face, column, key.lamp && state.lit > 0 ? kDarkInk : InkOn(look));
+}
 
 } // namespace
 
@@ -176,18 +184,10 @@ bool DrawKeys(Picture& picture, int id)
 {
     for (const KeyImage& key : kKeys) {
         if (key.id != id) continue;
-        const StateList list = StatesOf(key.frames);
-        const bool tab = id == image::TabEnvelope || id == image::TabLfo; // off and on alone
-        for (int row = 0; row * key.h < picture.height; ++row)
-            for (int column = 0; column < key.columns; ++column) {
-                const State state = tab ? State{row * 1.0, row == 1} : list.states[static_cast<std::size_t>(row)];
-                CapLook look{key.cap(column), key.light, state.lit, state.down};
-                const bool lamp = id == image::ButtonSynthLed; // lights alone, its cap does not
-                if (lamp) look.lit = 0;
-                const Box cell{column * 1.0 * key.step, row * 1.0 * key.h, key.w * 1.0, key.h * 1.0};
-                const Box face = DrawCap(picture.pen, cell, look);
-                key.legend(picture.pen, face, column, lamp && state.lit > 0 ? kDarkInk : InkOn(look));
-            }
+        const States states = StatesOf(key.frames);
+        for (int row = 0; row * key.down < picture.height; ++row)
+            for (int column = 0; column < key.columns; ++column)
+                DrawKey(picture.pen, key, column, row, states[static_cast<std::size_t>(row)]);
         return true;
     }
     return false;

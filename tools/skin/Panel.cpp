@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 #include "skin/Print.h"
 
@@ -58,7 +59,8 @@ struct Frame {
     double titleAt; // from the box's left
 };
 constexpr Frame kFrames[] = {{{776.5, 141.5, 180, 129}, "LFO", 95}, {{967.5, 141.5, 61, 182}, "STUTTER", 9}};
-constexpr Type kTitle{9.5, Weight::Bold, 1.0}, kUpward{8.5, Weight::Bold, 0.4}, kFrameTitle{8.5, Weight::Bold, 0.6};
+constexpr Type kTitle{9.5, Weight::Bold, 1.0}, kUpward{8.5, Weight::Bold, 0.4}, kFrameTitle{8.5, Weight::Bold, 0.6},
+    kScale{8, Weight::Bold, 0.2};
 
 double Hash(int x, int y)
 {
@@ -184,6 +186,27 @@ void DrawEnvelope(cairo_t* pen)
     }
 }
 
+/// Below each four steps, and below the bars.
+void DrawBeats(cairo_t* pen)
+{
+    constexpr int kPerBeat = 4, kBeats = 4, kKey = 38, kFirst = 44;
+    constexpr double kTop = 607.5;
+    const auto bracket = [&](double x, double w, const char* text) {
+        cairo_move_to(pen, x, kTop);
+        cairo_line_to(pen, x, kTop + 5);
+        cairo_line_to(pen, x + w, kTop + 5);
+        cairo_line_to(pen, x + w, kTop);
+        Stroke(pen, Fade(kCream, 0.35), 1);
+        const double half = WidthOf(pen, kScale, text) / 2 + 5, middle = x + w / 2;
+        cairo_rectangle(pen, middle - half, kTop + 2, half * 2, 7);
+        Fill(pen, Mix(kPlateTop, kPlateBottom, 0.84));
+        Write(pen, kScale, kDimCream, text, middle, kTop + 5);
+    };
+    for (int n = 0; n < kBeats; ++n)
+        bracket(kFirst + kKey * kPerBeat * n + 4.5, kKey * kPerBeat - 9, ("BEAT " + std::to_string(n + 1)).c_str());
+    bracket(kFirst + kKey * kPerBeat * kBeats + 4.5, kKey * 8 - 9, "BARS OF THE PATTERN");
+}
+
 void DrawGlass(cairo_t* pen)
 {
     Hole(pen, kGlass.Inset(-6), 6, Rgb(26, 23, 21));
@@ -226,6 +249,7 @@ void DrawPanel(Picture& page)
     DrawGroups(page.pen);
     DrawFrames(page.pen);
     DrawEnvelope(page.pen);
+    DrawBeats(page.pen);
     Grain(page, kCheek, 0, page.width - 2 * kCheek, page.height, 2);
     DrawGlass(page.pen);
     DrawLogo(page.pen);

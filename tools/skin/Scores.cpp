@@ -159,8 +159,7 @@ struct EditorButton {
     const char* text;
     Icon icon;
 };
-constexpr EditorButton kButtons[] = {
-    {149, "COPY", Icon::Copy}, {75, "PASTE", Icon::Paste}, {3, "CLEAR", Icon::Clear}};
+constexpr EditorButton kButtons[] = {{149, "COPY", Icon::Copy}, {75, "PASTE", Icon::Paste}, {3, "CLEAR", Icon::Clear}};
 
 void DrawEditorButtons(cairo_t* pen)
 {
