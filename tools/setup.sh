@@ -2,7 +2,8 @@
 # Sourced by play and test: the packages of a fresh Debian 12, and the build of a preset.
 root=$(dirname "$(dirname "$(realpath "${BASH_SOURCE[0]}")")")
 log=$root/build/$(basename "$0").log
-packages=(g++ cmake make pkg-config libsndfile1-dev libcairo2-dev libxcb1-dev libxcb-shm0-dev libxcb-xkb-dev)
+packages=(g++ cmake make pkg-config libsndfile1-dev libcairo2-dev libxcb1-dev libxcb-shm0-dev libxcb-xkb-dev
+  fonts-roboto-unhinted)
 trap 'exit 130' INT # Ctrl-C is no failure to report
 
 fail() {

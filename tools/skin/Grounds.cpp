@@ -164,7 +164,7 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     case Widget::LightNumber: return DrawDarkDisplay(pen, place.Inset(-1));
     case Widget::Text: return DrawDarkDisplay(pen, place);
     case Widget::GlowingText:
-        if (n == 0) DrawDarkDisplay(pen, {place.x - 4, place.y - 3, place.w + 8, place.h * 2 + 8});
+        if (n == 0) DrawDarkDisplay(pen, {place.x - 4, place.y - 2, place.w + 8, place.h * 2 + 5});
         return;
     case Widget::Momentary:
         if (row.image == image::Led) DrawLens(pen, place.x + kLightX, place.y + kLightY + 1, LightKind::Red);

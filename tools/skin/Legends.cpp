@@ -35,15 +35,18 @@ bool Shows(Page shown, Page page) { return page == Page::All || page == shown; }
 Shade InkAt(double x, double y) { return OnGlass(x, y) ? kInk : kCream; }
 
 /// Where controls stand closely beside each other.
-Type TypeFor(Widget widget, int image)
+Type TypeFor(const Found& found)
 {
-    if (widget == Widget::SmallKnob || image == image::ButtonLcd) return kDensest;
-    return widget == Widget::Fader || image == image::ButtonSynth || image == image::ButtonSynthLed ? kDense : kType;
+    const bool heads = found.widget == Widget::List || found.image == image::ProgramArrows; // of the whole display
+    const bool large = found.page == Page::All && heads;
+    if (OnGlass(found.place.x, found.place.y)) return large ? kType : kDensest;
+    const bool next = found.image == image::ButtonSynth || found.image == image::ButtonSynthLed;
+    return next || found.widget == Widget::Fader || found.widget == Widget::LedTab ? kDense : kType;
 }
 
 void Print(cairo_t* pen, const Found& found, const Legend& legend)
 {
-    const Type type = TypeFor(found.widget, found.image);
+    const Type type = TypeFor(found);
     const Rect& at = found.place;
     const double x = at.x + at.w / 2.0 + legend.dx, y = at.y + at.h / 2.0 + legend.dy;
     const Shade ink = InkAt(at.x, at.y);

@@ -24,7 +24,7 @@ struct Legend {
 inline constexpr Legend kLegends[] = {
     // Patterns, transport
     { 89, "CHANNEL",  Side::Below},
-    { 20, "ONCE",     Side::Above},
+    { 20, "PLAY ONCE",     Side::Above},
     {  6, "EDIT",     Side::Below}, {4, "BACK", Side::Below}, {5, "FORWARD", Side::Below}, {3, "RECORD", Side::Below},
     {  1, "PLAY",     Side::Below}, {2, "LOOP BAR", Side::Below},
     { 34, "ON",       Side::Left}, {42, "ON", Side::Left},
@@ -35,7 +35,7 @@ inline constexpr Legend kLegends[] = {
     {kNoId, "LINK", Side::Right, 0, 0, Role::LinkSwitch, 0},
     // Effects
     { 71, "RATE",     Side::Below, 3},
-    { 72, "AMOUNT",   Side::Below},
+    { 72, "AMOUNT",   Side::Below, 0, -1},
     { 73, "SHAPE",    Side::Above}, {75, "SYNC", Side::Above},
     {kNoId, "PAD X",  Side::Above, -26, 0, Role::PadAxis, 0}, {kNoId, "PAD Y", Side::Above, -26, 0, Role::PadAxis, 1},
     { 79, "STUTTER",  Side::Below}, {79, "BYPASS", Side::Below, 0, 8},
@@ -57,9 +57,9 @@ inline constexpr Legend kLegends[] = {
     {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 1}, {117, "DETUNE", Side::Above},
     {119, "OCTAVE",   Side::Above}, {120, "NOISE", Side::Above}, {121, "PHASE", Side::Above},
     {122, "RETRIG",   Side::Left}, {128, "RETRIG", Side::Left},
-    {123, "OSC 2",    Side::Above}, {124, "OSC 3", Side::Above, 0, 2}, {127, "OFFSET", Side::Above},
+    {123, "OSC 2",    Side::Above}, {124, "OSC 3", Side::Above, 0, 2}, {127, "PHASE", Side::Above},
     {130, "PITCH",    Side::Above, 0, 1}, {131, "CENTS", Side::Above, 0, 1},
-    {126, "OSC 1 BY OSC 2", Side::Above}, {125, "AMOUNT", Side::Below},
+    {126, "MODULATION", Side::Above}, {125, "AMOUNT", Side::Below},
     {kNoId, "WAVEFORM", Side::Above, 0, 1, Role::WaveList, 0},
     {kNoId, "1", Side::Left, 0, 0, Role::WaveArrow, 0}, {kNoId, "2", Side::Left, 0, 0, Role::WaveArrow, 1},
     {kNoId, "3", Side::Left, 0, 0, Role::WaveArrow, 2},
@@ -112,8 +112,8 @@ struct Heading {
     int y; // its middle
 };
 inline constexpr Heading kHeadings[] = {
-    {Page::Synth,   123, 123, "MIX",         111}, {Page::Synth,   127, 127, "PHASE",      111},
-    {Page::Synth,   116, 118, "UNISON",      111},
+    {Page::Synth,   123, 123, "MIX",         111}, {Page::Synth,   127, 127, "OSC 2",      111},
+    {Page::Synth,   116, 118, "UNISON",      111}, {Page::Synth,   122, 122, "UNISON",     177},
     {Page::Sampler, 136, 138, "LAYER",       108}, {Page::Sampler, 139, 141, "ENVELOPE",   108},
     {Page::Sampler, 142, 144, "FILTER",      108},
     {Page::Channel, 183, 183, "VELOCITY",    122}, {Page::Channel, 186, 186, "MOD WHEEL",  122},

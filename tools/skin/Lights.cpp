@@ -69,7 +69,7 @@ void DrawIgnoreFrame(cairo_t* pen, double y, bool on)
 {
     DrawLens(pen, 6, y + 5.5, LightKind::Red);
     if (on) DrawLit(pen, 6, y + 5.5, LightKind::Red);
-    Write(pen, {8, Weight::Bold, 0.2}, on ? kCream : kDimCream, "IGNORE VALUE", 14, y + 5.5, Stand::Left);
+    Write(pen, {8, Weight::Bold, 0.2}, on ? kCream : kDimCream, "IGNORE VALUE", 14, y + 6, Stand::Left);
 }
 
 } // namespace

@@ -50,15 +50,14 @@ struct Title {
 };
 constexpr Title kTitles[] = {
     {"SYNTHS",    362, 456, false}, {"BARS",      653, 541, false},
-    {"PATTERN",   655, 366, true},  {"TRANSPORT", 655, 418, true},
+    {"PATTERN",   655, 366, true},  {"TRANSPORT", 655, 418, true}, {"LFO", 870, 153, false},
 };
 // clang-format on
 struct Frame {
     Box box;
     const char* title;
-    double titleAt; // from the box's left
 };
-constexpr Frame kFrames[] = {{{776.5, 141.5, 180, 129}, "LFO", 95}, {{967.5, 141.5, 61, 182}, "STUTTER", 9}};
+constexpr Frame kFrames[] = {{{776.5, 141.5, 180, 129}, nullptr}, {{967.5, 141.5, 61, 182}, "STUTTER"}};
 constexpr Type kTitle{9.5, Weight::Bold, 1.0}, kUpward{8.5, Weight::Bold, 0.4}, kFrameTitle{8.5, Weight::Bold, 0.6},
     kScale{8, Weight::Bold, 0.2};
 
@@ -158,18 +157,19 @@ void DrawGroups(cairo_t* pen)
 /// Printed around what belongs together within a group; its title interrupts the upper line.
 void DrawFrames(cairo_t* pen)
 {
+    constexpr double kTitleAt = 9;
     for (const Frame& frame : kFrames) {
-        const double right = frame.box.x + frame.box.w;
-        const double end = frame.box.x + frame.titleAt + WidthOf(pen, kFrameTitle, frame.title);
+        const double title = frame.box.x + kTitleAt;
+        const double end = frame.title ? title + WidthOf(pen, kFrameTitle, frame.title) + 4 : 0;
         cairo_save(pen);
-        cairo_rectangle(pen, 0, 0, frame.box.x + frame.titleAt - 4, 630);
-        cairo_rectangle(pen, end + 4, 0, right, 630);
+        cairo_rectangle(pen, 0, 0, title - 4, 630);
+        cairo_rectangle(pen, end, 0, 1065, 630);
         cairo_rectangle(pen, 0, frame.box.y + 5, 1065, 630);
         cairo_clip(pen);
         Rounded(pen, frame.box, 4);
         Stroke(pen, Fade(kCream, 0.28), 1);
         cairo_restore(pen);
-        Write(pen, kFrameTitle, kAmber, frame.title, frame.box.x + frame.titleAt, frame.box.y, Stand::Left);
+        if (frame.title) Write(pen, kFrameTitle, kAmber, frame.title, title, frame.box.y, Stand::Left);
     }
 }
 

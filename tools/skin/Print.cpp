@@ -53,6 +53,13 @@ void Letters(cairo_t* pen, double spacing, const char* text, double x, double y)
 
 } // namespace
 
+bool HasFace()
+{
+    constexpr double kWidth = 398.9, kTolerance = 2.0; // of the name, a hundred pixels high
+    const Picture sheet(1, 1);
+    return std::fabs(WidthOf(sheet.pen, {100, Weight::Bold}, "KORVANE") - kWidth) < kTolerance;
+}
+
 double WidthOf(cairo_t* pen, Type type, const char* text)
 {
     Choose(pen, type);

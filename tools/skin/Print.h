@@ -15,6 +15,9 @@ struct Type {
     double spacing = 0.0;
 };
 
+/// Whether the face is installed; otherwise texts are drawn in another, which may not fit.
+bool HasFace();
+
 /// Pixels across. The text is ASCII.
 double WidthOf(cairo_t* pen, Type type, const char* text);
 /// x is where it begins, has its middle or ends; y the middle of its capitals.

@@ -7,6 +7,7 @@
 
 #include "skin/Images.h"
 #include "skin/Measures.h"
+#include "skin/Print.h"
 
 namespace korvane::skin {
 namespace {
@@ -38,6 +39,9 @@ int main(int count, char** words)
         std::fputs("Usage: korvane-skin FOLDER\nDraws the editor's images into the folder.\n", stderr);
         return 2;
     }
+    if (!korvane::skin::HasFace())
+        std::fputs("korvane-skin: Roboto Condensed is not installed (fonts-roboto-unhinted); legends look otherwise\n",
+                   stderr);
     try {
         korvane::skin::DrawAll(words[1]);
     } catch (const std::exception& failure) {
