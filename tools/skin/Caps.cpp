@@ -13,7 +13,7 @@ constexpr double kSkirt = 2.5;  // of the cap that shows below its face
 Shade FaceShade(const CapLook& look)
 {
     const Shade own = look.down ? Darker(look.cap, 0.14) : look.cap;
-    return Mix(own, look.down ? Darker(look.light, 0.12) : look.light, look.lit);
+    return Mix(own, look.down ? Darker(look.light, 0.05) : look.light, look.lit);
 }
 
 /// Light from below gathers in the middle of the face.
@@ -41,7 +41,7 @@ void EdgeFace(cairo_t* pen, Box face, double radius, const CapLook& look)
     if (look.down) {
         for (const double width : {1.0, 3.0, 6.0}) {
             Rounded(pen, face.Inset(-0.5).Moved(0, width / 3), radius);
-            Stroke(pen, Black(0.16), width);
+            Stroke(pen, Black(0.16 - 0.07 * look.lit), width);
         }
     } else {
         Rounded(pen, face.Inset(0.5), radius - 0.5);

@@ -150,7 +150,7 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     const Box place = BoxOf(PlaceOf(row, n));
     switch (row.widget) {
     case Widget::Knob: return DrawTicks(pen, place);
-    case Widget::Fader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX(), 9.5, 13.5);
+    case Widget::Fader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX(), 9.5, 12.5);
     case Widget::LevelFader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX() + 1, 5.5, 11.5);
     case Widget::LengthFader: return DrawLengthWay(pen, place, HandleOf(row, false));
     case Widget::ModulationFader: return DrawFlatWay(pen, place);

@@ -166,7 +166,7 @@ constexpr KeyImage kKeys[] = {
     {image::ButtonStutter,    5,   50,  33,  50, 33, Frames::Hold,    Taupe,      kAmber,      StutterLegend},
     {image::TabEnvelope,      2,   36,  20,  36, 20, Frames::Hold,    Charcoal,   kAmber,      NumberedLegend<kEnv>},
     {image::TabLfo,           2,   36,  20,  36, 20, Frames::Hold,    Charcoal,   kAmber,      NumberedLegend<kLfo>},
-    {image::ButtonSynth,      1,   32,  21,  32, 21, Frames::Press,   Ivory,      kAmber,      NextLegend},
+    {image::ButtonSynth,      1,   32,  21,  32, 19, Frames::Press,   Ivory,      kAmber,      NextLegend},
     {image::ButtonSynthLed,   1,   32,  24,  32, 24, Frames::Latch,   Charcoal,   kCharcoal,   LampLegend, true},
 };
 // clang-format on

@@ -26,7 +26,7 @@ inline constexpr Legend kLegends[] = {
     { 89, "CHANNEL",  Side::Below},
     { 20, "PLAY ONCE",     Side::Above},
     {  6, "EDIT",     Side::Below}, {4, "BACK", Side::Below}, {5, "FORWARD", Side::Below}, {3, "RECORD", Side::Below},
-    {  1, "PLAY",     Side::Below}, {2, "LOOP BAR", Side::Below},
+    {  1, "PLAY",     Side::Below}, {2, "LOOP BAR", Side::Below, 0, 1},
     { 34, "ON",       Side::Left}, {42, "ON", Side::Left},
     // Controllers
     {kNoId, "1", Side::Below, -2, 0, Role::ExtLed, 0}, {kNoId, "2", Side::Below, -2, 0, Role::ExtLed, 1},
@@ -42,8 +42,8 @@ inline constexpr Legend kLegends[] = {
     // Strip
     { 80, "LEVEL",    Side::Below, 1, -1},
     {kNoId, "L",      Side::Above, 0, -1, Role::Meter, 0}, {kNoId, "R", Side::Above, 0, -1, Role::Meter, 1},
-    { 81, "PAN",      Side::Below}, {82, "PITCH", Side::Below},
-    { 90, "SLIDE",    Side::Above}, {91, "ON", Side::Below},
+    { 81, "PAN",      Side::Below}, {82, "PITCH", Side::Below, 0, 1},
+    { 90, "SLIDE",    Side::Above, 0, -1}, {91, "ON", Side::Below},
     { 84, "ATTACK",   Side::Below}, {85, "DECAY", Side::Below}, {86, "SUSTAIN", Side::Below},
     { 87, "RELEASE",  Side::Below}, {88, "LEVEL", Side::Below},
     // Filter, envelope, LFO
