@@ -34,7 +34,7 @@ States StatesOf(Frames frames)
     case Frames::Hold: return {{{0, false}, {1, true}}};
     case Frames::Latch: return {{{0, false}, {1, true}, {1, false}, {0, true}}};
     case Frames::Chosen: return {{{0, false}, {0, true}, {1, false}, {1, true}}};
-    default: return {{{0, false}, {0, true}, {0.42, false}, {0.42, true}, {1, false}, {1, true}}};
+    default: return {{{0, false}, {0, true}, {0.5, false}, {0.5, true}, {1, false}, {1, true}}};
     }
 }
 
