@@ -15,7 +15,6 @@
 #include "content/state/KeptSettings.h"
 #include "content/state/PartImage.h"
 #include "content/state/PreparedFiles.h"
-#include "content/state/StateImage.h"
 #include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
@@ -84,8 +83,7 @@ bool KVInstrument::LoadGrooveFile(const char* path)
         if (loaded) grooveName.Set(GrooveName(file).c_str());
     });
     if (!loaded) return false;
-    ReportParameters();
-    RefreshEditor();
+    Tell();
     return true;
 }
 
@@ -104,8 +102,7 @@ bool KVInstrument::LoadPartFile(const char* path)
         loaded = ReplacePart(image);
     });
     if (!loaded) return false;
-    ReportParameters();
-    RefreshEditor();
+    Tell();
     return true;
 }
 
@@ -178,8 +175,7 @@ bool KVInstrument::LoadProgramFile(const char* path)
     bool loaded = false;
     Load([&] { loaded = ReplaceChannel(path, engine->selection.selectedChannel); });
     if (!loaded) return false;
-    ReportParameters();
-    RefreshEditor();
+    Tell();
     return true;
 }
 
@@ -193,15 +189,100 @@ void KVInstrument::LoadSample(int channel, int slot, const char* path)
     });
 }
 
-void KVInstrument::ResetGroove() {}
-void KVInstrument::ResetPart() {}
-void KVInstrument::ResetProgram() {}
-bool KVInstrument::SelectProgramFolder(int) { return false; }
-bool KVInstrument::SelectProgram(int) { return false; }
-bool KVInstrument::StepProgram(int) { return false; }
+// Resets
+
+void KVInstrument::ResetGroove()
+{
+    Load([&] {
+        BeginLoad(*engine);
+        for (GroovePattern* pattern : engine->score.spare) pattern->Clear();
+        Put(GrooveState(*engine));
+    });
+    Tell();
+}
+
+void KVInstrument::ResetPart()
+{
+    ResetChannel([this](int channel) {
+        engine->score.Current().ClearChannel(channel);
+        engine->InitSettings(channel);
+    });
+}
+
+void KVInstrument::ResetProgram()
+{
+    ResetChannel([this](int channel) {
+        KeptSettings kept(*engine, channel, kKeptByPrograms);
+        engine->InitSettings(channel);
+        kept.PutBack();
+    });
+}
+
+/// act  on the channel that is selected; its files come afterwards
+template <class Act>
+void KVInstrument::ResetChannel(Act act)
+{
+    Load([&] {
+        const int channel = engine->selection.selectedChannel;
+        const ChannelSettings settings(*engine, channel);
+        PreparedFiles files(*engine);
+        files.Prepare(channel, settings);
+        MakeChange([&] {
+            act(channel);
+            files.Put();
+        });
+    });
+    Tell();
+}
+
+// Libraries
+
+bool KVInstrument::SelectProgramFolder(int index)
+{
+    return Browse([index](CPresetList& list) {
+        list.SelectFolder(index);
+        return list.folders.GetEntry(index) != nullptr;
+    });
+}
+
+bool KVInstrument::SelectProgram(int index)
+{
+    return Browse([index](CPresetList& list) {
+        list.SelectEntry(index);
+        return list.files.GetEntry(index) != nullptr;
+    });
+}
+
+bool KVInstrument::StepProgram(int direction)
+{
+    return Browse([direction](CPresetList& list) { return direction < 0 ? list.PreviousEntry() : list.NextEntry(); });
+}
+
 ProgramLibrary KVInstrument::Library(bool sampler) const
 {
+    const std::lock_guard guard(browsing);
     return ProgramLibrary(sampler ? samplerPrograms : synthPrograms);
+}
+
+template <class Choose>
+bool KVInstrument::Browse(Choose choose)
+{
+    bool loaded = false;
+    Load([&] { loaded = LoadChosen(engine->selection.selectedChannel, choose); });
+    if (loaded) Tell();
+    return loaded;
+}
+
+/// choose  selects in the library of the channel's kind; whether what is selected then is to be loaded
+template <class Choose>
+bool KVInstrument::LoadChosen(int channel, Choose choose)
+{
+    CPresetList& list = channel < kSamplerChannels ? samplerPrograms : synthPrograms;
+    {
+        const std::lock_guard guard(browsing);
+        if (!choose(list)) return false;
+    }
+    return ReplaceChannel(list.filePath, channel);
 }
 
 // MIDI
@@ -241,8 +322,7 @@ void KVInstrument::TellHost()
 {
     while (reportsMade.load(std::memory_order_relaxed) != reportsDue.load(std::memory_order_acquire) &&
            !teller.Ending()) {
-        ReportParameters();
-        RefreshEditor();
+        Tell();
         reportsMade.fetch_add(1, std::memory_order_release);
     }
 }
@@ -252,6 +332,12 @@ void KVInstrument::TellHost()
 void KVInstrument::Load(const Worker::Task& task)
 {
     loader.Run(task, [this] { HelpWithChange(); });
+}
+
+void KVInstrument::Tell()
+{
+    ReportParameters();
+    RefreshEditor();
 }
 
 void KVInstrument::FinishLoading()
@@ -284,12 +370,11 @@ void KVInstrument::LookRound()
 
 bool KVInstrument::Select(const LibraryOrder& order)
 {
-    CPresetList& list = order.channel < kSamplerChannels ? samplerPrograms : synthPrograms;
-    if (order.bank)
+    return LoadChosen(order.channel, [&order](CPresetList& list) {
+        if (!order.bank) return list.SelectEntry(order.number);
         list.SelectFolder(order.number);
-    else if (!list.SelectEntry(order.number))
-        return false;
-    return ReplaceChannel(list.filePath, order.channel);
+        return true;
+    });
 }
 
 bool KVInstrument::Replace(const std::uint8_t* data, std::int32_t size)
@@ -301,6 +386,13 @@ bool KVInstrument::Replace(const std::uint8_t* data, std::int32_t size)
         ForgetLoad(*engine);
         return false;
     }
+    Put(state);
+    return whole;
+}
+
+/// After BeginLoad.
+void KVInstrument::Put(const GrooveState& state)
+{
     PreparedFiles files(*engine);
     for (int c = 0; c < kChannels; ++c) files.Prepare(c, state.channels[static_cast<std::size_t>(c)]);
     MakeChange([&] {
@@ -310,7 +402,6 @@ bool KVInstrument::Replace(const std::uint8_t* data, std::int32_t size)
         files.Put();
         EndLoad(*engine);
     });
-    return whole;
 }
 
 bool KVInstrument::ReplacePart(const Image& image)

@@ -3,11 +3,13 @@
 
 #include <atomic>
 #include <cstdint>
+#include <mutex>
 
 #include "content/CFileList.h"
 #include "content/CPresetList.h"
 #include "content/ProgramLibrary.h"
 #include "content/state/ImageFile.h"
+#include "content/state/StateImage.h"
 #include "engine/KVSynth.h"
 #include "platform/CommandQueue.h"
 #include "platform/SharedText.h"
@@ -80,8 +82,8 @@ public:
     /// Returns when all that has been asked for is done and, but from inside a report, told to the host.
     void FinishLoading();
 
-    // The program libraries. The constructor fills them; after it the loader selects in them, for MIDI, and who else
-    // does has it do so.
+    // The program libraries. The constructor fills them; after it the loader selects in them, for MIDI and for the
+    // operations above, and who reads them elsewhere takes a copy, see Library.
     CPresetList synthPrograms, samplerPrograms;
     CFileList waveforms;        // of the content folder, as found at construction
     SharedText<512> grooveName; // who loads or saves writes, every thread reads
@@ -92,11 +94,19 @@ private:
     Image Unchanging(Write write) const;
     Image StateImage() const;
     void Load(const Worker::Task& task); // on the loader; waits
+    void Tell();                         // host and editor, of everything
+    template <class Choose>
+    bool Browse(Choose choose); // on the loader; waits
+    template <class Act>
+    void ResetChannel(Act act); // on the loader; waits
 
     // The loader's.
     void LookRound();
     bool Select(const LibraryOrder& order);
+    template <class Choose>
+    bool LoadChosen(int channel, Choose choose);
     bool Replace(const std::uint8_t* data, std::int32_t size);
+    void Put(const GrooveState& state);
     bool ReplacePart(const Image& image);
     bool ReplaceChannel(const char* path, int channel);
 
@@ -110,6 +120,8 @@ private:
     // it was loaded told by the teller. The counts say how far they are. One that finds no room is lost.
     CommandQueue<LibraryOrder, 1024> orders; // as many as a block can ask for
     std::atomic<std::uint32_t> ordersDone{0}, reportsDue{0}, reportsMade{0};
+
+    mutable std::mutex browsing; // the loader selects in a library, or somebody copies one; never the audio thread
 
     Worker teller; // no load waits for it: a host may take its time, and load from within
     Worker loader; // last: it uses the others

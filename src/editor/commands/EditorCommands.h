@@ -1,10 +1,14 @@
 // What menus, arrows and dropped files of the editor do with files and programs.
 #pragma once
 
+#include <string>
+
 #include "content/state/KVInstrument.h"
 #include "gui/window/CPluginFrame.h"
 
 namespace korvane {
+
+struct DialogRow;
 
 /// Asks for files with the desktop's dialogs, which the editor's window owns. The window's thread. What is cancelled or
 /// refused changes nothing that the instrument's operations do not name.
@@ -50,6 +54,11 @@ public:
     void Drop(const char* path);
 
 private:
+    void Run(const DialogRow& row);
+    std::string Ask(const DialogRow& row); // the chosen path; empty: none, and the editor may be closed
+    SampleSlot& CurrentLayer();
+    SampleSlot& Oscillator(int oscillator);
+
     KVInstrument& instrument;
     CPluginFrame& owner;
 };

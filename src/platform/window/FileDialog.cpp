@@ -1,6 +1,10 @@
 // From a question to the path of a file.
 #include "platform/window/FileDialog.h"
 
+#include <strings.h>
+
+#include <algorithm>
+
 #include "platform/Files.h"
 
 namespace korvane {
@@ -11,6 +15,17 @@ static std::string Proposal(const FileQuestion& question)
     std::string result = SystemPath(question.folder.c_str());
     if (!result.empty() && result.back() != '/') result += '/';
     return result + SystemPath(question.name.c_str());
+}
+
+/// Whether a filter lets files with this extension in, in capitals, too.
+static bool Offered(const FileQuestion& question, const std::string& extension)
+{
+    const auto takes = [&](const std::string& taken) {
+        return taken == "*" || strcasecmp(taken.c_str(), extension.c_str()) == 0;
+    };
+    return std::any_of(question.filters.begin(), question.filters.end(), [&](const FileQuestion::Filter& filter) {
+        return std::any_of(filter.extensions.begin(), filter.extensions.end(), takes);
+    });
 }
 
 FileDialog::FileDialog(const FileQuestion& theQuestion, std::uint32_t theOwner)
@@ -53,7 +68,7 @@ void FileDialog::Take(std::string path)
 std::string FileDialog::WithExtension(std::string path) const
 {
     const std::size_t name = path.rfind('/') + 1, dot = path.rfind('.');
-    const bool hasOne = dot != std::string::npos && dot > name;
+    const bool hasOne = dot != std::string::npos && dot > name && Offered(question, path.substr(dot + 1));
     if (hasOne || question.filter < 0 || question.filter >= static_cast<int>(question.filters.size())) return path;
     const auto& extensions = question.filters[question.filter].extensions;
     if (extensions.empty() || extensions[0].empty() || extensions[0] == "*") return path;

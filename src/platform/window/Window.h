@@ -90,7 +90,7 @@ public:
     /// The desktop's own file dialog, in front of this window, which goes on painting and ticking meanwhile and hears
     /// neither mouse nor keys; what came up is told afterwards. The chosen path as the engine writes paths; empty when
     /// the user cancels, when the window closes meanwhile or when the desktop has no dialog. Asks before it answers a
-    /// file to write that exists; a name without extension gets the first one of the chosen filter.
+    /// file to write that exists; a name without an extension of the filters gets the first one of the chosen filter.
     virtual std::string AskForFile(const FileQuestion& question) = 0;
 
     // --- any thread

@@ -108,6 +108,13 @@ TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
         const std::string asked = Asked();
         EXPECT_EQ(std::count(asked.begin(), asked.end(), '\n') / 6, c.questions) << asked;
     }
+    question.filters = {{"Sounds", {"wav", "aif"}}};
+    question.filter = 0;
+    for (const auto& [typed, name] : {std::pair{"mix 1.2", "mix 1.2.wav"}, {"mix.AIF", "mix.AIF"}}) {
+        Script("zenity", std::string("echo \"$PWD/").append(typed).append("\""));
+        const std::string answer = window.AskForFile(question);
+        EXPECT_EQ(answer.substr(answer.rfind('\\') + 1), name) << "an extension is one that the dialog has";
+    }
 }
 
 TEST_F(FileDialogs, AButtonThatComesUpBesideThemIsHeardAfterwards)
