@@ -15,6 +15,7 @@
 #include "content/state/KeptSettings.h"
 #include "content/state/PartImage.h"
 #include "content/state/PreparedFiles.h"
+#include "content/state/StateImage.h"
 #include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "platform/Files.h"
@@ -191,6 +192,7 @@ void KVInstrument::LoadSample(int channel, int slot, const char* path)
 
 // Resets
 
+/// The empty groove is one of which nothing was read.
 void KVInstrument::ResetGroove()
 {
     Load([&] {

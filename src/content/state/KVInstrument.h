@@ -9,13 +9,14 @@
 #include "content/CPresetList.h"
 #include "content/ProgramLibrary.h"
 #include "content/state/ImageFile.h"
-#include "content/state/StateImage.h"
 #include "engine/KVSynth.h"
 #include "platform/CommandQueue.h"
 #include "platform/SharedText.h"
 #include "platform/Worker.h"
 
 namespace korvane {
+
+struct GrooveState;
 
 /// What a MIDI program change or bank select asks for.
 struct LibraryOrder {
@@ -57,14 +58,14 @@ public:
     bool SaveProgramFile(const char* path);
     bool LoadProgramFile(const char* path);
 
-    // Back to the beginning. What a load keeps of the channel a reset keeps, too, but for ResetPart.
+    // Back to the beginning, with the default waveforms.
 
     void ResetGroove();  // the empty groove; its name stays
-    void ResetPart();    // the selected channel and its steps in the current pattern
-    void ResetProgram(); // the selected channel; its steps stay
+    void ResetPart();    // the selected channel, level and pan too, and its steps in the current pattern
+    void ResetProgram(); // the selected channel; what a program that is loaded leaves alone stays
 
-    // The program library of the selected channel's kind. True: a program was loaded into the channel. Outside of the
-    // library nothing happens.
+    // From the library of the selected channel's kind into that channel. True: a program was loaded. Numbers that the
+    // library does not have do nothing.
 
     bool SelectProgramFolder(int index); // and the folder's first program
     bool SelectProgram(int index);       // of the selected folder; also the one that is selected

@@ -7,7 +7,6 @@
 #include <string>
 
 #include "content/LastSampleFolder.h"
-#include "content/PathText.h"
 #include "content/state/KVInstrument.h"
 #include "platform/SharedText.h"
 
@@ -48,6 +47,9 @@ std::string TextIn(const SharedText<kSize>& text)
     return buffer;
 }
 
+/// Of a file, without a backslash at the end, as ContentFolders has folders.
+inline std::string FolderIn(const std::string& path) { return path.substr(0, path.rfind('\\')); }
+
 inline DialogStart Groove(const KVInstrument& from) { return {from.folders.grooves, TextIn(from.grooveName)}; }
 inline DialogStart Grooves(const KVInstrument& from) { return {from.folders.grooves, ""}; }
 inline DialogStart Part(const KVInstrument& from) { return {from.folders.parts, TextIn(from.grooveName)}; }
@@ -59,7 +61,7 @@ inline DialogStart LastSample(const KVInstrument&) { return {TextIn(LastSampleFo
 inline DialogStart Program(const KVInstrument& from)
 {
     const ProgramLibrary library = from.Library(from.engine->selection.OnSampler());
-    return {library.program < 0 ? library.path : std::string(FolderOf(library.path)), library.programName};
+    return {library.program < 0 ? library.path : FolderIn(library.path), library.programName};
 }
 
 inline constexpr DialogFilter kGroove[] = {{"Korvane Project", {"kvprj", "", ""}}};

@@ -3,6 +3,7 @@
 
 #include <cassert>
 
+#include "content/PathText.h"
 #include "editor/commands/DialogRow.h"
 #include "gui/window/CFileSelector.h"
 
@@ -88,7 +89,7 @@ void EditorCommands::LoadWaveSample()
     SampleSlot& layer = CurrentLayer();
     const std::string path = Ask(dialog::kLoadWaveSample);
     if (path.empty()) return;
-    LastSampleFolder().Set(path.substr(0, path.rfind('\\')).c_str());
+    LastSampleFolder().Set(dialog::FolderIn(path).c_str());
     layer.Ask(path.c_str());
 }
 

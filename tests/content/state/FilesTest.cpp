@@ -173,6 +173,10 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
         EXPECT_EQ(host.told, c.loads * param::Count) << c.what;
     }
     EXPECT_EQ(TextOf(Engine().Channel(7).programPath), Path("Sampler Programs/B/1.kvsmp"));
+    Engine().selection.selectedChannel = 8; // the last of two is selected
+    EXPECT_FALSE(Synth().StepProgram(1) || Synth().SelectProgram(2) || Synth().SelectProgramFolder(9));
+    EXPECT_TRUE(Synth().SelectProgram(1) && Synth().StepProgram(-1) && !Synth().StepProgram(-1));
+    EXPECT_EQ(TextOf(Engine().Channel(8).programPath), Synth().Library(false).path);
 }
 
 // Numbers of any size may stand in a groove: levels, gains, amounts. They play like a thousand, and finite.

@@ -84,12 +84,14 @@ TEST_F(FileDialogs, AskInTheProgramsWords)
 TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
 {
     question.save = true;
+    question.filters[0].extensions = {"aiff"}; // any would do
     std::ofstream(folder / "old.wav") << "x";
     // clang-format off
     struct Case { const char *what, *body, *name; int questions; };
     const Case cases[] = {
         {"new",               "echo $PWD/new",     "new.wav",  1},
-        {"with an extension", "echo $PWD/new.kvs", "new.kvs",  1},
+        {"with an extension", "echo $PWD/new.AIF", "new.AIF",  1},
+        {"with another dot",  "echo $PWD/new.1",   "new.1.wav", 1},
         {"hidden",            "echo $PWD/.new",    ".new.wav", 1},
         {"yes",               "echo $PWD/old",     "old.wav",  2},
         {"yes, unseen", "case \"$*\" in *--question*) ;; *old.wav*) exit 1;; *) echo $PWD/old; esac", "old.wav", 2},
@@ -107,13 +109,6 @@ TEST_F(FileDialogs, SavesAskBeforeTheyReplace)
         EXPECT_EQ(answer.substr(answer.rfind('\\') + 1), c.name);
         const std::string asked = Asked();
         EXPECT_EQ(std::count(asked.begin(), asked.end(), '\n') / 6, c.questions) << asked;
-    }
-    question.filters = {{"Sounds", {"wav", "aif"}}};
-    question.filter = 0;
-    for (const auto& [typed, name] : {std::pair{"mix 1.2", "mix 1.2.wav"}, {"mix.AIF", "mix.AIF"}}) {
-        Script("zenity", std::string("echo \"$PWD/").append(typed).append("\""));
-        const std::string answer = window.AskForFile(question);
-        EXPECT_EQ(answer.substr(answer.rfind('\\') + 1), name) << "an extension is one that the dialog has";
     }
 }
 
