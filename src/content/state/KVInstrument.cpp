@@ -214,9 +214,9 @@ void KVInstrument::ResetPart()
 void KVInstrument::ResetProgram()
 {
     ResetChannel([this](int channel) {
-        KeptSettings kept(*engine, channel, kKeptByPrograms);
+        KeptSettings before(*engine, channel, kKeptByPrograms);
         engine->InitSettings(channel);
-        kept.PutBack();
+        before.PutBack();
     });
 }
 
@@ -226,9 +226,9 @@ void KVInstrument::ResetChannel(Act act)
 {
     Load([&] {
         const int channel = engine->selection.selectedChannel;
-        const ChannelSettings settings(*engine, channel);
+        const ChannelSettings defaults(*engine, channel);
         PreparedFiles files(*engine);
-        files.Prepare(channel, settings);
+        files.Prepare(channel, defaults);
         MakeChange([&] {
             act(channel);
             files.Put();
