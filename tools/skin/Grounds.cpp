@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "skin/Lights.h"
+#include "skin/Places.h"
 #include "skin/Print.h"
 
 namespace korvane::skin {
@@ -12,8 +13,6 @@ namespace korvane::skin {
 namespace {
 
 constexpr double kPi = std::numbers::pi;
-
-Box BoxOf(Rect rect) { return {rect.x * 1.0, rect.y * 1.0, rect.w * 1.0, rect.h * 1.0}; }
 
 void DrawTicks(cairo_t* pen, Box place)
 {
@@ -147,7 +146,7 @@ double HandleOf(const ControlRow& row, bool upright)
 
 void DrawGround(cairo_t* pen, const ControlRow& row, int n)
 {
-    const Box place = BoxOf(PlaceOf(row, n));
+    const Box place = Placed{&row, n}.Place();
     switch (row.widget) {
     case Widget::Knob: return DrawTicks(pen, place);
     case Widget::Fader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX(), 9.5, 12.5);

@@ -8,11 +8,6 @@ namespace korvane::skin {
 /// The lit display's glass.
 inline constexpr Box kGlass{42, 95, 445, 168};
 
-constexpr bool OnGlass(double x, double y)
-{
-    return x >= kGlass.x && x < kGlass.x + kGlass.w && y >= kGlass.y && y < kGlass.y + kGlass.h;
-}
-
 void DrawPanel(Picture& page);
 
 } // namespace korvane::skin

@@ -1,0 +1,133 @@
+// Titles, frames, brackets, the shape of the envelope, the logo.
+#include "skin/Silk.h"
+
+#include <string>
+
+#include "skin/Places.h"
+
+namespace korvane::skin {
+
+namespace {
+
+constexpr Type kUpward{8.5, Weight::Bold, 0.4}, kFrameTitle{8.5, Weight::Bold, 0.6}, kScale{8, Weight::Bold, 0.2};
+
+/// Over the left edge of a parameter's control, or upward beside it.
+struct Title {
+    const char* text;
+    int id;
+    double dx, dy;
+    bool upward = false;
+};
+/// Around the controls of two parameters, so far from them; the title interrupts the upper line.
+struct Frame {
+    int firstId, lastId;
+    double left, top, right, bottom;
+    const char* title;
+};
+
+// clang-format off
+constexpr Title kTitles[] = {
+    {"SYNTHS",    param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 1, -7},
+    {"LFO",       param::FxLfoSyncSwitch, 0, -18},
+    {"PATTERN",   param::Pattern1, -10, 0, true}, {"TRANSPORT", param::Edit, -9, 0, true},
+};
+constexpr Frame kFrames[] = {
+    {71,                param::FxLfoShapeSwitch, 5.5, 1.5, 54.5, 10.5, nullptr},
+    {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, "STUTTER"},
+};
+// clang-format on
+
+void PrintTitles(cairo_t* pen)
+{
+    for (const Title& title : kTitles) {
+        const Box at = Find(title.id).Place();
+        if (title.upward)
+            WriteUp(pen, kUpward, kAmber, title.text, at.x + title.dx, at.MiddleY());
+        else
+            Write(pen, kTitle, kAmber, title.text, at.x + title.dx, at.y + title.dy, Stand::Left);
+    }
+}
+
+void PrintFrame(cairo_t* pen, const Frame& frame)
+{
+    constexpr double kTitleAt = 9, kGap = 4;
+    const Box inner = Around(Find(frame.firstId).Place(), Find(frame.lastId).Place());
+    const Box box{inner.x - frame.left, inner.y - frame.top, inner.w + frame.left + frame.right,
+                  inner.h + frame.top + frame.bottom};
+    const double title = box.x + kTitleAt;
+    const double end = frame.title ? title + WidthOf(pen, kFrameTitle, frame.title) + kGap : 0;
+    cairo_save(pen); // the line, but for where the title stands
+    cairo_rectangle(pen, 0, 0, title - kGap, kEditorSize.height);
+    cairo_rectangle(pen, end, 0, kEditorSize.width, kEditorSize.height);
+    cairo_rectangle(pen, 0, box.y + kGap, kEditorSize.width, kEditorSize.height);
+    cairo_clip(pen);
+    Rounded(pen, box, 4);
+    Stroke(pen, Fade(kCream, 0.28), 1);
+    cairo_restore(pen);
+    if (frame.title) Write(pen, kFrameTitle, kAmber, frame.title, title, box.y, Stand::Left);
+}
+
+/// What the knobs below it shape.
+void PrintEnvelope(cairo_t* pen)
+{
+    constexpr double kPoints[][2] = {{-7, -11}, {3, -24}, {13, -17}, {31, -17}, {42, -11}};
+    const Box attack = Find(84).Place();
+    for (const auto& point : kPoints) cairo_line_to(pen, attack.x + point[0], attack.y + point[1]);
+    cairo_set_line_join(pen, CAIRO_LINE_JOIN_ROUND);
+    Stroke(pen, Fade(kCream, 0.75), 1.3);
+    for (const auto& point : kPoints) {
+        Circle(pen, attack.x + point[0], attack.y + point[1], 1.5);
+        Fill(pen, kCream);
+    }
+}
+
+/// Below the controls of two parameters.
+void PrintBracket(cairo_t* pen, int firstId, int lastId, const std::string& text)
+{
+    constexpr double kBelow = 13.5, kDeep = 5, kInset = 4.5, kGap = 5;
+    const Box keys = Around(Find(firstId).Place(), Find(lastId).Place());
+    const double left = keys.x + kInset, right = keys.x + keys.w - kInset, top = keys.y + keys.h + kBelow;
+    const double half = WidthOf(pen, kScale, text.c_str()) / 2 + kGap, middle = keys.MiddleX();
+    Line(pen, left, top, left, top + kDeep);
+    cairo_line_to(pen, middle - half, top + kDeep);
+    Line(pen, right, top, right, top + kDeep);
+    cairo_line_to(pen, middle + half, top + kDeep);
+    Stroke(pen, Fade(kCream, 0.35), 1);
+    Write(pen, kScale, kDimCream, text.c_str(), middle, top + kDeep);
+}
+
+void PrintBrackets(cairo_t* pen)
+{
+    constexpr int kSteps = 16, kPerBeat = 4, kBars = 8;
+    for (int step = 0; step < kSteps; step += kPerBeat)
+        PrintBracket(pen, param::Step1 + step, param::Step1 + step + kPerBeat - 1,
+                     "BEAT " + std::to_string(step / kPerBeat + 1));
+    PrintBracket(pen, param::Bar1, param::Bar1 + kBars - 1, "BARS OF THE PATTERN");
+}
+
+/// Within the area where a click opens the about page.
+void PrintLogo(cairo_t* pen)
+{
+    constexpr Type kLogo{42, Weight::Bold, 12}, kLine{9, Weight::Medium, 3.1};
+    constexpr Box kArea = BoxOf(kLogoArea);
+    constexpr double kMiddle = kArea.x + kArea.w / 2 + 4, kTextY = kArea.y + 41;
+    Write(pen, kLogo, Black(0.6), "KORVANE", kMiddle + 1, kTextY + 1.5);
+    Write(pen, kLogo, kCream, "KORVANE", kMiddle, kTextY);
+    const double half = WidthOf(pen, kLogo, "KORVANE") / 2;
+    cairo_rectangle(pen, kMiddle - half, kTextY + 21, half * 2, 2);
+    Fill(pen, kAmber);
+    Write(pen, kLine, kDimCream, "BRASSMOOR  GROOVEBOX", kMiddle, kTextY + 32);
+}
+
+} // namespace
+
+void PrintSilk(cairo_t* pen)
+{
+    PrintTitles(pen);
+    for (const Frame& frame : kFrames) PrintFrame(pen, frame);
+    PrintEnvelope(pen);
+    PrintBrackets(pen);
+    PrintLogo(pen);
+}
+
+} // namespace korvane::skin
