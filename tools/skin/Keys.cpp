@@ -62,7 +62,7 @@ Shade ChannelCap(int column) { return column < kSamplerChannels ? kCharcoal : kS
 
 // Legends
 
-constexpr Type kBig{13, Weight::Bold}, kName{8.5, Weight::Bold, 0.3}, kSmall{8, Weight::Bold, 0.1};
+constexpr Type kBig{13, Weight::Bold}, kName{8.5, Weight::Bold, 0.3};
 
 void Number(cairo_t* pen, Box face, int number, Shade ink)
 {
