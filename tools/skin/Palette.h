@@ -38,7 +38,7 @@ inline constexpr Shade kCream = Rgb(228, 214, 190), kDimCream = Rgb(172, 159, 13
 
 // Caps of keys
 inline constexpr Shade kCharcoal = Rgb(74, 69, 64), kTaupe = Rgb(104, 95, 84), kSlate = Rgb(70, 78, 86);
-inline constexpr Shade kIvory = Rgb(206, 195, 174), kBrick = Rgb(122, 58, 42);
+inline constexpr Shade kIvory = Rgb(206, 195, 174);
 inline constexpr Shade kDarkInk = Rgb(46, 27, 14);
 
 // Light
