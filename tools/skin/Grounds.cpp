@@ -146,7 +146,7 @@ double HandleOf(const ControlRow& row, bool upright)
 
 void DrawGround(cairo_t* pen, const ControlRow& row, int n)
 {
-    const Box place = Placed{&row, n}.Place();
+    const Box place = BoxOf(PlaceOf(row, n));
     switch (row.widget) {
     case Widget::Knob: return DrawTicks(pen, place);
     case Widget::Fader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX(), 9.5, 12.5);

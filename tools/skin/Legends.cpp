@@ -22,13 +22,13 @@ constexpr Placed PlacedOf(const Legend& legend)
 constexpr bool EveryLegendHasItsControl()
 {
     for (const Legend& legend : kLegends)
-        if (!PlacedOf(legend).row) return false;
+        if (!PlacedOf(legend).found) return false;
     for (const LightLegend& legend : kLightLegends)
-        if (!Find(legend.id).row) return false;
+        if (!Find(legend.id).found) return false;
     for (const CurveLegend& legend : kCurveLegends)
-        if (!Find(legend.id).row) return false;
+        if (!Find(legend.id).found) return false;
     for (const Heading& heading : kHeadings)
-        if (!Find(heading.firstId).row || !Find(heading.lastId).row) return false;
+        if (!Find(heading.firstId).found || !Find(heading.lastId).found) return false;
     return true;
 }
 static_assert(EveryLegendHasItsControl());

@@ -8,10 +8,11 @@ namespace korvane::skin {
 
 constexpr Box BoxOf(Rect rect) { return {rect.x * 1.0, rect.y * 1.0, rect.w * 1.0, rect.h * 1.0}; }
 
-/// A control of the layout; row is null when there is none.
+/// A control of the layout.
 struct Placed {
     const ControlRow* row = nullptr;
     int n = 0;
+    bool found = false; // otherwise there is no row
 
     constexpr Box Place() const { return BoxOf(PlaceOf(*row, n)); }
 };
@@ -20,7 +21,7 @@ struct Placed {
 constexpr Placed Find(int id)
 {
     for (const ControlRow& row : kLayout)
-        if (row.id != kNoId && id >= row.id && id < row.id + row.count) return {&row, id - row.id};
+        if (row.id != kNoId && id >= row.id && id < row.id + row.count) return {&row, id - row.id, true};
     return {};
 }
 
@@ -29,7 +30,7 @@ constexpr Placed Find(Role role, int number)
 {
     for (const ControlRow& row : kLayout)
         if (row.role == role && number >= row.first && number < row.first + row.count)
-            return {&row, number - row.first};
+            return {&row, number - row.first, true};
     return {};
 }
 
