@@ -1,5 +1,5 @@
 // Keyboard, right clicks and commands of the panel, and what happens without its images.
-#include <filesystem>
+#include <limits>
 
 #include <gtest/gtest.h>
 
@@ -94,6 +94,26 @@ TEST_F(HandsTest, ResetStartMovesTheCurrentLayersStart)
     EXPECT_EQ(Engine().storedParams[2][slot::LayerStart], 0.5f);
     EXPECT_EQ(Engine().storedParams[2][slot::LayerStart + 1], 0.0f);
     Press(mouse::LeftUp);
+}
+
+TEST_F(HandsTest, WildValuesOfAHostLeaveThePanelWhole)
+{
+    constexpr float kInfinity = std::numeric_limits<float>::infinity();
+    for (const float wild : {kInfinity, -1e30f, 1e30f, std::numeric_limits<float>::quiet_NaN(), 0.5f}) {
+        for (const int channel : {2, 9}) {
+            Show(channel, channel == 9);
+            for (int id = -1; id <= param::Count; ++id) {
+                instrument->SetParameter(id, wild);
+                editor->notices.Post(id, wild);
+            }
+            Tick();
+            Click(110, 140); // a list or a knob of the display
+            Tick();
+            Click(1000, 620);
+        }
+    }
+    Tick();
+    EXPECT_NE(editor->windowHandle, nullptr);
 }
 
 TEST_F(HandsTest, NothingReachesTheEngineWithoutAHost)
