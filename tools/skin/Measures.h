@@ -78,8 +78,9 @@ constexpr const ImageSize& SizeOf(int id)
 /// Where a control of a row stands in the window.
 constexpr Rect PlaceOf(const ControlRow& row, int n)
 {
-    const ImageSize* const size = row.image == kNoImage ? nullptr : &SizeOf(row.image);
-    return korvane::PlaceOf(row, n, size ? Size{size->height, size->width} : Size{});
+    for (const ImageSize& size : kImageSizes)
+        if (size.id == row.image) return korvane::PlaceOf(row, n, Size{size.height, size.width});
+    return korvane::PlaceOf(row, n, Size{});
 }
 
 } // namespace korvane::skin
