@@ -100,6 +100,8 @@ void DrawPad(cairo_t* pen, Box place)
     cairo_restore(pen);
 }
 
+Box Wider(Box box, double by) { return {box.x - by, box.y, box.w + 2 * by, box.h}; }
+
 void DrawFlatField(cairo_t* pen, Box place)
 {
     const Box box{place.x + 0.5, place.y + 0.5, place.w - 1, place.h - 1};
@@ -158,7 +160,7 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     case Widget::Meter: return DrawMeterLenses(pen, place);
     case Widget::Pad: return DrawPad(pen, place);
     case Widget::Monitor: return DrawMonitor(pen, place);
-    case Widget::DarkNumber: return DrawFlatField(pen, place);
+    case Widget::DarkNumber: return DrawFlatField(pen, row.page == Page::Channel ? Wider(place, 3) : place); // "12 smt"
     case Widget::List: return DrawList(pen, row, place);
     case Widget::LightNumber: return DrawDarkDisplay(pen, place.Inset(-1));
     case Widget::Text: return DrawDarkDisplay(pen, place);
