@@ -9,6 +9,7 @@
 
 #include "content/CFileStreamer.h"
 #include "content/PathText.h"
+#include "content/SampleSlot.h"
 #include "content/SharedSounds.h"
 
 namespace korvane {
@@ -112,10 +113,18 @@ PoolEntry* SamplePool::Load(const char* path, int kind)
 void SamplePool::Release(PoolEntry* entry)
 {
     if (!entry || --entry->refCount >= 1) return;
-    std::unique_ptr<PoolEntry> gone;
+    std::unique_ptr<PoolEntry> gone; // is freed when nobody has to wait any more
+    const std::lock_guard guard(readers);
     for (auto* list : {&entries, &outdated})
         for (std::unique_ptr<PoolEntry>* at = list; *at; at = &(*at)->next)
             if (at->get() == entry) return Move(*at, gone);
+}
+
+std::shared_ptr<const CWaveSample> SamplePool::SoundOf(const SampleSlot& slot) const
+{
+    const std::lock_guard guard(readers);
+    const PoolEntry* const entry = slot.entry.load(std::memory_order_acquire);
+    return entry ? entry->sample : nullptr;
 }
 
 SoundUse* SamplePool::Use(const char* path, int kind)

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <mutex>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ namespace kind {
 inline constexpr int Sample = 0;   // a sampler layer's sound
 inline constexpr int Waveform = 1; // a synth oscillator's cycle
 } // namespace kind
+
+struct SampleSlot;
 
 /// One loaded file. Kind and path together tell entries apart: a file used both ways has two.
 struct PoolEntry {
@@ -61,6 +64,10 @@ public:
     /// Frees what slots have returned.
     void Collect();
 
+    /// The sample that a slot of this pool's engine plays; null when there is none. Any thread but the audio thread; it
+    /// may have to wait for another reader, or for the loader to take an entry from its list.
+    std::shared_ptr<const CWaveSample> SoundOf(const SampleSlot& slot) const;
+
     /// Looks for the file where it was, then by its name beside the groove, then in the default folder of its kind.
     /// found  receives the first of these paths that can be opened, with backslashes
     bool Find(const char* path, int kind, char (&found)[1024]) const;
@@ -92,6 +99,7 @@ public:
     std::unique_ptr<PoolEntry> entries;  // in order of first load
     std::unique_ptr<PoolEntry> outdated; // still in use; their files have changed
     SoundReturns returned;               // by whoever takes offers
+    mutable std::mutex readers;          // of entries, but for loader and audio thread; see SoundHandover.h
 
     // Audio thread only.
     alignas(64) float channelBuffers[kChannels][2][kMaxRun] = {};

@@ -9,10 +9,12 @@ bool SampleSlot::TakeOffer(SoundReturns& returned)
 {
     SoundUse* const next = offer.Take();
     if (!next) return false;
-    returned.Push(std::exchange(use, next));
+    const PoolEntry* const before = Playing();
+    entry.store(next->entry, std::memory_order_release);
+    returned.Push(std::exchange(use, next)); // not before nobody finds its entry here any more
     name.Set(next->entry ? next->entry->name : "");
     path.Set(next->entry ? next->entry->path : "");
-    return std::exchange(entry, next->entry) != next->entry;
+    return before != next->entry;
 }
 
 void ServeRequest(SamplePool& pool, SampleSlot& slot, int kind)

@@ -1,6 +1,8 @@
 // What a channel's sample or oscillator slot holds and waits for.
 #pragma once
 
+#include <atomic>
+
 #include "content/LoadRequest.h"
 #include "content/SamplePool.h"
 #include "content/SoundHandover.h"
@@ -27,12 +29,15 @@ struct SampleSlot {
     /// start of a run.
     bool TakeOffer(SoundReturns& returned);
 
-    LoadRequest request;        // any thread posts, the loader takes
-    SoundOffer offer;           // the loader puts, who has the engine to itself takes
-    SharedText<256> name;       // as the editor shows it; who takes an offer writes
-    SharedText<512> path;       // as a groove stores it: until its file is taken, the path that a load has asked for
-    PoolEntry* entry = nullptr; // what plays; who has the engine to itself
-    SoundUse* use = nullptr;    // on whose account
+    /// What plays, null when that is nothing. Who has the engine to itself.
+    PoolEntry* Playing() const { return entry.load(std::memory_order_relaxed); }
+
+    LoadRequest request;  // any thread posts, the loader takes
+    SoundOffer offer;     // the loader puts, who has the engine to itself takes
+    SharedText<256> name; // as the editor shows it; who takes an offer writes
+    SharedText<512> path; // as a groove stores it: until its file is taken, the path that a load has asked for
+    std::atomic<PoolEntry*> entry{nullptr}; // what plays; who has the engine to itself, others by SamplePool::SoundOf
+    SoundUse* use = nullptr;                // on whose account; who has the engine to itself
 };
 
 /// Of a slot by its number: oscillators come first.

@@ -20,6 +20,11 @@ struct PoolEntry;
 //   returned   In the pool's SoundReturns. The loader takes the whole list in its next round, counts a user less for
 //              each and frees what nobody uses.
 //
+// Another thread that looks at a sound holds SamplePool::readers while it finds the entry in its slot and copies the
+// pointer to the sound, which lives as long as that copy. A slot names its new entry before it returns the old use, and
+// the loader, which has taken that return, passes through the same mutex before it frees: who looked earlier has its
+// copy by then, who looks later finds the new entry. The audio thread takes no part.
+//
 // Requests of one slot are served in order, as there is one loader. Neither it nor the audio thread waits here. Who
 // asks for files and is not the audio thread waits for the loader alone: a file that is offered counts as loaded, since
 // the next run takes it.

@@ -61,12 +61,12 @@ GrooveChannel::GrooveChannel(SamplePool& pool, RandomGenerator& generator) : sou
 
 void GrooveChannel::Render(int frames, float tempo)
 {
-    soundedThisBlock = false;
     TakeOffers();
     SetUpModulation(sound, AnyVoiceActive(voices), tempo);
     UpdateFxSettings(sound.params, fxActive, fxUnits, *stutterUnit);
-    RefreshVoices();
-    if (soundedThisBlock) RenderVoices(frames);
+    const bool sounds = RefreshVoices();
+    soundedThisBlock = sounds; // once, so that who watches sees no gap
+    if (sounds) RenderVoices(frames);
 }
 
 void GrooveChannel::TakeOffers()
@@ -86,15 +86,17 @@ void GrooveChannel::TakeOffers()
     }
 }
 
-void GrooveChannel::RefreshVoices()
+bool GrooveChannel::RefreshVoices()
 {
-    if (!AnyVoiceActive(voices)) return;
+    if (!AnyVoiceActive(voices)) return false;
+    bool sounds = false;
     const float levelGain = LevelGain(sound.Modulated(slot::AmpLevel));
     for (auto& voice : voices) {
         if (!voice->active) continue;
         sound.velocityIn = SourceVelocity(*voice);
-        if (RefreshVoice(sound, *voice, levelGain)) soundedThisBlock = true;
+        sounds |= RefreshVoice(sound, *voice, levelGain);
     }
+    return sounds;
 }
 
 void GrooveChannel::RenderVoices(int frames)

@@ -54,12 +54,12 @@ public:
     Shared<bool> fxActive[kEffects]; // whether each unit is played; whoever moves buttons writes, audio thread reads
     ChannelVoices voices;
     std::uint32_t voiceCounter = 0; // notes since the last reset; stamps the voices' age
-    bool soundedThisBlock = false;  // a voice was active in the last run
+    Shared<bool> soundedThisBlock;  // a voice was active in the last run; audio thread writes, every thread reads
     MixerStrip strip;
 
 private:
     void TakeOffers();
-    void RefreshVoices();
+    bool RefreshVoices(); // whether one is active
     void RenderVoices(int frames);
     ChannelVoice& VoiceForNote();
 };

@@ -45,9 +45,9 @@ TEST_F(Pool, ReadsAFileAnewWhenItHasChanged)
     WriteWav("a.wav", {0.5f});
     const auto load = [this](KVInstrument& synth) {
         synth.LoadSample(0, kFirstLayerSlot, Path("a.wav").c_str());
-        const PoolEntry* const playing = synth.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].entry;
+        const PoolEntry* const playing = synth.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].Playing();
         synth.ProcessBlock(nullptr, nullptr, 64, true);
-        return std::pair(playing, synth.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].entry);
+        return std::pair(playing, synth.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].Playing());
     };
     KVInstrument other(nullptr);
     const PoolEntry* const first = load(Synth()).second;
@@ -58,7 +58,7 @@ TEST_F(Pool, ReadsAFileAnewWhenItHasChanged)
     const auto [before, after] = load(Synth());
     EXPECT_EQ(before, first);
     EXPECT_EQ(after->sample->numFrames, 2);
-    EXPECT_EQ(other.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].entry->sample->numFrames, 1);
+    EXPECT_EQ(other.engine->Channel(0).sound.sampleSlots[kFirstLayerSlot].Playing()->sample->numFrames, 1);
     Synth().FinishLoading();
     EXPECT_EQ(Entries(), 1);
 }
@@ -122,7 +122,7 @@ TEST_F(Pool, ServesTheSlotsOfAChannel)
     Synth().LoadSample(kSamplerChannels, kFirstLayerSlot - 1, "\\a.wav");
     Render();
     EXPECT_EQ(TextOf(oscillator.path), Path("Synth Waves/a.wav"));
-    EXPECT_TRUE(oscillator.entry && oscillator.entry->waveTables);
+    EXPECT_TRUE(oscillator.Playing() && oscillator.Playing()->waveTables);
     oscillator.request.Post((Path("") + std::string(600, 'x')).c_str());
     char taken[LoadRequest::kPathBytes];
     ASSERT_TRUE(oscillator.request.Take(taken));

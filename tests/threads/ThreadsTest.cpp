@@ -100,7 +100,10 @@ protected:
             *meter = 0.0f;
         }
         char text[512];
-        Engine().Channel(c).sound.sampleSlots[step % kSampleSlots].name.Get(text);
+        for (const SampleSlot& shown : Engine().Channel(c).sound.sampleSlots) {
+            shown.name.Get(text);
+            if (const auto sample = Engine().samplePool->SoundOf(shown)) whole = whole && sample->numFrames >= 0;
+        }
         for (int n = 0; n < 10; ++n) {
             Synth().GetProgramName(0, text);
             whole = whole && std::count(std::begin(names), std::end(names), text) > 0;

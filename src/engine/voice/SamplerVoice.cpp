@@ -22,7 +22,7 @@ constexpr float kHoldLevel = 1.00001f; // beyond full level, so that every frame
 /// The sample of a layer, or null. A file that could not be read is a sample of 0 frames.
 const CWaveSample* SampleOf(const ChannelSound& channel, int l)
 {
-    const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(kFirstLayerSlot + l)].entry;
+    const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(kFirstLayerSlot + l)].Playing();
     return entry ? entry->sample.get() : nullptr;
 }
 

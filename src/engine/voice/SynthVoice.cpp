@@ -124,7 +124,7 @@ void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSett
     }
     for (int osc = 0; osc < kOscillators; ++osc) {
         FillIncrements(frequencies[osc], rate, settings, tuning.increments[osc]);
-        const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(osc)].entry;
+        const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(osc)].Playing();
         const float* tables = entry ? entry->waveTables.get() : nullptr;
         tuning.tables[osc] =
             tables ? tables + kWaveTablePoints * TableOf(frequencies[osc], rate) : channel.samplePool.silentTable;

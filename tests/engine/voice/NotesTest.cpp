@@ -12,7 +12,7 @@ struct NoteRig : VoiceRig {
     NoteRig() : VoiceRig(false)
     {
         GiveWave(0, [](int, int) { return 0.5f; });
-        channel.sound.sampleSlots[1].entry = channel.sound.sampleSlots[2].entry = channel.sound.sampleSlots[0].entry;
+        channel.sound.sampleSlots[1].entry = channel.sound.sampleSlots[2].entry = entries.back().get();
     }
 
     std::vector<int> Notes() const

@@ -31,9 +31,9 @@ struct PlayedRig : VoiceRig {
     void Replace(int at, float height, int frames)
     {
         SampleSlot& target = channel.sound.sampleSlots[static_cast<std::size_t>(at)];
-        PoolEntry* const playing = target.entry;
+        PoolEntry* const playing = target.Playing();
         if (frames != kNothing) Give(at, height, frames);
-        target.offer.Put(new SoundUse{frames == kNothing ? nullptr : target.entry}, pool->returned);
+        target.offer.Put(new SoundUse{frames == kNothing ? nullptr : target.Playing()}, pool->returned);
         target.entry = playing;
     }
 
