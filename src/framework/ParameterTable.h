@@ -40,6 +40,8 @@ enum : int {
     FxActivate = 69,
     FxLfoShapeSwitch = 73,
     FxLfoSyncSwitch = 75,
+    FxX = 77,
+    FxY = 78,
     FilterTypeSwitch = 96,
     EnvelopeNumber = 97,
     EnvelopeDestinationSwitch = 98,

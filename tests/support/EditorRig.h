@@ -69,7 +69,7 @@ struct TestEditor : CSynthEditor {
         std::fill_n(page.pixels.get(), 200 * 300, kPage);
     }
     bool CreateContent() override { return !fill || fill(); }
-    CBitmap* FindBitmap(int number) override { return number == 77 ? &page : CSynthEditor::FindBitmap(number); }
+    CBitmap* FindBitmap(int n) override { return n == 77 ? &page : picture ? picture : CSynthEditor::FindBitmap(n); }
     void ControlChanged(CControl* control) override
     {
         if (synth && synth->wrapper) synth->wrapper->ParameterAutomated(control->GetId(), control->GetValue());
@@ -95,7 +95,7 @@ struct TestEditor : CSynthEditor {
 
     std::function<bool()> fill;
     std::function<void(CControl*)> onChange;
-    CBitmap page{77};
+    CBitmap page{77}, *picture = nullptr; // bitmap 77, and that of every other number
     Log& log;
 };
 
