@@ -127,7 +127,7 @@ TEST_F(Bridge, IsMadeInOrder)
     const std::vector<int> record = {effect->magic,     effect->uniqueId,   effect->numPrograms, effect->numParams,
                                      effect->numInputs, effect->numOutputs, effect->version,     effect->initialDelay};
     EXPECT_EQ(record, (std::vector<int>{0x56737450, 0x4B765348, 1, param::HostCount, 2, 28, 1, 0})) << "PtsV, HSvK";
-    EXPECT_EQ(effect->flags & ~effect_flag::HasEditor, 0x130);
+    EXPECT_EQ(effect->flags, 0x131);
     EXPECT_EQ(effect->ioRatio, 1.0f);
     EXPECT_EQ(Ask(request::Close), 1);
     effect = Make("main");

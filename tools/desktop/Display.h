@@ -8,6 +8,7 @@
 #include <vector>
 #include <xcb/xtest.h>
 
+#include "platform/window/Geometry.h"
 #include "platform/window/XcbConnection.h"
 #include "platform/window/XcbVisual.h"
 
@@ -66,6 +67,37 @@ public:
     bool Has(xcb_window_t owner, int name) const { return !!server.Property(owner, server.Atom(name), false); }
     void Now(xcb_void_cookie_t) { Sync(); } // the request is done when this returns
     void Sync() { std::free(xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr)); }
+    /// The windows in a window, the lowest first.
+    std::vector<xcb_window_t> Children(xcb_window_t of) const
+    {
+        const XcbAnswer<xcb_query_tree_reply_t> tree(xcb_query_tree_reply(server, xcb_query_tree(server, of), nullptr));
+        const xcb_window_t* const first = tree ? xcb_query_tree_children(tree.get()) : nullptr;
+        return std::vector(first, first + (tree ? xcb_query_tree_children_length(tree.get()) : 0));
+    }
+    Size SizeOf(xcb_window_t of) const
+    {
+        const XcbAnswer<xcb_get_geometry_reply_t> box(
+            xcb_get_geometry_reply(server, xcb_get_geometry(server, of), nullptr));
+        return box ? Size{box->height, box->width} : Size{};
+    }
+    /// A property of 8 or 32 bits; empty where there is none.
+    template <class Word>
+    std::vector<Word> Property(xcb_window_t of, xcb_atom_t name) const
+    {
+        const auto reply = server.Property(of, name, false);
+        const auto* const first = reply ? static_cast<Word*>(xcb_get_property_value(reply.get())) : nullptr;
+        return std::vector(first, first + (reply ? reply->value_len : 0));
+    }
+    /// Asks the owner of a top-level window to close it, as a window manager does for its user.
+    void AskToClose(xcb_window_t owner)
+    {
+        const auto request = xcb_intern_atom(server, 0, 12, "WM_PROTOCOLS");
+        const XcbAnswer<xcb_intern_atom_reply_t> protocols(xcb_intern_atom_reply(server, request, nullptr));
+        const auto known = Property<xcb_atom_t>(owner, protocols->atom); // the only one that owners here know
+        xcb_client_message_event_t message{XCB_CLIENT_MESSAGE, 32, 0, owner, protocols->atom, {}};
+        if (!known.empty()) message.data.data32[0] = known[0];
+        Now(xcb_send_event(server, 0, owner, 0, reinterpret_cast<const char*>(&message)));
+    }
     xcb_window_t Focus() const
     {
         const XcbAnswer<xcb_get_input_focus_reply_t> reply(

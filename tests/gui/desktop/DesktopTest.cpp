@@ -46,12 +46,7 @@ struct DesktopTest : testing::Test {
         const std::filesystem::directory_iterator files("/proc/self/fd");
         return std::distance(begin(files), end(files));
     }
-    long Windows() const
-    {
-        const XcbAnswer<xcb_query_tree_reply_t> reply(
-            xcb_query_tree_reply(host->server, xcb_query_tree(host->server, host->window), nullptr));
-        return reply ? xcb_query_tree_children_length(reply.get()) : -1;
-    }
+    long Windows() const { return std::ssize(host->Children(host->window)); }
 
     std::unique_ptr<DisplayServer> display;
     std::unique_ptr<Host> host;

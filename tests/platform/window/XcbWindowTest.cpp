@@ -23,12 +23,7 @@ protected:
             expected[n] = image.pixels[(height - 1 - n / w / scale) * width + n % w / scale];
         return Soon([&] { return host->Screen(w, height * scale) == expected; });
     }
-    long Windows() const
-    {
-        const XcbAnswer<xcb_query_tree_reply_t> tree(
-            xcb_query_tree_reply(host->server, xcb_query_tree(host->server, host->window), nullptr));
-        return xcb_query_tree_children_length(tree.get());
-    }
+    long Windows() const { return std::ssize(host->Children(host->window)); }
 };
 
 // Whatever the host's window, the scale and the way to the screen: it shows the image.
