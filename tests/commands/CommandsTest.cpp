@@ -28,6 +28,7 @@ struct Commands : CommandTest {
             Stand(name, "");
         for (const char* script : {"tools/rooms", "fuzz"}) Script(house / script, "");
         Script(house / "build/tools/korvane-render", "for last; do :; done; pwd >\"$last\"");
+        Script(house / "build/tools/korvane-window", "exit $ENDS");
     }
 
     void Script(const fs::path& file, const std::string& body) const
@@ -39,9 +40,10 @@ struct Commands : CommandTest {
     void Stand(const char* name, const std::string& body) const { Script(bin / name, body); }
 
     /// Runs one of the two from another folder.
-    Answer Run(const std::string& command) const
+    /// variables  NAME=value each
+    Answer Run(const std::string& command, const std::string& variables = "") const
     {
-        return Shell("cd elsewhere && env -i PATH='" + bin.string() + "' ../house/" + command);
+        return Shell("cd elsewhere && env -i PATH='" + bin.string() + "' " + variables + " ../house/" + command);
     }
 };
 
@@ -140,6 +142,30 @@ TEST_F(Commands, TheGrooveIsFoundFromWhereTheCallerStands)
     fs::remove(house / "build/play.log");
     fs::create_directory(house / "build/play.log");
     EXPECT_TRUE(Run("play").Complains("korvane: cannot write to " + (house / "build/play.log").string()));
+}
+
+TEST_F(Commands, ShowsTheWindowWhereThereIsADisplay)
+{
+    // clang-format off
+    struct Case { const char *variables, *command; bool shows, plays; int status; };
+    const Case cases[] = {
+        {"DISPLAY=:0 ENDS=0", "play mine",         true,  false, 0},
+        {"DISPLAY=:0 ENDS=1", "play mine",         true,  false, 1}, // there is no such groove
+        {"DISPLAY=:0 ENDS=3", "play mine",         true,  true,  0}, // the display does not answer
+        {"DISPLAY=",          "play mine",         false, true,  0},
+        {"DISPLAY=:0",        "play --sound mine", false, true,  0},
+        {"DISPLAY=:0",        "play --loud",       false, false, 2},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        const Answer answer = Run(c.command, c.variables);
+        EXPECT_EQ(std::tuple(answer.Called("korvane-window mine\n"), answer.Called("korvane-render --bars 8 mine "),
+                             answer.status),
+                  std::tuple(c.shows, c.plays, c.status))
+            << c.variables << ' ' << c.command << '\n'
+            << answer.calls << answer.errors;
+        EXPECT_EQ(answer.Says("VST_PATH"), c.status == 0) << "how to load it";
+    }
 }
 
 // A server that only has its stand-in for a device would take the sound and nobody would hear it.

@@ -53,10 +53,15 @@ std::string Find(const std::string& bundle, const std::string& name, const char*
             files.push_back(std::move(file));
         }
     }
-    return files[FindName(names, name, what, "; --list shows them all")].string();
+    return files[FindName(names, name, what, "; korvane-render --list shows them all")].string();
 }
 
 } // namespace
+
+std::string DefaultPlugin()
+{
+    return (fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "Korvane" / "korvane.so").string();
+}
 
 void PrintLibrary(const std::string& bundle)
 {

@@ -8,6 +8,9 @@
 
 namespace korvane::render {
 
+/// The plug-in of the build that this program belongs to.
+std::string DefaultPlugin();
+
 /// Prints grooves, programs by category and parts.
 void PrintLibrary(const std::string& bundle);
 

@@ -106,6 +106,13 @@ void PluginHost::SetState(const std::vector<std::uint8_t>& bytes, const std::str
         throw Failure("the plug-in refuses '" + name + "'");
 }
 
+std::pair<int, int> PluginHost::EditorSize() const
+{
+    ERect* place = nullptr;
+    Ask(request::EditorRectangle, 0, 0, &place);
+    return place ? std::pair(place->bottom - place->top, place->right - place->left) : std::pair(0, 0);
+}
+
 void PluginHost::QueueMidi(int frame, std::uint8_t status, std::uint8_t data1, std::uint8_t data2)
 {
     VstMidiEvent event{};

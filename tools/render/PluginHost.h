@@ -3,14 +3,15 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "shell/vst2/AEffect.h"
 
 namespace korvane::render {
 
-/// Loads a plug-in, hands it events, time and transport, and renders it block by block. One thread; states, parameters
-/// and the format may come from another while it renders.
+/// Loads a plug-in, hands it events, time and transport, and renders it block by block. One thread; states, parameters,
+/// the editor and the format may come from another while it renders.
 class PluginHost {
 public:
     /// Throws Failure when the file is no plug-in or refuses this host.
@@ -33,6 +34,12 @@ public:
     std::vector<std::uint8_t> GetState();
     /// Throws Failure when the plug-in refuses the bytes.
     void SetState(const std::vector<std::uint8_t>& bytes, const std::string& name);
+
+    /// Pixels, height and width; zeros where the plug-in has no editor.
+    std::pair<int, int> EditorSize() const;
+    /// parent  the number of a window of the system's; whether the editor is open in it
+    bool OpenEditor(void* parent) { return Ask(request::EditorOpen, 0, 0, parent) != 0; }
+    void CloseEditor() { Ask(request::EditorClose); }
 
     /// To be played in the next block, in order of their frames.
     void QueueMidi(int frame, std::uint8_t status, std::uint8_t data1, std::uint8_t data2);

@@ -37,11 +37,6 @@ bool progressShown = false; // and its line not ended
 
 void Interrupt(int) { interrupted = 1; }
 
-std::string DefaultPlugin()
-{
-    return (fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "Korvane" / "korvane.so").string();
-}
-
 /// One rendering, from the loaded plug-in to the finished files.
 class Rendering {
 public:
