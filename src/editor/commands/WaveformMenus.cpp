@@ -24,26 +24,36 @@ void WaveformMenus::Fill()
     }
 }
 
+int WaveformMenus::ItemOf(const std::string& path) const
+{
+    for (std::int32_t n = 0; n < instrument.waveforms.Count(); ++n)
+        if (path == instrument.waveforms.GetEntry(n)) return kFirstWave + n;
+    return -1;
+}
+
 void WaveformMenus::ShowNames()
 {
     const GrooveEngine& engine = *instrument.engine;
     const auto& slots = engine.Channel(engine.selection.selectedChannel).sound.sampleSlots;
-    std::size_t oscillator = 0;
-    for (CControlDropDownList* list : lists) {
-        char name[256];
-        slots[oscillator++].name.Get(name);
-        if (list) list->SetClosedText(ShownName(name));
+    for (std::size_t oscillator = 0; oscillator < lists.size(); ++oscillator) {
+        CControlDropDownList* const list = lists[oscillator];
+        if (!list) continue;
+        char name[256], path[512];
+        slots[oscillator].name.Get(name);
+        slots[oscillator].path.Get(path);
+        list->SetClosedText(ShownName(name));
+        Playing& shown = playing[oscillator];
+        if (shown.path != path) shown = {path, ItemOf(path)};
+        list->SetValue(static_cast<float>(shown.item));
     }
 }
 
-/// The list keeps no choice: what the oscillator plays is what it shows.
 void WaveformMenus::Chosen(int oscillator)
 {
     if (oscillator < 0 || oscillator >= kFirstLayerSlot) return;
     CControlDropDownList* const list = lists[static_cast<std::size_t>(oscillator)];
     if (!list) return;
-    const int index = Truncate(list->GetValue());
-    list->SetValue(-1.0f);
+    const int index = Truncate(list->GetValue()); // what the oscillator plays is shown by the next tick
     if (index == kLoadWaveform)
         commands.ImportWave(oscillator);
     else

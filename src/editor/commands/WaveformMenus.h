@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <string>
 
 #include "content/state/KVInstrument.h"
 #include "editor/commands/EditorCommands.h"
@@ -23,14 +24,21 @@ public:
     void Attach(int oscillator, CControlDropDownList* list);
     /// Gives the lists their items, those that have none.
     void Fill();
-    /// On each tick; draws nothing that has not changed.
+    /// On each tick; draws nothing that has not changed. The item of what the oscillator plays is the current one.
     void ShowNames();
     void Chosen(int oscillator);
 
 private:
+    struct Playing {
+        std::string path;
+        int item = -1; // of the list; none for files of elsewhere
+    };
+    int ItemOf(const std::string& path) const;
+
     KVInstrument& instrument;
     EditorCommands& commands;
     std::array<CControlDropDownList*, kFirstLayerSlot> lists{};
+    std::array<Playing, kFirstLayerSlot> playing;
 };
 
 } // namespace korvane

@@ -138,7 +138,7 @@ TEST_F(Menus, FilesReachTheirSlots)
                   ">Load Waveform#Library+" + first + "+" + second + "|" + TextOf(channel.sound.sampleSlots[1].name));
     }
     EXPECT_EQ(TextOf(LastSampleFolder()), Path("S"));
-    EXPECT_EQ(list.GetValue(), -1.0f) << "nothing looks chosen";
+    EXPECT_EQ(list.GetValue(), 2.0f) << "what plays is the current choice";
 }
 
 TEST_F(Menus, ProgramsOfTheChannelsLibrary)
