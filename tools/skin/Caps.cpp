@@ -29,7 +29,8 @@ void FillFace(cairo_t* pen, Box face, double radius, const CapLook& look)
     cairo_save(pen);
     Rounded(pen, face, radius);
     cairo_clip(pen);
-    Glow(pen, face.MiddleX(), face.MiddleY(), std::max(face.w, face.h) * 0.7, {1, 0.86, 0.55, 0.4 * look.lit});
+    Glow(pen, face.MiddleX(), face.MiddleY(), std::max(face.w, face.h) * 0.7,
+         Fade(Lighter(look.light, 0.5), 0.4 * look.lit));
     cairo_restore(pen);
 }
 
@@ -81,8 +82,8 @@ Box DrawCap(cairo_t* pen, Box cell, const CapLook& look)
 
 Shade InkOn(const CapLook& look)
 {
-    const double bright = look.cap.red * (1 - look.lit) + look.light.red * look.lit;
-    return bright > 0.55 ? kDarkInk : kCream;
+    const Shade shade = Mix(look.cap, look.light, look.lit);
+    return 0.3 * shade.red + 0.59 * shade.green + 0.11 * shade.blue > 0.44 ? kDarkInk : kCream;
 }
 
 } // namespace korvane::skin

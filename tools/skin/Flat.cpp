@@ -10,15 +10,18 @@ namespace korvane::skin {
 
 namespace {
 
-constexpr Type kWord{8.5, Weight::Bold, 0.2}, kTiny{7.5, Weight::Bold, 0.1};
+constexpr Type kWord{9, Weight::Bold, 0.2};
 constexpr Shade kPaper = Rgb(238, 226, 198);
+
+constexpr double kFlattest = 9; // of what has a line around it
 
 /// What is printed on it.
 Shade DrawPatch(cairo_t* pen, Box cell, bool on)
 {
     const Box box{cell.x + 0.5, cell.y + 0.5, cell.w - 1, cell.h - 1};
     Rounded(pen, box, 2.5);
-    Fill(pen, on ? kInk : White(0.18));
+    Fill(pen, on ? kInk : White(cell.h > kFlattest ? 0.25 : 0.7));
+    if (cell.h <= kFlattest) return on ? kPaper : kInk;
     Rounded(pen, box, 2.5);
     Stroke(pen, on ? kInk : Fade(kInk, 0.6), 1);
     return on ? kPaper : kInk;
@@ -35,11 +38,11 @@ struct WordStrip {
 constexpr WordStrip kWords[] = {
     {image::TabModKind,       3, kWord, {"SYNC", "PHASE MOD", "AMP MOD"}}, // what oscillator 2 does to oscillator 1
     {image::TabSampleLayer,   4, kWord, {"1", "2", "3", "4"}},
-    {image::TabOctaves,       5, kTiny, {"+2", "+1", "0", "-1", "-2"}},
-    {image::Osc2Invert,       1, kTiny, {"INV"}},
+    {image::TabOctaves,       5, kLegend, {"+2", "+1", "0", "-1", "-2"}},
+    {image::Osc2Invert,       1, kDense, {"INV"}},
     {image::MonoVoice,        1, kWord, {"MONO"}},
-    {image::ScreenSwitch,     1, kWord, {"CHANNEL"}},
-    {image::SampleLayerIcons, 5, kTiny, {"START", "REMOVE", "PREV", "NEXT", "LOAD"}},
+    {image::ScreenSwitch,     1, kWord, {"MOD / EQ"}},
+    {image::SampleLayerIcons, 5, kSmall, {"RESET", "REMOVE", "PREV", "NEXT", "LOAD"}},
 };
 // clang-format on
 
@@ -49,7 +52,7 @@ void DrawWords(Picture& picture, const WordStrip& strip)
     for (int row = 0; row < 2; ++row)
         for (int n = 0; n < strip.columns; ++n) {
             const Box cell{n * w, row * h, w, h};
-            const bool tall = h > 18; // neighbours stand close above
+            const bool tall = h >= 18; // neighbours stand close above and below
             const Box gap = w > 26 ? Box{cell.x + 0.5, cell.y + (tall ? 1 : 0), w - 1, tall ? h - 2 : h} : cell;
             const Shade ink = DrawPatch(picture.pen, gap, row == 1);
             Write(picture.pen, strip.type, ink, strip.words[n], gap.MiddleX(), gap.MiddleY());
@@ -60,7 +63,7 @@ void DrawWords(Picture& picture, const WordStrip& strip)
 void DrawSwitch(Picture& picture)
 {
     for (int row = 0; row < 2; ++row) {
-        const Box track{2.5, row * 15 + 3.5, 15, 8};
+        const Box track{2.5, row * 15 + 4.5, 15, 8};
         Rounded(picture.pen, track, 4);
         Fill(picture.pen, row ? kInk : White(0.18));
         Rounded(picture.pen, track, 4);
@@ -94,8 +97,8 @@ void DrawVoices(Picture& picture)
         const double top = (count - 1) * h;
         Write(picture.pen, {13, Weight::Bold}, kInk, std::to_string(count).c_str(), 16, top + h / 2, Stand::Right);
         for (int n = 0; n < kMost; ++n) {
-            const double tall = 6 + n;
-            cairo_rectangle(picture.pen, 20 + 2 * n, top + h - 2 - tall, 1, tall);
+            const double tall = 4 + n;
+            cairo_rectangle(picture.pen, 20 + 2 * n, top + h - 3 - tall, 1, tall);
             Fill(picture.pen, n < count ? kInk : Fade(kInk, 0.22));
         }
     }
@@ -108,10 +111,10 @@ void DrawWidths(Picture& picture)
     const double h = picture.height / kFrames, middle = picture.width / 2.0;
     for (int frame = 0; frame < kFrames; ++frame) {
         const double y = frame * h + h / 2;
-        Write(picture.pen, kTiny, Fade(kInk, 0.8), "L", 1, y, Stand::Left);
-        Write(picture.pen, kTiny, Fade(kInk, 0.8), "R", picture.width - 1, y, Stand::Right);
+        Write(picture.pen, kLegend, kInk, "L", 2.5, y, Stand::Left);
+        Write(picture.pen, kLegend, kInk, "R", picture.width - 2.5, y, Stand::Right);
         for (int n = -4; n <= 4; ++n) {
-            const double tall = 16 - 1.6 * (n < 0 ? -n : n);
+            const double tall = 14 - 1.4 * (n < 0 ? -n : n);
             cairo_rectangle(picture.pen, middle + 3.5 * n - 1, y - tall / 2, 2, tall);
             Fill(picture.pen, n >= -frame && n <= frame ? kInk : Fade(kInk, 0.2));
         }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "skin/Icons.h"
 #include "skin/Lights.h"
 #include "skin/Places.h"
 #include "skin/Print.h"
@@ -42,6 +43,17 @@ void DrawWay(cairo_t* pen, Box place, double handle, double middle, double tickF
     Hole(pen, {middle - 2.5, top - 6, 5, way + 12}, 2.5, kHole);
 }
 
+/// With a mark at 0 dB.
+void DrawLevelWay(cairo_t* pen, Box place, double handle)
+{
+    constexpr double kZeroDb = 60.0 / 80.0; // of the way
+    const double middle = place.MiddleX() + 1;
+    const double y = std::floor(place.y + handle / 2 + (place.h - handle) * (1 - kZeroDb)) + 0.5;
+    DrawWay(pen, place, handle, middle, 5.5, 11.5);
+    for (const double side : {-1.0, 1.0}) Line(pen, middle + side * 4.5, y, middle + side * 13, y);
+    Stroke(pen, kAmber, 2);
+}
+
 void DrawLengthWay(cairo_t* pen, Box place, double handle)
 {
     const double left = place.x + handle / 2, way = place.w - handle, y = place.MiddleY();
@@ -51,7 +63,7 @@ void DrawLengthWay(cairo_t* pen, Box place, double handle)
         const double x = std::floor(left + way * n / kDoublings) + 0.5;
         for (const double side : {-1.0, 1.0}) Line(pen, x, y + side * 6, x, y + side * 11);
         Stroke(pen, Fade(kCream, 0.45), 1);
-        Write(pen, {8, Weight::Bold}, kDimCream, kBeats[n], x, place.y - 3);
+        Write(pen, kLegend, kCream, kBeats[n], x, place.y - 3);
     }
     Hole(pen, {left - 6, y - 2.5, way + 12, 5}, 2.5, kHole);
 }
@@ -66,8 +78,12 @@ void DrawFlatWay(cairo_t* pen, Box place)
     Stroke(pen, Fade(kInk, 0.4), 2);
 }
 
+/// Columns longer than any with a key of their own are chosen from by a click.
+constexpr int kManyLights = 5;
+
 void DrawLenses(cairo_t* pen, Box place, int count)
 {
+    if (count >= kManyLights) Hole(pen, {place.x - 0.5, place.y + 0.5, 12, place.h - 0.5}, 6, Rgb(34, 31, 29));
     for (int n = 0; n < count; ++n)
         DrawLens(pen, place.x + kLightX, place.y + kLightCellHeight * n + kLightY, LightKind::Red);
 }
@@ -111,6 +127,17 @@ void DrawFlatField(cairo_t* pen, Box place)
     Stroke(pen, Fade(kInk, 0.42), 1);
 }
 
+/// In the lower right corner of what drops down.
+void DrawCorner(cairo_t* pen, Box box, double size, Shade shade)
+{
+    const double right = box.x + box.w - 2, bottom = box.y + box.h - 2;
+    cairo_move_to(pen, right, bottom - size);
+    cairo_line_to(pen, right, bottom);
+    cairo_line_to(pen, right - size, bottom);
+    cairo_close_path(pen);
+    Fill(pen, shade);
+}
+
 void DrawMonitor(cairo_t* pen, Box place)
 {
     Rounded(pen, place, 2);
@@ -133,10 +160,12 @@ void DrawDarkDisplay(cairo_t* pen, Box box)
 
 void DrawList(cairo_t* pen, const ControlRow& row, Box place)
 {
-    if (row.look & look::Amber)
+    if (row.look & look::Amber) {
         DrawDarkDisplay(pen, place.Inset(-2));
-    else
-        DrawFlatField(pen, place);
+        return Arrow(pen, place.x + place.w - 8, place.y + place.h - 6, 8, 0, 1, kAmber);
+    }
+    DrawFlatField(pen, place);
+    DrawCorner(pen, place, 5, Fade(kInk, 0.8));
 }
 
 double HandleOf(const ControlRow& row, bool upright)
@@ -152,7 +181,8 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     switch (row.widget) {
     case Widget::Knob: return DrawTicks(pen, place);
     case Widget::Fader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX(), 9.5, 12.5);
-    case Widget::LevelFader: return DrawWay(pen, place, HandleOf(row, true), place.MiddleX() + 1, 5.5, 11.5);
+    case Widget::LevelFader: return DrawLevelWay(pen, place, HandleOf(row, true));
+    case Widget::Steps: return DrawFlatField(pen, {place.x, place.y + 1, place.w, place.h - 2});
     case Widget::LengthFader: return DrawLengthWay(pen, place, HandleOf(row, false));
     case Widget::ModulationFader: return DrawFlatWay(pen, place);
     case Widget::LedTab: return DrawLenses(pen, place, row.parts);
@@ -165,7 +195,7 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     case Widget::LightNumber: return DrawDarkDisplay(pen, place.Inset(-1));
     case Widget::Text: return DrawDarkDisplay(pen, place);
     case Widget::GlowingText:
-        if (n == 0) DrawDarkDisplay(pen, {place.x - 4, place.y - 2, place.w + 8, place.h * 2 + 5});
+        if (n == 0) DrawDarkDisplay(pen, {place.x - 2, place.y - 2, place.w + 4, place.h * 2 + 5});
         return;
     case Widget::Momentary:
         if (row.image == image::Led) DrawLens(pen, place.x + kLightX, place.y + kLightY + 1, LightKind::Red);

@@ -15,6 +15,7 @@ namespace {
 struct State {
     double lit;
     bool down;
+    bool mark = false; // a small light of its own
 };
 
 enum class Frames {
@@ -22,7 +23,8 @@ enum class Frames {
     Hold,   // off, on and lit
     Latch,  // off, on and held, on, off and held
     Chosen, // off, held, on, on and held
-    Lights  // the same with a dim light between
+    Lights, // the same with a dim light between
+    Marks   // with a mark between
 };
 
 using States = std::array<State, 6>;
@@ -34,7 +36,8 @@ States StatesOf(Frames frames)
     case Frames::Hold: return {{{0, false}, {1, true}}};
     case Frames::Latch: return {{{0, false}, {1, true}, {1, false}, {0, true}}};
     case Frames::Chosen: return {{{0, false}, {0, true}, {1, false}, {1, true}}};
-    default: return {{{0, false}, {0, true}, {0.5, false}, {0.5, true}, {1, false}, {1, true}}};
+    case Frames::Lights: return {{{0, false}, {0, true}, {0.55, false}, {0.55, true}, {1, false}, {1, true}}};
+    default: return {{{0, false}, {0, true}, {0.06, false, true}, {0.06, true, true}, {1, false}, {1, true}}};
     }
 }
 
@@ -43,8 +46,10 @@ using Legend = void (*)(cairo_t*, Box face, int column, Shade ink);
 
 struct KeyImage {
     int id;
-    int columns, right, down; // from a column to the next, from a frame to the next
-    int w, h;                 // of the key; the rest stays empty, for what stands closely beside it
+    int first, columns;
+    int right, down; // from a column to the next, from a frame to the next
+    double in;       // from the cell's left edge to the key
+    int w, h;        // of the key; the rest stays empty, for what stands closely beside it
     Frames frames;
     CapOf cap;
     Shade light;
@@ -57,38 +62,23 @@ struct KeyImage {
 Shade Charcoal(int) { return kCharcoal; }
 Shade Taupe(int) { return kTaupe; }
 Shade Ivory(int) { return kIvory; }
-Shade StepCap(int column) { return column >= 16 ? kSlate : column / 4 % 2 == 0 ? kTaupe : kCharcoal; }
-Shade ChannelCap(int column) { return column < kSamplerChannels ? kCharcoal : kSlate; }
+Shade Slate(int) { return kSlate; }
+Shade StepCap(int column) { return Mix(kCharcoal, kTaupe, column / 4 % 2 == 0 ? 0.65 : 0.15); } // a beat is four
 
 // Legends
 
-constexpr Type kBig{13, Weight::Bold}, kName{8.5, Weight::Bold, 0.3};
+constexpr Type kBig{13, Weight::Bold}, kName{9, Weight::Bold, 0.3};
 
-void Number(cairo_t* pen, Box face, int number, Shade ink)
+void NumberLegend(cairo_t* pen, Box face, int column, Shade ink)
 {
-    Write(pen, kBig, ink, std::to_string(number).c_str(), face.MiddleX(), face.MiddleY());
-}
-
-void StepLegend(cairo_t* pen, Box face, int column, Shade ink)
-{
-    Number(pen, face, column < 16 ? column + 1 : column - 15, ink);
-}
-
-void PatternLegend(cairo_t* pen, Box face, int column, Shade ink) { Number(pen, face, column + 1, ink); }
-
-void ChannelLegend(cairo_t* pen, Box face, int column, Shade ink)
-{
-    const bool sampler = column < kSamplerChannels;
-    const int number = sampler ? column + 1 : column - kSamplerChannels + 1;
-    Write(pen, kBig, ink, std::to_string(number).c_str(), face.MiddleX(), face.MiddleY() - 5);
-    Write(pen, {7.5, Weight::Bold, 0.2}, Fade(ink, 0.85), sampler ? "SMP" : "SYN", face.MiddleX(), face.MiddleY() + 9);
+    Write(pen, kBig, ink, std::to_string(column + 1).c_str(), face.MiddleX(), face.MiddleY());
 }
 
 void EffectLegend(cairo_t* pen, Box face, int column, Shade ink)
 {
     constexpr const char* kNames[] = {"DIST", "CRSH", "CHOR", "PHAS", "LP", "HP", "ECHO", "VERB", "PAN", "PUMP"};
     Write(pen, {10, Weight::Bold}, ink, std::to_string(column + 1).c_str(), face.MiddleX(), face.MiddleY() - 4.5);
-    Write(pen, {8, Weight::Bold}, Fade(ink, 0.9), kNames[column], face.MiddleX(), face.MiddleY() + 5.5);
+    Write(pen, kLegend, ink, kNames[column], face.MiddleX(), face.MiddleY() + 5.5);
 }
 
 void StutterLegend(cairo_t* pen, Box face, int column, Shade ink)
@@ -97,17 +87,29 @@ void StutterLegend(cairo_t* pen, Box face, int column, Shade ink)
     Write(pen, kBig, ink, kLengths[column], face.MiddleX(), face.MiddleY());
 }
 
-template <Icon icon>
+void WriteBelow(cairo_t* pen, Box face, const char* text, Shade ink)
+{
+    Write(pen, kName, ink, text, face.MiddleX(), face.MiddleY() + 13);
+}
+
+constexpr double kIconUp = 5; // above the middle; its name is below
+
+template <Icon icon, const char* name>
 void IconLegend(cairo_t* pen, Box face, int, Shade ink)
 {
-    Draw(pen, icon, face.MiddleX(), face.MiddleY(), 15, ink);
+    Draw(pen, icon, face.MiddleX(), face.MiddleY() - kIconUp, 15, ink);
+    WriteBelow(pen, face, name, ink);
 }
 
 void RecordLegend(cairo_t* pen, Box face, int, Shade ink)
 {
-    Draw(pen, Icon::Record, face.MiddleX(), face.MiddleY(), 14, ink.red > 0.5 ? kRedLight : kDarkInk);
+    const bool lit = ink.red < 0.5;
+    Draw(pen, Icon::Record, face.MiddleX(), face.MiddleY() - kIconUp, 14, lit ? Rgb(255, 240, 214) : kDullRed);
+    WriteBelow(pen, face, "RECORD", ink);
 }
 
+constexpr char kPlayText[] = "PLAY", kEditText[] = "EDIT", kBackText[] = "BACK", kForwardText[] = "FORWARD";
+constexpr char kLoopText[] = "LOOP";
 constexpr char kMuteText[] = "MUTE", kSoloText[] = "SOLO", kGlueText[] = "GLUE", kLearnText[] = "LEARN";
 constexpr char kCopyText[] = "COPY", kPasteText[] = "PASTE", kClearText[] = "CLEAR";
 constexpr char kEnv[] = "ENV", kLfo[] = "LFO";
@@ -145,36 +147,52 @@ void LampLegend(cairo_t* pen, Box face, int, Shade ink)
 
 // clang-format off
 constexpr KeyImage kKeys[] = {
-//   id                    cols right down   w   h  frames             cap         light        legend
-    {image::ButtonSteps,     24,   40,  46,  38, 44, Frames::Lights,  StepCap,    kAmber,      StepLegend},
-    {image::ButtonParts,     13,   42,  49,  38, 49, Frames::Lights,  ChannelCap, kAmber,      ChannelLegend},
-    {image::ButtonPatterns,   8,   42,  49,  38, 49, Frames::Chosen,  Taupe,      kAmber,      PatternLegend},
-    {image::ButtonMute,       1,   39,  48,  39, 48, Frames::Hold,    Charcoal,   kAmber,      TextLegend<kMuteText>},
-    {image::ButtonSolo,       1,   39,  48,  39, 48, Frames::Latch,   Charcoal,   kAmberLight, TextLegend<kSoloText>},
-    {image::ButtonEdit,       1,   63,  50,  63, 50, Frames::Latch,   Charcoal,   kAmberLight, IconLegend<Icon::Pencil>},
-    {image::ButtonPrev,       1,   63,  50,  63, 50, Frames::Press,   Charcoal,   kAmber,      IconLegend<Icon::Back>},
-    {image::ButtonNext,       1,   63,  50,  63, 50, Frames::Press,   Charcoal,   kAmber,      IconLegend<Icon::Forward>},
-    {image::ButtonRec,        1,   63,  50,  63, 50, Frames::Latch,   Charcoal,   kRedLight,   RecordLegend},
-    {image::ButtonPlay,       1,   63,  50,  63, 50, Frames::Latch,   Charcoal,   kGreenLight, IconLegend<Icon::Play>},
-    {image::LoopBar,          1,   39,  48,  39, 48, Frames::Latch,   Charcoal,   kAmberLight, IconLegend<Icon::Loop>},
-    {image::ButtonCopy,       1,   47,  29,  47, 29, Frames::Press,   Taupe,      kAmber,      TextLegend<kCopyText>},
-    {image::ButtonPaste,      1,   47,  29,  47, 29, Frames::Press,   Taupe,      kAmber,      TextLegend<kPasteText>},
-    {image::ButtonClear,      1,   47,  29,  47, 29, Frames::Press,   Taupe,      kAmber,      TextLegend<kClearText>},
-    {image::ButtonFX,        10,   30,  31,  30, 29, Frames::Hold,    Taupe,      kAmber,      EffectLegend},
-    {image::ButtonGlue,       1,   48,  29,  48, 29, Frames::Latch,   Charcoal,   kAmberLight, TextLegend<kGlueText>},
-    {image::ButtonLink,       1,   47,  29,  47, 29, Frames::Chosen,  Charcoal,   kAmberLight, TextLegend<kLearnText>},
-    {image::ButtonStutter,    5,   50,  33,  50, 33, Frames::Hold,    Taupe,      kAmber,      StutterLegend},
-    {image::TabEnvelope,      2,   36,  20,  36, 20, Frames::Hold,    Charcoal,   kAmber,      NumberedLegend<kEnv>},
-    {image::TabLfo,           2,   36,  20,  36, 20, Frames::Hold,    Charcoal,   kAmber,      NumberedLegend<kLfo>},
-    {image::ButtonSynth,      1,   32,  21,  32, 19, Frames::Press,   Ivory,      kAmber,      NextLegend},
-    {image::ButtonSynthLed,   1,   32,  24,  32, 24, Frames::Latch,   Charcoal,   kCharcoal,   LampLegend, true},
+//   id                   first n right down in  w   h  frames           cap       light        legend
+    {image::ButtonSteps,     0, 16, 40, 46, 0, 38, 44, Frames::Lights,  StepCap,  kAmber,      NumberLegend},
+    {image::ButtonSteps,    16,  8, 40, 46, 3, 32, 44, Frames::Lights,  Slate,    kBlueLight,  NumberLegend},
+    {image::ButtonParts,     0,  8, 42, 49, 0, 38, 49, Frames::Marks,   Charcoal, kAmber,      NumberLegend},
+    {image::ButtonParts,     8,  5, 42, 49, 0, 38, 49, Frames::Marks,   Slate,    kAmber,      NumberLegend},
+    {image::ButtonPatterns,  0,  8, 42, 49, 0, 38, 49, Frames::Chosen,  Taupe,    kAmber,      NumberLegend},
+    {image::ButtonMute,      0,  1, 39, 48, 0, 39, 48, Frames::Hold,    Charcoal, kAmber,      TextLegend<kMuteText>},
+    {image::ButtonSolo,      0,  1, 39, 48, 0, 39, 48, Frames::Latch,   Charcoal, kAmberLight, TextLegend<kSoloText>},
+    {image::ButtonEdit,      0,  1, 63, 50, 0, 63, 50, Frames::Latch,   Charcoal, kAmberLight, IconLegend<Icon::Pencil, kEditText>},
+    {image::ButtonPrev,      0,  1, 63, 50, 0, 63, 50, Frames::Press,   Charcoal, kAmber,      IconLegend<Icon::Back, kBackText>},
+    {image::ButtonNext,      0,  1, 63, 50, 0, 63, 50, Frames::Press,   Charcoal, kAmber,      IconLegend<Icon::Forward, kForwardText>},
+    {image::ButtonRec,       0,  1, 63, 50, 0, 63, 50, Frames::Latch,   Charcoal, kRedLight,   RecordLegend},
+    {image::ButtonPlay,      0,  1, 63, 50, 0, 63, 50, Frames::Latch,   Charcoal, kGreenLight, IconLegend<Icon::Play, kPlayText>},
+    {image::LoopBar,         0,  1, 39, 48, 0, 39, 48, Frames::Latch,   Charcoal, kAmberLight, IconLegend<Icon::Loop, kLoopText>},
+    {image::ButtonCopy,      0,  1, 47, 29, 0, 47, 29, Frames::Press,   Taupe,    kAmber,      TextLegend<kCopyText>},
+    {image::ButtonPaste,     0,  1, 47, 29, 0, 47, 29, Frames::Press,   Taupe,    kAmber,      TextLegend<kPasteText>},
+    {image::ButtonClear,     0,  1, 47, 29, 0, 47, 29, Frames::Press,   Taupe,    kAmber,      TextLegend<kClearText>},
+    {image::ButtonFX,        0, 10, 30, 31, 0, 30, 29, Frames::Hold,    Taupe,    kAmber,      EffectLegend},
+    {image::ButtonGlue,      0,  1, 48, 29, 0, 48, 29, Frames::Latch,   Charcoal, kAmberLight, TextLegend<kGlueText>},
+    {image::ButtonLink,      0,  1, 47, 29, 0, 47, 29, Frames::Chosen,  Charcoal, kAmberLight, TextLegend<kLearnText>},
+    {image::ButtonStutter,   0,  5, 50, 33, 0, 50, 33, Frames::Hold,    Taupe,    kAmber,      StutterLegend},
+    {image::TabEnvelope,     0,  2, 36, 20, 0, 36, 20, Frames::Hold,    Charcoal, kAmber,      NumberedLegend<kEnv>},
+    {image::TabLfo,          0,  2, 36, 20, 0, 36, 20, Frames::Hold,    Charcoal, kAmber,      NumberedLegend<kLfo>},
+    {image::ButtonSynth,     0,  1, 32, 21, 0, 32, 19, Frames::Press,   Ivory,    kAmber,      NextLegend},
+    {image::ButtonSynthLed,  0,  1, 32, 24, 0, 32, 24, Frames::Latch,   Charcoal, kCharcoal,   LampLegend, true},
 };
 // clang-format on
+
+/// Along the upper edge.
+void DrawMark(cairo_t* pen, Box face)
+{
+    const Box mark{face.x + 6, face.y + 4, face.w - 12, 3};
+    for (const double out : {3.0, 2.0, 1.0}) {
+        Rounded(pen, mark.Inset(-out), 1.5 + out);
+        Fill(pen, Fade(kAmber, 0.16));
+    }
+    Rounded(pen, mark, 1.5);
+    Fill(pen, Lighter(kAmberLight, 0.2));
+}
 
 void DrawKey(cairo_t* pen, const KeyImage& key, int column, int row, State state)
 {
     const CapLook look{key.cap(column), key.light, key.lamp ? 0.0 : state.lit, state.down};
-    const Box face = DrawCap(pen, {column * 1.0 * key.right, row * 1.0 * key.down, key.w * 1.0, key.h * 1.0}, look);
+    const double x = (key.first + column) * key.right + key.in, y = row * key.down;
+    const Box face = DrawCap(pen, {x, y, key.w * 1.0, key.h * 1.0}, look);
+    if (state.mark) DrawMark(pen, face);
     key.legend(pen, face, column, key.lamp && state.lit > 0 ? kDarkInk : InkOn(look));
 }
 
@@ -182,15 +200,16 @@ void DrawKey(cairo_t* pen, const KeyImage& key, int column, int row, State state
 
 bool DrawKeys(Picture& picture, int id)
 {
+    bool drawn = false;
     for (const KeyImage& key : kKeys) {
         if (key.id != id) continue;
         const States states = StatesOf(key.frames);
         for (int row = 0; row * key.down < picture.height; ++row)
             for (int column = 0; column < key.columns; ++column)
                 DrawKey(picture.pen, key, column, row, states[static_cast<std::size_t>(row)]);
-        return true;
+        drawn = true;
     }
-    return false;
+    return drawn;
 }
 
 } // namespace korvane::skin

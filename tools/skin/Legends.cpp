@@ -10,8 +10,8 @@ namespace korvane::skin {
 
 namespace {
 
-constexpr Type kType{8.5, Weight::Bold, 0.25}, kDense{8, Weight::Bold}, kDensest{7.5, Weight::Bold};
-constexpr double kGap = 5;   // from a control's edge up or down to the middle of its capitals
+constexpr Type kHeading{9.5, Weight::Bold, 0.6};
+constexpr double kGap = 5.5; // from a control's edge up or down to the middle of its capitals
 constexpr double kAside = 3; // to the left or right to where it begins or ends
 
 constexpr Placed PlacedOf(const Legend& legend)
@@ -35,20 +35,17 @@ static_assert(EveryLegendHasItsControl());
 
 bool Shows(Page shown, Page page) { return page == Page::All || page == shown; }
 
-/// Where controls stand closely beside each other.
-Type TypeFor(const ControlRow& row, bool onGlass)
+Type TypeFor(const ControlRow& row)
 {
-    const bool heads = row.widget == Widget::List || row.image == image::ProgramArrows; // of the whole display
-    if (onGlass) return row.page == Page::All && heads ? kType : kDensest;
-    const bool next = row.image == image::ButtonSynth || row.image == image::ButtonSynthLed;
-    return next || row.widget == Widget::Fader || row.widget == Widget::LedTab ? kDense : kType;
+    const bool close = row.widget == Widget::Fader || row.page == Page::Sampler; // beside each other
+    return close ? kDense : kLegend;
 }
 
 void Print(cairo_t* pen, const Placed& found, const Legend& legend)
 {
     const Box at = found.Place();
     const bool onGlass = Holds(kGlass, at);
-    const Type type = TypeFor(*found.row, onGlass);
+    const Type type = TypeFor(*found.row);
     const double x = at.MiddleX() + legend.dx, y = at.MiddleY() + legend.dy;
     const Shade ink = onGlass ? kInk : kCream;
     switch (legend.side) {
@@ -71,7 +68,7 @@ void PrintLights(cairo_t* pen)
     for (const CurveLegend& legend : kCurveLegends) {
         const Box at = Find(legend.id).Place();
         for (int n = 0; n < 4; ++n)
-            Draw(pen, legend.curves[n], {at.x + at.w + 1, at.y + kLightCellHeight * n + 3, 16, 7}, kCream, 1.2);
+            Draw(pen, legend.curves[n], {at.x + at.w + 1.5, at.y + kLightCellHeight * n + 3.5, 16, 7}, kCream, 1.3);
     }
 }
 
@@ -79,15 +76,24 @@ void PrintHeading(cairo_t* pen, const Heading& heading)
 {
     const Box over = Around(Find(heading.firstId).Place(), Find(heading.lastId).Place());
     const double left = over.x, right = over.x + over.w, middle = over.MiddleX();
-    const double half = WidthOf(pen, kType, heading.text) / 2 + 3;
-    Write(pen, kType, Fade(kInk, 0.8), heading.text, middle, heading.y);
+    const double half = WidthOf(pen, kHeading, heading.text) / 2 + 3;
+    Write(pen, kHeading, kInk, heading.text, middle, heading.y);
     if (middle - half - left < 3) return;
     Line(pen, left, heading.y + 0.5, middle - half, heading.y + 0.5);
     Line(pen, middle + half, heading.y + 0.5, right, heading.y + 0.5);
-    Stroke(pen, Fade(kInk, 0.5), 1);
+    Stroke(pen, Fade(kInk, 0.6), 1);
 }
 
 } // namespace
+
+void ShadeFields(cairo_t* pen, Page page)
+{
+    for (const Field& field : kFields) {
+        if (field.page != page) continue;
+        for (const Box& box : field.boxes) Rounded(pen, box, 4);
+        Fill(pen, Fade(kInk, 0.11));
+    }
+}
 
 void PrintLegends(cairo_t* pen, Page page)
 {

@@ -22,60 +22,58 @@ struct Legend {
 
 // clang-format off
 inline constexpr Legend kLegends[] = {
-    // Patterns, transport
-    { 89, "CHANNEL",  Side::Below},
-    { 20, "PLAY ONCE",     Side::Above},
-    {  6, "EDIT",     Side::Below}, {4, "BACK", Side::Below}, {5, "FORWARD", Side::Below}, {3, "RECORD", Side::Below},
-    {  1, "PLAY",     Side::Below}, {2, "LOOP BAR", Side::Below, 0, 1},
+    // Patterns, steps, note lights
+    { 20, "PLAY ONCE", Side::Above}, {89, "THIS CH", Side::Below},
     { 34, "ON",       Side::Left}, {42, "ON", Side::Left},
     // Controllers
-    {kNoId, "1", Side::Below, -2, 0, Role::ExtLed, 0}, {kNoId, "2", Side::Below, -2, 0, Role::ExtLed, 1},
-    {kNoId, "3", Side::Below, -2, 0, Role::ExtLed, 2}, {kNoId, "4", Side::Below, -2, 0, Role::ExtLed, 3},
-    {kNoId, "5", Side::Below, -2, 0, Role::ExtLed, 4},
-    {kNoId, "LINK", Side::Right, 0, 0, Role::LinkSwitch, 0},
+    { 47, "1",        Side::Above, 0, 1}, {48, "2", Side::Above, 0, 1}, {49, "3", Side::Above, 0, 1},
+    { 50, "4",        Side::Above, 0, 1}, {51, "5", Side::Above, 0, 1},
+    {kNoId, "ON",     Side::Right, 0, -8, Role::LinkSwitch}, {kNoId, "OFF", Side::Right, 0, 8, Role::LinkSwitch},
     // Effects
-    { 71, "RATE",     Side::Below, 3},
-    { 72, "AMOUNT",   Side::Below, 0, -1},
-    { 73, "SHAPE",    Side::Above}, {75, "SYNC", Side::Above},
+    { 72, "AMOUNT",   Side::Above}, {73, "SHAPE", Side::Above}, {75, "SYNC", Side::Above},
     {kNoId, "PAD X",  Side::Above, -26, 0, Role::PadAxis, 0}, {kNoId, "PAD Y", Side::Above, -26, 0, Role::PadAxis, 1},
-    { 79, "STUTTER",  Side::Below}, {79, "BYPASS", Side::Below, 0, 8},
+    { 79, "NO STUTTER", Side::Above},
     // Strip
-    { 80, "LEVEL",    Side::Below, 1, -1},
-    {kNoId, "L",      Side::Above, 0, -1, Role::Meter, 0}, {kNoId, "R", Side::Above, 0, -1, Role::Meter, 1},
-    { 81, "PAN",      Side::Below}, {82, "PITCH", Side::Below, 0, 1},
-    { 90, "SLIDE",    Side::Above, 0, -1}, {91, "ON", Side::Below},
-    { 84, "ATTACK",   Side::Below}, {85, "DECAY", Side::Below}, {86, "SUSTAIN", Side::Below},
-    { 87, "RELEASE",  Side::Below}, {88, "LEVEL", Side::Below},
+    { 80, "LEVEL",    Side::Above, 2, -1},
+    {kNoId, "L",      Side::Above, 0, -5, Role::Meter, 0}, {kNoId, "R", Side::Above, 0, -5, Role::Meter, 1},
+    { 81, "PAN",      Side::Above, -2}, {82, "PITCH", Side::Above},
+    { 90, "SLIDE",    Side::Above, -2}, {91, "SLIDE ON", Side::Below},
+    { 84, "ATTACK",   Side::Above}, {85, "DECAY", Side::Above}, {86, "SUSTAIN", Side::Above},
+    { 87, "RELEASE",  Side::Above}, {88, "LEVEL", Side::Above},
     // Filter, envelope, LFO
-    { 92, "CUTOFF",   Side::Above}, {93, "RESO", Side::Above}, {94, "TRACK", Side::Above}, {96, "TYPE", Side::Above},
+    { 92, "CUTOFF",   Side::Above}, {93, "RESO", Side::Above}, {94, "KEY TRK", Side::Above}, {96, "TYPE", Side::Above},
     {100, "ATTACK",   Side::Above}, {101, "DECAY", Side::Above}, {102, "AMOUNT", Side::Above},
     { 98, "DEST",     Side::Above}, {103, "INVERT", Side::Above},
     {105, "RATE",     Side::Above}, {106, "AMOUNT", Side::Above}, {107, "RETRIG", Side::Above},
     {108, "INVERT",   Side::Above}, {109, "SYNC", Side::Above}, {111, "DEST", Side::Above},
     {113, "SHAPE",    Side::Above},
     // Synth page
-    {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 1}, {117, "DETUNE", Side::Above},
-    {119, "OCTAVE",   Side::Above}, {120, "NOISE", Side::Above}, {121, "PHASE", Side::Above},
-    {122, "RETRIG",   Side::Left}, {128, "RETRIG", Side::Left},
-    {123, "OSC 2",    Side::Above}, {124, "OSC 3", Side::Above, 0, 2}, {127, "PHASE", Side::Above},
+    {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 2}, {117, "DETUNE", Side::Above},
+    {121, "PHASE",    Side::Above}, {122, "RETRIG", Side::Above, 0, 3},
+    {123, "MIX",      Side::Above}, {127, "PHASE", Side::Above}, {128, "RETRIG", Side::Above, 0, 3},
+    {124, "OSC 3",    Side::Left}, {120, "NOISE", Side::Left},
+    {119, "OCTAVE",   Side::Above},
     {130, "PITCH",    Side::Above, 0, 1}, {131, "CENTS", Side::Above, 0, 1},
-    {126, "MODULATION", Side::Above}, {125, "AMOUNT", Side::Below},
-    {kNoId, "WAVEFORM", Side::Above, 0, 1, Role::WaveList, 0},
+    {126, "MODULATION", Side::Above}, {125, "AMOUNT", Side::Left},
+    {kNoId, "WAVEFORM", Side::Above, 0, 1, Role::WaveList, 0}, {kNoId, "OSC", Side::Above, -10, -1, Role::WaveArrow, 0},
     {kNoId, "1", Side::Left, 0, 0, Role::WaveArrow, 0}, {kNoId, "2", Side::Left, 0, 0, Role::WaveArrow, 1},
     {kNoId, "3", Side::Left, 0, 0, Role::WaveArrow, 2},
     // Sampler page
     {136, "LEVEL",    Side::Above}, {137, "PAN", Side::Above}, {138, "PITCH", Side::Above},
     {139, "ATTACK",   Side::Above}, {140, "HOLD", Side::Above}, {141, "DECAY", Side::Above},
     {142, "LO CUT",   Side::Above}, {143, "HI CUT", Side::Above}, {144, "WIDTH", Side::Above},
-    {145, "DELAY",    Side::Above}, {146, "INVERT", Side::Above}, {147, "REVERSE", Side::Above},
-    {148, "BYPASS",   Side::Above}, {152, "LAYER", Side::Above, 0, -2},
+    {145, "DELAY",    Side::Above}, {146, "INVERT", Side::Above, -2, -8}, {147, "REVERSE", Side::Above, -2, -8},
+    {148, "BYPASS",   Side::Above, -1, -1}, {152, "LAYER", Side::Above, 0, -3},
+    {153, "START",    Side::Right}, {kNoId, "SAMPLE", Side::Left, -2, 0, Role::LayerCommand, 0},
     // Channel page
-    {182, "AMOUNT",   Side::Right}, {184, "SENS", Side::Right, -5}, {185, "AMOUNT", Side::Right},
-    {187, "AMOUNT",   Side::Right},
-    {190, "ON",       Side::Left},
+    {183, "DESTINATION", Side::Above}, {182, "AMOUNT", Side::Above},
+    {184, "SENS",     Side::Above, -2, 3},
+    {186, "DESTINATION", Side::Above}, {185, "AMOUNT", Side::Above},
+    {188, "DESTINATION", Side::Above}, {187, "AMOUNT", Side::Above},
+    {189, "RANGE",    Side::Above},
+    {190, "ON",       Side::Above, 0, 3},
     {191, "80 Hz",    Side::Above}, {192, "220 Hz", Side::Above}, {193, "1.2 kHz", Side::Above},
     {194, "6 kHz",    Side::Above}, {195, "12 kHz", Side::Above},
-    {189, "BEND RANGE", Side::Above},
     // Programs
     {kNoId, "BANK",   Side::Left, -2, 0, Role::FolderList, 0},
     {kNoId, "PROGRAM", Side::Left, -2, 0, Role::ProgramArrow, 0},
@@ -112,16 +110,27 @@ struct Heading {
     int y; // its middle
 };
 inline constexpr Heading kHeadings[] = {
-    {Page::Synth,   123, 123, "MIX",         111}, {Page::Synth,   127, 127, "OSC 2",      111},
-    {Page::Synth,   116, 118, "UNISON",      111}, {Page::Synth,   122, 122, "UNISON",     177},
+    {Page::Synth,   123, 127, "OSC 2",       110}, {Page::Synth,   116, 116, "UNISON",     110},
     {Page::Sampler, 136, 138, "LAYER",       108}, {Page::Sampler, 139, 141, "ENVELOPE",   108},
-    {Page::Sampler, 142, 144, "FILTER",      108},
-    {Page::Channel, 183, 183, "VELOCITY",    122}, {Page::Channel, 186, 186, "MOD WHEEL",  122},
-    {Page::Channel, 188, 188, "PRESSURE",    122},
-    {Page::Channel, 191, 195, "EQUALISER OF FX 10", 193},
+    {Page::Sampler, 142, 144, "FILTER",      108}, {Page::Sampler, 145, 147, "PLAYBACK",   108},
+    {Page::Channel, 183, 184, "VELOCITY",    108}, {Page::Channel, 186, 186, "MOD WHEEL",  108},
+    {Page::Channel, 188, 188, "AFTERTOUCH",  108}, {Page::Channel, 189, 189, "PITCH BEND", 108},
+    {Page::Channel, 190, 195, "EQUALISER, AN EXTRA STAGE OF EFFECT 10", 191},
+};
+
+/// Shaded behind what a heading is for, where that stands in no row.
+struct Field {
+    Page page;
+    Box boxes[2];
+};
+inline constexpr Field kFields[] = {
+    {Page::Synth, {{288, 102, 86, 68}, {}}},
+    {Page::Synth, {{379, 102, 63, 102}, {336, 173, 99, 60}}},
 };
 // clang-format on
 
+/// Below everything that stands on the display.
+void ShadeFields(cairo_t* pen, Page page);
 /// What the whole page has printed beside its controls, over what draws them.
 void PrintLegends(cairo_t* pen, Page page);
 

@@ -11,6 +11,7 @@ bool DrawPages(Picture& picture, int id)
     if (id != image::PageSampler && id != image::PageSynth && id != image::PageChannel) return false;
     const Page page = id == image::PageSampler ? Page::Sampler : id == image::PageSynth ? Page::Synth : Page::Channel;
     DrawPanel(picture);
+    ShadeFields(picture.pen, page);
     for (const ControlRow& row : kLayout)
         for (int n = 0; n < row.count; ++n)
             if (row.page == Page::All || row.page == page) DrawGround(picture.pen, row, n);

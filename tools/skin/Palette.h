@@ -43,6 +43,7 @@ inline constexpr Shade kDarkInk = Rgb(46, 27, 14);
 
 // Light
 inline constexpr Shade kRedLight = Rgb(255, 84, 38), kAmberLight = Rgb(255, 168, 62), kGreenLight = Rgb(186, 214, 92);
+inline constexpr Shade kBlueLight = Rgb(126, 190, 222), kDullRed = Rgb(146, 62, 44);
 
 // The lit display and the dark ones
 inline constexpr Shade kGlassTop = Rgb(226, 210, 178), kGlassBottom = Rgb(211, 193, 158);

@@ -15,22 +15,21 @@ namespace {
 struct Group {
     Box box;
     const char* title;
-    double titleDown; // to the middle of its capitals
 };
 
 constexpr double kLeft = 32, kRight = 1033;
 // clang-format off
 constexpr Group kGroups[] = {
-    {{kLeft, 12, 390, 68},        "EXT CONTROL", 10}, {{726, 12, 169, 68},           "MIDI LINK",   10},
-    {{897, 12, kRight - 897, 68}, "GROOVE",      10},
-    {{kLeft, 83, 465, 189},       nullptr,        0}, // the display
-    {{kLeft, 274, 133, 172},      "FILTER",      10}, {{167, 274, 142, 172},         "ENVELOPES",   10},
-    {{311, 274, 186, 172},        "LFO",         10}, {{499, 83, 73, 363},           "AMP",         11},
-    {{574, 83, 68, 363},          "CHANNEL",     11}, {{644, 83, kRight - 644, 246}, "EFFECTS",      8},
-    {{644, 331, kRight - 644, 125}, nullptr,      0}, // patterns and transport
-    {{kLeft, 448, 621, 83},       "SAMPLERS",     8}, {{655, 458, 174, 73},          "PATTERN EDIT", 11},
-    {{831, 458, kRight - 831, 73}, "NOTE LENGTH", 9},
-    {{kLeft, 533, 936, 91},       "STEPS",        8}, {{970, 533, kRight - 970, 91}, "SHUFFLE",      8},
+    {{kLeft, 12, 390, 68},         "EXT CONTROL"}, {{726, 12, 170, 68},         "MIDI LINK"},
+    {{898, 12, kRight - 898, 68},  "GROOVE"},
+    {{kLeft, 83, 465, 189},        nullptr}, // the display
+    {{kLeft, 274, 133, 172},       "FILTER"},      {{167, 274, 142, 172},       "ENVELOPES"},
+    {{311, 274, 186, 172},         "LFO"},         {{499, 83, 73, 363},         "AMP"},
+    {{574, 83, 68, 363},           "CHANNEL"},     {{644, 83, kRight - 644, 246}, "EFFECTS"},
+    {{644, 331, kRight - 644, 115}, nullptr}, // patterns and transport
+    {{kLeft, 448, 621, 83},        "SAMPLERS"},    {{655, 448, 174, 83},        "PATTERN EDIT"},
+    {{831, 448, kRight - 831, 83}, "NOTE LENGTH"},
+    {{kLeft, 533, 936, 91},        "STEPS"},       {{970, 533, kRight - 970, 91}, "SHUFFLE"},
 };
 // clang-format on
 
@@ -89,11 +88,11 @@ void DrawScrew(cairo_t* pen, double x, double y)
 
 void DrawGroups(cairo_t* pen)
 {
-    constexpr double kTitleAt = 10;
+    constexpr double kTitleAt = 10, kTitleDown = 8; // to where it begins, to the middle of its capitals
     for (const Group& group : kGroups) {
         Plate(pen, group.box, 4, kPlateTop, kPlateBottom);
         if (group.title)
-            Write(pen, kTitle, kAmber, group.title, group.box.x + kTitleAt, group.box.y + group.titleDown, Stand::Left);
+            Write(pen, kTitle, kAmber, group.title, group.box.x + kTitleAt, group.box.y + kTitleDown, Stand::Left);
     }
 }
 

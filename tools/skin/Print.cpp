@@ -8,20 +8,32 @@ namespace korvane::skin {
 
 namespace {
 
-constexpr double kCapitals = 0.711; // of the size
-
 void Choose(cairo_t* pen, Type type)
 {
     cairo_select_font_face(pen, type.weight == Weight::Medium ? "Roboto Condensed Medium" : "Roboto Condensed",
                            CAIRO_FONT_SLANT_NORMAL,
                            type.weight == Weight::Bold ? CAIRO_FONT_WEIGHT_BOLD : CAIRO_FONT_WEIGHT_NORMAL);
-    cairo_set_font_size(pen, type.size);
+    cairo_matrix_t shape;
+    cairo_matrix_init_scale(&shape, type.size * type.breadth, type.size);
+    cairo_set_font_matrix(pen, &shape);
     cairo_font_options_t* options = cairo_font_options_create();
     cairo_font_options_set_antialias(options, CAIRO_ANTIALIAS_GRAY);
-    cairo_font_options_set_hint_style(options, CAIRO_HINT_STYLE_SLIGHT); // stems stand on whole rows
+    cairo_font_options_set_hint_style(options, type.fitted ? CAIRO_HINT_STYLE_SLIGHT : CAIRO_HINT_STYLE_NONE);
     cairo_font_options_set_hint_metrics(options, CAIRO_HINT_METRICS_OFF);
     cairo_set_font_options(pen, options);
     cairo_font_options_destroy(options);
+}
+
+/// Height of capitals as they are drawn.
+double CapitalsOf(cairo_t* pen)
+{
+    double left, top, right, bottom;
+    cairo_new_path(pen);
+    cairo_move_to(pen, 0, 0);
+    cairo_text_path(pen, "H");
+    cairo_path_extents(pen, &left, &top, &right, &bottom);
+    cairo_new_path(pen);
+    return bottom - top;
 }
 
 double Advance(cairo_t* pen, char letter)
@@ -71,15 +83,15 @@ void Write(cairo_t* pen, Type type, Shade shade, const char* text, double x, dou
     const double width = WidthOf(pen, type, text);
     const double part = stand == Stand::Left ? 0.0 : stand == Stand::Middle ? 0.5 : 1.0;
     cairo_set_source_rgba(pen, shade.red, shade.green, shade.blue, shade.alpha);
-    Letters(pen, type.spacing, text, x - width * part, std::round(y + type.size * kCapitals / 2));
+    Letters(pen, type.spacing, text, x - width * part, std::round(y + CapitalsOf(pen) / 2));
 }
 
 void WriteUp(cairo_t* pen, Type type, Shade shade, const char* text, double x, double y)
 {
     cairo_save(pen);
-    cairo_translate(pen, std::round(x + type.size * kCapitals / 2), y);
-    cairo_rotate(pen, -std::numbers::pi / 2);
     const double width = WidthOf(pen, type, text);
+    cairo_translate(pen, std::round(x + CapitalsOf(pen) / 2), y);
+    cairo_rotate(pen, -std::numbers::pi / 2);
     cairo_set_source_rgba(pen, shade.red, shade.green, shade.blue, shade.alpha);
     Letters(pen, type.spacing, text, -width / 2, 0);
     cairo_restore(pen);

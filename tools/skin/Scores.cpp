@@ -78,7 +78,7 @@ void DrawDrumNames(cairo_t* pen, const Rows& rows)
         const Box key{1, kGridTop + n * rows.height + 1.0, kKeysWidth - 2, rows.height - 2.0};
         Rounded(pen, key, 2);
         FillDown(pen, key, Lighter(kCharcoal, 0.1), Darker(kCharcoal, 0.2));
-        Write(pen, {7.5, Weight::Bold, 0.2}, kDimCream, "SMP", key.x + 10, key.MiddleY());
+        Write(pen, kLegend, kDimCream, "SMP", key.x + 10, key.MiddleY());
         Write(pen, {12, Weight::Bold}, kCream, std::to_string(n + 1).c_str(), key.x + 25, key.MiddleY());
     }
 }

@@ -9,7 +9,7 @@ namespace korvane::skin {
 
 namespace {
 
-constexpr Type kUpward{8.5, Weight::Bold, 0.4}, kFrameTitle{8.5, Weight::Bold, 0.6}, kScale{8, Weight::Bold, 0.2};
+constexpr Type kUpward{9, Weight::Bold, 0.6};
 
 /// Over the left edge of a parameter's control, or upward beside it.
 struct Title {
@@ -18,22 +18,29 @@ struct Title {
     double dx, dy;
     bool upward = false;
 };
-/// Around the controls of two parameters, so far from them; the title interrupts the upper line.
+/// What interrupts the upper line of a frame.
+struct FrameTitle {
+    const char* text;
+    double at; // from the frame's left edge, pixels
+    Shade shade;
+    Type type;
+};
+/// Around the controls of two parameters, so far from them.
 struct Frame {
     int firstId, lastId;
     double left, top, right, bottom;
-    const char* title;
+    FrameTitle titles[2];
 };
 
 // clang-format off
 constexpr Title kTitles[] = {
-    {"SYNTHS",    param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 1, -7},
-    {"LFO",       param::FxLfoSyncSwitch, 0, -18},
-    {"PATTERN",   param::Pattern1, -10, 0, true}, {"TRANSPORT", param::Edit, -9, 0, true},
+    {"SYNTHS",  param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 5, -7},
+    {"PATTERN", param::Pattern1, -10, 0, true}, {"TRANSPORT", param::Edit, -9, 0, true},
 };
 constexpr Frame kFrames[] = {
-    {71,                param::FxLfoShapeSwitch, 5.5, 1.5, 54.5, 10.5, nullptr},
-    {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, "STUTTER"},
+    {71,                param::FxLfoShapeSwitch, 5.5, 2.5, 54.5, 10.5,
+     {{"RATE", 13, kCream, kLegend}, {"FX LFO", 92, kAmber, kUpward}}},
+    {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, {{"STUTTER", 9, kAmber, kUpward}, {}}},
 };
 // clang-format on
 
@@ -50,27 +57,49 @@ void PrintTitles(cairo_t* pen)
 
 void PrintFrame(cairo_t* pen, const Frame& frame)
 {
-    constexpr double kTitleAt = 9, kGap = 4;
+    constexpr double kGap = 4;
     const Box inner = Around(Find(frame.firstId).Place(), Find(frame.lastId).Place());
     const Box box{inner.x - frame.left, inner.y - frame.top, inner.w + frame.left + frame.right,
                   inner.h + frame.top + frame.bottom};
-    const double title = box.x + kTitleAt;
-    const double end = frame.title ? title + WidthOf(pen, kFrameTitle, frame.title) + kGap : 0;
-    cairo_save(pen); // the line, but for where the title stands
-    cairo_rectangle(pen, 0, 0, title - kGap, kEditorSize.height);
-    cairo_rectangle(pen, end, 0, kEditorSize.width, kEditorSize.height);
-    cairo_rectangle(pen, 0, box.y + kGap, kEditorSize.width, kEditorSize.height);
+    cairo_save(pen); // the line, but for where titles stand
+    cairo_rectangle(pen, 0, 0, kEditorSize.width, kEditorSize.height);
+    for (const FrameTitle& title : frame.titles)
+        if (title.text) {
+            const double width = WidthOf(pen, title.type, title.text);
+            cairo_rectangle(pen, box.x + title.at - kGap, box.y - kGap, width + 2 * kGap, 2 * kGap);
+        }
+    cairo_set_fill_rule(pen, CAIRO_FILL_RULE_EVEN_ODD);
     cairo_clip(pen);
     Rounded(pen, box, 4);
     Stroke(pen, Fade(kCream, 0.28), 1);
     cairo_restore(pen);
-    if (frame.title) Write(pen, kFrameTitle, kAmber, frame.title, title, box.y, Stand::Left);
+    for (const FrameTitle& title : frame.titles)
+        if (title.text) Write(pen, title.type, title.shade, title.text, box.x + title.at, box.y, Stand::Left);
+}
+
+/// Between steps and bars.
+void PrintDivider(cairo_t* pen)
+{
+    const Box bar = Find(param::Bar1).Place();
+    const double x = bar.x + 1, top = bar.y - 11;
+    cairo_rectangle(pen, x, top, 1, 81);
+    Fill(pen, Black(0.55));
+    cairo_rectangle(pen, x + 1, top, 1, 81);
+    Fill(pen, White(0.1));
+}
+
+/// Through the enable lights of a run of channels.
+void PrintEnableRule(cairo_t* pen, int firstId, int lastId)
+{
+    const Box lights = Around(Find(firstId).Place(), Find(lastId).Place());
+    Line(pen, lights.x, lights.MiddleY() + 0.5, lights.x + lights.w, lights.MiddleY() + 0.5);
+    Stroke(pen, Fade(kCream, 0.25), 1);
 }
 
 /// What the knobs below it shape.
 void PrintEnvelope(cairo_t* pen)
 {
-    constexpr double kPoints[][2] = {{-7, -11}, {3, -24}, {13, -17}, {31, -17}, {42, -11}};
+    constexpr double kPoints[][2] = {{-7, -18}, {3, -31}, {13, -24}, {31, -24}, {42, -18}};
     const Box attack = Find(84).Place();
     for (const auto& point : kPoints) cairo_line_to(pen, attack.x + point[0], attack.y + point[1]);
     cairo_set_line_join(pen, CAIRO_LINE_JOIN_ROUND);
@@ -87,13 +116,13 @@ void PrintBracket(cairo_t* pen, int firstId, int lastId, const std::string& text
     constexpr double kBelow = 13.5, kDeep = 5, kInset = 4.5, kGap = 5;
     const Box keys = Around(Find(firstId).Place(), Find(lastId).Place());
     const double left = keys.x + kInset, right = keys.x + keys.w - kInset, top = keys.y + keys.h + kBelow;
-    const double half = WidthOf(pen, kScale, text.c_str()) / 2 + kGap, middle = keys.MiddleX();
+    const double half = WidthOf(pen, kLegend, text.c_str()) / 2 + kGap, middle = keys.MiddleX();
     Line(pen, left, top, left, top + kDeep);
     cairo_line_to(pen, middle - half, top + kDeep);
     Line(pen, right, top, right, top + kDeep);
     cairo_line_to(pen, middle + half, top + kDeep);
     Stroke(pen, Fade(kCream, 0.35), 1);
-    Write(pen, kScale, kDimCream, text.c_str(), middle, top + kDeep);
+    Write(pen, kLegend, kDimCream, text.c_str(), middle, top + kDeep);
 }
 
 void PrintBrackets(cairo_t* pen)
@@ -126,6 +155,9 @@ void PrintSilk(cairo_t* pen)
     PrintTitles(pen);
     for (const Frame& frame : kFrames) PrintFrame(pen, frame);
     PrintEnvelope(pen);
+    PrintDivider(pen);
+    PrintEnableRule(pen, param::Enable1, param::Enable1 + kSamplerChannels - 1);
+    PrintEnableRule(pen, param::Enable1 + kSamplerChannels, param::Enable1 + kChannels - 1);
     PrintBrackets(pen);
     PrintLogo(pen);
 }
