@@ -6,12 +6,13 @@
 #include "skin/Images.h"
 #include "skin/Measures.h"
 #include "skin/Print.h"
+#include "skin/Silk.h"
 
 namespace korvane::skin {
 
 namespace {
 
-constexpr Box kSheet{252, 92, 560, 446};
+constexpr Box kSheet{252, 96, 560, 438};
 constexpr Type kPlain{11, Weight::Plain, 0.1}, kHead{10, Weight::Bold, 1.2};
 
 /// What the keys of some parameters do.
@@ -58,34 +59,49 @@ void DrawKeyRow(cairo_t* pen, const KeyRow& row, double x, double y)
 
 void DrawKeyboard(cairo_t* pen)
 {
-    const double left = kSheet.x + 36, right = kSheet.x + 272, top = kSheet.y + 200;
+    constexpr double kRow = 28;
+    const double left = kSheet.x + 36, right = kSheet.x + 290, top = kSheet.y + 176;
     Write(pen, kHead, kAmber, "KEYBOARD", left, top, Stand::Left);
     double y = top + 26;
     for (const KeyRow& row : kLeftRows) {
         DrawKeyRow(pen, row, left, y);
         Write(pen, kPlain, kCream, row.text, left + 76, y, Stand::Left);
-        y += 27;
+        y += kRow;
     }
-    y = top + 24;
+    y = top + 26;
     for (const KeyRow& row : kRightRows) {
         Write(pen, kPlain, kCream, row.text, right, y, Stand::Left);
-        DrawKeyRow(pen, row, right - 1, y + 20);
-        y += 54;
+        DrawKeyRow(pen, row, right - 1, y + kRow);
+        y += 2 * kRow;
+    }
+}
+
+/// What the mouse does beyond the obvious.
+void DrawMouse(cairo_t* pen)
+{
+    struct Hint {
+        const char* hand;
+        const char* effect;
+    };
+    constexpr Hint kHints[] = {{"Right click", "on a knob or a step: score editor"},
+                               {"Drop", "a file: loads it"},
+                               {"Click", "closes this page"}};
+    const double top = kSheet.y + 372;
+    Write(pen, kHead, kAmber, "MOUSE", kSheet.x + 36, top, Stand::Left);
+    for (int n = 0; n < 3; ++n) {
+        const double x = kSheet.x + (n == 1 ? 290 : 36), y = top + 22 + n / 2 * 19;
+        Write(pen, {11, Weight::Bold, 0.1}, kCream, kHints[n].hand, x, y, Stand::Left);
+        Write(pen, kPlain, kCream, kHints[n].effect, x + 76, y, Stand::Left);
     }
 }
 
 void DrawMaker(cairo_t* pen)
 {
     const double middle = kSheet.MiddleX();
-    Write(pen, {46, Weight::Bold, 14}, Black(0.6), "KORVANE", middle + 1, kSheet.y + 57.5);
-    Write(pen, {46, Weight::Bold, 14}, kCream, "KORVANE", middle, kSheet.y + 56);
-    cairo_rectangle(pen, middle - 140, kSheet.y + 82, 280, 2);
-    Fill(pen, kAmber);
-    Write(pen, {12, Weight::Medium, 0.4}, kCream, "Version " KORVANE_VERSION, middle, kSheet.y + 102);
-    Write(pen, kPlain, kDimCream, "A groovebox of eight samplers and five synthesizers, made by Brassmoor", middle,
-          kSheet.y + 126);
-    Write(pen, kPlain, kDimCream, "Sources, documents and tests are in the project's repository: begin with README.md",
-          middle, kSheet.y + 144);
+    PrintWordmark(pen, 46, middle, kSheet.y + 54);
+    Write(pen, {12, Weight::Bold, 0.4}, kCream, "Version " KORVANE_VERSION, middle, kSheet.y + 100);
+    Write(pen, kPlain, kCream, "A groovebox of eight samplers and five synthesizers, made by Brassmoor", middle,
+          kSheet.y + 122);
 }
 
 } // namespace
@@ -99,11 +115,11 @@ bool DrawAbout(Picture& picture, int id)
     Shadow(pen, kSheet.Moved(0, 5), 8, 18, 0.55);
     Plate(pen, kSheet, 8, Lighter(kPlateTop, 0.03), kPlateBottom);
     DrawMaker(pen);
-    Line(pen, kSheet.x + 36, kSheet.y + 173.5, kSheet.x + kSheet.w - 36, kSheet.y + 173.5);
+    for (const double y : {148.5, 354.5})
+        Line(pen, kSheet.x + 36, kSheet.y + y, kSheet.x + kSheet.w - 36, kSheet.y + y);
     Stroke(pen, Fade(kCream, 0.25), 1);
     DrawKeyboard(pen);
-    Write(pen, kPlain, kDimCream, "A right click on a knob or a step opens the score editor. A click closes this page.",
-          kSheet.MiddleX(), kSheet.y + kSheet.h - 24);
+    DrawMouse(pen);
     return true;
 }
 

@@ -20,7 +20,7 @@ Shade DrawPatch(cairo_t* pen, Box cell, bool on)
 {
     const Box box{cell.x + 0.5, cell.y + 0.5, cell.w - 1, cell.h - 1};
     Rounded(pen, box, 2.5);
-    Fill(pen, on ? kInk : White(cell.h > kFlattest ? 0.25 : 0.7));
+    Fill(pen, on ? kInk : White(cell.h > kFlattest ? 0.25 : 0.5));
     if (cell.h <= kFlattest) return on ? kPaper : kInk;
     Rounded(pen, box, 2.5);
     Stroke(pen, on ? kInk : Fade(kInk, 0.6), 1);
@@ -111,11 +111,11 @@ void DrawWidths(Picture& picture)
     const double h = picture.height / kFrames, middle = picture.width / 2.0;
     for (int frame = 0; frame < kFrames; ++frame) {
         const double y = frame * h + h / 2;
-        Write(picture.pen, kLegend, kInk, "L", 2.5, y, Stand::Left);
-        Write(picture.pen, kLegend, kInk, "R", picture.width - 2.5, y, Stand::Right);
+        Write(picture.pen, kLegend, kInk, "L", 4, y, Stand::Left);
+        Write(picture.pen, kLegend, kInk, "R", picture.width - 4, y, Stand::Right);
         for (int n = -4; n <= 4; ++n) {
-            const double tall = 14 - 1.4 * (n < 0 ? -n : n);
-            cairo_rectangle(picture.pen, middle + 3.5 * n - 1, y - tall / 2, 2, tall);
+            const double tall = 14 - 1.5 * (n < 0 ? -n : n);
+            cairo_rectangle(picture.pen, middle + 3 * n - 1, y - tall / 2, 2, tall);
             Fill(picture.pen, n >= -frame && n <= frame ? kInk : Fade(kInk, 0.2));
         }
     }

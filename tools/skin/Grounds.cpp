@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "framework/KnobLaws.h"
 #include "skin/Icons.h"
 #include "skin/Lights.h"
 #include "skin/Places.h"
@@ -46,9 +47,8 @@ void DrawWay(cairo_t* pen, Box place, double handle, double middle, double tickF
 /// With a mark at 0 dB.
 void DrawLevelWay(cairo_t* pen, Box place, double handle)
 {
-    constexpr double kZeroDb = 60.0 / 80.0; // of the way
     const double middle = place.MiddleX() + 1;
-    const double y = std::floor(place.y + handle / 2 + (place.h - handle) * (1 - kZeroDb)) + 0.5;
+    const double y = std::floor(place.y + handle / 2 + (place.h - handle) * (1 - law::MixKnob(0.0))) + 0.5;
     DrawWay(pen, place, handle, middle, 5.5, 11.5);
     for (const double side : {-1.0, 1.0}) Line(pen, middle + side * 4.5, y, middle + side * 13, y);
     Stroke(pen, kAmber, 2);

@@ -149,7 +149,7 @@ void LampLegend(cairo_t* pen, Box face, int, Shade ink)
 constexpr KeyImage kKeys[] = {
 //   id                   first n right down in  w   h  frames           cap       light        legend
     {image::ButtonSteps,     0, 16, 40, 46, 0, 38, 44, Frames::Lights,  StepCap,  kAmber,      NumberLegend},
-    {image::ButtonSteps,    16,  8, 40, 46, 3, 32, 44, Frames::Lights,  Slate,    kBlueLight,  NumberLegend},
+    {image::ButtonSteps,    16,  8, 40, 46, 3, 32, 44, Frames::Marks,   Slate,    kBlueLight,  NumberLegend},
     {image::ButtonParts,     0,  8, 42, 49, 0, 38, 49, Frames::Marks,   Charcoal, kAmber,      NumberLegend},
     {image::ButtonParts,     8,  5, 42, 49, 0, 38, 49, Frames::Marks,   Slate,    kAmber,      NumberLegend},
     {image::ButtonPatterns,  0,  8, 42, 49, 0, 38, 49, Frames::Chosen,  Taupe,    kAmber,      NumberLegend},
@@ -176,15 +176,15 @@ constexpr KeyImage kKeys[] = {
 // clang-format on
 
 /// Along the upper edge.
-void DrawMark(cairo_t* pen, Box face)
+void DrawMark(cairo_t* pen, Box face, Shade light)
 {
     const Box mark{face.x + 6, face.y + 4, face.w - 12, 3};
     for (const double out : {3.0, 2.0, 1.0}) {
         Rounded(pen, mark.Inset(-out), 1.5 + out);
-        Fill(pen, Fade(kAmber, 0.16));
+        Fill(pen, Fade(light, 0.16));
     }
     Rounded(pen, mark, 1.5);
-    Fill(pen, Lighter(kAmberLight, 0.2));
+    Fill(pen, Lighter(light, 0.3));
 }
 
 void DrawKey(cairo_t* pen, const KeyImage& key, int column, int row, State state)
@@ -192,7 +192,7 @@ void DrawKey(cairo_t* pen, const KeyImage& key, int column, int row, State state
     const CapLook look{key.cap(column), key.light, key.lamp ? 0.0 : state.lit, state.down};
     const double x = (key.first + column) * key.right + key.in, y = row * key.down;
     const Box face = DrawCap(pen, {x, y, key.w * 1.0, key.h * 1.0}, look);
-    if (state.mark) DrawMark(pen, face);
+    if (state.mark) DrawMark(pen, face, key.light);
     key.legend(pen, face, column, key.lamp && state.lit > 0 ? kDarkInk : InkOn(look));
 }
 

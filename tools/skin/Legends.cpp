@@ -1,6 +1,8 @@
 // Printing beside the controls, wherever the layout has them.
 #include "skin/Legends.h"
 
+#include <algorithm>
+
 #include "skin/Lights.h"
 #include "skin/Panel.h"
 #include "skin/Places.h"
@@ -75,12 +77,12 @@ void PrintLights(cairo_t* pen)
 void PrintHeading(cairo_t* pen, const Heading& heading)
 {
     const Box over = Around(Find(heading.firstId).Place(), Find(heading.lastId).Place());
-    const double left = over.x, right = over.x + over.w, middle = over.MiddleX();
-    const double half = WidthOf(pen, kHeading, heading.text) / 2 + 3;
+    constexpr double kShortest = 6; // of the lines
+    const double middle = over.MiddleX(), half = WidthOf(pen, kHeading, heading.text) / 2 + 3;
+    const double reach = std::max(over.w / 2, half + kShortest);
     Write(pen, kHeading, kInk, heading.text, middle, heading.y);
-    if (middle - half - left < 3) return;
-    Line(pen, left, heading.y + 0.5, middle - half, heading.y + 0.5);
-    Line(pen, middle + half, heading.y + 0.5, right, heading.y + 0.5);
+    Line(pen, middle - reach, heading.y + 0.5, middle - half, heading.y + 0.5);
+    Line(pen, middle + half, heading.y + 0.5, middle + reach, heading.y + 0.5);
     Stroke(pen, Fade(kInk, 0.6), 1);
 }
 

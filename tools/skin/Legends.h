@@ -26,8 +26,8 @@ inline constexpr Legend kLegends[] = {
     { 20, "PLAY ONCE", Side::Above}, {89, "THIS CH", Side::Below},
     { 34, "ON",       Side::Left}, {42, "ON", Side::Left},
     // Controllers
-    { 47, "1",        Side::Above, 0, 1}, {48, "2", Side::Above, 0, 1}, {49, "3", Side::Above, 0, 1},
-    { 50, "4",        Side::Above, 0, 1}, {51, "5", Side::Above, 0, 1},
+    { 47, "1",        Side::Above, 0, -1}, {48, "2", Side::Above, 0, -1}, {49, "3", Side::Above, 0, -1},
+    { 50, "4",        Side::Above, 0, -1}, {51, "5", Side::Above, 0, -1},
     {kNoId, "ON",     Side::Right, 0, -8, Role::LinkSwitch}, {kNoId, "OFF", Side::Right, 0, 8, Role::LinkSwitch},
     // Effects
     { 72, "AMOUNT",   Side::Above}, {73, "SHAPE", Side::Above}, {75, "SYNC", Side::Above},
@@ -50,7 +50,7 @@ inline constexpr Legend kLegends[] = {
     // Synth page
     {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 2}, {117, "DETUNE", Side::Above},
     {121, "PHASE",    Side::Above}, {122, "RETRIG", Side::Above, 0, 3},
-    {123, "MIX",      Side::Above}, {127, "PHASE", Side::Above}, {128, "RETRIG", Side::Above, 0, 3},
+    {123, "MIX",      Side::Above}, {127, "PHASE", Side::Above}, {128, "RETRIG", Side::Above, 0, 4},
     {124, "OSC 3",    Side::Left}, {120, "NOISE", Side::Left},
     {119, "OCTAVE",   Side::Above},
     {130, "PITCH",    Side::Above, 0, 1}, {131, "CENTS", Side::Above, 0, 1},

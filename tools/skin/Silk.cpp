@@ -1,6 +1,7 @@
 // Titles, frames, brackets, the shape of the envelope, the logo.
 #include "skin/Silk.h"
 
+#include <cmath>
 #include <string>
 
 #include "skin/Places.h"
@@ -35,7 +36,7 @@ struct Frame {
 // clang-format off
 constexpr Title kTitles[] = {
     {"SYNTHS",  param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 5, -7},
-    {"PATTERN", param::Pattern1, -10, 0, true}, {"TRANSPORT", param::Edit, -9, 0, true},
+    {"PATTERN", param::Pattern1, -10, 0, true},
 };
 constexpr Frame kFrames[] = {
     {71,                param::FxLfoShapeSwitch, 5.5, 2.5, 54.5, 10.5,
@@ -137,18 +138,25 @@ void PrintBrackets(cairo_t* pen)
 /// Within the area where a click opens the about page.
 void PrintLogo(cairo_t* pen)
 {
-    constexpr Type kLogo{42, Weight::Bold, 12}, kLine{9, Weight::Medium, 3.1};
+    constexpr Type kLine{9.5, Weight::Medium, 2.9};
     constexpr Box kArea = BoxOf(kLogoArea);
-    constexpr double kMiddle = kArea.x + kArea.w / 2 + 4, kTextY = kArea.y + 41;
-    Write(pen, kLogo, Black(0.6), "KORVANE", kMiddle + 1, kTextY + 1.5);
-    Write(pen, kLogo, kCream, "KORVANE", kMiddle, kTextY);
-    const double half = WidthOf(pen, kLogo, "KORVANE") / 2;
-    cairo_rectangle(pen, kMiddle - half, kTextY + 21, half * 2, 2);
-    Fill(pen, kAmber);
-    Write(pen, kLine, kDimCream, "BRASSMOOR  GROOVEBOX", kMiddle, kTextY + 32);
+    constexpr double kMiddle = kArea.x + kArea.w / 2 + 4, kTextY = kArea.y + 40;
+    PrintWordmark(pen, 42, kMiddle, kTextY);
+    Write(pen, kLine, kDimCream, "BRASSMOOR  GROOVEBOX", kMiddle, kTextY + 33);
 }
 
 } // namespace
+
+void PrintWordmark(cairo_t* pen, double size, double middle, double y)
+{
+    const Type type{size, Weight::Bold, size * 0.29};
+    const double side = size * 0.06; // that a letter leaves at its left
+    const double width = WidthOf(pen, type, "KORVANE") - side * 1.7, down = std::round(size * 0.52);
+    Write(pen, type, Black(0.6), "KORVANE", middle + 1 - side * 0.15, y + 1.5);
+    Write(pen, type, kCream, "KORVANE", middle - side * 0.15, y);
+    cairo_rectangle(pen, std::round(middle - width / 2), std::round(y) + down, std::round(width), 2);
+    Fill(pen, kAmber);
+}
 
 void PrintSilk(cairo_t* pen)
 {

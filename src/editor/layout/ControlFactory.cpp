@@ -12,7 +12,31 @@ namespace {
 
 constexpr Color kAmber = Rgb(240, 136, 63), kInk = Rgb(87, 70, 46), kSilk = Rgb(210, 192, 164);
 
+// What opens over the panel, as the lit display
+constexpr Color kPaperTop = Rgb(236, 222, 192), kPaperBottom = Rgb(220, 203, 168), kPaperFrame = Rgb(58, 44, 28);
+constexpr Color kPaperInk = Rgb(52, 38, 22);
+
 void SetTextColor(CControlTextDisplay& control, Color color) { control.textColor = control.hoverTextColor = color; }
+
+void SetPopup(CControlKnob& control)
+{
+    control.popupTopColor = kPaperTop;
+    control.popupBottomColor = kPaperBottom;
+    control.popupFrameColor = kPaperFrame;
+    control.popupTextColor = kPaperInk;
+}
+
+/// The current item is written in rust, on a band.
+void SetList(DropDownLook& list)
+{
+    list.topColor = kPaperTop;
+    list.bottomColor = kPaperBottom;
+    list.frameColor = kPaperFrame;
+    list.itemColor = kPaperInk;
+    list.selectedItemColor = Rgb(138, 50, 6);
+    list.selectedBandColor = Rgb(224, 118, 42, 70);
+    list.headingColor = Rgb(96, 74, 42);
+}
 
 void SetTabs(CControlTab& tab, const ControlRow& row, Size image)
 {
@@ -83,6 +107,7 @@ std::unique_ptr<CControl> ControlFactory::Knob(const Order& order)
     auto made = std::make_unique<CControlKnob>(order.place, order.id);
     made->bitmap = order.image;
     made->frameCount = kKnobFrames;
+    SetPopup(*made);
     made->smoothing = 0.8f;
     made->crossfade = made->showValuePopup = true;
     made->fineFactor = 1.0f;
@@ -94,6 +119,7 @@ std::unique_ptr<CControl> ControlFactory::SmallKnob(const Order& order)
     auto made = std::make_unique<CControlKnob>(order.place, order.id);
     made->bitmap = order.image;
     made->frameCount = kSmallKnobFrames;
+    SetPopup(*made);
     made->crossfade = made->showValuePopup = true;
     made->fineFactor = 1.0f;
     if (order.row.look & look::Detent) made->centreDetent = 0.1f;
@@ -105,6 +131,7 @@ std::unique_ptr<CControl> ControlFactory::Steps(const Order& order)
     auto made = std::make_unique<CControlKnob>(order.place, order.id);
     made->bitmap = order.image;
     made->frameCount = order.row.parts;
+    SetPopup(*made);
     made->showValuePopup = true;
     made->crossfade = order.row.look & look::Crossfade;
     if (order.row.look & look::OneSpeed) made->fineFactor = 1.0f;
@@ -148,6 +175,7 @@ std::unique_ptr<CControlSlider> ControlFactory::Slider(const Order& order)
 {
     auto made = OverPage<CControlSlider>(order);
     made->handle = order.image;
+    SetPopup(*made);
     made->sensitivity = 0.005f;
     made->fineFactor = 1.0f;
     made->showValuePopup = !(order.row.look & look::NoPopup);
@@ -192,6 +220,7 @@ std::unique_ptr<CControl> ControlFactory::List(const Order& order)
     auto made = OverPage<CControlDropDownList>(order);
     SetTextColor(*made, order.row.look & look::Amber ? kAmber : kBlack);
     made->beginsInside = true;
+    SetList(made->look);
     return made;
 }
 

@@ -44,6 +44,10 @@ void DropDownLook::DrawRow(CDrawBuffer* buffer, Rect row, const DropDownItem& sh
         buffer->SetFillColor(headingBandColor);
         buffer->FillRect(row);
     }
+    if (state.chosen && AlphaOf(selectedBandColor)) {
+        buffer->SetFillColor(selectedBandColor);
+        buffer->FillRect(row);
+    }
     if (state.pointed) buffer->FillGradient(row, hoverTopColor, hoverTopColor, hoverBottomColor, hoverBottomColor);
     buffer->SetFont(FontOf(shown, state));
     buffer->SetTextColor(TextColorOf(shown, state));

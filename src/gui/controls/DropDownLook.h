@@ -24,6 +24,7 @@ public:
     Color topColor = Rgb(253, 252, 245), bottomColor = Rgb(238, 235, 219); // of the box
     Color frameColor = Rgb(52, 44, 34);
     Color itemColor = Rgb(44, 38, 30), selectedItemColor = Rgb(186, 84, 18), disabledItemColor = Rgb(160, 154, 138);
+    Color selectedBandColor = Rgb(0, 0, 0, 0); // behind it
     Color headingColor = Rgb(126, 104, 72), headingBandColor = Rgb(120, 96, 56, 30);
     Color separatorColor = Rgb(120, 96, 56, 90);
     Color hoverItemColor = kWhite, hoverTopColor = Rgb(244, 150, 78), hoverBottomColor = Rgb(228, 118, 42);
