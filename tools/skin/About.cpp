@@ -59,8 +59,8 @@ void DrawKeyRow(cairo_t* pen, const KeyRow& row, double x, double y)
 
 void DrawKeyboard(cairo_t* pen)
 {
-    constexpr double kRow = 28;
-    const double left = kSheet.x + 36, right = kSheet.x + 290, top = kSheet.y + 176;
+    constexpr double kRow = 27;
+    const double left = kSheet.x + 36, right = kSheet.x + 290, top = kSheet.y + 172;
     Write(pen, kHead, kAmber, "KEYBOARD", left, top, Stand::Left);
     double y = top + 26;
     for (const KeyRow& row : kLeftRows) {
@@ -84,9 +84,9 @@ void DrawMouse(cairo_t* pen)
         const char* effect;
     };
     constexpr Hint kHints[] = {{"Right click", "on a knob or a step: score editor"},
-                               {"Drop", "a file: loads it"},
+                               {"Drop", "a sound, program or groove"},
                                {"Click", "closes this page"}};
-    const double top = kSheet.y + 372;
+    const double top = kSheet.y + 375;
     Write(pen, kHead, kAmber, "MOUSE", kSheet.x + 36, top, Stand::Left);
     for (int n = 0; n < 3; ++n) {
         const double x = kSheet.x + (n == 1 ? 290 : 36), y = top + 22 + n / 2 * 19;
@@ -115,7 +115,7 @@ bool DrawAbout(Picture& picture, int id)
     Shadow(pen, kSheet.Moved(0, 5), 8, 18, 0.55);
     Plate(pen, kSheet, 8, Lighter(kPlateTop, 0.03), kPlateBottom);
     DrawMaker(pen);
-    for (const double y : {148.5, 354.5})
+    for (const double y : {148.5, 356.5})
         Line(pen, kSheet.x + 36, kSheet.y + y, kSheet.x + kSheet.w - 36, kSheet.y + y);
     Stroke(pen, Fade(kCream, 0.25), 1);
     DrawKeyboard(pen);

@@ -37,7 +37,7 @@ States StatesOf(Frames frames)
     case Frames::Latch: return {{{0, false}, {1, true}, {1, false}, {0, true}}};
     case Frames::Chosen: return {{{0, false}, {0, true}, {1, false}, {1, true}}};
     case Frames::Lights: return {{{0, false}, {0, true}, {0.55, false}, {0.55, true}, {1, false}, {1, true}}};
-    default: return {{{0, false}, {0, true}, {0.06, false, true}, {0.06, true, true}, {1, false}, {1, true}}};
+    default: return {{{0, false}, {0, true}, {0, false, true}, {0, true, true}, {1, false}, {1, true}}};
     }
 }
 

@@ -39,6 +39,7 @@ bool Shows(Page shown, Page page) { return page == Page::All || page == shown; }
 
 Type TypeFor(const ControlRow& row)
 {
+    if (row.page == Page::Synth && row.image == image::ButtonLcd) return kSmall; // between a knob and its switch
     const bool close = row.widget == Widget::Fader || row.page == Page::Sampler; // beside each other
     return close ? kDense : kLegend;
 }
@@ -50,9 +51,10 @@ void Print(cairo_t* pen, const Placed& found, const Legend& legend)
     const Type type = TypeFor(*found.row);
     const double x = at.MiddleX() + legend.dx, y = at.MiddleY() + legend.dy;
     const Shade ink = onGlass ? kInk : kCream;
+    const double gap = found.row->widget == Widget::Knob ? kGap + 1 : kGap; // its ticks reach out
     switch (legend.side) {
-    case Side::Above: return Write(pen, type, ink, legend.text, x, at.y + legend.dy - kGap);
-    case Side::Below: return Write(pen, type, ink, legend.text, x, at.y + at.h + legend.dy + kGap);
+    case Side::Above: return Write(pen, type, ink, legend.text, x, at.y + legend.dy - gap);
+    case Side::Below: return Write(pen, type, ink, legend.text, x, at.y + at.h + legend.dy + gap);
     case Side::Left: return Write(pen, type, ink, legend.text, at.x + legend.dx - kAside, y, Stand::Right);
     case Side::Right: return Write(pen, type, ink, legend.text, at.x + at.w + legend.dx + kAside, y, Stand::Left);
     }

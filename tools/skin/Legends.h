@@ -26,8 +26,8 @@ inline constexpr Legend kLegends[] = {
     { 20, "PLAY ONCE", Side::Above}, {89, "THIS CH", Side::Below},
     { 34, "ON",       Side::Left}, {42, "ON", Side::Left},
     // Controllers
-    { 47, "1",        Side::Above, 0, -1}, {48, "2", Side::Above, 0, -1}, {49, "3", Side::Above, 0, -1},
-    { 50, "4",        Side::Above, 0, -1}, {51, "5", Side::Above, 0, -1},
+    { 47, "1",        Side::Above}, {48, "2", Side::Above}, {49, "3", Side::Above},
+    { 50, "4",        Side::Above}, {51, "5", Side::Above},
     {kNoId, "ON",     Side::Right, 0, -8, Role::LinkSwitch}, {kNoId, "OFF", Side::Right, 0, 8, Role::LinkSwitch},
     // Effects
     { 72, "AMOUNT",   Side::Above}, {73, "SHAPE", Side::Above}, {75, "SYNC", Side::Above},
@@ -36,7 +36,7 @@ inline constexpr Legend kLegends[] = {
     // Strip
     { 80, "LEVEL",    Side::Above, 2, -1},
     {kNoId, "L",      Side::Above, 0, -5, Role::Meter, 0}, {kNoId, "R", Side::Above, 0, -5, Role::Meter, 1},
-    { 81, "PAN",      Side::Above, -2}, {82, "PITCH", Side::Above},
+    { 81, "PAN",      Side::Above, -2}, {82, "PITCH", Side::Above, 0, -1},
     { 90, "SLIDE",    Side::Above, -2}, {91, "SLIDE ON", Side::Below},
     { 84, "ATTACK",   Side::Above}, {85, "DECAY", Side::Above}, {86, "SUSTAIN", Side::Above},
     { 87, "RELEASE",  Side::Above}, {88, "LEVEL", Side::Above},

@@ -40,7 +40,7 @@ constexpr Title kTitles[] = {
 };
 constexpr Frame kFrames[] = {
     {71,                param::FxLfoShapeSwitch, 5.5, 2.5, 54.5, 10.5,
-     {{"RATE", 13, kCream, kLegend}, {"FX LFO", 92, kAmber, kUpward}}},
+     {{"RATE", 13, kCream, kLegend}, {"FX LFO", 69.5, kAmber, kUpward}}},
     {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, {{"STUTTER", 9, kAmber, kUpward}, {}}},
 };
 // clang-format on
@@ -151,7 +151,7 @@ void PrintWordmark(cairo_t* pen, double size, double middle, double y)
 {
     const Type type{size, Weight::Bold, size * 0.29};
     const double side = size * 0.06; // that a letter leaves at its left
-    const double width = WidthOf(pen, type, "KORVANE") - side * 1.7, down = std::round(size * 0.52);
+    const double width = WidthOf(pen, type, "KORVANE"), down = std::round(size * 0.52);
     Write(pen, type, Black(0.6), "KORVANE", middle + 1 - side * 0.15, y + 1.5);
     Write(pen, type, kCream, "KORVANE", middle - side * 0.15, y);
     cairo_rectangle(pen, std::round(middle - width / 2), std::round(y) + down, std::round(width), 2);
