@@ -83,7 +83,7 @@ constexpr int kManyLights = 5;
 
 void DrawLenses(cairo_t* pen, Box place, int count)
 {
-    if (count >= kManyLights) Hole(pen, {place.x - 0.5, place.y + 0.5, 12, place.h - 0.5}, 6, Rgb(34, 31, 29));
+    if (count >= kManyLights) Hole(pen, {place.x - 0.5, place.y + 1.5, 12, place.h - 2}, 6, Rgb(34, 31, 29));
     for (int n = 0; n < count; ++n)
         DrawLens(pen, place.x + kLightX, place.y + kLightCellHeight * n + kLightY, LightKind::Red);
 }

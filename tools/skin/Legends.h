@@ -30,7 +30,7 @@ inline constexpr Legend kLegends[] = {
     { 50, "4",        Side::Above}, {51, "5", Side::Above},
     {kNoId, "ON",     Side::Right, 0, -8, Role::LinkSwitch}, {kNoId, "OFF", Side::Right, 0, 8, Role::LinkSwitch},
     // Effects
-    { 72, "AMOUNT",   Side::Above}, {73, "SHAPE", Side::Above}, {75, "SYNC", Side::Above},
+    { 72, "AMOUNT",   Side::Above, 0, 1}, {73, "SHAPE", Side::Above}, {75, "SYNC", Side::Above},
     {kNoId, "PAD X",  Side::Above, -26, 0, Role::PadAxis, 0}, {kNoId, "PAD Y", Side::Above, -26, 0, Role::PadAxis, 1},
     { 79, "NO STUTTER", Side::Above},
     // Strip

@@ -35,12 +35,12 @@ struct Frame {
 
 // clang-format off
 constexpr Title kTitles[] = {
-    {"SYNTHS",  param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 5, -7},
+    {"SYNTHS",  param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 6, -7},
     {"PATTERN", param::Pattern1, -10, 0, true},
 };
 constexpr Frame kFrames[] = {
-    {71,                param::FxLfoShapeSwitch, 5.5, 2.5, 54.5, 10.5,
-     {{"RATE", 13, kCream, kLegend}, {"FX LFO", 69.5, kAmber, kUpward}}},
+    {71,                param::FxLfoShapeSwitch, 5.5, 1.5, 54.5, 10.5,
+     {{"RATE", 15, kCream, kLegend}, {"FX LFO", 69.5, kAmber, kUpward}}},
     {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, {{"STUTTER", 9, kAmber, kUpward}, {}}},
 };
 // clang-format on
