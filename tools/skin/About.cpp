@@ -61,7 +61,7 @@ void DrawKeyboard(cairo_t* pen)
 {
     constexpr double kRow = 27;
     const double left = kSheet.x + 36, right = kSheet.x + 290, top = kSheet.y + 172;
-    Write(pen, kHead, kAmber, "KEYBOARD", left, top, Stand::Left);
+    Write(pen, kHead, kTitleInk, "KEYBOARD", left, top, Stand::Left);
     double y = top + 26;
     for (const KeyRow& row : kLeftRows) {
         DrawKeyRow(pen, row, left, y);
@@ -87,7 +87,7 @@ void DrawMouse(cairo_t* pen)
                                {"Drop", "a sound, program or groove"},
                                {"Click", "closes this page"}};
     const double top = kSheet.y + 375;
-    Write(pen, kHead, kAmber, "MOUSE", kSheet.x + 36, top, Stand::Left);
+    Write(pen, kHead, kTitleInk, "MOUSE", kSheet.x + 36, top, Stand::Left);
     for (int n = 0; n < 3; ++n) {
         const double x = kSheet.x + (n == 1 ? 290 : 36), y = top + 22 + n / 2 * 19;
         Write(pen, {11, Weight::Bold, 0.1}, kCream, kHints[n].hand, x, y, Stand::Left);

@@ -31,7 +31,7 @@ inline constexpr Legend kLegends[] = {
     {kNoId, "ON",     Side::Right, 0, -8, Role::LinkSwitch}, {kNoId, "OFF", Side::Right, 0, 8, Role::LinkSwitch},
     // Effects
     { 72, "AMOUNT",   Side::Above, 0, 1}, {73, "SHAPE", Side::Above}, {75, "SYNC", Side::Above},
-    {kNoId, "PAD X",  Side::Above, -26, 0, Role::PadAxis, 0}, {kNoId, "PAD Y", Side::Above, -26, 0, Role::PadAxis, 1},
+    { 77, "PAD X",    Side::Above}, {78, "PAD Y", Side::Above},
     { 79, "NO STUTTER", Side::Above},
     // Strip
     { 80, "LEVEL",    Side::Above, 2, -1},

@@ -34,7 +34,8 @@ inline constexpr Shade kHole = Rgb(17, 15, 14);
 inline constexpr Shade kWood = Rgb(92, 57, 35);
 
 // Print
-inline constexpr Shade kCream = Rgb(228, 214, 190), kDimCream = Rgb(172, 159, 138), kAmber = Rgb(240, 136, 63);
+inline constexpr Shade kCream = Rgb(228, 214, 190), kDimCream = Rgb(184, 171, 150), kAmber = Rgb(240, 136, 63);
+inline constexpr Shade kTitleInk = Rgb(246, 152, 84);
 
 // Caps of keys
 inline constexpr Shade kCharcoal = Rgb(74, 69, 64), kTaupe = Rgb(104, 95, 84), kSlate = Rgb(70, 78, 86);

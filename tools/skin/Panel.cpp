@@ -92,7 +92,7 @@ void DrawGroups(cairo_t* pen)
     for (const Group& group : kGroups) {
         Plate(pen, group.box, 4, kPlateTop, kPlateBottom);
         if (group.title)
-            Write(pen, kTitle, kAmber, group.title, group.box.x + kTitleAt, group.box.y + kTitleDown, Stand::Left);
+            Write(pen, kTitle, kTitleInk, group.title, group.box.x + kTitleAt, group.box.y + kTitleDown, Stand::Left);
     }
 }
 

@@ -97,7 +97,7 @@ void DrawLane(cairo_t* pen)
         const bool top = *text == '1';
         Write(pen, kType, kDimCream, text, kLane.x - 5, top ? kLane.y + 5 : kLane.y + kLane.h - 5, Stand::Right);
     }
-    WriteUp(pen, kType, kAmber, "LANE", 18, kLane.MiddleY());
+    WriteUp(pen, kType, kTitleInk, "LANE", 18, kLane.MiddleY());
 }
 
 void DrawBars(cairo_t* pen)
@@ -125,7 +125,7 @@ void DrawHints(cairo_t* pen, double y)
                                {"WHEEL", "note length", 872},
                                {"RIGHT CLICK", "closes", 964}};
     for (const Hint& hint : kHints) {
-        Write(pen, kType, kAmber, hint.hand, hint.x, y - 5, Stand::Left);
+        Write(pen, kType, kTitleInk, hint.hand, hint.x, y - 5, Stand::Left);
         Write(pen, {9.5, Weight::Plain, 0.1}, kCream, hint.effect, hint.x, y + 8, Stand::Left);
     }
 }

@@ -39,9 +39,9 @@ constexpr Title kTitles[] = {
     {"PATTERN", param::Pattern1, -10, 0, true},
 };
 constexpr Frame kFrames[] = {
-    {71,                param::FxLfoShapeSwitch, 5.5, 1.5, 54.5, 10.5,
-     {{"RATE", 15, kCream, kLegend}, {"FX LFO", 69.5, kAmber, kUpward}}},
-    {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, {{"STUTTER", 9, kAmber, kUpward}, {}}},
+    {71,                param::FxLfoShapeSwitch, 5.5, 1.5, 54.5, 6.5,
+     {{"RATE", 15, kCream, kLegend}, {"FX LFO", 69.5, kTitleInk, kUpward}}},
+    {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, {{"STUTTER", 9, kTitleInk, kUpward}, {}}},
 };
 // clang-format on
 
@@ -50,9 +50,9 @@ void PrintTitles(cairo_t* pen)
     for (const Title& title : kTitles) {
         const Box at = Find(title.id).Place();
         if (title.upward)
-            WriteUp(pen, kUpward, kAmber, title.text, at.x + title.dx, at.MiddleY());
+            WriteUp(pen, kUpward, kTitleInk, title.text, at.x + title.dx, at.MiddleY());
         else
-            Write(pen, kTitle, kAmber, title.text, at.x + title.dx, at.y + title.dy, Stand::Left);
+            Write(pen, kTitle, kTitleInk, title.text, at.x + title.dx, at.y + title.dy, Stand::Left);
     }
 }
 

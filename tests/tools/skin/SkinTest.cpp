@@ -127,6 +127,25 @@ TEST(Skin, HasAFrameOfItsOwnForEveryStateOfEveryControl)
     }
 }
 
+TEST(Skin, KeysTellSoundingFromSelectedAndBarsFromSteps)
+{
+    const auto isWarm = [](Pixel p) { return p.red > p.blue + 40; };
+    for (const ControlRow& row : kLayout) {
+        if (row.role != Role::Channel && row.role != Role::Step) continue;
+        const auto image = Load(row.image);
+        const Rect place = PlaceIn(row, 0, *image);
+        for (int n = 0; n < row.count; ++n) { // at a key's lower left, beside its number: dark, half, full
+            const auto face = [&](int frame) {
+                return At(*image, row.column + n * row.columnStep + 9, frame * place.h + place.h - 12);
+            };
+            const bool step = row.role == Role::Step && n < 16, bar = row.role == Role::Step && !step;
+            EXPECT_FALSE(isWarm(face(0)));
+            EXPECT_EQ(isWarm(face(2)), step) << row.image << " " << n;
+            EXPECT_EQ(isWarm(face(4)), !bar) << row.image << " " << n;
+        }
+    }
+}
+
 TEST(Skin, KnobsTurnFromSevenToFiveOClock)
 {
     for (const int id : {image::Knob, image::KnobLcd}) {
