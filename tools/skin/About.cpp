@@ -83,9 +83,8 @@ void DrawMouse(cairo_t* pen)
         const char* hand;
         const char* effect;
     };
-    constexpr Hint kHints[] = {{"Right click", "on a knob or a step: score editor"},
-                               {"Drop", "a sound, program or groove"},
-                               {"Click", "closes this page"}};
+    constexpr Hint kHints[] = {
+        {"Drop", "a sound, program or groove"}, {"Alt click", "a control: its default"}, {"Click", "closes this page"}};
     const double top = kSheet.y + 375;
     Write(pen, kHead, kTitleInk, "MOUSE", kSheet.x + 36, top, Stand::Left);
     for (int n = 0; n < 3; ++n) {
@@ -101,7 +100,9 @@ void DrawMaker(cairo_t* pen)
     PrintWordmark(pen, 46, middle, kSheet.y + 54);
     Write(pen, {12, Weight::Bold, 0.4}, kCream, "Version " KORVANE_VERSION, middle, kSheet.y + 100);
     Write(pen, kPlain, kCream, "A groovebox of eight samplers and five synthesizers, made by Brassmoor", middle,
-          kSheet.y + 122);
+          kSheet.y + 118);
+    Write(pen, kPlain, kDimCream, "Home: the Korvane repository of Brassmoor. Licence: as stated there.", middle,
+          kSheet.y + 135);
 }
 
 } // namespace
