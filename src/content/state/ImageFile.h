@@ -44,7 +44,8 @@ inline constexpr int kMinImageFileBytes = 5; // shorter files are not looked int
 
 /// Reads a file, or what it has below `limit`. False, and nothing in `image`, when it cannot be opened or has fewer
 /// than five bytes.
-bool ReadImageFile(const char* path, Image& image, std::int32_t limit = INT32_MAX);
+/// tag  that the image begins with; of any other file no more is read than refuses it, however long it is; null: any
+bool ReadImageFile(const char* path, Image& image, std::int32_t limit = INT32_MAX, const char* tag = nullptr);
 
 /// Creates or replaces the file. False when that is refused, see SaveFile.
 bool WriteImageFile(const char* path, const Image& image);

@@ -12,6 +12,7 @@
 
 #include "content/PathText.h"
 #include "content/state/ChannelChunk.h"
+#include "content/state/ImageTags.h"
 #include "content/state/KeptSettings.h"
 #include "content/state/PartImage.h"
 #include "content/state/PreparedFiles.h"
@@ -72,10 +73,11 @@ bool KVInstrument::SaveGrooveWithSamples(const char* path)
     return all;
 }
 
+/// Whatever is dropped on the editor comes here first, an hour of sound as well.
 bool KVInstrument::LoadGrooveFile(const char* path)
 {
     Image image;
-    if (!ReadImageFile(path, image)) return false;
+    if (!ReadImageFile(path, image, INT32_MAX, tag::kGroove)) return false;
     const std::string file = EnginePath(path);
     bool loaded = false;
     Load([&] {
