@@ -172,6 +172,19 @@ void KVEditor::ControlChanged(CControl* control)
 
 void KVEditor::ChangeParameter(const PlacedControl& placed) { Send(placed.control->id, placed.control->GetValue()); }
 
+/// By the user: not because its page has gone, the window closes or somebody else took the mouse.
+bool KVEditor::LetGo(const PlacedControl& placed) const
+{
+    return placed.control->GetValue() == 0.0f && !placed.control->hidden && windowHandle && !cancelling;
+}
+
+void KVEditor::CancelAll()
+{
+    cancelling = true;
+    CSynthEditor::CancelAll();
+    cancelling = false;
+}
+
 void KVEditor::ChangeScreen(const PlacedControl& placed)
 {
     ChangeParameter(placed);
@@ -193,7 +206,7 @@ void KVEditor::ResetStart(const PlacedControl& placed)
 
 void KVEditor::LayerCommand(const PlacedControl& placed)
 {
-    if (placed.control->GetValue() != 0.0f) return; // when it is let go
+    if (!LetGo(placed)) return;
     switch (placed.NumberInRole()) {
     case 0: return commands.RemoveSample();
     case 1: return commands.NeighbourSample(-1);
@@ -207,7 +220,7 @@ void KVEditor::ChooseProgram(const PlacedControl&) { programs.ProgramChosen(); }
 
 void KVEditor::StepProgram(const PlacedControl& placed)
 {
-    if (placed.control->GetValue() == 0.0f) programs.Step(placed.NumberInRole() == 0 ? -1 : 1);
+    if (LetGo(placed)) programs.Step(placed.NumberInRole() == 0 ? -1 : 1);
 }
 
 void KVEditor::ChooseGrooveCommand(const PlacedControl& placed)
@@ -221,7 +234,7 @@ void KVEditor::ChooseWave(const PlacedControl& placed) { waveforms.Chosen(placed
 void KVEditor::StepWave(const PlacedControl& placed)
 {
     const int number = placed.NumberInRole();
-    if (placed.control->GetValue() == 0.0f) commands.StepWave(number % kOscillators, number < kOscillators ? -1 : 1);
+    if (LetGo(placed)) commands.StepWave(number % kOscillators, number < kOscillators ? -1 : 1);
 }
 
 } // namespace korvane

@@ -29,6 +29,7 @@ public:
     void RefreshAll() override;
     void ControlChanged(CControl* control) override;
     bool CreateContent() override;                          // false when an image is missing
+    void CancelAll() override;                              // carries out no command
     // clang-format on
 
     int laneParameter = 88;     // that the score editor's lane shows; at first "CHN: Amp Level"
@@ -60,6 +61,7 @@ private:
     bool OpenScore(int x, int y);
     void Send(int parameter, float value);
     void ChangeParameter(const PlacedControl& placed);
+    bool LetGo(const PlacedControl& placed) const;
     void ChangeScreen(const PlacedControl& placed);
     void ChangeLink(const PlacedControl& placed);
     void ChangeIgnore(const PlacedControl& placed);
@@ -76,6 +78,7 @@ private:
     EditorCommands commands;
     ProgramMenus programs;
     WaveformMenus waveforms;
+    bool cancelling = false;
 };
 
 } // namespace korvane
