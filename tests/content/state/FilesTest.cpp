@@ -4,6 +4,8 @@
 #include <csignal>
 #include <thread>
 
+#include "content/state/ImageFile.h"
+#include "content/state/ImageTags.h"
 #include "content/state/Images.h"
 #include "platform/SaveFile.h"
 #include "support/Riff.h"
@@ -211,6 +213,19 @@ TEST_F(Files, WildGroovesPlayFiniteSound)
         EXPECT_LT(std::count(thousand.begin(), thousand.end(), 0.0f), 27 * kFrames) << seed << " is silent";
         for (const float x : thousand) ASSERT_TRUE(std::isfinite(x)) << seed;
     }
+}
+
+TEST_F(Files, OfAFileThatIsNoGrooveLittleIsRead)
+{
+    constexpr std::pair<const char*, int> kCases[] = {{"3gnS", 1000}, {"RIFF", 5}, {"3gn", 5}};
+    for (const auto& [begin, read] : kCases) {
+        WriteText(root / "long", begin + std::string(1000 - std::strlen(begin), 'S' + 1));
+        Image image;
+        EXPECT_TRUE(ReadImageFile(Path("long").c_str(), image, INT32_MAX, tag::kGroove));
+        EXPECT_EQ(image.size, read) << begin;
+        EXPECT_EQ(std::string(image.bytes.get(), image.bytes.get() + 3), std::string(begin, 3));
+    }
+    EXPECT_FALSE(Synth().LoadGrooveFile(Path("long").c_str()));
 }
 
 TEST_F(Files, ChunksNeverOutgrowTheSizeTheHostWasTold)
