@@ -35,6 +35,7 @@ CVstWrapper::~CVstWrapper() { Close(); }
 
 void CVstWrapper::Close()
 {
+    if (editor) editor->Close();      // before what its thread uses ends
     if (engine) engine->EndThreads(); // they report to host and editor
     editor.reset();                   // it shows the engine
     engine.reset();

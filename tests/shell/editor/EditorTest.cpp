@@ -194,6 +194,17 @@ TEST_F(EditorTest, TwoInstancesHaveTheirOwn)
     EXPECT_EQ(std::pair(above.Get(), below.Get()), std::pair(0.75f, 0.6f));
 }
 
+// What the user has chosen last is told to host and editor by the window's thread.
+TEST_F(EditorTest, EndsOpenAfterAProgramWasChosen)
+{
+    Hosted plugin(module);
+    const float before = plugin.effect->getParameter(plugin.effect, 92);
+    EXPECT_EQ(plugin.Open(), 1);
+    plugin.host.Do("to 220,248 press 1 release 1 to 220,268 press 1 release 1"); // the first of the categories
+    EXPECT_TRUE(Soon([&] { return plugin.effect->getParameter(plugin.effect, 92) != before; }));
+    EXPECT_EQ(plugin.Ask(request::Close), 1);
+}
+
 // A host that plays, writes and loads grooves while a knob is dragged; then what it writes is seen.
 TEST_F(EditorTest, APlayingHostWritesAndLoadsDuringADrag)
 {
