@@ -52,6 +52,7 @@ void KVEditor::ShowLevels()
 void KVEditor::ShowTexts()
 {
     waveforms.ShowNames();
+    programs.ShowName();
     const int effect = instrument.engine->selection.selectedFx;
     for (const bool vertical : {false, true})
         panel.Of<CControlTextDisplay>(Role::PadAxis, vertical)->SetText(PadAxisName(effect, vertical));

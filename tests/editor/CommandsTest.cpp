@@ -111,6 +111,23 @@ TEST_F(CommandsTest, ListsAndArrowsChooseProgramsOfTheChannelsLibrary)
     EXPECT_EQ(instrument->samplerPrograms.folderIndex, -1);
 }
 
+TEST_F(CommandsTest, AProgramThatComesWithAGrooveCutShortIsNamed)
+{
+    Engine().selection.selectedChannel = 9;
+    ASSERT_TRUE(instrument->SaveProgramFile(InRoot("Bass.kvsynth").c_str()));
+    ASSERT_TRUE(instrument->SaveGrooveFile(InRoot("g").c_str()));
+    std::filesystem::resize_file(root.path / "g", std::filesystem::file_size(root.path / "g") - 40000);
+    instrument->ResetGroove();
+    Show(9, false);
+    const auto* const menu = editor->panel.Of<CControlDropDownList>(Role::ProgramMenu);
+    EXPECT_STREQ(menu->text, "<noname>");
+    window->Drop(InRoot("g"));
+    window->Serve(0);
+    Engine().selection.selectedChannel = 9;
+    Tick();
+    EXPECT_STREQ(menu->text, "Bass");
+}
+
 TEST_F(CommandsTest, BelowTheAboutPageOnlyPlayAndReleasesAndDropsAreHeard)
 {
     Click(500, 40);

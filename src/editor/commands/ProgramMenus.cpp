@@ -42,18 +42,23 @@ void ProgramMenus::Attach(CControlDropDownList* folderList, CControlDropDownList
 void ProgramMenus::Rebuild()
 {
     if (!folders || !programs) return;
-    const GrooveEngine& engine = *instrument.engine;
-    const int channel = engine.selection.selectedChannel;
-    ProgramLibrary library = instrument.Library(channel < kSamplerChannels);
+    ProgramLibrary library = instrument.Library(instrument.engine->selection.OnSampler());
     if (!shown || *shown != library) {
         shown = std::move(library);
         FillLists();
     }
     folders->SetValue(static_cast<float>(shown->folder)); // where it opens
     programs->SetValue(shown->program < 0 ? -1.0f : static_cast<float>(kFirstProgram + shown->program));
-    char path[512];
-    engine.Channel(channel).programPath.Get(path);
     folders->SetClosedText(shown->folderName.c_str());
+    ShowName();
+}
+
+void ProgramMenus::ShowName()
+{
+    if (!programs) return;
+    const GrooveEngine& engine = *instrument.engine;
+    char path[512];
+    engine.Channel(engine.selection.selectedChannel).programPath.Get(path);
     programs->SetClosedText(*path ? ShownName(std::string(StemOf(path)).c_str()) : "<noname>");
 }
 

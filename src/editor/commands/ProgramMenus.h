@@ -23,6 +23,8 @@ public:
     /// What is shown may have changed: another channel is selected, something was loaded. After RefreshAll as well,
     /// which gives the lists a value. A list whose items stay the same stays open.
     void Rebuild();
+    /// On each tick; draws nothing that has not changed. Also a groove that loads but in part brings other names.
+    void ShowName();
     void FolderChosen();
     void ProgramChosen();
     /// The program before (-1) or after (1) it in its folder.
