@@ -79,6 +79,7 @@ void KVEditor::RefreshAll()
     CSynthEditor::RefreshAll();
     if (!windowHandle || activeGroup) return;
     samplerPage = instrument.engine->selection.OnSampler();
+    screenStored = ScreenStored();
     const Page page = ShownPage();
     SetBackground(page == Page::Channel   ? image::PageChannel
                   : page == Page::Sampler ? image::PageSampler

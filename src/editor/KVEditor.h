@@ -46,6 +46,7 @@ private:
     void AddLayout();
     void AttachMenus();
     Page ShownPage() const;
+    bool ScreenStored() const { return instrument.GetParameter(kScreenSwitchId) != 0.0f; }
     void ShowMenus();
 
     // The tick.
@@ -74,6 +75,7 @@ private:
     void ChooseWave(const PlacedControl& placed);
     void StepWave(const PlacedControl& placed);
 
+    bool screenStored = false; // of the screen switch's parameter, when the page was chosen
     KVInstrument& instrument;
     EditorCommands commands;
     ProgramMenus programs;

@@ -26,7 +26,7 @@ void KVEditor::Idle()
 void KVEditor::FollowChannel()
 {
     const int channel = instrument.engine->selection.selectedChannel;
-    if (samplerPage != (channel < kSamplerChannels)) RefreshAll();
+    if (samplerPage != (channel < kSamplerChannels) || screenStored != ScreenStored()) RefreshAll();
     if (channel == shownChannel) return;
     shownChannel = channel;
     programs.Rebuild();
@@ -66,7 +66,13 @@ void KVEditor::ShowLight(CControlTextDisplay& button, int imageRow)
     button.SetDirty(true);
 }
 
-/// A row of the table for each kind of light, which asks the engine for each of them.
+/// A button above it that is drawn covers the edge of its glow.
+static void ShowLed(CControl& led, bool on, CControl* above)
+{
+    led.SetValue(on ? 1.0f : 0.0f);
+    if (above && above->IsDirty()) led.SetDirty(true);
+}
+
 void KVEditor::ShowLights()
 {
     const GrooveEngine& engine = *instrument.engine;
@@ -81,9 +87,9 @@ void KVEditor::ShowLights()
         case Role::Step: show(StepLight(engine, n)); break;
         case Role::Pattern: show(PatternLight(engine, n)); break;
         case Role::ExtLearn: show(engine.ext.extLearn ? Light::Half : Light::Off); break;
-        case Role::StepLed: placed.control->SetValue(StepLed(engine, n) ? 1.0f : 0.0f); break;
-        case Role::FxLed: placed.control->SetValue(FxLed(engine, n) ? 1.0f : 0.0f); break;
-        case Role::ExtLed: placed.control->SetValue(engine.ext.extIndex == n ? 1.0f : 0.0f); break;
+        case Role::StepLed: ShowLed(*placed.control, StepLed(engine, n), panel.Bound(param::Step1 + n)); break;
+        case Role::FxLed: ShowLed(*placed.control, FxLed(engine, n), panel.Bound(param::Fx1 + n)); break;
+        case Role::ExtLed: ShowLed(*placed.control, engine.ext.extIndex == n, nullptr); break;
         default: break;
         }
     }

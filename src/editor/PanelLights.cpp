@@ -42,8 +42,9 @@ Light StepLight(const GrooveEngine& engine, int k)
     const int channel = selection.selectedChannel;
     if (k >= kStepsPerBar) {
         const int bar = k - kStepsPerBar;
+        const bool holdsNotes = BarHoldsNotes(pattern, channel, bar), selected = selection.selectedBar == bar;
         const bool marked = Editing(engine) && selection.selectedBarMark == bar;
-        return Lit(BarHoldsNotes(pattern, channel, bar), selection.selectedBar == bar, marked);
+        return Lit(holdsNotes || selected, selected, marked);
     }
     const int step = selection.StepInPattern(k);
     const bool plays = engine.clock.playing && engine.clock.patternStep == step;

@@ -29,7 +29,7 @@ constexpr int ImageRow(Light light, bool blink)
 /// Full: selected; half: sounds; in edit mode blinks while it is marked.
 Light ChannelLight(const GrooveEngine& engine, int channel);
 /// Half: holds notes of the selected channel, full: and is edited; blinks where it plays, and dimly when it is edited
-/// and empty. Bars likewise: the selected one is the edited one, and the marked one blinks.
+/// and empty. Bars: half with notes, full the selected one, which blinks while it is marked.
 /// k  0..15 steps, 16..23 bars
 Light StepLight(const GrooveEngine& engine, int k);
 /// Half: it plays; blinks while it is marked.

@@ -63,6 +63,9 @@ TEST_F(PanelTest, TheScreenSwitchShowsTheChannelPageAtOnceAndAfterReopening)
     editor->Close();
     Open();
     EXPECT_EQ(editor->backgroundId, image::PageChannel);
+    instrument->SetParameter(kScreenSwitchId, 0.0f); // by a MIDI link
+    Tick();
+    EXPECT_EQ(editor->backgroundId, image::PageSynth);
 }
 
 TEST_F(PanelTest, StepButtonsShowNotesTheEditedStepAndWhereItPlays)
@@ -81,7 +84,7 @@ TEST_F(PanelTest, StepButtonsShowNotesTheEditedStepAndWhereItPlays)
         for (const int k : buttons) found.push_back(RowOf(Role::Step, k));
         return found;
     };
-    // note; edited note; empty; bars 1 (empty), 2 (selected, notes), 4 (notes)
+    // note; edited note; empty; bars 1 (empty), 2 (selected), 4 (notes)
     EXPECT_EQ(rows({0, 1, 2, 16, 17, 19}), (std::vector{2, 4, 0, 0, 4, 2}));
     Engine().selection.editStep = 2; // empty
     Engine().clock.playing = true;

@@ -90,19 +90,19 @@ bool KVInstrument::LoadGrooveFile(const char* path)
     return true;
 }
 
-bool KVInstrument::SavePartFile(const char* path)
+bool KVInstrument::SavePartFile(int channel, const char* path)
 {
-    return WriteImageFile(path, Unchanging([this](ByteWriter& out) { WritePart(out, *engine); }));
+    return WriteImageFile(path, Unchanging([&](ByteWriter& out) { WritePart(out, *engine, channel); }));
 }
 
-bool KVInstrument::LoadPartFile(const char* path)
+bool KVInstrument::LoadPartFile(int channel, const char* path)
 {
     Image image;
     if (!ReadImageFile(path, image)) return false;
     bool loaded = false;
     Load([&] {
         engine->samplePool->SetGrooveFolders(FolderText(EnginePath(path)).c_str());
-        loaded = ReplacePart(image);
+        loaded = ReplacePart(channel, image);
     });
     if (!loaded) return false;
     Tell();
@@ -163,9 +163,8 @@ std::int32_t KVInstrument::GetProgramChunk(void* buffer)
 
 // Programs
 
-bool KVInstrument::SaveProgramFile(const char* path)
+bool KVInstrument::SaveProgramFile(int channel, const char* path)
 {
-    const int channel = engine->selection.selectedChannel;
     if (!WriteImageFile(path, Unchanging([&](ByteWriter& out) { WriteChannelChunk(out, *engine, channel); })))
         return false;
     engine->Channel(channel).programPath.Set(EnginePath(path).c_str());
@@ -173,10 +172,10 @@ bool KVInstrument::SaveProgramFile(const char* path)
     return true;
 }
 
-bool KVInstrument::LoadProgramFile(const char* path)
+bool KVInstrument::LoadProgramFile(int channel, const char* path)
 {
     bool loaded = false;
-    Load([&] { loaded = ReplaceChannel(path, engine->selection.selectedChannel); });
+    Load([&] { loaded = ReplaceChannel(path, channel); });
     if (!loaded) return false;
     Tell();
     return true;
@@ -408,9 +407,9 @@ void KVInstrument::Put(const GrooveState& state)
     });
 }
 
-bool KVInstrument::ReplacePart(const Image& image)
+bool KVInstrument::ReplacePart(int channel, const Image& image)
 {
-    PartState part(*engine, engine->selection.selectedChannel);
+    PartState part(*engine, channel);
     const bool whole = ReadPart(ByteReader(image.bytes.get(), image.size), *engine, part);
     PreparedFiles files(*engine);
     if (part.settings.begun) files.Prepare(part.channel, part.settings);

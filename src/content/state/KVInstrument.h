@@ -53,10 +53,14 @@ public:
     bool SaveGrooveFile(const char* path);        // takes the groove name from the path
     bool SaveGrooveWithSamples(const char* path); // and copies the used files beside it; false also when one was not
     bool LoadGrooveFile(const char* path);
-    bool SavePartFile(const char* path);
-    bool LoadPartFile(const char* path);
-    bool SaveProgramFile(const char* path);
-    bool LoadProgramFile(const char* path);
+    bool SavePartFile(int channel, const char* path); // 0..12; without: of the selected channel
+    bool LoadPartFile(int channel, const char* path);
+    bool SaveProgramFile(int channel, const char* path);
+    bool LoadProgramFile(int channel, const char* path);
+    bool SavePartFile(const char* path) { return SavePartFile(SelectedChannel(), path); }
+    bool LoadPartFile(const char* path) { return LoadPartFile(SelectedChannel(), path); }
+    bool SaveProgramFile(const char* path) { return SaveProgramFile(SelectedChannel(), path); }
+    bool LoadProgramFile(const char* path) { return LoadProgramFile(SelectedChannel(), path); }
 
     // Back to the beginning, with the default waveforms.
 
@@ -94,6 +98,7 @@ private:
     template <class Write>
     Image Unchanging(Write write) const;
     Image StateImage() const;
+    int SelectedChannel() const { return engine->selection.selectedChannel; }
     void Load(const Worker::Task& task); // on the loader; waits
     void Tell();                         // host and editor, of everything
     template <class Choose>
@@ -108,7 +113,7 @@ private:
     bool LoadChosen(int channel, Choose choose);
     bool Replace(const std::uint8_t* data, std::int32_t size);
     void Put(const GrooveState& state);
-    bool ReplacePart(const Image& image);
+    bool ReplacePart(int channel, const Image& image);
     bool ReplaceChannel(const char* path, int channel);
 
     void Ask(bool bank, int number); // the audio thread

@@ -13,9 +13,8 @@ const char (&PartTag(int channel))[5] { return channel < kSamplerChannels ? tag:
 
 } // namespace
 
-void WritePart(ByteWriter& out, const GrooveEngine& engine)
+void WritePart(ByteWriter& out, const GrooveEngine& engine, int channel)
 {
-    const int channel = engine.selection.selectedChannel;
     const GroovePattern& pattern = engine.score.Current();
     out.Tag(PartTag(channel));
     out.Chunk([&] { WriteChannelChunk(out, engine, channel); });
@@ -29,7 +28,7 @@ void WritePart(ByteWriter& out, const GrooveEngine& engine)
 std::int32_t SavePart(const GrooveEngine& engine, std::uint8_t* buffer)
 {
     ByteWriter out(buffer);
-    WritePart(out, engine);
+    WritePart(out, engine, engine.selection.selectedChannel);
     return out.Size();
 }
 

@@ -13,9 +13,9 @@ namespace korvane {
 
 // Part: tag by the channel's kind, channel chunk, sequence chunk (tag, 128 step records), the note length once more.
 
-/// Of the selected channel and the current pattern. May run while other threads change the engine.
-void WritePart(ByteWriter& out, const GrooveEngine& engine);
-/// Writes the image and returns its size; into a null buffer nothing.
+/// Of a channel and the current pattern. May run while other threads change the engine.
+void WritePart(ByteWriter& out, const GrooveEngine& engine, int channel);
+/// Of the selected channel. Writes the image and returns its size; into a null buffer nothing.
 std::int32_t SavePart(const GrooveEngine& engine, std::uint8_t* buffer);
 
 /// A part on its way from an image into the engine; its steps lie in the first of the engine's spare patterns.

@@ -34,7 +34,8 @@ struct DialogRow {
     const char* title;
     std::span<const DialogFilter> filters;
     DialogStart (*start)(const KVInstrument& instrument);
-    bool (KVInstrument::*operation)(const char* path); // null: the command's own
+    bool (KVInstrument::*operation)(const char* path); // null: the command's own, or of a channel
+    bool (KVInstrument::*ofChannel)(int channel, const char* path) = nullptr; // that was selected when it came up
 };
 
 namespace dialog {
@@ -76,10 +77,10 @@ inline constexpr DialogFilter kAudio[] = {
 inline constexpr DialogRow kSaveGroove    {true,  "Save Groove",       kGroove,  Groove,     &KVInstrument::SaveGrooveFile};
 inline constexpr DialogRow kSaveAll       {true,  "Save Groove",       kGroove,  Groove,     &KVInstrument::SaveGrooveWithSamples};
 inline constexpr DialogRow kLoadGroove    {false, "Load Groove",       kGroove,  Grooves,    &KVInstrument::LoadGrooveFile};
-inline constexpr DialogRow kSavePart      {true,  "Save Part",         kPart,    Part,       &KVInstrument::SavePartFile};
-inline constexpr DialogRow kLoadPart      {false, "Load Part",         kPart,    Parts,      &KVInstrument::LoadPartFile};
-inline constexpr DialogRow kSaveProgram   {true,  "Save Part Program", kProgram, Program,    &KVInstrument::SaveProgramFile};
-inline constexpr DialogRow kLoadProgram   {false, "Load Part Program", kProgram, Program,    &KVInstrument::LoadProgramFile};
+inline constexpr DialogRow kSavePart      {true,  "Save Part",         kPart,    Part,       nullptr, &KVInstrument::SavePartFile};
+inline constexpr DialogRow kLoadPart      {false, "Load Part",         kPart,    Parts,      nullptr, &KVInstrument::LoadPartFile};
+inline constexpr DialogRow kSaveProgram   {true,  "Save Part Program", kProgram, Program,    nullptr, &KVInstrument::SaveProgramFile};
+inline constexpr DialogRow kLoadProgram   {false, "Load Part Program", kProgram, Program,    nullptr, &KVInstrument::LoadProgramFile};
 inline constexpr DialogRow kLoadWaveSample{false, "Load Wave Sample",  kAudio,   LastSample, nullptr};
 inline constexpr DialogRow kImportWave    {false, "Import Wave 1",     kAudio,   Waves,      nullptr};
 // clang-format on

@@ -43,7 +43,13 @@ int IndexOf(const CFileList& list, const std::string& path)
 
 void EditorCommands::Run(const DialogRow& row)
 {
-    if (const std::string path = Ask(row); !path.empty()) (instrument.*row.operation)(path.c_str());
+    const int channel = instrument.engine->selection.selectedChannel;
+    const std::string path = Ask(row);
+    if (path.empty()) return;
+    if (row.ofChannel)
+        (instrument.*row.ofChannel)(channel, path.c_str());
+    else
+        (instrument.*row.operation)(path.c_str());
 }
 
 std::string EditorCommands::Ask(const DialogRow& row)
