@@ -47,8 +47,8 @@ struct Commands : CommandTest {
     }
 };
 
-const std::string kLibraries = std::string("libsndfile1-dev libcairo2-dev libxcb1-dev libxcb-shm0-dev ") +
-                               "libxcb-xkb-dev fonts-roboto-unhinted";
+const std::string kLibraries =
+    std::string("libsndfile1-dev libcairo2-dev libxcb1-dev libxcb-shm0-dev ") + "libxcb-xkb-dev fonts-roboto-unhinted";
 const std::string kNeeded = "g++ cmake make pkg-config " + kLibraries;
 const std::string kAdvice = "korvane: packages are missing; as root: apt-get update && apt-get install ";
 

@@ -57,7 +57,8 @@ struct ControlsTest : testing::Test, PanelRig {
         if (widget == Widget::Momentary) return {{Line("automate", id, 1), Line("automate", id, 0)}, 0.0f};
         if (widget == Widget::Pad)
             return {{Line("automate", 77, 27.0f / 111.0f), Line("automate", 78, 1.0f - 27.0f / 111.0f),
-                     Line("automate", id, 1), Line("automate", id, 0)}, 0.0f};
+                     Line("automate", id, 1), Line("automate", id, 0)},
+                    0.0f};
         const float after = before == 0.0f ? 1.0f : 0.0f;
         return {{Line("begin", id, 0), Line("automate", id, after), Line("end", id, 0)}, after};
     }

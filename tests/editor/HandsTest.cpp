@@ -25,7 +25,8 @@ TEST_F(HandsTest, KeysPressAndReleaseTheirButtons)
                  {'V', 9, false},        {'X', 7, false},       {'M', 10, false}};
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.code);
-        const std::string on = "automate " + std::to_string(row.parameter) + " 1", off = on.substr(0, on.size() - 1) + "0";
+        const std::string on = "automate " + std::to_string(row.parameter) + " 1",
+                          off = on.substr(0, on.size() - 1) + "0";
         Take();
         Key(row.code, true);
         EXPECT_EQ(Take(), Log{on});

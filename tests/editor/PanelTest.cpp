@@ -153,7 +153,8 @@ TEST_F(PanelTest, LedsShowEffectsControllersAndSteps)
     Engine().ext.extLearn = false;
     Tick();
     EXPECT_EQ(lit(Role::FxLed, 10), "..*.*..*..");
-    EXPECT_EQ(lit(Role::StepLed, 24), ".....*.........." "..*.....");
+    EXPECT_EQ(lit(Role::StepLed, 24), ".....*.........."
+                                      "..*.....");
     EXPECT_EQ(RowOf(Role::ExtLearn, 0), 0);
     Pattern().ClearStep(9, 0);
     Pattern().SetNotes(9, 0, 0b1000000000000000101);
@@ -161,7 +162,8 @@ TEST_F(PanelTest, LedsShowEffectsControllersAndSteps)
     Engine().selection.selectedBar = 0;
     Engine().selection.editStep = 0; // its chord
     Tick();
-    EXPECT_EQ(lit(Role::StepLed, 24), "*.*............." "..*.....");
+    EXPECT_EQ(lit(Role::StepLed, 24), "*.*............."
+                                      "..*.....");
 }
 
 TEST_F(PanelTest, MetersTakeTheHigherOfPeakAndFall)
@@ -221,8 +223,10 @@ TEST_F(PanelTest, LinksShowWhatMovedLastAndAreMadeAndIgnored)
 
 TEST_F(PanelTest, ThePadsAxesAreNamedByTheSelectedEffect)
 {
-    for (const auto& [effect, names] : {std::pair{0, "Distortion/Lowpass"}, {3, "Depth/Feedback"},
-                                        {8, "Panning/Binaural"}, {9, "Release/Drop Level"}}) {
+    for (const auto& [effect, names] : {std::pair{0, "Distortion/Lowpass"},
+                                        {3, "Depth/Feedback"},
+                                        {8, "Panning/Binaural"},
+                                        {9, "Release/Drop Level"}}) {
         Engine().selection.selectedFx = effect;
         Tick();
         EXPECT_EQ(std::string(Of(Role::PadAxis, 0).text) + "/" + Of(Role::PadAxis, 1).text, names);
