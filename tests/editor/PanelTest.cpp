@@ -92,7 +92,10 @@ TEST_F(PanelTest, StepButtonsShowNotesTheEditedStepAndWhereItPlays)
     TickTo(false);
     EXPECT_EQ(rows({0, 1, 2}), (std::vector{2, 2, 0}));
     TickTo(true);
-    EXPECT_EQ(rows({0, 1, 2}), (std::vector{4, 2, 2}));
+    EXPECT_EQ(rows({0, 1, 2, 19}), (std::vector{4, 2, 2, 2}));
+    Engine().selection.selectedBarMark = 3;
+    TickTo(true);
+    EXPECT_EQ(rows({19}), (std::vector{4}));
     Engine().selection.selectedBar = 0; // what plays is elsewhere
     TickTo(true);
     EXPECT_EQ(rows({0}), (std::vector{0}));
