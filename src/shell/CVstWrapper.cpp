@@ -31,15 +31,12 @@ CVstWrapper::CVstWrapper(AudioMasterCallback hostCallback)
     engine->SetProgram(0);
 }
 
-CVstWrapper::~CVstWrapper() { Close(); }
-
-void CVstWrapper::Close()
+/// The editor, which shows the engine, ends before it and waits for its thread, however long the host keeps that; until
+/// then the thread may ask for either, so that neither pointer changes here.
+CVstWrapper::~CVstWrapper()
 {
     if (editor) editor->Close();      // before what its thread uses ends
     if (engine) engine->EndThreads(); // they report to host and editor
-    editor.reset();                   // it shows the engine
-    engine.reset();
-    chunk = {};
 }
 
 std::intptr_t CVstWrapper::Dispatch(std::int32_t opcode, std::int32_t index, std::intptr_t value, void* pointer,
@@ -52,7 +49,6 @@ std::intptr_t CVstWrapper::Dispatch(std::int32_t opcode, std::int32_t index, std
         return text != nullptr;
     };
     switch (opcode) {
-    case request::Close: Close(); return 1;
     case request::SetProgram:
         if (engine) engine->SetProgram(static_cast<std::int32_t>(value));
         programNumber = static_cast<std::int32_t>(value);

@@ -52,7 +52,6 @@ private:
 
     void RenderBlock(float** inputs, float** outputs, std::int32_t frames, bool replacing);
     const VstTimeInfo* AskTime(std::int32_t filter);
-    void Close();
     void Power(bool on);
     std::intptr_t OutputProperties(std::int32_t index, VstPinProperties* properties);
     std::intptr_t GetChunk(bool preset, void** data);
@@ -60,7 +59,7 @@ private:
     std::intptr_t EditorRequest(std::int32_t opcode, void* pointer);
 
     std::unique_ptr<CSynthesizer, EngineEnd> engine;
-    std::unique_ptr<CVstEditor> editor;
+    std::unique_ptr<CVstEditor> editor; // after the engine, so that it ends first
     // Handed to the host by the last get-chunk request, and the host's until the next one: it asks from one thread.
     std::vector<std::uint8_t> chunk;
     Shared<std::int32_t> programNumber; // as the host gave it; any of its threads sets and asks
