@@ -49,12 +49,13 @@ void Worker::End()
 
 void Worker::Run(const Task& task, const Task& meanwhile)
 {
-    if (std::this_thread::get_id() == thread.get_id()) return task();
+    if (std::this_thread::get_id() == own) return task();
     Job job{&task, nullptr};
     {
         std::unique_lock guard(lock);
         if (ended) {
             guard.unlock();
+            const std::lock_guard alone(late);
             return task();
         }
         jobs.push_back(&job);
@@ -78,6 +79,7 @@ void Worker::Wake()
 
 void Worker::Loop()
 {
+    own = std::this_thread::get_id();
     while (!ended) { // which only this thread sets
         Job* const job = NextJob();
         std::exception_ptr ignored; // short of memory; the next round may have more

@@ -10,6 +10,8 @@
 #include <mutex>
 #include <thread>
 
+#include "platform/Shared.h"
+
 namespace korvane {
 
 /// Does what it is given, one thing after another, in order, and looks round by itself now and then: for what the audio
@@ -30,8 +32,8 @@ public:
     /// meanwhile  what the caller does again and again while it waits
     void Run(const Task& task, const Task& meanwhile);
 
-    /// Finishes the tasks that wait and ends the thread; whoever comes to Run afterwards does the task alone. Not for
-    /// the thread itself.
+    /// Finishes the tasks that wait and ends the thread; those who come to Run afterwards do their tasks themselves,
+    /// one after another. Not for the thread itself.
     void End();
     /// The end is near: a round that is long may be cut short.
     bool Ending() const { return ending; }
@@ -56,7 +58,9 @@ private:
     std::deque<Job*> jobs; // under the lock, like the flags
     bool woken = false, ended = false;
     std::atomic<bool> ending{false};
-    std::thread thread; // last: it uses the others
+    std::recursive_mutex late;   // of tasks that come after the end
+    Shared<std::thread::id> own; // the thread writes
+    std::thread thread;          // last: it uses the others
 };
 
 } // namespace korvane

@@ -285,7 +285,9 @@ bool KVInstrument::LoadChosen(int channel, Choose choose)
         const std::lock_guard guard(browsing);
         if (!choose(list)) return false;
     }
-    return ReplaceChannel(list.filePath, channel);
+    const bool loaded = ReplaceChannel(list.filePath, channel);
+    if (!loaded) RefreshEditor(); // which shows what is selected in the library
+    return loaded;
 }
 
 // MIDI
