@@ -47,6 +47,7 @@ private:
     std::unique_ptr<CControl> Pad(const Order& order);
     std::unique_ptr<CControl> Monitor(const Order& order);
 
+    std::unique_ptr<CControlKnob> Strip(const Order& order, int frames);
     std::unique_ptr<CControlSlider> Slider(const Order& order);
     template <class Control>
     std::unique_ptr<Control> OverPage(const Order& order);

@@ -77,7 +77,7 @@ enum : unsigned {
     NoPopup = 4,    // does not show its value while it is dragged
     Detent = 8,     // stays for a while at its centre
     Crossfade = 16, // between frames
-    OneSpeed = 32,  // Ctrl does not slow it down
+    TwoSpeeds = 32, // Ctrl slows it down
     Amber = 64      // text
 };
 }
@@ -182,8 +182,8 @@ inline constexpr ControlRow kLayout[] = {
     {Widget::LedTab,         454, 358,   0,   0, image::Led,              114,  Page::All,     Role::None,     1,  0,  0,   0,   0, 4},
     // Synth page
     {Widget::Toggle,         438, 207,  45,  25, image::MonoVoice,        115,  Page::Synth,   Role::None},
-    {Widget::Steps,          384, 141,   0,   0, image::UnisonVoices,     116,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 16, look::OneSpeed},
-    {Widget::Steps,          389, 175,   0,   0, image::UnisonStereo,     118,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 5, look::Crossfade},
+    {Widget::Steps,          384, 141,   0,   0, image::UnisonVoices,     116,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 16},
+    {Widget::Steps,          389, 175,   0,   0, image::UnisonStereo,     118,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 5, look::Crossfade | look::TwoSpeeds},
     {Widget::TabColumn,      449, 138,   0,   0, image::TabOctaves,       119,  Page::Synth,   Role::None,     1,  0,  0,   0,   0, 5, look::Normalized | look::Reversed},
     {Widget::SmallKnob,      400, 210,   0,   0, image::KnobLcd,          117,  Page::Synth,   Role::None},
     {Widget::SmallKnob,      299, 210,   0,   0, image::KnobLcd,          120,  Page::Synth,   Role::None},
