@@ -168,6 +168,7 @@ TEST_F(Files, MidiChoosesFromTheLibraryOfTheSelectedKind)
         {"no bank",       8, 0xB0, 32, 9, 1}, {"other library",   7, 0xB0, 32, 0, 1},
     };
     // clang-format on
+    host.whenTold = [] { std::this_thread::sleep_for(std::chrono::microseconds(10)); }; // who does not wait is early
     for (const Case& c : cases) {
         Engine().selection.selectedChannel = c.channel;
         host.told = 0;

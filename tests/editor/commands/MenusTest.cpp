@@ -36,6 +36,7 @@ struct Menus : SynthTest {
             asked = (question.save ? "save|" : "open|") + question.title + "|" + question.folder + "|" + question.name;
             for (const auto& [description, extensions] : question.filters)
                 asked += "|" + description + " " + extensions.front() + std::to_string(extensions.size());
+            if (elsewhere) Engine().selection.selectedChannel = 3; // by MIDI, while the dialog is up
             return answer.empty() ? answer : Path(answer.c_str());
         };
         return Close(), Synth();
@@ -46,6 +47,7 @@ struct Menus : SynthTest {
     EditorCommands commands{Instrument(), frame};
     GrooveChannel& channel = Engine().Channel(8);
     std::string asked, answer; // none: the user cancels
+    bool elsewhere = false;
 };
 
 TEST_F(Menus, DialogsAskForTheirFiles)
@@ -90,7 +92,9 @@ TEST_F(Menus, WhatIsSavedAndResetLoadsAgain)
         block[slot::FilterCutoff] = block[slot::MixLevel] = 0.1f;
         Engine().score.Current().steps[8][5] = 1;
         channel.sound.sampleSlots[0].Ask("");
+        elsewhere = true;
         c.save(commands);
+        Engine().selection.selectedChannel = 8;
         host.told = 0;
         for (const Command& act : {c.reset, Command(Menu(-1)), Command(Menu(3)), Command(Menu(12))}) act(commands);
         Render();
@@ -98,6 +102,7 @@ TEST_F(Menus, WhatIsSavedAndResetLoadsAgain)
         EXPECT_TRUE(block[slot::FilterCutoff] == 1.0f && host.told == param::Count) << c.file;
         EXPECT_TRUE(block[slot::MixLevel] == c.level && Engine().score.Current().steps[8][5] == c.notes) << c.file;
         c.load(commands);
+        Engine().selection.selectedChannel = 8;
         EXPECT_EQ(block[slot::FilterCutoff], 0.1f) << c.file;
     }
     EXPECT_TRUE(std::filesystem::exists(root / "S/Samples"));
