@@ -28,7 +28,13 @@ constexpr MenuRow kGrooveMenu[] = {
 
 } // namespace
 
-void FillGrooveMenu(CControlDropDownList& list) { AddRows(list, kGrooveMenu); }
+/// Closed it is named after what it is for, whatever a host writes under its number.
+void FillGrooveMenu(CControlDropDownList& list)
+{
+    AddRows(list, kGrooveMenu);
+    list.SetClosedText(kGrooveMenu[0].text);
+}
+
 void ChooseInGrooveMenu(EditorCommands& commands, int index) { ChooseRow(kGrooveMenu, commands, index); }
 
 } // namespace korvane
