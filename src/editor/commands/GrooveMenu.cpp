@@ -1,8 +1,6 @@
 // The menu of grooves and parts.
 #include "editor/commands/GrooveMenu.h"
 
-#include <iterator>
-
 #include "editor/commands/MenuRow.h"
 
 namespace korvane {

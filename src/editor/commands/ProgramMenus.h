@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <string>
 
 #include "content/state/KVInstrument.h"
 #include "editor/commands/EditorCommands.h"

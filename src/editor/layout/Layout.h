@@ -52,8 +52,7 @@ enum class Role : std::uint8_t {
     ExtLed,
     ExtLearn,
     PadAxis,
-    Meter, // left, right
-    Monitor,
+    Meter,     // left, right
     WaveArrow, // of three oscillators, back and on
     WaveList,
     ResetStart,
@@ -214,7 +213,7 @@ inline constexpr ControlRow kLayout[] = {
     {Widget::Toggle,         387, 134,  20,  15, image::ButtonLcd,        146,  Page::Sampler, Role::None,     2, 42},
     {Widget::Toggle,         108, 164,  20,  15, image::ButtonLcd,        148,  Page::Sampler, Role::None,     4,  0, 18},
     {Widget::TabColumn,       72, 166,   0,   0, image::TabSampleLayer,   152,  Page::Sampler, Role::None,     1,  0,  0,   0,   0, 4, look::Normalized},
-    {Widget::Monitor,        132, 166, 349,  70, kNoImage,              kNoId,  Page::Sampler, Role::Monitor},
+    {Widget::Monitor,        132, 166, 349,  70, kNoImage,              kNoId,  Page::Sampler, Role::None},
     {Widget::Momentary,      150, 154,  32,  10, image::SampleLayerIcons, 153,  Page::Sampler, Role::ResetStart},
     {Widget::Momentary,      300, 154,  32,  10, image::SampleLayerIcons, kNoId, Page::Sampler, Role::LayerCommand, 1, 0, 0, 32},
     {Widget::Momentary,      370, 154,  32,  10, image::SampleLayerIcons, kNoId, Page::Sampler, Role::LayerCommand, 3, 40, 0, 64,  32, 0, 0, 1},
