@@ -104,8 +104,7 @@ bool KVEditor::OpenScore(int x, int y)
 
 void KVEditor::MouseEvent(int x, int y, int modifierBits, int type)
 {
-    const bool free = windowHandle && !activeGroup && !IsMouseCaptured();
-    if (type == mouse::RightDown && free && OpenScore(x, y)) return;
+    if (type == mouse::RightDown && windowHandle && !activeGroup && OpenScore(x, y)) return;
     CSynthEditor::MouseEvent(x, y, modifierBits, type);
 }
 

@@ -85,6 +85,18 @@ TEST_F(HandsTest, RightClicksChooseTheLanesParameterAndLeaveOthersToTheirControl
     EXPECT_EQ(editor->laneParameter, 148);
 }
 
+TEST_F(HandsTest, ARightPressWithinADragIsNoReset)
+{
+    const Rect place = editor->panel.Bound(88)->rect;
+    Move(place.x + 5, place.y + 5);
+    Press(mouse::LeftDown);
+    Take();
+    Press(mouse::RightDown);
+    EXPECT_EQ(Take(), Log{}); // one gesture at a time
+    Press(mouse::LeftUp);
+    EXPECT_EQ(Take(), Log{"end 88 0"});
+}
+
 TEST_F(HandsTest, ResetStartMovesTheCurrentLayersStart)
 {
     Show(2, false);
