@@ -79,7 +79,7 @@ void KVEditor::RefreshAll()
     CSynthEditor::RefreshAll();
     if (!windowHandle || activeGroup) return;
     samplerPage = instrument.engine->selection.OnSampler();
-    screenStored = ScreenStored();
+    shownScreen = ScreenStored();
     const Page page = ShownPage();
     SetBackground(page == Page::Channel   ? image::PageChannel
                   : page == Page::Sampler ? image::PageSampler
@@ -102,9 +102,16 @@ bool KVEditor::OpenScore(int x, int y)
     return control && OpensScore(control->id, laneParameter);
 }
 
+bool KVEditor::ListIsOpen() const
+{
+    return capturingGroup && dynamic_cast<const CControlDropDownList*>(capturingGroup->capture);
+}
+
+/// An open list, which any press closes, lies above what opens the score.
 void KVEditor::MouseEvent(int x, int y, int modifierBits, int type)
 {
-    if (type == mouse::RightDown && windowHandle && !activeGroup && OpenScore(x, y)) return;
+    const bool free = windowHandle && !activeGroup && !ListIsOpen();
+    if (type == mouse::RightDown && free && OpenScore(x, y)) return;
     CSynthEditor::MouseEvent(x, y, modifierBits, type);
 }
 

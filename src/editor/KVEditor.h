@@ -59,6 +59,7 @@ private:
     void ShowLinks();
 
     // What the user does.
+    bool ListIsOpen() const;
     bool OpenScore(int x, int y);
     void Send(int parameter, float value);
     void ChangeParameter(const PlacedControl& placed);
@@ -75,7 +76,7 @@ private:
     void ChooseWave(const PlacedControl& placed);
     void StepWave(const PlacedControl& placed);
 
-    bool screenStored = false; // of the screen switch's parameter, when the page was chosen
+    bool shownScreen = false; // the screen switch's parameter, when the page was chosen
     KVInstrument& instrument;
     EditorCommands commands;
     ProgramMenus programs;

@@ -26,7 +26,7 @@ void KVEditor::Idle()
 void KVEditor::FollowChannel()
 {
     const int channel = instrument.engine->selection.selectedChannel;
-    if (samplerPage != (channel < kSamplerChannels) || screenStored != ScreenStored()) RefreshAll();
+    if (samplerPage != (channel < kSamplerChannels) || shownScreen != ScreenStored()) RefreshAll();
     if (channel == shownChannel) return;
     shownChannel = channel;
     programs.Rebuild();

@@ -83,6 +83,10 @@ TEST_F(HandsTest, RightClicksChooseTheLanesParameterAndLeaveOthersToTheirControl
     Show(9, false);
     Click(80, 140, mouse::RightDown); // the same place on a page without that knob
     EXPECT_EQ(editor->laneParameter, 148);
+    Click(150, 125); // a list opens
+    Click(80, 330, mouse::RightDown);
+    EXPECT_EQ(editor->laneParameter, 148);
+    EXPECT_EQ(editor->capturingGroup, nullptr); // and is closed
 }
 
 TEST_F(HandsTest, ARightPressWithinADragIsNoReset)

@@ -96,7 +96,7 @@ std::unique_ptr<CControl> ControlFactory::Button(const Order& order)
     made->bitmap = order.image;
     made->imageOffset.x = order.row.column + order.n * order.row.columnStep;
     made->mode = kMode;
-    made->disabled = kPassive || order.row.role == Role::FxLed;
+    made->disabled = kPassive;
     return made;
 }
 

@@ -128,7 +128,7 @@ inline constexpr ControlRow kLayout[] = {
     {Widget::Led,             57, 592,  14,  14, image::Led,            kNoId,  Page::All,     Role::StepLed, 24, 38},
     // Effects, stutter, controllers
     {Widget::Momentary,      650,  96,  30,  31, image::ButtonFX,          53,  Page::All,     Role::None,    10, 30,  0,   0,  30},
-    {Widget::Momentary,      660, 126,  11,  12, image::Led,            kNoId,  Page::All,     Role::FxLed,   10, 30},
+    {Widget::Led,            660, 126,  11,  12, image::Led,            kNoId,  Page::All,     Role::FxLed,   10, 30},
     {Widget::Momentary,      975, 153,  50,  33, image::ButtonStutter,     63,  Page::All,     Role::None,     4,  0, 34,   0,  50},
     {Widget::Momentary,      975, 289,  50,  33, image::ButtonStutter,     68,  Page::All,     Role::None,     1,  0,  0, 200},
     {Widget::Knob,            68,  42,   0,   0, image::Knob,              47,  Page::All,     Role::None,     5, 64},
