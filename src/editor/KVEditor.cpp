@@ -39,11 +39,7 @@ void KVEditor::AddLayout()
     ControlFactory factory(*this, instrument);
     panel.Clear();
     for (const ControlRow& row : kLayout)
-        for (int n = 0; n < row.count; ++n) {
-            CControl* const control = factory.Make(row, n).release();
-            AddControl(control);
-            panel.Add({&row, n, control});
-        }
+        for (int n = 0; n < row.count; ++n) panel.Add({&row, n, factory.Add(row, n)});
 }
 
 void KVEditor::AttachMenus()

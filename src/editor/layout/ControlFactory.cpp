@@ -50,54 +50,70 @@ void SetTabs(CControlTab& tab, const ControlRow& row, Size image)
 
 } // namespace
 
-ControlFactory::Maker ControlFactory::MakerOf(Widget widget)
+ControlFactory::Adder ControlFactory::AdderOf(Widget widget)
 {
     using F = ControlFactory;
     switch (widget) {
-    case Widget::Toggle: return &F::Button<button::Toggle>;
-    case Widget::Latch: return &F::Button<button::ToggleOnPress>;
-    case Widget::Momentary: return &F::Button<button::Momentary>;
-    case Widget::Led: return &F::Button<button::Toggle, true>;
-    case Widget::Knob: return &F::Knob;
-    case Widget::SmallKnob: return &F::SmallKnob;
-    case Widget::Steps: return &F::Steps;
-    case Widget::LedTab: return &F::LedTab;
+    case Widget::Toggle: return &F::AddButton0;
+    case Widget::Latch: return &F::AddButton1;
+    case Widget::Momentary: return &F::AddButton3;
+    case Widget::Led: return &F::AddLed;
+    case Widget::Knob: return &F::AddKnob;
+    case Widget::SmallKnob: return &F::AddSmallKnob;
+    case Widget::Steps: return &F::AddSteps;
+    case Widget::LedTab: return &F::AddLedTab;
     case Widget::Tab:
-    case Widget::TabColumn: return &F::Tab;
+    case Widget::TabColumn: return &F::AddTab;
     case Widget::Fader:
-    case Widget::LevelFader: return &F::Fader;
-    case Widget::LengthFader: return &F::LengthFader;
-    case Widget::ModulationFader: return &F::ModulationFader;
+    case Widget::LevelFader: return &F::AddFader;
+    case Widget::LengthFader: return &F::AddLengthFader;
+    case Widget::ModulationFader: return &F::AddModulationFader;
     case Widget::DarkNumber:
-    case Widget::LightNumber: return &F::Number;
-    case Widget::List: return &F::List;
+    case Widget::LightNumber: return &F::AddNumberBox;
+    case Widget::List: return &F::AddDropDown;
     case Widget::Text:
-    case Widget::GlowingText: return &F::Text;
-    case Widget::Meter: return &F::Meter;
-    case Widget::Pad: return &F::Pad;
+    case Widget::GlowingText: return &F::AddLabel;
+    case Widget::Meter: return &F::AddMeter;
+    case Widget::Pad: return &F::AddPad;
     case Widget::Monitor: break;
     }
-    return &F::Monitor;
+    return &F::AddMonitor;
 }
 
-std::unique_ptr<CControl> ControlFactory::Make(const ControlRow& row, int n)
+CControl* ControlFactory::Add(const ControlRow& row, int n)
 {
     CBitmap* const image = window.FindBitmap(row.image);
     const int id = row.id == kNoId ? kNoId : row.id + n;
-    return (this->*MakerOf(row.widget))({row, n, id, image, PlaceOf(row, n, image ? image->GetSize() : Size{})});
+    return (this->*AdderOf(row.widget))({row, n, id, image, PlaceOf(row, n, image ? image->GetSize() : Size{})});
+}
+
+CControl* ControlFactory::Added(std::unique_ptr<CControl> made)
+{
+    CControl* const control = made.release();
+    window.AddControl(control);
+    return control;
 }
 
 // Buttons
 
-template <int kMode, bool kPassive>
-std::unique_ptr<CControl> ControlFactory::Button(const Order& order)
+std::unique_ptr<CControlButton> ControlFactory::Button(const Order& order, int mode)
 {
     auto made = std::make_unique<CControlButton>(order.place, order.id);
     made->bitmap = order.image;
     made->imageOffset.x = order.row.column + order.n * order.row.columnStep;
-    made->mode = kMode;
-    made->disabled = kPassive;
+    made->mode = mode;
     return made;
+}
+
+CControl* ControlFactory::AddButton0(const Order& order) { return Added(Button(order, button::Toggle)); }
+CControl* ControlFactory::AddButton1(const Order& order) { return Added(Button(order, button::ToggleOnPress)); }
+CControl* ControlFactory::AddButton3(const Order& order) { return Added(Button(order, button::Momentary)); }
+
+CControl* ControlFactory::AddLed(const Order& order)
+{
+    auto made = Button(order, button::Toggle);
+    made->disabled = true;
+    return Added(std::move(made));
 }
 
 // Knobs
@@ -114,31 +130,31 @@ std::unique_ptr<CControlKnob> ControlFactory::Strip(const Order& order, int fram
     return made;
 }
 
-std::unique_ptr<CControl> ControlFactory::Knob(const Order& order)
+CControl* ControlFactory::AddKnob(const Order& order)
 {
     auto made = Strip(order, kKnobFrames);
     made->smoothing = 0.8f;
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::SmallKnob(const Order& order)
+CControl* ControlFactory::AddSmallKnob(const Order& order)
 {
     auto made = Strip(order, kSmallKnobFrames);
     if (order.row.look & look::Detent) made->centreDetent = 0.1f;
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::Steps(const Order& order)
+CControl* ControlFactory::AddSteps(const Order& order)
 {
     auto made = Strip(order, order.row.parts);
     made->crossfade = order.row.look & look::Crossfade;
     if (order.row.look & look::TwoSpeeds) made->fineFactor = 0.2f;
-    return made;
+    return Added(std::move(made));
 }
 
 // Tabs
 
-std::unique_ptr<CControl> ControlFactory::LedTab(const Order& order)
+CControl* ControlFactory::AddLedTab(const Order& order)
 {
     auto made = std::make_unique<CControlTab>(order.place, order.id);
     made->bitmap = order.image;
@@ -147,15 +163,15 @@ std::unique_ptr<CControl> ControlFactory::LedTab(const Order& order)
     made->tabHeight = order.place.h / order.row.parts;
     made->vertical = made->normalized = made->sharedImage = true;
     made->reversed = order.row.look & look::Reversed;
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::Tab(const Order& order)
+CControl* ControlFactory::AddTab(const Order& order)
 {
     auto made = std::make_unique<CControlTab>(order.place, order.id);
     made->bitmap = order.image;
     if (order.image) SetTabs(*made, order.row, order.image->GetSize());
-    return made;
+    return Added(std::move(made));
 }
 
 // Over the page
@@ -180,7 +196,7 @@ std::unique_ptr<CControlSlider> ControlFactory::Slider(const Order& order)
     return made;
 }
 
-std::unique_ptr<CControl> ControlFactory::Fader(const Order& order)
+CControl* ControlFactory::AddFader(const Order& order)
 {
     constexpr int kAboveTrack = 8;
     auto made = Slider(order);
@@ -188,65 +204,65 @@ std::unique_ptr<CControl> ControlFactory::Fader(const Order& order)
     made->handleOffset = {0, -kAboveTrack};
     made->horizontalTrack = made->crossfade = true;
     made->smoothing = 0.8f;
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::LengthFader(const Order& order)
+CControl* ControlFactory::AddLengthFader(const Order& order)
 {
     auto made = Slider(order);
     made->horizontal = true;
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::ModulationFader(const Order& order)
+CControl* ControlFactory::AddModulationFader(const Order& order)
 {
     auto made = OverPage<CControlSlider>(order);
     made->handle = order.image;
     made->horizontal = true;
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::Number(const Order& order)
+CControl* ControlFactory::AddNumberBox(const Order& order)
 {
     auto made = OverPage<CControlNumber>(order);
     SetTextColor(*made, order.row.widget == Widget::DarkNumber ? kInk : kSilk);
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::List(const Order& order)
+CControl* ControlFactory::AddDropDown(const Order& order)
 {
     auto made = OverPage<CControlDropDownList>(order);
     SetTextColor(*made, order.row.look & look::Amber ? kAmber : kBlack);
     made->beginsInside = true;
     SetList(made->look);
-    return made;
+    return Added(std::move(made));
 }
 
-std::unique_ptr<CControl> ControlFactory::Text(const Order& order)
+CControl* ControlFactory::AddLabel(const Order& order)
 {
     const bool glows = order.row.widget == Widget::GlowingText;
     auto made = OverPage<CControlTextDisplay>(order);
     SetTextColor(*made, glows ? kAmber : kSilk);
     if (glows) made->glow = 0.2f;
     made->beginsInside = true;
-    return made;
+    return Added(std::move(made));
 }
 
 // The instrument's own
 
-std::unique_ptr<CControl> ControlFactory::Meter(const Order& order)
+CControl* ControlFactory::AddMeter(const Order& order)
 {
-    return std::make_unique<KVMeter>(order.place, order.image);
+    return Added(std::make_unique<KVMeter>(order.place, order.image));
 }
 
-std::unique_ptr<CControl> ControlFactory::Pad(const Order& order)
+CControl* ControlFactory::AddPad(const Order& order)
 {
-    return std::make_unique<FXControl>(order.place, order.id, instrument);
+    return Added(std::make_unique<FXControl>(order.place, order.id, instrument));
 }
 
-std::unique_ptr<CControl> ControlFactory::Monitor(const Order& order)
+CControl* ControlFactory::AddMonitor(const Order& order)
 {
-    return std::make_unique<KVMonitor>(order.place, *instrument.engine);
+    return Added(std::make_unique<KVMonitor>(order.place, *instrument.engine));
 }
 
 } // namespace korvane

@@ -16,8 +16,8 @@ class ControlFactory {
 public:
     ControlFactory(CPluginUI& shownIn, KVInstrument& shown) : window(shownIn), instrument(shown) {}
 
-    /// n  of the row
-    std::unique_ptr<CControl> Make(const ControlRow& row, int n);
+    /// Adds a control of a row to the window's main group, which owns it, and answers it.
+    CControl* Add(const ControlRow& row, int n);
 
 private:
     struct Order { // what is wanted
@@ -26,27 +26,31 @@ private:
         CBitmap* image;
         Rect place;
     };
-    using Maker = std::unique_ptr<CControl> (ControlFactory::*)(const Order&);
+    using Adder = CControl* (ControlFactory::*)(const Order&);
 
-    static Maker MakerOf(Widget widget);
+    static Adder AdderOf(Widget widget);
 
-    template <int kMode, bool kPassive = false>
-    std::unique_ptr<CControl> Button(const Order& order);
-    std::unique_ptr<CControl> Knob(const Order& order);
-    std::unique_ptr<CControl> SmallKnob(const Order& order);
-    std::unique_ptr<CControl> Steps(const Order& order);
-    std::unique_ptr<CControl> LedTab(const Order& order);
-    std::unique_ptr<CControl> Tab(const Order& order);
-    std::unique_ptr<CControl> Fader(const Order& order);
-    std::unique_ptr<CControl> LengthFader(const Order& order);
-    std::unique_ptr<CControl> ModulationFader(const Order& order);
-    std::unique_ptr<CControl> Number(const Order& order);
-    std::unique_ptr<CControl> List(const Order& order);
-    std::unique_ptr<CControl> Text(const Order& order);
-    std::unique_ptr<CControl> Meter(const Order& order);
-    std::unique_ptr<CControl> Pad(const Order& order);
-    std::unique_ptr<CControl> Monitor(const Order& order);
+    CControl* AddButton0(const Order& order); // toggles
+    CControl* AddButton1(const Order& order); // toggles, shows that it is held
+    CControl* AddButton3(const Order& order); // is on while it is held
+    CControl* AddLed(const Order& order);
+    CControl* AddKnob(const Order& order);
+    CControl* AddSmallKnob(const Order& order);
+    CControl* AddSteps(const Order& order);
+    CControl* AddLedTab(const Order& order);
+    CControl* AddTab(const Order& order);
+    CControl* AddFader(const Order& order);
+    CControl* AddLengthFader(const Order& order);
+    CControl* AddModulationFader(const Order& order);
+    CControl* AddNumberBox(const Order& order);
+    CControl* AddDropDown(const Order& order);
+    CControl* AddLabel(const Order& order);
+    CControl* AddMeter(const Order& order);
+    CControl* AddPad(const Order& order);
+    CControl* AddMonitor(const Order& order);
 
+    CControl* Added(std::unique_ptr<CControl> made);
+    std::unique_ptr<CControlButton> Button(const Order& order, int mode);
     std::unique_ptr<CControlKnob> Strip(const Order& order, int frames);
     std::unique_ptr<CControlSlider> Slider(const Order& order);
     template <class Control>
