@@ -203,6 +203,19 @@ TEST(TextDisplay, HasTheColoursOfItsState)
     }
 }
 
+TEST(Text, BeginsInsideItsBoxWhenItIsTooWide)
+{
+    const auto draw = [](const char* text, bool beginsInside, int alignment) {
+        CControlTextDisplay box({0, 0, 60, 20}, -1);
+        box.SetText(text), box.beginsInside = beginsInside, box.align = alignment;
+        CDrawBuffer page;
+        page.Create(20, 60, false), box.Draw(&page);
+        return std::vector(page.pixels.get(), page.pixels.get() + 60 * 20);
+    };
+    EXPECT_EQ(draw("wider than its box", true, align::Centre), draw("wider than its box", false, align::Left));
+    EXPECT_EQ(draw("short", true, align::Centre), draw("short", false, align::Centre));
+}
+
 // "-100.00 %" is 52 pixels wide and 11 high; what is longer is cut. Nothing covers it.
 TEST(Popup, OpensBelowTheKnobOrAboveIt)
 {
