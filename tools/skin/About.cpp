@@ -59,7 +59,7 @@ void DrawKeyRow(cairo_t* pen, const KeyRow& row, double x, double y)
 
 void DrawKeyboard(cairo_t* pen)
 {
-    constexpr double kRow = 27;
+    constexpr double kRow = 27, kToKeys = 6; // so that a heading stands by its keys
     const double left = kSheet.x + 36, right = kSheet.x + 290, top = kSheet.y + 172;
     Write(pen, kHead, kTitleInk, "KEYBOARD", left, top, Stand::Left);
     double y = top + 26;
@@ -70,7 +70,7 @@ void DrawKeyboard(cairo_t* pen)
     }
     y = top + 26;
     for (const KeyRow& row : kRightRows) {
-        Write(pen, kPlain, kCream, row.text, right, y, Stand::Left);
+        Write(pen, kPlain, kCream, row.text, right, y + kToKeys, Stand::Left);
         DrawKeyRow(pen, row, right - 1, y + kRow);
         y += 2 * kRow;
     }
@@ -116,7 +116,7 @@ bool DrawAbout(Picture& picture, int id)
     Shadow(pen, kSheet.Moved(0, 5), 8, 18, 0.55);
     Plate(pen, kSheet, 8, Lighter(kPlateTop, 0.03), kPlateBottom);
     DrawMaker(pen);
-    for (const double y : {148.5, 356.5})
+    for (const double y : {152.5, 356.5})
         Line(pen, kSheet.x + 36, kSheet.y + y, kSheet.x + kSheet.w - 36, kSheet.y + y);
     Stroke(pen, Fade(kCream, 0.25), 1);
     DrawKeyboard(pen);

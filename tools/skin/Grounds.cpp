@@ -186,7 +186,8 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     case Widget::LengthFader: return DrawLengthWay(pen, place, HandleOf(row, false));
     case Widget::ModulationFader: return DrawFlatWay(pen, place);
     case Widget::LedTab: return DrawLenses(pen, place, row.parts);
-    case Widget::Led: return DrawLens(pen, place.x + kLightX, place.y + kLightY - 1, LightKind::Red);
+    case Widget::Led: // its lit frame begins as far down the image as the control is high
+        return DrawLens(pen, place.x + kLightX, place.y + kLightY + kLightCellHeight - place.h, LightKind::Red);
     case Widget::Meter: return DrawMeterLenses(pen, place);
     case Widget::Pad: return DrawPad(pen, place);
     case Widget::Monitor: return DrawMonitor(pen, place);
@@ -195,10 +196,7 @@ void DrawGround(cairo_t* pen, const ControlRow& row, int n)
     case Widget::LightNumber: return DrawDarkDisplay(pen, place.Inset(-1));
     case Widget::Text: return DrawDarkDisplay(pen, place);
     case Widget::GlowingText:
-        if (n == 0) DrawDarkDisplay(pen, {place.x - 2, place.y - 2, place.w + 4, place.h * 2 + 5});
-        return;
-    case Widget::Momentary:
-        if (row.image == image::Led) DrawLens(pen, place.x + kLightX, place.y + kLightY + 1, LightKind::Red);
+        if (n == 0) DrawDarkDisplay(pen, {place.x - 6, place.y - 2, place.w + 10, place.h * 2 + 4});
         return;
     default: return;
     }

@@ -48,8 +48,8 @@ inline constexpr Legend kLegends[] = {
     {108, "INVERT",   Side::Above}, {109, "SYNC", Side::Above}, {111, "DEST", Side::Above},
     {113, "SHAPE",    Side::Above},
     // Synth page
-    {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 2}, {117, "DETUNE", Side::Above},
-    {121, "PHASE",    Side::Above}, {122, "RETRIG", Side::Above, 0, 3},
+    {116, "VOICES",   Side::Above}, {118, "STEREO", Side::Above, 0, 1}, {117, "DETUNE", Side::Above, 0, 2},
+    {121, "PHASE",    Side::Above, 0, 2}, {122, "RETRIG", Side::Above, 0, 3},
     {123, "MIX",      Side::Above}, {127, "PHASE", Side::Above}, {128, "RETRIG", Side::Above, 0, 4},
     {124, "OSC 3",    Side::Left}, {120, "NOISE", Side::Left},
     {119, "OCTAVE",   Side::Above},
@@ -61,8 +61,8 @@ inline constexpr Legend kLegends[] = {
     // Sampler page
     {136, "LEVEL",    Side::Above}, {137, "PAN", Side::Above}, {138, "PITCH", Side::Above},
     {139, "ATTACK",   Side::Above}, {140, "HOLD", Side::Above}, {141, "DECAY", Side::Above},
-    {142, "LO CUT",   Side::Above}, {143, "HI CUT", Side::Above}, {144, "WIDTH", Side::Above},
-    {145, "DELAY",    Side::Above}, {146, "INVERT", Side::Above, -2, -8}, {147, "REVERSE", Side::Above, -2, -8},
+    {142, "LO CUT",   Side::Above, -1}, {143, "HI CUT", Side::Above, 1}, {144, "WIDTH", Side::Above},
+    {145, "DELAY",    Side::Above}, {146, "INVERT", Side::Above, 0, 0}, {147, "REVERSE", Side::Above, 0, 0},
     {148, "BYPASS",   Side::Above, -1, -1}, {152, "LAYER", Side::Above, 0, -3},
     {153, "START",    Side::Right}, {kNoId, "SAMPLE", Side::Left, -2, 0, Role::LayerCommand, 0},
     // Channel page

@@ -70,13 +70,13 @@ void DrawIgnoreFrame(cairo_t* pen, double y, bool on)
 {
     const Box key{0.5, y + 0.5, 88, 10}, lamp{4, y + 3.5, 7, 4};
     Rounded(pen, key, 2.5);
-    FillDown(pen, key, Lighter(kTaupe, on ? 0.02 : 0.1), Darker(kTaupe, on ? 0.1 : 0.3));
+    FillDown(pen, key, Darker(kTaupe, on ? 0.2 : 0.1), Darker(kTaupe, on ? 0.35 : 0.45));
     Rounded(pen, key, 2.5);
     Stroke(pen, kHole, 1);
     if (on) Glow(pen, lamp.MiddleX(), lamp.MiddleY(), 7, Fade(kRedLight, 0.9));
     Rounded(pen, lamp, 1.5);
     Fill(pen, on ? Rgb(255, 196, 132) : Rgb(58, 22, 14));
-    Write(pen, kDense, kCream, "IGNORE VALUE", 15, y + 5.5, Stand::Left);
+    Write(pen, kSmall, kCream, "IGNORE VALUE", 17, y + 5.5, Stand::Left);
 }
 
 } // namespace

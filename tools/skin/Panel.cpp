@@ -28,7 +28,7 @@ constexpr Group kGroups[] = {
     {{574, 83, 68, 363},           "CHANNEL"},     {{644, 83, kRight - 644, 246}, "EFFECTS"},
     {{644, 331, kRight - 644, 115}, nullptr}, // patterns and transport
     {{kLeft, 448, 621, 83},        "SAMPLERS"},    {{655, 448, 174, 83},        "PATTERN EDIT"},
-    {{831, 448, kRight - 831, 83}, "NOTE LENGTH"},
+    {{831, 448, kRight - 831, 83}, "NOTE LENGTH, BEATS"},
     {{kLeft, 533, 936, 91},        "STEPS"},       {{970, 533, kRight - 970, 91}, "SHUFFLE"},
 };
 // clang-format on

@@ -18,6 +18,7 @@ struct Title {
     int id;
     double dx, dy;
     bool upward = false;
+    Shade shade = kTitleInk;
 };
 /// What interrupts the upper line of a frame.
 struct FrameTitle {
@@ -36,11 +37,11 @@ struct Frame {
 // clang-format off
 constexpr Title kTitles[] = {
     {"SYNTHS",  param::Channel1 + kSamplerChannels, 1, -6}, {"BARS", param::Bar1, 6, -7},
-    {"PATTERN", param::Pattern1, -10, 0, true},
+    {"PATTERN", param::Pattern1, -10, 0, true},           {"RATE", 71, 33, 0, true, kCream},
 };
 constexpr Frame kFrames[] = {
     {71,                param::FxLfoShapeSwitch, 5.5, 1.5, 54.5, 6.5,
-     {{"RATE", 15, kCream, kLegend}, {"FX LFO", 69.5, kTitleInk, kUpward}}},
+     {{"FX LFO", 100, kTitleInk, kUpward}, {}}},
     {param::Stutter1_1, param::Stutter1_4,       7.5, 11.5, 3.5, 1.5, {{"STUTTER", 9, kTitleInk, kUpward}, {}}},
 };
 // clang-format on
@@ -50,7 +51,7 @@ void PrintTitles(cairo_t* pen)
     for (const Title& title : kTitles) {
         const Box at = Find(title.id).Place();
         if (title.upward)
-            WriteUp(pen, kUpward, kTitleInk, title.text, at.x + title.dx, at.MiddleY());
+            WriteUp(pen, kUpward, title.shade, title.text, at.x + title.dx, at.MiddleY());
         else
             Write(pen, kTitle, kTitleInk, title.text, at.x + title.dx, at.y + title.dy, Stand::Left);
     }
@@ -78,15 +79,24 @@ void PrintFrame(cairo_t* pen, const Frame& frame)
         if (title.text) Write(pen, title.type, title.shade, title.text, box.x + title.at, box.y, Stand::Left);
 }
 
-/// Between steps and bars.
-void PrintDivider(cairo_t* pen)
+void CutGroove(cairo_t* pen, double x, double top, double height)
 {
-    const Box bar = Find(param::Bar1).Place();
-    const double x = bar.x + 1, top = bar.y - 11;
-    cairo_rectangle(pen, x, top, 1, 81);
+    cairo_rectangle(pen, x, top, 1, height);
     Fill(pen, Black(0.55));
-    cairo_rectangle(pen, x + 1, top, 1, 81);
+    cairo_rectangle(pen, x + 1, top, 1, height);
     Fill(pen, White(0.1));
+}
+
+/// Between steps and bars, and between the controllers, each with its light at the left.
+void CutGrooves(cairo_t* pen)
+{
+    constexpr double kKnobToLight = 22; // from a controller's knob to the groove before it
+    const Box bar = Find(param::Bar1).Place();
+    CutGroove(pen, bar.x + 1, bar.y - 11, 81);
+    for (int n = 1; n < kExtControls; ++n) {
+        const Box knob = Find(param::Ext1 + n).Place();
+        CutGroove(pen, knob.x - kKnobToLight, knob.y - 8, 38);
+    }
 }
 
 /// Through the enable lights of a run of channels.
@@ -163,7 +173,7 @@ void PrintSilk(cairo_t* pen)
     PrintTitles(pen);
     for (const Frame& frame : kFrames) PrintFrame(pen, frame);
     PrintEnvelope(pen);
-    PrintDivider(pen);
+    CutGrooves(pen);
     PrintEnableRule(pen, param::Enable1, param::Enable1 + kSamplerChannels - 1);
     PrintEnableRule(pen, param::Enable1 + kSamplerChannels, param::Enable1 + kChannels - 1);
     PrintBrackets(pen);

@@ -199,6 +199,8 @@ TEST(Skin, LightsBurnOnTheirLenses)
                     const Pixel lens = At(*page, at.x, at.y), rim = At(*page, at.x + 4, at.y);
                     EXPECT_GT(lens.red * 10, lens.blue * 17) << "a dark coloured lens at " << at.x << " " << at.y;
                     EXPECT_LT(rim.red, lens.red) << at.x << " " << at.y;
+                    for (const int away : {-4, 4}) // nor is it above or below
+                        EXPECT_LT(At(*page, at.x, at.y + away).red, lens.red) << at.x << " " << at.y;
                 }
     }
 }
