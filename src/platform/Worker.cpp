@@ -2,8 +2,9 @@
 #include "platform/Worker.h"
 
 #include <chrono>
-#include <csignal>
 #include <utility>
+
+#include "platform/QuietThread.h"
 
 namespace korvane {
 
@@ -11,29 +12,10 @@ namespace {
 
 constexpr auto kPoll = std::chrono::microseconds(100); // of who waits for a task
 
-/// A thread that takes none of the host's signals.
-template <class Start>
-std::thread Quiet(Start start)
-{
-    sigset_t all, before;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before);
-    std::thread thread;
-    std::exception_ptr refused;
-    try {
-        thread = std::thread(start);
-    } catch (...) {
-        refused = std::current_exception();
-    }
-    pthread_sigmask(SIG_SETMASK, &before, nullptr);
-    if (refused) std::rethrow_exception(refused);
-    return thread;
-}
-
 } // namespace
 
 Worker::Worker(Task everyRound, std::chrono::milliseconds longest)
-    : round(std::move(everyRound)), pause(longest), thread(Quiet([this] { Loop(); }))
+    : round(std::move(everyRound)), pause(longest), thread(QuietThread([this] { Loop(); }))
 {
 }
 

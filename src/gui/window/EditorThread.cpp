@@ -3,6 +3,8 @@
 
 #include <exception>
 
+#include "platform/QuietThread.h"
+
 namespace korvane {
 
 using namespace std::chrono_literals;
@@ -27,7 +29,7 @@ bool EditorThread::Open(void* parent, int height, int width)
     openedIn = parent;
     state = State::Opening; // no thread looks at it
     try {
-        thread = std::thread(&EditorThread::Run, this, parent, Size{height / scale, width / scale});
+        thread = QuietThread([this, parent, size = Size{height / scale, width / scale}] { Run(parent, size); });
     } catch (const std::exception&) {
         state = State::Closed;
         return false;

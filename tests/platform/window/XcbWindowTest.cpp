@@ -1,4 +1,5 @@
 // The window's life on an X server: opening, showing, timer, other threads and every kind of end.
+#include <csignal>
 #include <filesystem>
 
 #include "platform/window/OpenWindow.h"
@@ -106,6 +107,7 @@ TEST_F(XcbWindowTest, LateTicksComeOnce)
 // The host ends its window, or the server ends: the editor counts as closed, and may be closed once more.
 TEST_F(XcbWindowTest, SurvivesTheEndOfHostAndServer)
 {
+    std::signal(SIGPIPE, SIG_IGN); // as on the editor's thread
     const std::function<void()> ends[] = {
         [&] { host->Destroy(); },
         [&] { host->Now(xcb_reparent_window(host->server, Host::Number(window.Handle()), host->Root(), 0, 0)); },
