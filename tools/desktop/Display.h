@@ -3,8 +3,11 @@
 
 #include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <map>
 #include <sstream>
+#include <sys/file.h>
+#include <unistd.h>
 #include <vector>
 #include <xcb/xtest.h>
 
@@ -14,32 +17,46 @@
 
 namespace korvane {
 
-/// Xvfb on a free display, which DISPLAY then names; of 800 by 600 pixels.
+/// Xvfb on a free display, which DISPLAY then names; of 800 by 600 pixels. It begins nothing anew when nobody is
+/// connected.
 class DisplayServer {
 public:
     static bool Installed() { return std::system("command -v Xvfb >/dev/null") == 0; }
 
+    /// One starts at a time: two that look for a free number in the same instant may both take it.
     DisplayServer()
     {
-        int number = 0;
-        if (std::fscanf(output, "%d %d", &process, &number) == 2)
-            setenv("DISPLAY", std::string(":").append(std::to_string(number)).c_str(), 1);
+        const int lock = open("/tmp/korvane-displays.lock", O_CREAT | O_RDWR | O_CLOEXEC, 0666);
+        flock(lock, LOCK_EX);
+        for (int tries = 0; tries < 3 && !Start(); ++tries) End();
+        close(lock);
     }
-    ~DisplayServer()
-    {
-        Kill();
-        pclose(output);
-    }
+    ~DisplayServer() { End(); }
     void Kill()
     {
         if (process > 0) kill(process, SIGTERM);
         process = 0;
-        while (std::fgetc(output) != EOF) {} // until it has ended
+        while (output && std::fgetc(output) != EOF) {} // until it has ended
     }
 
 private:
-    std::FILE* const output =
-        popen("echo $$; exec Xvfb -displayfd 1 -screen 0 800x600x24 -nolisten tcp 2>/dev/null", "re");
+    /// Whether it answers.
+    bool Start()
+    {
+        output = popen("echo $$; exec Xvfb -displayfd 1 -screen 0 800x600x24 -nolisten tcp -noreset 2>/dev/null", "re");
+        int number = 0;
+        if (!output || std::fscanf(output, "%d %d", &process, &number) != 2) return false;
+        setenv("DISPLAY", std::string(":").append(std::to_string(number)).c_str(), 1);
+        return !XcbConnection().Lost();
+    }
+    void End()
+    {
+        Kill();
+        if (output) pclose(output);
+        output = nullptr;
+    }
+
+    std::FILE* output = nullptr;
     int process = 0;
 };
 
