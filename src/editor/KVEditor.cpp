@@ -14,6 +14,15 @@ namespace {
 
 constexpr int kTickMilliseconds = 25;
 
+constexpr int PictureOf(Page page)
+{
+    switch (page) {
+    case Page::Channel: return image::PageChannel;
+    case Page::Sampler: return image::PageSampler;
+    default: return image::PageSynth;
+    }
+}
+
 } // namespace
 
 KVEditor::KVEditor(std::unique_ptr<Window> platformWindow, void* module, KVInstrument& shownInstrument)
@@ -45,7 +54,9 @@ void KVEditor::AddLayout()
 void KVEditor::AttachMenus()
 {
     FillGrooveMenu(*panel.Of<CControlDropDownList>(Role::GrooveMenu));
-    for (int n = 0; n < 3; ++n) FillDestinationList(*panel.Of<CControlDropDownList>(Role::Destination, n));
+    for (const PlacedControl& placed : panel)
+        if (placed.row->role == Role::Destination)
+            FillDestinationList(static_cast<CControlDropDownList&>(*placed.control));
     programs.Attach(panel.Of<CControlDropDownList>(Role::FolderList),
                     panel.Of<CControlDropDownList>(Role::ProgramMenu));
     for (int n = 0; n < kOscillators; ++n) waveforms.Attach(n, panel.Of<CControlDropDownList>(Role::WaveList, n));
@@ -77,15 +88,8 @@ void KVEditor::RefreshAll()
     samplerPage = instrument.engine->selection.OnSampler();
     shownScreen = ScreenStored();
     const Page page = ShownPage();
-    SetBackground(page == Page::Channel   ? image::PageChannel
-                  : page == Page::Sampler ? image::PageSampler
-                                          : image::PageSynth);
+    SetBackground(PictureOf(page));
     panel.ShowPage(page, GetBackgroundBitmap());
-    ShowMenus();
-}
-
-void KVEditor::ShowMenus()
-{
     programs.Rebuild();
     waveforms.Fill();
 }

@@ -47,7 +47,6 @@ private:
     void AttachMenus();
     Page ShownPage() const;
     bool ScreenStored() const { return instrument.GetParameter(kScreenSwitchId) != 0.0f; }
-    void ShowMenus();
 
     // The tick.
     void FollowChannel();
@@ -81,7 +80,7 @@ private:
     EditorCommands commands;
     ProgramMenus programs;
     WaveformMenus waveforms;
-    bool cancelling = false;
+    bool cancelling = false; // what is let go, the user did not let go
 };
 
 } // namespace korvane

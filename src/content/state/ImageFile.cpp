@@ -11,7 +11,7 @@ namespace korvane {
 
 static bool BeginsWith(CFileStreamer& file, const char* tag)
 {
-    char begin[4];
+    char begin[4] = {};
     file.ReadBlock(begin, sizeof begin);
     return file.Seek(0) && std::memcmp(begin, tag, sizeof begin) == 0;
 }

@@ -39,7 +39,7 @@ public:
     }
 
     /// Shows the controls of a page and those of all pages, hides the others, and has what lets the page show take it
-    /// from its image. Those that were hidden meanwhile let go of the mouse.
+    /// from its image.
     void ShowPage(Page page, CBitmap* picture);
 
     auto begin() const { return all.begin(); }

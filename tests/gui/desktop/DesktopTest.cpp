@@ -10,6 +10,7 @@
 #include "desktop/Display.h"
 #include "gui/window/EditorThread.h"
 #include "platform/window/DesktopWindow.h"
+#include "support/Waiting.h"
 
 namespace korvane {
 namespace {
@@ -29,23 +30,6 @@ struct DesktopTest : testing::Test {
         thread = std::make_unique<EditorThread>(std::move(content));
     }
     bool Open() { return thread->Open(host->Parent(), demo::kPageHeight, demo::kPageWidth); }
-    /// Until the condition holds; whether it did in time.
-    template <class Condition>
-    static bool Within(std::chrono::milliseconds patience, Condition condition)
-    {
-        const auto end = std::chrono::steady_clock::now() + patience;
-        while (!condition())
-            if (std::chrono::steady_clock::now() > end)
-                return false;
-            else
-                std::this_thread::sleep_for(1ms);
-        return true;
-    }
-    static long OpenFiles()
-    {
-        const std::filesystem::directory_iterator files("/proc/self/fd");
-        return std::distance(begin(files), end(files));
-    }
     long Windows() const { return std::ssize(host->Children(host->window)); }
 
     std::unique_ptr<DisplayServer> display;

@@ -7,6 +7,7 @@
 
 #include "desktop/Display.h"
 #include "platform/window/XcbWindow.h"
+#include "support/Waiting.h"
 
 namespace korvane {
 
@@ -70,12 +71,7 @@ protected:
         return opened;
     }
     /// At the latest when other programs have had their time.
-    static bool Soon(const std::function<bool()>& happened)
-    {
-        for (int wait = 0; wait < 500; ++wait, std::this_thread::sleep_for(std::chrono::milliseconds(10)))
-            if (happened()) return true;
-        return false;
-    }
+    static bool Soon(const std::function<bool()>& happened) { return Within(std::chrono::seconds(5), happened); }
     std::string Heard(int milliseconds = 40)
     {
         const auto end = std::chrono::steady_clock::now() + std::chrono::milliseconds(milliseconds);

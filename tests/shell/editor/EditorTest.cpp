@@ -9,6 +9,7 @@
 #include "framework/ParameterTable.h"
 #include "shell/vst2/AEffect.h"
 #include "support/ContentRoot.h"
+#include "support/Waiting.h"
 
 namespace korvane {
 namespace {
@@ -110,23 +111,6 @@ struct EditorTest : testing::Test {
     {
         if (module) dlclose(module);
     }
-    template <class Condition>
-    static bool Soon(Condition condition)
-    {
-        const auto end = std::chrono::steady_clock::now() + 5s;
-        while (!condition())
-            if (std::chrono::steady_clock::now() > end)
-                return false;
-            else
-                std::this_thread::sleep_for(1ms);
-        return true;
-    }
-    static long OpenFiles()
-    {
-        const fs::directory_iterator files("/proc/self/fd");
-        return std::distance(begin(files), end(files));
-    }
-
     const BundleRoot root;
     const fs::path skin = root.path / "Graphics";
     std::unique_ptr<DisplayServer> display;
@@ -150,14 +134,14 @@ TEST_F(EditorTest, OpensMovesAndClosesInEveryScale)
         EXPECT_EQ(plugin.Windows(), (Sizes{{630 * scale, 1065 * scale}}));
         plugin.Drag(50);
         plugin.host.Do("release 1");
-        EXPECT_TRUE(Soon([&] { return plugin.ended == 1; }));
+        EXPECT_TRUE(Within(5s, [&] { return plugin.ended == 1; }));
         EXPECT_FLOAT_EQ(plugin.Get(), 0.75f);
         EXPECT_TRUE(plugin.begun == 1 && plugin.moved > 0);
         for (int n = 0; n < 2; ++n) EXPECT_EQ(plugin.Ask(request::EditorClose), 0);
         EXPECT_EQ(plugin.Windows(), Sizes());
         EXPECT_EQ(plugin.Open(), 1);
         plugin.Drag(1);
-        EXPECT_TRUE(Soon([&] { return plugin.begun == 2; }));
+        EXPECT_TRUE(Within(5s, [&] { return plugin.begun == 2; }));
         EXPECT_EQ(plugin.Ask(request::Close), 1) << "with the window open and the mouse held";
         EXPECT_EQ(std::pair(plugin.ended == 2, plugin.Windows()), std::pair(true, Sizes()));
         plugin.host.Do("release 1");
@@ -185,12 +169,12 @@ TEST_F(EditorTest, TwoInstancesHaveTheirOwn)
     }
     above.Drag(50);
     above.host.Do("release 1");
-    EXPECT_TRUE(Soon([&] { return above.ended == 1; }));
+    EXPECT_TRUE(Within(5s, [&] { return above.ended == 1; }));
     above.host.Destroy(); // with the editor in it
     EXPECT_EQ(above.Ask(request::EditorClose), 0);
     below.Drag(20);
     below.host.Do("release 1");
-    EXPECT_TRUE(Soon([&] { return below.ended == 1; }));
+    EXPECT_TRUE(Within(5s, [&] { return below.ended == 1; }));
     EXPECT_EQ(std::pair(above.Get(), below.Get()), std::pair(0.75f, 0.6f));
 }
 
@@ -201,7 +185,7 @@ TEST_F(EditorTest, EndsOpenAfterAProgramWasChosen)
     const float before = plugin.effect->getParameter(plugin.effect, 92);
     EXPECT_EQ(plugin.Open(), 1);
     plugin.host.Do("to 220,248 press 1 release 1 to 220,268 press 1 release 1"); // the first of the categories
-    EXPECT_TRUE(Soon([&] { return plugin.effect->getParameter(plugin.effect, 92) != before; }));
+    EXPECT_TRUE(Within(5s, [&] { return plugin.effect->getParameter(plugin.effect, 92) != before; }));
     EXPECT_EQ(plugin.Ask(request::Close), 1);
 }
 
@@ -225,14 +209,14 @@ TEST_F(EditorTest, APlayingHostWritesAndLoadsDuringADrag)
         if (n % 10 == 0) { EXPECT_EQ(plugin.Ask(request::SetChunk, groove.data(), bytes), bytes); }
     });
     plugin.host.Do("release 1");
-    EXPECT_TRUE(Soon([&] { return plugin.begun == 1 && plugin.ended == 1 && plugin.moved > 0; }));
+    EXPECT_TRUE(Within(5s, [&] { return plugin.begun == 1 && plugin.ended == 1 && plugin.moved > 0; }));
     const std::uint32_t size[] = {700, 400};
     plugin.host.Now(xcb_configure_window(plugin.host.server, plugin.host.window,
                                          XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, size));
     for (const float value : {1.0f, 0.0f, 0.7f}) {
         const auto before = plugin.Number();
         plugin.Set(kNumber, value);
-        EXPECT_TRUE(Soon([&] { return plugin.Number() != before; })) << value;
+        EXPECT_TRUE(Within(5s, [&] { return plugin.Number() != before; })) << value;
     }
     playing = false;
     audio.join();
