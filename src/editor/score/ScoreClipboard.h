@@ -1,0 +1,38 @@
+// What was copied in a score editor.
+#pragma once
+
+#include <mutex>
+
+#include "editor/score/ScoreGrid.h"
+#include "engine/sequencer/GroovePattern.h"
+
+namespace korvane {
+
+/// A whole pattern, of which some columns and one channel, or all sampler channels, are meant. There is one in the
+/// process, so that notes go from one instance to the other. Any window's thread; they wait for each other.
+class ScoreClipboard {
+public:
+    /// Takes the pattern's words and locks; of these the 0..211, once each, by their number.
+    /// columns  not empty
+    void Copy(const GroovePattern& from, int channel, ScoreSpan columns);
+    /// Something was copied from a grid of that kind.
+    bool Fits(const ScoreGrid& grid) const;
+    /// Puts the copied columns into those of the selection, one after the other until either is at its end: words, as
+    /// they are, and locks. In the piano roll they go to `channel`, in the drum grid to the channels of the selected
+    /// rows. Only when it fits.
+    void Paste(GroovePattern& to, const ScoreGrid& grid, int channel, const ScoreSelection& selection) const;
+
+private:
+    bool FitsUnlocked(const ScoreGrid& grid) const
+    {
+        return clipFirstColumn >= 0 && (clipChannel < kSamplerChannels) == grid.drumMode;
+    }
+
+    mutable std::mutex turn;
+    GroovePattern copied;
+    int clipFirstColumn = -1, clipLastColumn = -1, clipChannel = -1;
+};
+
+ScoreClipboard& CopiedScore();
+
+} // namespace korvane

@@ -1,0 +1,55 @@
+// The score editor: a pattern's notes and one parameter's locks on one page.
+#pragma once
+
+#include <memory>
+
+#include "editor/score/ScoreLane.h"
+#include "editor/score/ScorePainter.h"
+#include "editor/score/ScoreState.h"
+#include "engine/KVSynth.h"
+#include "gui/controls/CControl.h"
+
+namespace korvane {
+
+/// Waits outside of the window and opens over most of it, for the channel and pattern that are selected then. While it
+/// is open all events are its own: it has focus and mouse. It changes what the sequencer plays at that moment; each
+/// change is heard at once and costs no other step anything.
+class ScoreEditControl : public CControl {
+public:
+    /// place  of the closed editor
+    ScoreEditControl(Rect place, KVSynth& editedSynth);
+
+    // clang-format off
+    void CancelInteraction() override;       // closes it
+    void OnLeftDown(int x, int y) override;  // opens it, wherever; outside of the open one closes it
+    void OnLeftUp(int x, int y) override;
+    void OnRightDown(int x, int y) override; // closes it
+    void OnMouseMove(int x, int y) override;
+    void OnWheel(int, int notches) override; // lengthens and shortens the notes under the pointer
+    void Draw(CDrawBuffer* buffer) override;
+    void OnTick() override;
+    // clang-format on
+
+    bool IsOpen() const { return workImage != nullptr; }
+
+    // Of what is selected; nothing without.
+    void Copy();
+    void Paste();
+    void Clear();
+
+    ScoreNotes notes;
+    ScoreLane lane;
+    ScoreState state;
+
+private:
+    KVSynth& synth;
+    GrooveEngine& sequencer;
+    ScorePainter painter;
+    std::unique_ptr<CDrawBuffer> gridImage, workImage; // the page below, and the editor; null while closed
+    Rect closedRect;
+    Point pressPoint;              // in the window
+    Point rubberOrigin, lanePoint; // relative to the open editor
+    int auditionChannel = -1;
+};
+
+} // namespace korvane
