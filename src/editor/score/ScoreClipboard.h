@@ -23,10 +23,7 @@ public:
     void Paste(GroovePattern& to, const ScoreGrid& grid, int channel, const ScoreSelection& selection) const;
 
 private:
-    bool FitsUnlocked(const ScoreGrid& grid) const
-    {
-        return clipFirstColumn >= 0 && (clipChannel < kSamplerChannels) == grid.drumMode;
-    }
+    bool Matches(const ScoreGrid& grid) const;
 
     mutable std::mutex turn;
     GroovePattern copied;

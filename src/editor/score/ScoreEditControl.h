@@ -42,14 +42,47 @@ public:
     ScoreState state;
 
 private:
+    const ScoreGrid& Grid() const { return *notes.grid; }
+    Point Inside(int x, int y) const;
+    bool Playing();
+    void LeaveEditMode();
+    void TogglePlay();
+
+    void Open();
+    void Close();
+
+    // Presses
+    bool PressButton(Point at);
+    void PressPage(Point at);
+    void PressBar();
+    void PressCell();
+    void SelectNote();
+
+    // Moves
+    void Hover(Point at);
+    void Follow(Point at);
+    void FollowKeys(Point at);
+    void FollowBars(Point at);
+    void FollowLane(Point at);
+    void FollowRubberBand(Point at);
+    void StartRubberBand(Point origin);
+    void SelectBars(int first, int last);
+
+    // Releases
+    bool EndOtherDrag();
+    void ToggleHovered();
+    void MoveSelection();
+
+    void Audition(int row);
+    void EndAudition();
+
     KVSynth& synth;
     GrooveEngine& sequencer;
     ScorePainter painter;
     std::unique_ptr<CDrawBuffer> gridImage, workImage; // the page below, and the editor; null while closed
     Rect closedRect;
-    Point pressPoint;              // in the window
-    Point rubberOrigin, lanePoint; // relative to the open editor
-    int auditionChannel = -1;
+    Point pressPoint, rubberOrigin, lanePoint; // relative to the open editor
+    int auditionChannel = 0, auditionNote = 0; // what sounds while state.auditionRow is one
 };
 
 } // namespace korvane

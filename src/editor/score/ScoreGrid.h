@@ -67,6 +67,7 @@ struct ScoreSelection {
     Rect rect{-1, -1, 0, 0}; // may reach beyond the grid
 
     bool Exists() const { return rect.w >= 1; }
+    bool Contains(Point at) const { return Exists() && rect.Contains(at.x, at.y); }
     void Remove() { rect = {-1, -1, 0, 0}; }
     ScoreSpan Columns(const ScoreGrid& grid) const;
     ScoreSpan Rows(const ScoreGrid& grid) const;

@@ -29,7 +29,8 @@ public:
     int laneParameter = 12; // the editor sets it before each opening
 
 private:
-    int Base() const; // before banking; negative for none
+    int Base() const;  // before banking; negative for none
+    int Index() const; // of the selected member of its bank
     float Own() const;
     void SetLock(int column, int y);
 

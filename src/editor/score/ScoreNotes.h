@@ -1,6 +1,8 @@
 // The notes that the score editor shows and changes.
 #pragma once
 
+#include <cstdint>
+
 #include "editor/score/ScoreGrid.h"
 #include "engine/GrooveEngine.h"
 
@@ -31,12 +33,22 @@ public:
     /// Takes the notes of the selection out, then empties the locks of all columns of `channel` without a note;
     /// whether there is one.
     bool Clear(const ScoreSelection& selection);
+    /// The notes of a column in some rows, a bit each, the lowest row's first.
+    std::uint32_t SelectedIn(int column, ScoreSpan rows) const;
     /// Whether a note is left in the selection: of the piano roll in its columns, of the drum grid in its cells.
     bool AnyIn(const ScoreSelection& selection) const;
 
     GrooveEngine& engine;
     const ScoreGrid* grid = &kPianoRoll;
     int pattern = 0, channel = 0; // being edited
+
+private:
+    struct Cell {
+        int channel, column;
+        std::uint32_t bit;
+    };
+
+    Cell CellAt(int column, int row) const;
 };
 
 } // namespace korvane
