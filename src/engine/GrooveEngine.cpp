@@ -20,6 +20,8 @@ float Tame(float value)
     return std::isfinite(value) ? Clamp(value, -kWildest, kWildest) : 0.0f;
 }
 
+bool IsChannelSlot(int index) { return index >= 0 && index < kChannelSlots; }
+
 /// Whether a block has changed since it was read.
 bool Moved(const Shared<float> (&block)[kChannelSlots], const float* seen)
 {
@@ -43,36 +45,48 @@ GrooveEngine::~GrooveEngine() = default;
 
 void GrooveEngine::SetChannelParameter(int base, float value)
 {
-    const int index = selection.ChannelIndexOf(base);
-    const bool valid = index >= 0 && index < kChannelSlots;
     const int selected = selection.selectedChannel;
     const int edited = selection.editStep;
-    if (edited != -1) {
-        const float stored = valid ? static_cast<float>(storedParams[selected][index]) : 0.0f;
-        score.Current().locks[selected][selection.StepInPattern(edited)].Set(index, value - stored);
-    } else {
-        for (int c = 0; c < kChannels; ++c) {
-            if (!buttons.Reaches(c, selected)) continue;
-            // Held effects take the value too. Where the base is no effect's first parameter, as of the equaliser, it
-            // spills into the slots behind it: so the instrument always did, and grooves were made with it.
-            for (int effect = 0; base >= slot::FxX && effect < kEffects; ++effect)
-                if (buttons.fxOn[effect] && base + effect < kChannelSlots) storedParams[c][base + effect] = value;
-            if (valid) storedParams[c][index] = value;
-            RefreshChannel(c);
-        }
+    if (edited != -1) return SetStepParameter(score.Current(), selected, selection.StepInPattern(edited), base, value);
+    const int index = selection.ChannelIndexOf(base);
+    for (int c = 0; c < kChannels; ++c) {
+        if (!buttons.Reaches(c, selected)) continue;
+        // Held effects take the value too. Where the base is no effect's first parameter, as of the equaliser, it
+        // spills into the slots behind it: so the instrument always did, and grooves were made with it.
+        for (int effect = 0; base >= slot::FxX && effect < kEffects; ++effect)
+            if (buttons.fxOn[effect] && base + effect < kChannelSlots) storedParams[c][base + effect] = value;
+        if (IsChannelSlot(index)) storedParams[c][index] = value;
+        RefreshChannel(c);
     }
     ext.Written({selected, index}, value);
 }
 
 float GrooveEngine::GetChannelParameter(int base) const
 {
-    int index = selection.ChannelIndexOf(base);
-    if (index < 0 || index >= kChannelSlots) index = 0;
     const int selected = selection.selectedChannel;
-    const float stored = storedParams[selected][index];
     const int edited = selection.editStep;
-    if (edited == -1) return stored;
-    return stored + score.Current().locks[selected][selection.StepInPattern(edited)].Offset(index);
+    if (edited != -1) return StepParameter(score.Current(), selected, selection.StepInPattern(edited), base);
+    const int index = selection.ChannelIndexOf(base);
+    return storedParams[selected][IsChannelSlot(index) ? index : 0];
+}
+
+void GrooveEngine::SetStepParameter(GroovePattern& pattern, int channel, int step, int base, float value)
+{
+    const int index = selection.ChannelIndexOf(base);
+    if (IsChannelSlot(index)) pattern.SetLock(channel, step, index, value - storedParams[channel][index]);
+    ext.Written({channel, index}, value);
+}
+
+float GrooveEngine::StepParameter(const GroovePattern& pattern, int channel, int step, int base) const
+{
+    int index = selection.ChannelIndexOf(base);
+    if (!IsChannelSlot(index)) index = 0;
+    return storedParams[channel][index] + pattern.locks[channel][step].Offset(index);
+}
+
+void GrooveEngine::HearStep(const GroovePattern& pattern, int channel, int step)
+{
+    if (clock.playing && &pattern == &score.Current() && score.lastStep[channel] == step) RefreshChannel(channel);
 }
 
 void GrooveEngine::CycleSwitch(int base)

@@ -41,6 +41,13 @@ public:
     void SetChannelParameter(int base, float value);
     /// The stored value of the selected channel plus, while a step is edited, that step's lock offset.
     float GetChannelParameter(int base) const;
+    /// The lock of a step becomes what makes of the channel's stored value this one. External controls that are bound
+    /// to the parameter follow.
+    void SetStepParameter(GroovePattern& pattern, int channel, int step, int base, float value);
+    /// The stored value of the channel plus the step's lock offset; not clamped.
+    float StepParameter(const GroovePattern& pattern, int channel, int step, int base) const;
+    /// Where the locks of this step apply at this moment, they apply as they are now.
+    void HearStep(const GroovePattern& pattern, int channel, int step);
     /// Moves a stepped parameter to its next position, from the last back to the first.
     void CycleSwitch(int base);
     /// n      0..4

@@ -121,7 +121,7 @@ void RecordRelease(GrooveEngine& engine, int k)
         clock.frameClock / static_cast<double>(clock.sampleRate) * static_cast<double>(clock.tempo) / 60.0;
     const float beats = std::max(static_cast<float>(held), beats::Eighth);
     const float offset = law::NoteBeatsValue(beats) - engine.Channel(channel).sound.params[slot::NoteLength];
-    pattern.locks[channel][position].Set(slot::NoteLength, Clamp(offset, -1.0f, 1.0f));
+    pattern.SetLock(channel, position, slot::NoteLength, Clamp(offset, -1.0f, 1.0f));
 }
 
 } // namespace korvane

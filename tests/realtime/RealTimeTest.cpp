@@ -74,7 +74,7 @@ protected:
             Synth().SetParameter(static_cast<int>(random() % param::Count), static_cast<float>(random() % 5) / 4.0f);
         for (const int button : {param::Copy, param::Paste, param::Clear})
             for (const float value : {1.0f, 0.0f}) Synth().SetParameter(button, value);
-        Engine().score.Current().locks[n % kChannels][n % kSteps].Set(n % kChannelSlots, 0.25f);
+        Engine().score.Current().SetLock(n % kChannels, n % kSteps, n % kChannelSlots, 0.25f);
         return true;
     }
 

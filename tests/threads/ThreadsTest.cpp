@@ -93,7 +93,7 @@ protected:
         const int c = worker.Below(kChannels), step = worker.Below(kSteps);
         for (const int press : {+param::Copy, +param::Paste, +param::Clear, +param::Record, param::Step1 + step % 24})
             Synth().SetParameter(press, worker.Value());
-        Engine().score.Current().locks[c][step].Set(worker.Below(kChannelSlots), worker.Value() - 0.5f);
+        Engine().score.Current().SetLock(c, step, worker.Below(kChannelSlots), worker.Value() - 0.5f);
         MixerStrip& strip = Engine().Channel(c).strip;
         for (Shared<float>* meter : {&strip.peakLeft, &strip.peakRight}) {
             finite = finite && std::isfinite(static_cast<float>(*meter));
@@ -167,6 +167,51 @@ TEST_F(Threads, DoAsTheyLike)
     const auto kept = State();
     EXPECT_TRUE(Restore(kept));
     EXPECT_EQ(State(), kept);
+}
+
+// Threads change the same few steps at the same instant. Each has a parameter of its own, whose locks are then the last
+// that it set, beside one lock of each other. The changes of a phase fit into the queue, whoever is interrupted.
+TEST(StepLocks, ThreadsLoseNoneOfTheirChanges)
+{
+    constexpr int kThreads = 4, kShared = 3, kEach = 15, kRounds = 1000;
+    GroovePattern pattern, clipboard;
+    clipboard.SetLock(0, 0, kThreads, 0.5f);
+    std::array<std::array<float, kShared>, kThreads> last{};
+    std::atomic<int> arrived{0}, lost{0}, doubled{0};
+    const auto player = [&](int own) {
+        std::mt19937 random(static_cast<unsigned>(own));
+        const auto below = [&random](unsigned n) { return static_cast<int>(random() % n); };
+        const auto meet = [&arrived] {
+            for (const int all = (arrived++ / kThreads + 1) * kThreads; arrived < all;) std::this_thread::yield();
+        };
+        for (int round = 0; round < kRounds; ++round) {
+            for (int n = 0; n < kEach; ++n) {
+                const int step = below(kShared), what = below(8);
+                if (what == 0) pattern.CopySteps(0, step, clipboard, 0, 1);
+                if (what == 1) pattern.ClearStep(0, step);
+                if (what == 2) pattern.SwapSteps(0, step, below(kShared));
+                if (what > 2) pattern.SetLock(0, step, own, 0.25f * static_cast<float>(below(3)));
+            }
+            meet();
+            for (int n = 0; n < kEach; ++n) {
+                const float offset = last[own][n % kShared] = 0.25f * static_cast<float>(below(3)); // 0 removes
+                pattern.SetLock(0, n % kShared, own, offset);
+            }
+            meet();
+            for (int step = 0; step < kShared; ++step) {
+                const StepLockList& locks = pattern.locks[0][step];
+                lost += locks.Offset(own) != last[own][step];
+                int count = locks.Offset(kThreads) != 0.0f;
+                for (const auto& offsets : last) count += offsets[step] != 0.0f;
+                doubled += locks.Count() != count;
+            }
+            meet();
+        }
+    };
+    std::vector<std::thread> threads;
+    for (int own = 0; own < kThreads; ++own) threads.emplace_back(player, own);
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQ(std::pair(+lost, +doubled), std::pair(0, 0));
 }
 
 } // namespace

@@ -18,14 +18,15 @@ void WriteStepRecord(ByteWriter& out, const GroovePattern& pattern, int channel,
 
 bool ReadStepRecord(ByteReader& in, GroovePattern& pattern, int channel, int step)
 {
-    pattern.ClearStep(channel, step);
+    StepLockList& locks = pattern.locks[channel][step];
+    locks.Clear();
     pattern.steps[channel][step] = in.Read<std::uint32_t>();
     const int count = in.Read<std::int16_t>(); // negative: none
     const bool fits = count <= StepLockList::kCapacity;
     for (int n = 0; n < count; ++n) {
         const int param = in.Read<std::int16_t>();
         const float offset = in.Read<float>();
-        if (fits || (param >= 0 && param < kChannelSlots)) pattern.locks[channel][step].Append(param, offset);
+        if (fits || (param >= 0 && param < kChannelSlots)) locks.Append(param, offset);
     }
     return in.Ok();
 }

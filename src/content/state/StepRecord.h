@@ -11,8 +11,9 @@ namespace korvane {
 
 void WriteStepRecord(ByteWriter& out, const GroovePattern& pattern, int channel, int step);
 
-/// Replaces a step. False when the data ended in the record: what was there stands, the locks announced but missing are
-/// locks of parameter 0 by 0. Of a list longer than a step can hold, the locks that act are kept, in order.
+/// Replaces a step of a pattern that the caller has alone. False when the data ended in the record: what was there
+/// stands, the locks announced but missing are locks of parameter 0 by 0. Of a list longer than a step can hold, the
+/// locks that act are kept, in order.
 bool ReadStepRecord(ByteReader& in, GroovePattern& pattern, int channel, int step);
 
 } // namespace korvane

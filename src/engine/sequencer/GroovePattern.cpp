@@ -50,12 +50,13 @@ void GroovePattern::CopyFrom(const GroovePattern& other)
 void GroovePattern::ClearStep(int channel, int step)
 {
     steps[channel][step] = 0u;
-    locks[channel][step].Clear();
+    lockEdits.Clear(&locks[channel][step], 1);
 }
 
 void GroovePattern::ClearChannel(int channel)
 {
-    for (int s = 0; s < kSteps; ++s) ClearStep(channel, s);
+    Fill(steps[channel], 0u);
+    lockEdits.Clear(locks[channel], kSteps);
 }
 
 std::uint32_t GroovePattern::SetNotes(int channel, int step, std::uint32_t notes)
@@ -63,17 +64,31 @@ std::uint32_t GroovePattern::SetNotes(int channel, int step, std::uint32_t notes
     return steps[channel][step].Update([notes](std::uint32_t word) { return word | notes; });
 }
 
+std::uint32_t GroovePattern::ClearNotes(int channel, int step, std::uint32_t notes)
+{
+    return steps[channel][step].Update([notes](std::uint32_t word) { return word & ~notes; });
+}
+
 std::uint32_t GroovePattern::FlipNotes(int channel, int step, std::uint32_t notes)
 {
     return steps[channel][step].Update([notes](std::uint32_t word) { return word ^ notes; });
 }
 
+void GroovePattern::KeepSamplerBit(int channel, int step)
+{
+    const std::uint32_t own = 1u << step % kStepsPerBar;
+    steps[channel][step].Update([own](std::uint32_t word) { return word != 0 ? own : 0u; });
+}
+
+void GroovePattern::SetLock(int channel, int step, int param, float offset)
+{
+    lockEdits.Set(locks[channel][step], param, offset);
+}
+
 void GroovePattern::CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count)
 {
-    for (int n = 0; n < count; ++n) {
-        steps[channel][step + n] = from.steps[channel][fromStep + n];
-        locks[channel][step + n].CopyFrom(from.locks[channel][fromStep + n]);
-    }
+    for (int n = 0; n < count; ++n) steps[channel][step + n] = from.steps[channel][fromStep + n];
+    lockEdits.Copy(&locks[channel][step], &from.locks[channel][fromStep], count);
 }
 
 void GroovePattern::SwapSteps(int channel, int a, int b)
@@ -81,7 +96,7 @@ void GroovePattern::SwapSteps(int channel, int a, int b)
     const std::uint32_t wordA = steps[channel][a].Exchange(0u), wordB = steps[channel][b].Exchange(0u);
     SetNotes(channel, a, wordB);
     SetNotes(channel, b, wordA);
-    locks[channel][a].SwapWith(locks[channel][b]);
+    lockEdits.Swap(locks[channel][a], locks[channel][b]);
 }
 
 void GroovePattern::UpdateLength()

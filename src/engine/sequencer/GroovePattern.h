@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 
+#include "engine/sequencer/LockEdits.h"
 #include "engine/sequencer/StepLockList.h"
 #include "framework/Limits.h"
 #include "platform/Shared.h"
@@ -11,10 +12,11 @@
 namespace korvane {
 
 /// Steps and their parameter locks, channel by channel, step = bar × 16 + step in the bar. Eight per engine and one
-/// clipboard. Host, editor and MIDI write steps and locks and the audio thread reads them; the audio thread writes the
-/// length at every tick, all read it.
+/// clipboard. Host, editor and MIDI write steps and locks and the audio thread, which records, too; it writes the
+/// length at every tick. All read. Of changes at the same instant none is lost, be they of notes or of locks
+/// (LockEdits).
 ///
-/// What an empty pattern has, words and counts, is 33 KB. The entries of the locks live in pages of the system that
+/// What an empty pattern has, words and counts, is 36 KB. The entries of the locks live in pages of the system that
 /// cost nothing until a lock is written there: 2.8 MB when every step locks every parameter, 4 or 8 KB for a bar of a
 /// channel whose steps lock up to 32. A page that was written stays: to give it back might take a lock from under a
 /// writer.
@@ -28,9 +30,14 @@ public:
 
     void ClearStep(int channel, int step);
     void ClearChannel(int channel);
-    /// Adds notes to a step, or turns them over, in one piece; the word after it.
+    /// Adds notes to a step, takes them out or turns them over, in one piece; the word after it.
     std::uint32_t SetNotes(int channel, int step, std::uint32_t notes);
+    std::uint32_t ClearNotes(int channel, int step, std::uint32_t notes);
     std::uint32_t FlipNotes(int channel, int step, std::uint32_t notes);
+    /// A word that holds a note holds the bit of its own step in the bar, as a sampler's does, and no other.
+    void KeepSamplerBit(int channel, int step);
+    /// As StepLockList::Set.
+    void SetLock(int channel, int step, int param, float offset);
     /// Copies steps of a channel, words and locks, from another pattern.
     void CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count);
     /// Exchanges two steps of a channel, words and locks. A note put into one of them meanwhile stays where it was put.
@@ -39,8 +46,8 @@ public:
     void UpdateLength();
 
     Shared<std::uint32_t> steps[kChannels][kSteps]; // bit k (0..23) plays note 48 + k
-    StepLockList locks[kChannels][kSteps];
-    Shared<std::int32_t> length = kStepsPerBar; // 16, 32, 64 or 128 steps
+    StepLockList locks[kChannels][kSteps];          // to read; who has the pattern alone may write
+    Shared<std::int32_t> length = kStepsPerBar;     // 16, 32, 64 or 128 steps
 
 private:
     struct Unmap {
@@ -48,6 +55,7 @@ private:
     };
 
     const std::unique_ptr<std::uint64_t[], Unmap> entries; // bar by bar of each channel
+    LockEdits lockEdits;
 };
 
 } // namespace korvane

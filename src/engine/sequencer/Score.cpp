@@ -94,8 +94,7 @@ bool Score::NudgeHeldSteps(const Selection& selection, const Shared<bool>* stepH
         if (other < 0 || other >= kStepsPerBar) continue;
         pattern.SwapSteps(channel, bar + step, bar + other);
         if (channel >= kSamplerChannels) continue;
-        for (const int moved : {step, other})
-            if (pattern.steps[channel][bar + moved] != 0) pattern.steps[channel][bar + moved] = 1u << moved;
+        for (const int moved : {step, other}) pattern.KeepSamplerBit(channel, bar + moved);
     }
     return any;
 }

@@ -17,9 +17,9 @@ namespace korvane {
 /// plays, the other is filled beside it by a load and then takes its place.
 ///
 /// Threads: host, editor and MIDI (on the audio thread) edit, the audio thread reads steps and locks and moves on from
-/// one pattern to the next. A step word is changed in one piece; an edit of many steps may be heard half done for one
-/// tick. Two selections of patterns in the same instant leave one of them. `lastStep` is the audio thread's, others
-/// read it.
+/// one pattern to the next. A step's notes, and its locks, are changed in one piece; an edit of many steps may be heard
+/// half done for one tick. Two selections of patterns in the same instant leave one of them. `lastStep` is the audio
+/// thread's, others read it.
 class Score {
 public:
     Score();

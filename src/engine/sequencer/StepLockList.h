@@ -17,9 +17,10 @@ struct StepLock {
     float offset;
 };
 
-/// Locks of one step of one channel, in the order in which they were set. Host, editor and MIDI write while the audio
-/// thread walks: there is a place for one entry per channel parameter, and nothing is ever reallocated. Of two writers
-/// at the same instant one may lose its change; a reader may meet a list in the middle of a removal for one tick.
+/// Locks of one step of one channel, in the order in which they were set. Any thread reads while another writes: there
+/// is a place for one entry per channel parameter, and nothing is ever reallocated; a reader may meet a list in the
+/// middle of a removal for one tick. One thread writes at a time: who has the pattern alone. Threads that share one
+/// change its lists through GroovePattern.
 ///
 /// The pattern has the places. It gives them from memory that costs nothing before it is written, so only entries below
 /// the count are touched.
@@ -27,7 +28,7 @@ class StepLockList {
 public:
     static constexpr int kCapacity = kChannelSlots;
 
-    /// Adds, replaces or, for an offset below 0.0001 in magnitude, removes the lock of `param`. Any thread.
+    /// Adds, replaces or, for an offset below 0.0001 in magnitude, removes the lock of `param`.
     /// param  0..211; anything else is ignored
     void Set(int param, float offset);
 

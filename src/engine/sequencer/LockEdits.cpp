@@ -1,0 +1,54 @@
+// Changes of lock lists, one after another, whoever asks for them.
+#include "engine/sequencer/LockEdits.h"
+
+namespace korvane {
+
+void LockEdits::Set(StepLockList& list, int param, float offset)
+{
+    Ask({.param = param, .offset = offset, .list = &list});
+}
+
+void LockEdits::Clear(StepLockList* lists, int count)
+{
+    Ask({.kind = Edit::Kind::Clear, .count = count, .list = lists});
+}
+
+void LockEdits::Copy(StepLockList* lists, const StepLockList* from, int count)
+{
+    Ask({.kind = Edit::Kind::Copy, .count = count, .list = lists, .from = from});
+}
+
+void LockEdits::Swap(StepLockList& list, StepLockList& other)
+{
+    Ask({.kind = Edit::Kind::Swap, .list = &list, .other = &other});
+}
+
+/// Who is at it looks again before leaving, so that a change which was put in while it looked last is not left behind.
+/// It never waits for one that is still being put in: who does that asks afterwards, too.
+void LockEdits::Ask(const Edit& edit)
+{
+    if (!waiting.Push(edit)) return Do(edit);
+    if (state.exchange(State::AskedAgain) != State::Nobody) return;
+    State mine;
+    do {
+        state.exchange(State::AtIt); // no mere store: what was put in before it was asked for is seen
+        for (Edit next; waiting.Pop(next);) Do(next);
+        mine = State::AtIt;
+    } while (!state.compare_exchange_strong(mine, State::Nobody));
+}
+
+void LockEdits::Do(const Edit& edit)
+{
+    switch (edit.kind) {
+    case Edit::Kind::Set: edit.list->Set(edit.param, edit.offset); break;
+    case Edit::Kind::Clear:
+        for (int n = 0; n < edit.count; ++n) edit.list[n].Clear();
+        break;
+    case Edit::Kind::Copy:
+        for (int n = 0; n < edit.count; ++n) edit.list[n].CopyFrom(edit.from[n]);
+        break;
+    case Edit::Kind::Swap: edit.list->SwapWith(*edit.other); break;
+    }
+}
+
+} // namespace korvane
