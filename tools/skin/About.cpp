@@ -83,12 +83,14 @@ void DrawMouse(cairo_t* pen)
         const char* hand;
         const char* effect;
     };
-    constexpr Hint kHints[] = {
-        {"Drop", "a sound, program or groove"}, {"Alt click", "a control: its default"}, {"Click", "closes this page"}};
+    constexpr Hint kHints[] = {{"Drop", "a sound, program or groove"},
+                               {"Alt click", "a control: its default"},
+                               {"Right click", "a control: its notes and locks"},
+                               {"Click", "closes this page"}};
     const double top = kSheet.y + 375;
     Write(pen, kHead, kTitleInk, "MOUSE", kSheet.x + 36, top, Stand::Left);
-    for (int n = 0; n < 3; ++n) {
-        const double x = kSheet.x + (n == 1 ? 290 : 36), y = top + 22 + n / 2 * 19;
+    for (int n = 0; n < 4; ++n) {
+        const double x = kSheet.x + (n % 2 == 1 ? 290 : 36), y = top + 22 + n / 2 * 19;
         Write(pen, {11, Weight::Bold, 0.1}, kCream, kHints[n].hand, x, y, Stand::Left);
         Write(pen, kPlain, kCream, kHints[n].effect, x + 76, y, Stand::Left);
     }

@@ -27,6 +27,26 @@ public:
     void Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing, bool copying);
 
 private:
+    struct ShownNotes;
+
+    // The grid.
+    ShownNotes Read() const;
+    void DrawGrid(CDrawBuffer& page) const;
+    void DrawSelection(CDrawBuffer& page) const;
+    void DrawTails(CDrawBuffer& page, const ShownNotes& shown) const;
+    void DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const;
+    void DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const;
+    void DrawHovered(CDrawBuffer& page) const;
+    void DrawHint(CDrawBuffer& page, bool copying) const;
+    bool Carries() const { return state.CarriesSelection() && state.dragged; }
+
+    // What is around it.
+    void DrawLane(CDrawBuffer& page, const char* parameterName) const;
+    void DrawBars(CDrawBuffer& page) const;
+    void DrawHoveredBar(CDrawBuffer& page) const;
+    void DrawKeyMarks(CDrawBuffer& page) const;
+    void DrawButtons(CDrawBuffer& page, const CBitmap* image, bool playing) const;
+
     const ScoreNotes& notes;
     const ScoreLane& lane;
     const ScoreState& state;

@@ -1,0 +1,126 @@
+// Draws the open score editor: what lies around its grid.
+#include "editor/score/ScorePainter.h"
+
+#include "editor/score/ScoreClipboard.h"
+#include "gui/controls/KeptDrawState.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+constexpr Color kLine = Rgb(177, 180, 224), kName = Rgb(177, 180, 124);
+constexpr Color kOwnChannel = Rgb(224, 103, 4, 50), kAuditioned = Rgb(224, 123, 24, 170);
+
+struct BarLook {
+    Color fill, side, top;
+};
+constexpr BarLook kBar{Rgb(224, 103, 4, 84), Rgb(224, 103, 4, 150), Rgb(250, 140, 50, 230)};
+constexpr BarLook kSelectedBar{Rgb(223, 186, 4, 84), Rgb(223, 186, 4, 150), Rgb(250, 222, 70, 230)};
+
+constexpr int kNameHeight = 20, kNameMargin = 20, kTopEdge = 2, kHoverFrame = 2;
+
+void Fill(CDrawBuffer& page, Rect rect, Color color)
+{
+    page.SetFillColor(color);
+    page.FillRect(rect);
+}
+
+int HeightOf(float value) { return Truncate(static_cast<float>(ScoreGrid::laneRect.h) * value); }
+
+Rect KeyRect(const ScoreGrid& grid, int row)
+{
+    const Rect keys = grid.KeyStripRect();
+    return {keys.x, grid.CellRect(0, row).y, keys.w, grid.cellHeight};
+}
+
+} // namespace
+
+void ScorePainter::Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing, bool copying)
+{
+    KeptDrawState kept(&page);
+    page.DrawBitmap(skin.pages[notes.grid->drumMode], {0, 0, page.width, page.height}, {});
+    DrawGrid(page);
+    if (state.OnCell()) DrawHint(page, copying);
+    DrawLane(page, parameterName);
+    if (state.hoverBar >= 0) DrawHoveredBar(page);
+    DrawKeyMarks(page);
+    DrawButtons(page, skin.buttons, playing);
+}
+
+// Lane
+
+void ScorePainter::DrawLane(CDrawBuffer& page, const char* parameterName) const
+{
+    constexpr Rect place = ScoreGrid::laneRect;
+    if (lane.HasLocks()) {
+        DrawBars(page);
+        const int bottom = place.y + place.h, y = bottom - HeightOf(lane.LaneValue());
+        Fill(page, {place.x, y < bottom ? y : bottom - 1, place.w, 1}, kLine);
+    }
+    page.SetFont(0);
+    page.SetTextColor(kName);
+    page.DrawText(parameterName, place.x, place.y, place.w - kNameMargin, kNameHeight, align::Right, false);
+}
+
+/// A side of its own tells a bar from an equal one before it.
+void ScorePainter::DrawBars(CDrawBuffer& page) const
+{
+    const ScoreSpan selected = state.selection.Columns(*notes.grid);
+    int column = notes.HasNoteInColumn(0, notes.channel) ? 0 : notes.NextNote(0);
+    for (int next; column < kSteps; column = next) {
+        next = notes.NextNote(column);
+        const BarLook& look = selected.Holds(column) ? kSelectedBar : kBar;
+        const int height = HeightOf(lane.LaneValue(column));
+        const Rect bar{ScoreGrid::laneRect.x + column * ScoreGrid::cellWidth,
+                       ScoreGrid::laneRect.y + ScoreGrid::laneRect.h - height, (next - column) * ScoreGrid::cellWidth,
+                       height};
+        const int edge = height < kTopEdge ? height : kTopEdge;
+        Fill(page, {bar.x, bar.y, bar.w, edge}, look.top);
+        Fill(page, {bar.x, bar.y + edge, 1, bar.h - edge}, look.side);
+        Fill(page, {bar.x + 1, bar.y + edge, bar.w - 1, bar.h - edge}, look.fill);
+    }
+}
+
+// Strips
+
+void ScorePainter::DrawHoveredBar(CDrawBuffer& page) const
+{
+    constexpr Rect strip = ScoreGrid::barStripRect;
+    constexpr int width = kStepsPerBar * ScoreGrid::cellWidth;
+    page.SetFrameColor(kLine);
+    page.SetFrameWidth(kHoverFrame);
+    page.DrawFrame({strip.x + state.hoverBar * width, strip.y, width, strip.h});
+}
+
+void ScorePainter::DrawKeyMarks(CDrawBuffer& page) const
+{
+    const ScoreGrid& grid = *notes.grid;
+    if (grid.drumMode) Fill(page, KeyRect(grid, grid.TopRow() - notes.channel), kOwnChannel);
+    if (state.auditionRow >= 0) Fill(page, KeyRect(grid, state.auditionRow), kAuditioned);
+}
+
+// Buttons
+
+void ScorePainter::DrawButtons(CDrawBuffer& page, const CBitmap* image, bool playing) const
+{
+    constexpr int kWidth = 69, kHeight = 34, kPlayHeight = 45;
+    constexpr struct {
+        int x, column; // on the page, of the image
+    } kCommands[] = {{30, 149}, {130, 75}, {230, 3}}, kPlay{330, 223};
+    constexpr int kPaste = 1, kRow = 6, kFlashRow = 56, kPlayRow = 49;
+    constexpr float kFull = 255.0f, kFaint = 105.0f / kFull;
+
+    const int offset = notes.grid->buttonsOffset;
+    for (int n = 0; n < 3; ++n) {
+        const Rect place{kCommands[n].x, 500 + offset, kWidth, kHeight};
+        const bool acts = state.selection.Exists() && (n != kPaste || CopiedScore().Fits(*notes.grid));
+        page.DrawBitmapBlended(image, place, {kCommands[n].column, kRow}, acts ? 1.0f : kFaint);
+        const float flash = static_cast<float>(state.flash[n]) / kFull;
+        page.DrawBitmapBlended(image, place, {kCommands[n].column, kFlashRow}, flash);
+    }
+    const Rect place{kPlay.x, 495 + offset, kWidth, kPlayHeight};
+    page.DrawBitmap(image, place, {kPlay.column, playing ? kPlayRow : 0});
+}
+
+} // namespace korvane

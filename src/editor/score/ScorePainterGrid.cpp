@@ -1,0 +1,193 @@
+// Draws the open score editor: its grid.
+#include <bit>
+#include <cstdio>
+#include <iterator>
+
+#include "editor/score/ScoreMove.h"
+#include "editor/score/ScorePainter.h"
+#include "gui/controls/KeptDrawState.h"
+#include "platform/Numbers.h"
+
+namespace korvane {
+
+namespace {
+
+struct NoteLook {
+    Color body, core; // the middle of a hit
+};
+constexpr NoteLook kNote{Rgb(224, 103, 4), Rgb(255, 168, 84)}, kSelectedNote{Rgb(223, 186, 4), Rgb(255, 236, 120)};
+constexpr Color kPale = Rgb(244, 249, 166), kPlayColumn = Rgb(255, 0, 0, 50);
+constexpr int kFaint = 60, kHoverTint = 20, kSelectionTint = 18, kSelectionFrame = 120;
+
+constexpr int kTailHeight = 2, kCoreAcross = 2, kCoreDown = 6;
+constexpr int kHintAside = 20, kHintAbove = 20;
+constexpr Color kHintGround = Rgb(12, 10, 9, 170);
+
+constexpr NoteLook Faint(NoteLook look) { return {WithAlpha(look.body, kFaint), WithAlpha(look.core, kFaint)}; }
+
+void Fill(CDrawBuffer& page, Rect rect, Color color)
+{
+    page.SetFillColor(color);
+    page.FillRect(rect);
+}
+
+/// A right and a bottom line of the cell stay free.
+void DrawNote(CDrawBuffer& page, const ScoreGrid& grid, int column, int row, const NoteLook& look)
+{
+    Rect cell = grid.CellRect(column, row);
+    --cell.w;
+    --cell.h;
+    Fill(page, cell, look.body);
+    if (!grid.drumMode) return;
+    Fill(page, {cell.x + kCoreAcross, cell.y + kCoreDown, cell.w - 2 * kCoreAcross, cell.h - 2 * kCoreDown}, look.core);
+}
+
+/// Calls draw (row) for each bit.
+template <class DrawRow>
+void ForRows(std::uint32_t bits, DrawRow draw)
+{
+    for (; bits != 0; bits &= bits - 1) draw(std::countr_zero(bits));
+}
+
+} // namespace
+
+/// As they stood at one moment; a bit for each row.
+struct ScorePainter::ShownNotes {
+    std::uint32_t all[kSteps], selected[kSteps];
+};
+
+ScorePainter::ShownNotes ScorePainter::Read() const
+{
+    ShownNotes shown{};
+    const ScoreSpan columns = state.selection.Columns(*notes.grid), rows = state.selection.Rows(*notes.grid);
+    for (int column = 0; column < kSteps; ++column)
+        for (int row = 0; row < notes.grid->rowCount; ++row) {
+            if (!notes.IsNoteAt(column, row)) continue;
+            shown.all[column] |= 1u << row;
+            if (columns.Holds(column) && rows.Holds(row)) shown.selected[column] |= 1u << row;
+        }
+    return shown;
+}
+
+void ScorePainter::DrawGrid(CDrawBuffer& page) const
+{
+    KeptDrawState kept(&page);
+    if (!kept.ClipTo(notes.grid->GridRect())) return;
+    const ShownNotes shown = Read();
+    DrawSelection(page);
+    if (!notes.grid->drumMode) DrawTails(page, shown);
+    DrawNotes(page, shown);
+    if (Carries()) DrawCarried(page, shown);
+    if (state.playColumn >= 0) Fill(page, notes.grid->ColumnsRect(state.playColumn, 1), kPlayColumn);
+    if (state.OnCell()) DrawHovered(page);
+}
+
+/// Its cells are tinted, as they are what commands act on; the frame shows how far the hand has come.
+void ScorePainter::DrawSelection(CDrawBuffer& page) const
+{
+    const ScoreSpan columns = state.selection.Columns(*notes.grid), rows = state.selection.Rows(*notes.grid);
+    if (columns.Empty() || rows.Empty()) return;
+    const Rect corner = notes.grid->CellRect(columns.first, rows.last);
+    Fill(page,
+         {corner.x, corner.y, (columns.last - columns.first + 1) * corner.w, (rows.last - rows.first + 1) * corner.h},
+         WithAlpha(kPale, kSelectionTint));
+    Rect frame = state.selection.rect;
+    if (!page.ClipToClipRect(frame)) return;
+    page.SetFrameColor(WithAlpha(kPale, kSelectionFrame));
+    page.SetFrameWidth(1);
+    page.DrawFrame(frame);
+}
+
+/// From where a note ends to how far it sounds.
+void ScorePainter::DrawTails(CDrawBuffer& page, const ShownNotes& shown) const
+{
+    const ScoreGrid& grid = *notes.grid;
+    for (int column = 0; column < kSteps; ++column) {
+        if (shown.all[column] == 0) continue;
+        const int length = Truncate(notes.Beats(column) * kStepsPerBeat * ScoreGrid::cellWidth);
+        if (length <= ScoreGrid::cellWidth) continue;
+        ForRows(shown.all[column], [&](int row) {
+            const Rect cell = grid.CellRect(column, row);
+            const bool selected = (shown.selected[column] >> row & 1u) != 0;
+            Fill(page, {cell.x + cell.w - 1, cell.y + (cell.h - kTailHeight) / 2, length - cell.w + 1, kTailHeight},
+                 selected ? kSelectedNote.body : kNote.body);
+        });
+    }
+}
+
+void ScorePainter::DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const
+{
+    for (int column = 0; column < kSteps; ++column) {
+        const std::uint32_t selected = shown.selected[column];
+        ForRows(shown.all[column], [&](int row) {
+            DrawNote(page, *notes.grid, column, row, (selected >> row & 1u) != 0 ? kSelectedNote : kNote);
+        });
+    }
+}
+
+/// What is selected once more, where it would go.
+void ScorePainter::DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const
+{
+    const ScoreMove move = ScoreMove::Within(notes, state.selection, state.hoverColumn - state.pressColumn,
+                                             state.hoverRow - state.pressRow);
+    for (int column = 0; column < kSteps; ++column)
+        ForRows(shown.selected[column], [&](int row) {
+            DrawNote(page, *notes.grid, column + move.columns, row + move.rows, Faint(kSelectedNote));
+        });
+}
+
+/// What a click would set, as long as there is nothing.
+void ScorePainter::DrawHovered(CDrawBuffer& page) const
+{
+    const ScoreGrid& grid = *notes.grid;
+    const bool free = grid.drumMode ? !notes.IsNoteAt(state.hoverColumn, state.hoverRow)
+                                    : !notes.HasNoteInColumn(state.hoverColumn, notes.channel);
+    if (!free || state.rubberBand) return;
+    Fill(page, grid.ColumnsRect(state.hoverColumn, 1), WithAlpha(kPale, kHoverTint));
+    DrawNote(page, grid, state.hoverColumn, state.hoverRow, Faint(kNote));
+}
+
+// Hint
+
+namespace {
+
+constexpr const char* kHints[] = {
+    "C; Bar %d; Step %d",  "C#; Bar %d; Step %d", "D; Bar %d; Step %d",  "D#; Bar %d; Step %d",
+    "E; Bar %d; Step %d",  "F; Bar %d; Step %d",  "F#; Bar %d; Step %d", "G; Bar %d; Step %d",
+    "G#; Bar %d; Step %d", "A; Bar %d; Step %d",  "A#; Bar %d; Step %d", "B; Bar %d; Step %d",
+};
+constexpr int kOctave = std::size(kHints);
+
+} // namespace
+
+void ScoreHint(const ScoreGrid& grid, int column, int row, char* text)
+{
+    const int inside = Clamp(column, 0, kSteps - 1), key = Clamp(row, 0, grid.TopRow());
+    const int bar = inside / kStepsPerBar + 1, step = inside % kStepsPerBar + 1;
+    if (grid.drumMode)
+        std::snprintf(text, 64, "Sampler %d; Bar %d; Step %d", grid.ChannelOfRow(key) + 1, bar, step);
+    else
+        std::snprintf(text, 64, kHints[key % kOctave], bar, step);
+}
+
+/// Beside the cell, on the page. A copy is marked with a plus.
+void ScorePainter::DrawHint(CDrawBuffer& page, bool copying) const
+{
+    char text[64];
+    ScoreHint(*notes.grid, state.hoverColumn, state.hoverRow, text);
+    page.SetFont(0);
+    page.SetTextColor(kPale);
+    const Size size = page.DrawText(text, 0, 0, 0, 0, align::Left, true);
+    const Rect cell = notes.grid->CellRect(state.hoverColumn, state.hoverRow);
+    const int x = Clamp(cell.x + kHintAside, 0, page.width - size.width);
+    const int y = Clamp(cell.y - kHintAbove, 0, page.height - size.height);
+    const bool plus = copying && Carries();
+    const int before = plus ? 14 : 4;
+    Fill(page, {x - before, y - 2, size.width + before + 4, size.height + 4}, kHintGround);
+    page.DrawText(text, x, y, size.width, size.height, align::Left, false);
+    if (!plus) return;
+    Fill(page, {x - 10, y + 5, 7, 1}, kPale);
+    Fill(page, {x - 7, y + 2, 1, 7}, kPale);
+}
+
+} // namespace korvane
