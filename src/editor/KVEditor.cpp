@@ -1,6 +1,8 @@
 // The instrument's editor: its content, its pages and what the user does with them.
 #include "editor/KVEditor.h"
 
+#include <utility>
+
 #include "editor/KeyTable.h"
 #include "editor/LaneParameter.h"
 #include "editor/commands/DestinationList.h"
@@ -98,8 +100,25 @@ void KVEditor::RefreshAll()
 
 bool KVEditor::OpenScore(int x, int y)
 {
+    constexpr Point kAnywhere{-100, -100};
     const CControl* const control = GetMainGroup()->ControlAt(x, y);
-    return control && OpensScore(control->id, laneParameter);
+    if (!control || !OpensScore(control->id, laneParameter)) return false;
+    Score()->lane.laneParameter = laneParameter;
+    const bool before = std::exchange(cancelling, true); // what is held has to let go
+    Score()->OnLeftDown(kAnywhere.x, kAnywhere.y);
+    cancelling = before;
+    return true;
+}
+
+/// With a group above the panel, the score editor or the page about the instrument.
+bool KVEditor::ScoreKey(int code)
+{
+    switch (Score()->IsOpen() ? code : 0) {
+    case 'C': Score()->Copy(); return true;
+    case 'V': Score()->Paste(); return true;
+    case 'X': Score()->Clear(); return true;
+    default: return false;
+    }
 }
 
 bool KVEditor::ListIsOpen() const
@@ -126,7 +145,8 @@ void KVEditor::Send(int parameter, float value)
 bool KVEditor::OnKeyDown(int code)
 {
     const PanelKey* const row = PanelKeyOf(code);
-    if (!row || (activeGroup && code != key::Space)) return false;
+    if (activeGroup && code != key::Space) return ScoreKey(code);
+    if (!row) return false;
     const bool on = !row->toggles || instrument.GetParameter(row->parameter) == 0.0f;
     Send(row->parameter, on ? 1.0f : 0.0f);
     return true;

@@ -7,6 +7,7 @@
 #include "editor/commands/ProgramMenus.h"
 #include "editor/commands/WaveformMenus.h"
 #include "editor/layout/PlacedControls.h"
+#include "editor/score/ScoreEditControl.h"
 #include "gui/window/CSynthEditor.h"
 
 namespace korvane {
@@ -59,7 +60,9 @@ private:
 
     // What the user does.
     bool ListIsOpen() const;
+    ScoreEditControl* Score() const { return panel.Of<ScoreEditControl>(Role::Score); }
     bool OpenScore(int x, int y);
+    bool ScoreKey(int code);
     void Send(int parameter, float value);
     void ChangeParameter(const PlacedControl& placed);
     bool LetGo(const PlacedControl& placed) const;

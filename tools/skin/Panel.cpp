@@ -44,6 +44,7 @@ constexpr bool EveryControlStandsOnAPlate()
 {
     for (const ControlRow& row : kLayout)
         for (int n = 0; n < row.count; ++n) {
+            if (row.widget == Widget::Score) continue; // is not on the panel
             const Box place = BoxOf(PlaceOf(row, n));
             if (row.page == Page::All ? !StandsOnAPlate(place) : !Holds(kGlass, place)) return false;
         }

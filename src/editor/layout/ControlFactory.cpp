@@ -4,6 +4,7 @@
 #include "editor/elements/FXControl.h"
 #include "editor/elements/KVMeter.h"
 #include "editor/elements/KVMonitor.h"
+#include "editor/score/ScoreEditControl.h"
 #include "gui/controls/CControlDropDownList.h"
 
 namespace korvane {
@@ -75,9 +76,10 @@ ControlFactory::Adder ControlFactory::AdderOf(Widget widget)
     case Widget::GlowingText: return &F::AddLabel;
     case Widget::Meter: return &F::AddMeter;
     case Widget::Pad: return &F::AddPad;
-    case Widget::Monitor: break;
+    case Widget::Monitor: return &F::AddMonitor;
+    case Widget::Score: break;
     }
-    return &F::AddMonitor;
+    return &F::AddScore;
 }
 
 CControl* ControlFactory::Add(const ControlRow& row, int n)
@@ -263,6 +265,11 @@ CControl* ControlFactory::AddPad(const Order& order)
 CControl* ControlFactory::AddMonitor(const Order& order)
 {
     return Added(std::make_unique<KVMonitor>(order.place, *instrument.engine));
+}
+
+CControl* ControlFactory::AddScore(const Order& order)
+{
+    return Added(std::make_unique<ScoreEditControl>(order.place, instrument));
 }
 
 } // namespace korvane

@@ -48,6 +48,7 @@ private:
     CControl* AddMeter(const Order& order);
     CControl* AddPad(const Order& order);
     CControl* AddMonitor(const Order& order);
+    CControl* AddScore(const Order& order);
 
     CControl* Added(std::unique_ptr<CControl> made);
     std::unique_ptr<CControlButton> Button(const Order& order, int mode);

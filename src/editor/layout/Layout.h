@@ -35,7 +35,8 @@ enum class Widget : std::uint8_t {
     GlowingText,
     Meter,
     Pad,
-    Monitor
+    Monitor,
+    Score // off the window while it is closed
 };
 
 /// The pages that have a control.
@@ -62,6 +63,7 @@ enum class Role : std::uint8_t {
     ProgramMenu,
     ProgramArrow, // back, on
     GrooveMenu,
+    Score,
     LinkSwitch,
     IgnoreController,
     LinkText, // parameter, source
@@ -234,6 +236,7 @@ inline constexpr ControlRow kLayout[] = {
     {Widget::Momentary,      345, 239,  11,  18, image::ProgramArrows,  kNoId,  Page::All,     Role::ProgramArrow, 2, 126, 0, 0, 11},
     // Groove, MIDI links, screen
     {Widget::List,           903,  31, 120,  38, kNoImage,      kGrooveMenuId,  Page::All,     Role::GrooveMenu, 1, 0, 0,  0,   0, 0, look::Amber},
+    {Widget::Score,          -50, -50,  20,  20, kNoImage,              kNoId,  Page::All,     Role::Score},
     {Widget::Toggle,         734,  35,  16,  26, image::LinkSwitch,     kNoId,  Page::All,     Role::LinkSwitch},
     {Widget::Toggle,         734,  67,  99,  11, image::IgnoreController, kNoId, Page::All,    Role::IgnoreController},
     {Widget::GlowingText,    779,  32, 110,  16, kNoImage,              kNoId,  Page::All,     Role::LinkText, 2,  0, 18},

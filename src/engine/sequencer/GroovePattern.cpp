@@ -50,8 +50,10 @@ void GroovePattern::CopyFrom(const GroovePattern& other)
 void GroovePattern::ClearStep(int channel, int step)
 {
     steps[channel][step] = 0u;
-    lockEdits.Clear(&locks[channel][step], 1);
+    ClearLocks(channel, step);
 }
+
+void GroovePattern::ClearLocks(int channel, int step) { lockEdits.Clear(&locks[channel][step], 1); }
 
 void GroovePattern::ClearChannel(int channel)
 {
@@ -89,6 +91,12 @@ void GroovePattern::CopySteps(int channel, int step, const GroovePattern& from, 
 {
     for (int n = 0; n < count; ++n) steps[channel][step + n] = from.steps[channel][fromStep + n];
     lockEdits.Copy(&locks[channel][step], &from.locks[channel][fromStep], count);
+}
+
+void GroovePattern::CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep)
+{
+    steps[channel][step] = from.steps[fromChannel][fromStep];
+    lockEdits.Copy(&locks[channel][step], &from.locks[fromChannel][fromStep], 1);
 }
 
 void GroovePattern::SwapSteps(int channel, int a, int b)

@@ -29,6 +29,7 @@ public:
     void CopyFrom(const GroovePattern& other);
 
     void ClearStep(int channel, int step);
+    void ClearLocks(int channel, int step);
     void ClearChannel(int channel);
     /// Adds notes to a step, takes them out or turns them over, in one piece; the word after it.
     std::uint32_t SetNotes(int channel, int step, std::uint32_t notes);
@@ -40,6 +41,8 @@ public:
     void SetLock(int channel, int step, int param, float offset);
     /// Copies steps of a channel, words and locks, from another pattern.
     void CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count);
+    /// Copies one step of any channel.
+    void CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep);
     /// Exchanges two steps of a channel, words and locks. A note put into one of them meanwhile stays where it was put.
     void SwapSteps(int channel, int a, int b);
     /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps.
