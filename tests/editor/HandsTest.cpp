@@ -66,6 +66,7 @@ TEST_F(HandsTest, RightClicksChooseTheLanesParameterAndLeaveOthersToTheirControl
                 {73, 74, false},  {75, 76, false},   {70, 70, false},   {136, 136, false}, {47, 136, true},
                 {0, 136, true},   {80, 80, false},   {148, 148, false}, {152, 148, true}};
     Show(2, false);
+    const ScoreEditControl& score = *editor->panel.Of<ScoreEditControl>(Role::Score);
     for (const auto& row : rows) {
         SCOPED_TRACE(row.id);
         CControl& control = *editor->panel.Bound(row.id);
@@ -79,6 +80,11 @@ TEST_F(HandsTest, RightClicksChooseTheLanesParameterAndLeaveOthersToTheirControl
         const bool isKnob = row.id == 47 || row.id == 0; // goes to its default
         EXPECT_EQ(control.GetValue() == before, !isKnob);
         EXPECT_EQ(Take().empty(), !isKnob);
+        EXPECT_EQ(score.IsOpen(), !row.goesOn);
+        if (!score.IsOpen()) continue;
+        EXPECT_EQ(score.lane.laneParameter, row.lane);
+        Press(mouse::RightDown);
+        EXPECT_FALSE(score.IsOpen());
     }
     Show(9, false);
     Click(80, 140, mouse::RightDown); // the same place on a page without that knob
@@ -89,16 +95,17 @@ TEST_F(HandsTest, RightClicksChooseTheLanesParameterAndLeaveOthersToTheirControl
     EXPECT_EQ(editor->capturingGroup, nullptr); // and is closed
 }
 
-TEST_F(HandsTest, ARightPressWithinADragIsNoReset)
+TEST_F(HandsTest, ARightPressWithinADragEndsItAndOpensTheScore)
 {
     const Rect place = editor->panel.Bound(88)->rect;
     Move(place.x + 5, place.y + 5);
     Press(mouse::LeftDown);
     Take();
     Press(mouse::RightDown);
-    EXPECT_EQ(Take(), Log{}); // one gesture at a time
+    EXPECT_EQ(Take(), Log{"end 88 0"}); // no reset
     Press(mouse::LeftUp);
-    EXPECT_EQ(Take(), Log{"end 88 0"});
+    EXPECT_EQ(Take(), Log{});
+    EXPECT_TRUE(editor->panel.Of<ScoreEditControl>(Role::Score)->IsOpen());
 }
 
 TEST_F(HandsTest, ResetStartMovesTheCurrentLayersStart)
