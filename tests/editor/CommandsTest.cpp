@@ -63,7 +63,8 @@ TEST_F(CommandsTest, LayerButtonsActOnTheCurrentLayerWhenTheyAreLetGo)
 TEST_F(CommandsTest, AButtonThatIsTakenFromTheUserDoesNothing)
 {
     const std::function<void()> takings[] = {
-        [this] { Engine().selection.selectedChannel = 9, Tick(); }, // its page goes
+        [this] { Engine().selection.selectedChannel = 9, Tick(); },                   // its page goes
+        [this] { Move(530, 160), Press(mouse::RightDown), Press(mouse::RightDown); }, // the score opens and closes
         [this] { window->StealGrab(), Tick(); }, [this] { editor->Close(); }};
     for (const auto& take : takings) {
         Show(2, false);
