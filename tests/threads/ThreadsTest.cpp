@@ -173,7 +173,7 @@ TEST_F(Threads, DoAsTheyLike)
 // that it set, beside one lock of each other. The changes of a phase fit into the queue, whoever is interrupted.
 TEST(StepLocks, ThreadsLoseNoneOfTheirChanges)
 {
-    constexpr int kThreads = 4, kShared = 3, kEach = 15, kRounds = 1000;
+    constexpr int kThreads = 4, kShared = 3, kEach = 15, kRounds = 6000;
     GroovePattern pattern, clipboard;
     clipboard.SetLock(0, 0, kThreads, 0.5f);
     std::array<std::array<float, kShared>, kThreads> last{};

@@ -125,6 +125,13 @@ TEST_F(Sequencer, EditedStepTakesLocks)
     EXPECT_NEAR(Left(8).back(), 5.0f * locked, 0.01f * locked);
     EXPECT_EQ(Right(8).back(), Left(8).back());
     Play(30 * kStep); // to the locked step again
+    const auto pan = [this](std::size_t pattern, int step) {
+        engine.HearStep(*engine.score.patterns[pattern], 8, step);
+        return static_cast<float>(engine.Channel(8).sound.params[slot::Panning]);
+    };
+    engine.SetStepParameter(engine.score.Current(), 8, 17, slot::Panning, 0.25f);
+    EXPECT_EQ(engine.StepParameter(engine.score.Current(), 8, 17, slot::Panning), 0.25f);
+    EXPECT_EQ((std::vector{pan(0, 16), pan(1, 17), pan(0, 17)}), (std::vector{1.0f, 1.0f, 0.25f})) << "as it plays";
     Set({{param::Play, 0.0f}, {param::Play, 1.0f}});
     EXPECT_EQ(engine.Channel(8).sound.params[slot::Panning], 0.5f) << "a new start finds no lock of the last one";
 }
@@ -175,7 +182,10 @@ TEST_F(Sequencer, CopiesPastesAndClears)
     engine.selection.channelMarked[8] = true;
     engine.score.Clear(engine.selection);
     EXPECT_EQ(Notes(8), Steps{});
+    EXPECT_EQ(Locks(8, 71).Count(), 0);
     EXPECT_EQ(Notes(0), (Steps{{1, 2u}, {71, 128u}}));
+    EXPECT_EQ(engine.score.Current().ClearNotes(0, 71, 3u), 128u);
+    EXPECT_EQ(engine.score.Current().ClearNotes(0, 71, 131u), 0u);
 }
 
 TEST_F(Sequencer, NudgesHeldSteps)
