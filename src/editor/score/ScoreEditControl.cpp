@@ -127,7 +127,7 @@ bool ScoreEditControl::PressButton(Point at)
 void ScoreEditControl::PressPage(Point at)
 {
     const Rect grid = Grid().GridRect();
-    pressPoint = lanePoint = at;
+    pressPoint = lastPoint = at;
     state.pressColumn = state.pressRow = state.barPick = -1;
     state.dragged = state.rubberBand = state.laneDrag = state.keyDrag = false;
     Hover(at);
@@ -199,8 +199,13 @@ void ScoreEditControl::Hover(Point at)
 void ScoreEditControl::Follow(Point at)
 {
     Hover(at);
+    if (state.pressActive) Drag(at);
+    lastPoint = at;
+}
+
+void ScoreEditControl::Drag(Point at)
+{
     if (state.hoverColumn != state.pressColumn || state.hoverRow != state.pressRow) state.dragged = true;
-    if (!state.pressActive) return;
     if (state.keyDrag) return FollowKeys(at);
     if (state.barPick >= 0) return FollowBars(at);
     if (state.laneDrag) return FollowLane(at);
@@ -229,8 +234,7 @@ void ScoreEditControl::SelectBars(int first, int last)
 
 void ScoreEditControl::FollowLane(Point at)
 {
-    lane.Draw(lanePoint, at, state.selection);
-    lanePoint = at;
+    lane.Draw(lastPoint, at, state.selection);
     SetDirty(true);
 }
 
@@ -256,7 +260,7 @@ void ScoreEditControl::OnLeftUp(int x, int y)
     if (!IsOpen()) return;
     LeaveEditMode();
     if (!state.pressActive) return;
-    Follow(Inside(x, y));
+    if (const Point at = Inside(x, y); at != lastPoint) Follow(at);
     state.pressActive = state.rubberBand = false;
     SetDirty(true);
     EndAudition();

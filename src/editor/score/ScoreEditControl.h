@@ -61,6 +61,7 @@ private:
     // Moves
     void Hover(Point at);
     void Follow(Point at);
+    void Drag(Point at);
     void FollowKeys(Point at);
     void FollowBars(Point at);
     void FollowLane(Point at);
@@ -81,7 +82,7 @@ private:
     ScorePainter painter;
     std::unique_ptr<CDrawBuffer> gridImage, workImage; // the page below, and the editor; null while closed
     Rect closedRect;
-    Point pressPoint, rubberOrigin, lanePoint; // relative to the open editor
+    Point pressPoint, lastPoint, rubberOrigin; // relative to the open editor
     int auditionChannel = 0, auditionNote = 0; // what sounds while state.auditionRow is one
 };
 

@@ -101,9 +101,13 @@ void GroovePattern::CopyStep(int channel, int step, const GroovePattern& from, i
 
 void GroovePattern::SwapSteps(int channel, int a, int b)
 {
-    const std::uint32_t wordA = steps[channel][a].Exchange(0u), wordB = steps[channel][b].Exchange(0u);
-    SetNotes(channel, a, wordB);
-    SetNotes(channel, b, wordA);
+    const std::uint32_t wordA = steps[channel][a], wordB = steps[channel][b];
+    const auto exchange = [this, channel](int step, std::uint32_t old, std::uint32_t notes) {
+        steps[channel][step].Update([=](std::uint32_t word) { return (word & ~old) | notes; });
+    };
+    SetNotes(channel, a, wordB); // no tick meets the pattern without them, and takes it for shorter
+    exchange(b, wordB, wordA);
+    exchange(a, wordA, wordB);
     lockEdits.Swap(locks[channel][a], locks[channel][b]);
 }
 

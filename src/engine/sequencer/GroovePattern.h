@@ -43,7 +43,7 @@ public:
     void CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count);
     /// Copies one step of any channel.
     void CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep);
-    /// Exchanges two steps of a channel, words and locks. A note put into one of them meanwhile stays where it was put.
+    /// Exchanges two steps of a channel, words and locks. A note put into one of them meanwhile stays in one.
     void SwapSteps(int channel, int a, int b);
     /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps.
     void UpdateLength();
