@@ -120,9 +120,9 @@ void DrawHints(cairo_t* pen, double y)
         double x;
     };
     constexpr Hint kHints[] = {{"CLICK", "sets or clears a note", 440},
-                               {"DRAG", "moves what is selected", 575},
-                               {"CTRL + DRAG", "selects, or copies", 720},
-                               {"WHEEL", "note length", 872},
+                               {"DRAG", "selects, or moves what is selected", 564},
+                               {"CTRL + DRAG", "selects, or copies", 742},
+                               {"WHEEL", "note length", 864},
                                {"RIGHT CLICK", "closes", 964}};
     for (const Hint& hint : kHints) {
         Write(pen, kType, kTitleInk, hint.hand, hint.x, y - 5, Stand::Left);

@@ -1,6 +1,8 @@
 // Draws the open score editor: what lies around its grid.
 #include "editor/score/ScorePainter.h"
 
+#include <iterator>
+
 #include "editor/score/ScoreClipboard.h"
 #include "gui/controls/KeptDrawState.h"
 #include "platform/Numbers.h"
@@ -17,6 +19,8 @@ struct BarLook {
 };
 constexpr BarLook kBar{Rgb(224, 103, 4, 84), Rgb(224, 103, 4, 150), Rgb(250, 140, 50, 230)};
 constexpr BarLook kSelectedBar{Rgb(223, 186, 4, 84), Rgb(223, 186, 4, 150), Rgb(250, 222, 70, 230)};
+
+constexpr float kResting = 105.0f / 255.0f; // opacity of a button that would do nothing
 
 constexpr int kNameHeight = 20, kNameMargin = 20, kTopEdge = 2, kHoverFrame = 2;
 
@@ -67,8 +71,7 @@ void ScorePainter::DrawLane(CDrawBuffer& page, const char* parameterName) const
 void ScorePainter::DrawBars(CDrawBuffer& page) const
 {
     const ScoreSpan selected = state.selection.Columns(*notes.grid);
-    int column = notes.HasNoteInColumn(0, notes.channel) ? 0 : notes.NextNote(0);
-    for (int next; column < kSteps; column = next) {
+    for (int column = notes.NextNote(-1), next; column < kSteps; column = next) {
         next = notes.NextNote(column);
         const BarLook& look = selected.Holds(column) ? kSelectedBar : kBar;
         const int height = HeightOf(lane.LaneValue(column));
@@ -102,25 +105,25 @@ void ScorePainter::DrawKeyMarks(CDrawBuffer& page) const
 
 // Buttons
 
+/// Whether it would do anything now.
+bool ScorePainter::Acts(ScoreCommand command) const
+{
+    if (command == ScoreCommand::Play) return true;
+    return state.selection.Exists() && (command != ScoreCommand::Paste || CopiedScore().Fits(*notes.grid));
+}
+
 void ScorePainter::DrawButtons(CDrawBuffer& page, const CBitmap* image, bool playing) const
 {
-    constexpr int kWidth = 69, kHeight = 34, kPlayHeight = 45;
-    constexpr struct {
-        int x, column; // on the page, of the image
-    } kCommands[] = {{30, 149}, {130, 75}, {230, 3}}, kPlay{330, 223};
-    constexpr int kPaste = 1, kRow = 6, kFlashRow = 56, kPlayRow = 49;
-    constexpr float kFull = 255.0f, kFaint = 105.0f / kFull;
-
-    const int offset = notes.grid->buttonsOffset;
-    for (int n = 0; n < 3; ++n) {
-        const Rect place{kCommands[n].x, 500 + offset, kWidth, kHeight};
-        const bool acts = state.selection.Exists() && (n != kPaste || CopiedScore().Fits(*notes.grid));
-        page.DrawBitmapBlended(image, place, {kCommands[n].column, kRow}, acts ? 1.0f : kFaint);
-        const float flash = static_cast<float>(state.flash[n]) / kFull;
-        page.DrawBitmapBlended(image, place, {kCommands[n].column, kFlashRow}, flash);
+    for (int n = 0; n < static_cast<int>(std::size(kScoreButtons)); ++n) {
+        const ScoreButton& button = kScoreButtons[n];
+        const Rect place = button.PlaceOn(*notes.grid);
+        const bool play = button.command == ScoreCommand::Play;
+        page.DrawBitmapBlended(image, place, {button.imageColumn, play && playing ? button.onRow : button.imageRow},
+                               Acts(button.command) ? 1.0f : kResting);
+        if (!play)
+            page.DrawBitmapBlended(image, place, {button.imageColumn, button.onRow},
+                                   static_cast<float>(state.flash[n]) / 255.0f);
     }
-    const Rect place{kPlay.x, 495 + offset, kWidth, kPlayHeight};
-    page.DrawBitmap(image, place, {kPlay.column, playing ? kPlayRow : 0});
 }
 
 } // namespace korvane

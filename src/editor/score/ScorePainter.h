@@ -1,6 +1,7 @@
 // Draws the open score editor.
 #pragma once
 
+#include "editor/score/ScoreButtons.h"
 #include "editor/score/ScoreLane.h"
 #include "editor/score/ScoreState.h"
 #include "gui/pixels/CDrawBuffer.h"
@@ -45,6 +46,7 @@ private:
     void DrawBars(CDrawBuffer& page) const;
     void DrawHoveredBar(CDrawBuffer& page) const;
     void DrawKeyMarks(CDrawBuffer& page) const;
+    bool Acts(ScoreCommand command) const;
     void DrawButtons(CDrawBuffer& page, const CBitmap* image, bool playing) const;
 
     const ScoreNotes& notes;

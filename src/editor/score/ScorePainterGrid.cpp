@@ -60,12 +60,10 @@ ScorePainter::ShownNotes ScorePainter::Read() const
 {
     ShownNotes shown{};
     const ScoreSpan columns = state.selection.Columns(*notes.grid), rows = state.selection.Rows(*notes.grid);
-    for (int column = 0; column < kSteps; ++column)
-        for (int row = 0; row < notes.grid->rowCount; ++row) {
-            if (!notes.IsNoteAt(column, row)) continue;
-            shown.all[column] |= 1u << row;
-            if (columns.Holds(column) && rows.Holds(row)) shown.selected[column] |= 1u << row;
-        }
+    for (int column = 0; column < kSteps; ++column) {
+        shown.all[column] = notes.SelectedIn(column, {0, notes.grid->TopRow()});
+        if (columns.Holds(column)) shown.selected[column] = notes.SelectedIn(column, rows);
+    }
     return shown;
 }
 
