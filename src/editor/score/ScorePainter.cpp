@@ -12,6 +12,7 @@ namespace korvane {
 namespace {
 
 constexpr Color kLine = Rgb(177, 180, 224), kName = Rgb(177, 180, 124);
+constexpr Color kNameGround = Rgb(22, 24, 27, 190); // lets it be read on bars
 constexpr Color kOwnChannel = Rgb(224, 103, 4, 50), kAuditioned = Rgb(224, 123, 24, 170);
 
 struct BarLook {
@@ -22,7 +23,7 @@ constexpr BarLook kSelectedBar{Rgb(223, 186, 4, 84), Rgb(223, 186, 4, 150), Rgb(
 
 constexpr float kResting = 105.0f / 255.0f; // opacity of a button that would do nothing
 
-constexpr int kNameHeight = 20, kNameMargin = 20, kTopEdge = 2, kHoverFrame = 2;
+constexpr int kNameHeight = 20, kNameMargin = 20, kNameAir = 5, kTopEdge = 2, kHoverFrame = 2;
 
 void Fill(CDrawBuffer& page, Rect rect, Color color)
 {
@@ -57,14 +58,17 @@ void ScorePainter::Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* pa
 void ScorePainter::DrawLane(CDrawBuffer& page, const char* parameterName) const
 {
     constexpr Rect place = ScoreGrid::laneRect;
+    const Rect name{place.x, place.y, place.w - kNameMargin, kNameHeight};
+    page.SetFont(0);
     if (lane.HasLocks()) {
         DrawBars(page);
+        const Size text = page.DrawText(parameterName, 0, 0, 0, 0, align::Left, true);
+        Fill(page, {name.x + name.w - text.width - kNameAir, name.y, text.width + 2 * kNameAir, name.h}, kNameGround);
         const int bottom = place.y + place.h, y = bottom - HeightOf(lane.LaneValue());
         Fill(page, {place.x, y < bottom ? y : bottom - 1, place.w, 1}, kLine);
     }
-    page.SetFont(0);
     page.SetTextColor(kName);
-    page.DrawText(parameterName, place.x, place.y, place.w - kNameMargin, kNameHeight, align::Right, false);
+    page.DrawText(parameterName, name.x, name.y, name.w, name.h, align::Right, false);
 }
 
 /// A side of its own tells a bar from an equal one before it.

@@ -20,7 +20,7 @@ constexpr Color kPale = Rgb(244, 249, 166), kPlayColumn = Rgb(255, 0, 0, 50);
 constexpr int kFaint = 60, kHoverTint = 20, kSelectionTint = 18, kSelectionFrame = 120;
 
 constexpr int kTailHeight = 2, kCoreAcross = 2, kCoreDown = 6;
-constexpr int kHintAside = 20, kHintAbove = 20;
+constexpr int kHintAside = 20, kHintAbove = 20, kHintAir = 4, kPlusWidth = 10;
 constexpr Color kHintGround = Rgb(12, 10, 9, 170);
 
 constexpr NoteLook Faint(NoteLook look) { return {WithAlpha(look.body, kFaint), WithAlpha(look.core, kFaint)}; }
@@ -29,6 +29,15 @@ void Fill(CDrawBuffer& page, Rect rect, Color color)
 {
     page.SetFillColor(color);
     page.FillRect(rect);
+}
+
+/// Closed where the clip cuts it.
+void DrawSelectionFrame(CDrawBuffer& page, Rect frame)
+{
+    if (!page.ClipToClipRect(frame)) return;
+    page.SetFrameColor(WithAlpha(kPale, kSelectionFrame));
+    page.SetFrameWidth(1);
+    page.DrawFrame(frame);
 }
 
 /// A right and a bottom line of the cell stay free.
@@ -89,11 +98,7 @@ void ScorePainter::DrawSelection(CDrawBuffer& page) const
     Fill(page,
          {corner.x, corner.y, (columns.last - columns.first + 1) * corner.w, (rows.last - rows.first + 1) * corner.h},
          WithAlpha(kPale, kSelectionTint));
-    Rect frame = state.selection.rect;
-    if (!page.ClipToClipRect(frame)) return;
-    page.SetFrameColor(WithAlpha(kPale, kSelectionFrame));
-    page.SetFrameWidth(1);
-    page.DrawFrame(frame);
+    DrawSelectionFrame(page, state.selection.rect);
 }
 
 /// From where a note ends to how far it sounds.
@@ -132,6 +137,10 @@ void ScorePainter::DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const
         ForRows(shown.selected[column], [&](int row) {
             DrawNote(page, *notes.grid, column + move.columns, row + move.rows, Faint(kSelectedNote));
         });
+    Rect frame = state.selection.rect;
+    frame.x += move.columns * ScoreGrid::cellWidth;
+    frame.y -= move.rows * notes.grid->cellHeight;
+    DrawSelectionFrame(page, frame);
 }
 
 /// What a click would set, as long as there is nothing.
@@ -156,6 +165,12 @@ constexpr const char* kHints[] = {
 };
 constexpr int kOctave = std::size(kHints);
 
+void DrawPlus(CDrawBuffer& page, Point corner)
+{
+    Fill(page, {corner.x, corner.y + 3, 7, 1}, kPale);
+    Fill(page, {corner.x + 3, corner.y, 1, 7}, kPale);
+}
+
 } // namespace
 
 void ScoreHint(const ScoreGrid& grid, int column, int row, char* text)
@@ -177,15 +192,13 @@ void ScorePainter::DrawHint(CDrawBuffer& page, bool copying) const
     page.SetTextColor(kPale);
     const Size size = page.DrawText(text, 0, 0, 0, 0, align::Left, true);
     const Rect cell = notes.grid->CellRect(state.hoverColumn, state.hoverRow);
-    const int x = Clamp(cell.x + kHintAside, 0, page.width - size.width);
+    const int x = Clamp(cell.x + kHintAside, 0, page.width - size.width - kHintAir);
     const int y = Clamp(cell.y - kHintAbove, 0, page.height - size.height);
     const bool plus = copying && Carries();
-    const int before = plus ? 14 : 4;
-    Fill(page, {x - before, y - 2, size.width + before + 4, size.height + 4}, kHintGround);
+    const int before = plus ? kHintAir + kPlusWidth : kHintAir;
+    Fill(page, {x - before, y - 2, before + size.width + kHintAir, size.height + 4}, kHintGround);
     page.DrawText(text, x, y, size.width, size.height, align::Left, false);
-    if (!plus) return;
-    Fill(page, {x - 10, y + 5, 7, 1}, kPale);
-    Fill(page, {x - 7, y + 2, 1, 7}, kPale);
+    if (plus) DrawPlus(page, {x - kPlusWidth, y + 2});
 }
 
 } // namespace korvane
