@@ -1,4 +1,4 @@
-// What the instrument's editor costs: opening, a tick while a groove plays, a change of page, the skin's memory.
+// What the instrument's editor costs: opening, a tick while a groove plays, a change of page, the score, the skin.
 #include <chrono>
 #include <memory>
 #include <stdexcept>
@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 
 #include "demo/ShownEditor.h"
+#include "editor/score/ScoreEditControl.h"
 #include "platform/window/MemoryWindow.h"
 
 namespace korvane {
@@ -92,6 +93,46 @@ void EditorChangesPage(benchmark::State& state)
     }
 }
 BENCHMARK(EditorChangesPage)->Unit(benchmark::kMicrosecond);
+
+/// The score editor, open over a pattern with a note in every cell and a lock on every step; 0 the piano roll, 1 the
+/// drum grid.
+struct ShownScore : Shown {
+    explicit ShownScore(bool drums)
+    {
+        Open();
+        GrooveEngine& engine = *sound.instrument->engine;
+        const int channel = drums ? 0 : kSamplerChannels;
+        engine.selection.selectedChannel = channel;
+        GroovePattern& pattern = engine.score.Current();
+        for (int n = 0; n < kChannels * kSteps; ++n) pattern.steps[n / kSteps][n % kSteps] = (1u << kNotes) - 1;
+        for (int step = 0; step < kSteps; ++step)
+            pattern.SetLock(channel, step, slot::FilterCutoff, static_cast<float>(step) / -kSteps);
+        Tick();
+        constexpr int kCutoff = 92; // of the parameters
+        const Rect place = editor->panel.Bound(kCutoff)->rect;
+        window->MoveTo(place.x + place.w / 2, place.y + place.h / 2);
+        window->Press(mouse::RightDown);
+        window->Serve(0);
+        if (!Score().IsOpen()) throw std::runtime_error("the score editor does not open");
+    }
+    ScoreEditControl& Score() { return *editor->panel.Of<ScoreEditControl>(Role::Score); }
+};
+
+void ScoreRedraws(benchmark::State& state)
+{
+    ShownScore shown(state.range(0) == 1);
+    CDrawBuffer page;
+    page.Create(kEditorSize.height, kEditorSize.width, false);
+    for (auto _ : state) shown.Score().Draw(&page);
+}
+BENCHMARK(ScoreRedraws)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
+
+void ScoreTick(benchmark::State& state)
+{
+    ShownScore shown(state.range(0) == 1);
+    for (auto _ : state) shown.Tick();
+}
+BENCHMARK(ScoreTick)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 } // namespace
 } // namespace korvane
