@@ -3,6 +3,7 @@
 
 #include <iterator>
 
+#include "editor/score/Fill.h"
 #include "editor/score/ScoreClipboard.h"
 #include "gui/controls/KeptDrawState.h"
 #include "platform/Numbers.h"
@@ -24,12 +25,6 @@ constexpr BarLook kSelectedBar{Rgb(223, 186, 4, 84), Rgb(223, 186, 4, 150), Rgb(
 constexpr float kResting = 105.0f / 255.0f; // opacity of a button that would do nothing
 
 constexpr int kNameHeight = 20, kNameMargin = 20, kNameAir = 5, kTopEdge = 2, kHoverFrame = 2;
-
-void Fill(CDrawBuffer& page, Rect rect, Color color)
-{
-    page.SetFillColor(color);
-    page.FillRect(rect);
-}
 
 int HeightOf(float value) { return Truncate(static_cast<float>(ScoreGrid::laneRect.h) * value); }
 

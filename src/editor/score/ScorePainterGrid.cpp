@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <iterator>
 
+#include "editor/score/Fill.h"
 #include "editor/score/ScoreMove.h"
 #include "editor/score/ScorePainter.h"
 #include "gui/controls/KeptDrawState.h"
@@ -24,12 +25,6 @@ constexpr int kHintAside = 20, kHintAbove = 20, kHintAir = 4, kPlusWidth = 10;
 constexpr Color kHintGround = Rgb(12, 10, 9, 170);
 
 constexpr NoteLook Faint(NoteLook look) { return {WithAlpha(look.body, kFaint), WithAlpha(look.core, kFaint)}; }
-
-void Fill(CDrawBuffer& page, Rect rect, Color color)
-{
-    page.SetFillColor(color);
-    page.FillRect(rect);
-}
 
 /// Closed where the clip cuts it.
 void DrawSelectionFrame(CDrawBuffer& page, Rect frame)
