@@ -145,8 +145,8 @@ void ScorePainter::DrawHovered(CDrawBuffer& page) const
     const bool free = grid.drumMode ? !notes.IsNoteAt(state.hoverColumn, state.hoverRow)
                                     : !notes.HasNoteInColumn(state.hoverColumn, notes.channel);
     if (!free || state.rubberBand) return;
-    Fill(page, grid.ColumnsRect(state.hoverColumn, 1), WithAlpha(kPale, kHoverTint));
     DrawNote(page, grid, state.hoverColumn, state.hoverRow, Faint(kNote));
+    Fill(page, grid.ColumnsRect(state.hoverColumn, 1), WithAlpha(kPale, kHoverTint));
 }
 
 // Hint
