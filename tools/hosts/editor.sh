@@ -49,6 +49,35 @@ drag_up() {
     xdotool mouseup 1
 }
 
+# x, y in the editor; button
+click() {
+    local left top
+    read -r left top < <(editor_place)
+    xdotool mousemove $((left + $1)) $((top + $2)) sleep 0.1 click "$3" sleep 0.3
+}
+
+# Opens the score editor by a right click on LEVEL, sets a note at its upper left corner, takes a picture, takes the
+# note away and closes with a right click; fails when the screen does not show these.
+check_score() {
+    local panel empty note
+    panel=$(part_of_editor 60 20 520 143)
+    click 534 160 3
+    within 5 part_changes "$panel" 60 20 520 143 || failed "a right click on LEVEL does not open the score editor"
+    click 700 610 1  # beside everything, so that no hint lies over the note
+    empty=$(part_of_editor 7 13 37 235)
+    click 40 240 1
+    click 700 610 1
+    within 5 part_changes "$empty" 7 13 37 235 || failed "a click in the score editor sets no note"
+    take_picture
+    note=$(part_of_editor 7 13 37 235)
+    click 40 240 1
+    click 700 610 1
+    within 5 part_changes "$note" 7 13 37 235 || failed "a second click does not take the note away"
+    click 700 400 3
+    within 5 part_is "$panel" 60 20 520 143 || failed "a right click does not close the score editor"
+    echo "The score editor opens, takes a note and closes"
+}
+
 # width, height, x, y in the editor: a number that changes with what is shown there
 part_of_editor() {
     local left top
@@ -57,6 +86,7 @@ part_of_editor() {
 }
 # number from before, the part
 part_changes() { [ "$1" != "$(part_of_editor "${@:2}")" ]; }
+part_is() { ! part_changes "$@"; }
 
 # part of a title, key: presses a key in that window when it has come
 answer() { within "${3:-20}" is_shown "$1" && press_key "$1" "$2"; }
