@@ -6,13 +6,14 @@
 #include <sstream>
 #include <string>
 
-#include "editor/score/ScoreEditControl.h"
 #include "engine/Transport.h"
 #include "support/PanelRig.h"
 
 namespace korvane {
 
-/// All patterns are empty and the first one is selected. Points are relative to the open score editor.
+/// All patterns are empty at first, the first one is selected.
+///
+/// Places: "10,5" middle of a cell, "L10,0.75" a height in the lane, "B2" bar, "K3" key, "P120,400" pixel of the editor
 struct ScoreRig : testing::Test, PanelRig {
     ScoreRig()
     {
@@ -20,110 +21,110 @@ struct ScoreRig : testing::Test, PanelRig {
         Engine().score.Reset();
     }
     ScoreEditControl& Score() { return *editor->panel.Of<ScoreEditControl>(Role::Score); }
-    ScoreState& State() { return Score().state; }
     GroovePattern& Pattern(int n = 0) { return *static_cast<GroovePattern*>(Engine().score.patterns[n]); }
-
-    /// Opens it as a user does, with a right click on a parameter's control.
-    void Edit(int channel, int lane = 88)
+    Point Place(const std::string& text) const
+    {
+        float a = 0.0f, b = 0.0f;
+        std::sscanf(text.c_str() + (text[0] > '9'), "%f,%f", &a, &b);
+        const int x = static_cast<int>(a), y = static_cast<int>(b), row = text[0] == 'K' ? x : y;
+        const int rowY = drums ? 154 + 28 * (7 - row) + 14 : 154 + 14 * (23 - row) + 7;
+        if (text[0] == 'L') return {37 + 8 * x + 4, 10 + static_cast<int>(128 - 128 * b)};
+        if (text[0] == 'B') return {37 + 128 * x + 64, 146};
+        if (text[0] == 'K') return {10, rowY};
+        return text[0] == 'P' ? Point{x, y} : Point{37 + 8 * x + 4, rowY};
+    }
+    void Edit(int channel)
     {
         Show(channel, false);
         const Rect place = editor->panel.Bound(lane)->rect;
-        PanelRig::Click(place.x + place.w / 2, place.y + place.h / 2, mouse::RightDown);
+        Click(place.x + place.w / 2, place.y + place.h / 2, mouse::RightDown);
         drums = channel < 8;
         top = drums ? 194 : 81;
+        Move(600, 600); // below the grid
     }
-    /// The middle of a cell.
-    Point Cell(int column, int row) const
+    void Type(int code) { Key(code, true), Key(code, false); }
+    void To(const std::string& place, int right = 0, int down = 0)
     {
-        return {37 + 8 * column + 4, drums ? 154 + 28 * (7 - row) + 14 : 154 + 14 * (23 - row) + 7};
+        Move(Place(place).x + right, Place(place).y + down + top);
     }
-    static Point Lane(int column, float value)
+    /// One step, as Text has it.
+    void Put(const std::string& step)
     {
-        return {37 + 8 * column + 4, 10 + static_cast<int>(128 - 128 * value)};
+        int pattern = 0, channel = 0, column = 0, param = 0;
+        unsigned notes = 0;
+        float offset = 0.0f;
+        if (step[1] == '/') pattern = step[0] - '0';
+        const char* const text = step.c_str() + (step[1] == '/' ? 2 : 0);
+        std::sscanf(text, "%d.%d:%x[%d=%f]", &channel, &column, &notes, &param, &offset);
+        Pattern(pattern).SetNotes(channel, column, notes);
+        Pattern(pattern).SetLock(channel, column, param, offset);
     }
-    static Point Strip(int bar) { return {37 + 128 * bar + 64, 146}; }
-    Point Key(int row) const { return {10, Cell(0, row).y}; }
-
-    void To(Point p) { Move(p.x, p.y + top); }
-    void Down(Point p)
+    void Do(const std::string& hands)
     {
-        To(p);
-        Press(mouse::LeftDown);
-    }
-    void Up() { Press(mouse::LeftUp); }
-    void Drag(Point from, Point to, int modifiers = 0)
-    {
-        window->HoldModifiers(modifiers);
-        Down(from);
-        To(to);
-        Up();
-        window->HoldModifiers(0);
-    }
-    void Tap(Point p) { Drag(p, p); }
-    void Wheel(int notches)
-    {
-        window->Wheel(notches);
-        window->Serve(0);
-    }
-    void Type(int code)
-    {
-        PanelRig::Key(code, true);
-        PanelRig::Key(code, false);
-    }
-    void SetPlaying(bool on)
-    {
-        instrument->SetParameter(1, on);
-        PanelRig::Play(64);
-    }
-
-    /// Steps as Text tells them.
-    void Put(const std::string& text, int pattern = 0)
-    {
-        std::istringstream words(text);
-        for (std::string word; words >> word;) {
-            int channel = 0, step = 0, param = 0;
-            unsigned notes = 0;
-            float offset = 0.0f;
-            if (std::sscanf(word.c_str(), "%d.%d:%x[%d=%f]", &channel, &step, &notes, &param, &offset) == 5)
-                Pattern(pattern).SetLock(channel, step, param, offset);
-            Pattern(pattern).SetNotes(channel, step, notes);
+        std::istringstream words(hands);
+        std::string verb, word;
+        const auto next = [&] { return words >> word, word; };
+        const auto number = [&] { return std::stoi(next()); };
+        // clang-format off
+        while (words >> verb) {
+            if (verb.find(':') != std::string::npos) Put(verb);
+            else if (verb == "on") lane = number(); // whose control opens it
+            else if (verb == "open") Edit(number());
+            else if (verb == "close") Click(5, 5, mouse::RightDown);
+            else if (verb == "pattern") Engine().score.currentPattern = number();
+            else if (verb == "channel") Engine().selection.selectedChannel = number();
+            else if (verb == "playing") Engine().clock.playing = number() != 0;
+            else if (verb == "to") To(next());
+            else if (verb == "down") To(next()), Press(mouse::LeftDown);
+            else if (verb == "up") Press(mouse::LeftUp);
+            else if (verb == "tap") Do("down " + next() + " up");
+            else if (verb == "drag") Do("down " + next()), Do("to " + next() + " up");
+            else if (verb == "ctrl") window->HoldModifiers(window->modifiers ^ modifier::Ctrl), window->Serve(0);
+            else if (verb == "band") Do("ctrl down " + next()), To(next(), 1, 3), Do("up ctrl"); // its cells
+            else if (verb == "wheel") window->Wheel(number()), window->Serve(0);
+            else if (verb == "type") Type(next() == "_" ? ' ' : word[0]);
+            else ADD_FAILURE() << verb;
         }
+        // clang-format on
     }
-    /// What is not empty: channel.step:word in hex, [parameter=offset] of each lock.
-    std::string Text(int pattern = 0)
+    /// Steps that are not empty, "pattern/channel.step:word in hex[parameter=offset]", and "|columns,rows|" selected.
+    std::string Text()
     {
         std::string text;
         char part[64];
-        for (int n = 0; n < kChannels * kSteps; ++n) {
-            const StepLockList& locks = Pattern(pattern).locks[n / kSteps][n % kSteps];
-            const unsigned notes = Pattern(pattern).steps[n / kSteps][n % kSteps];
+        const auto add = [&](auto... values) { std::snprintf(part, sizeof part, values...), text += part; };
+        for (int n = 0; n < kPatterns * kChannels * kSteps; ++n) {
+            const int pattern = n / kSteps / kChannels, channel = n / kSteps % kChannels, step = n % kSteps;
+            const StepLockList& locks = Pattern(pattern).locks[channel][step];
+            const unsigned notes = Pattern(pattern).steps[channel][step];
             if (notes == 0 && locks.Count() == 0) continue;
-            std::snprintf(part, sizeof part, "%s%d.%d:%x", text.empty() ? "" : " ", n / kSteps, n % kSteps, notes);
-            text += part;
-            for (int k = 0; k < locks.Count(); ++k) {
-                std::snprintf(part, sizeof part, "[%d=%.3g]", locks.At(k).param,
-                              static_cast<double>(locks.At(k).offset));
-                text += part;
-            }
+            if (!text.empty()) text += ' ';
+            if (pattern) add("%d/", pattern); // not of the first
+            add("%d.%d:%x", channel, step, notes);
+            for (int k = 0; k < locks.Count(); ++k)
+                add("[%d=%.3g]", locks.At(k).param, static_cast<double>(locks.At(k).offset));
         }
+        const ScoreSelection& selection = Score().state.selection;
+        const ScoreGrid& grid = drums ? kDrumGrid : kPianoRoll;
+        const ScoreSpan columns = selection.Columns(grid), rows = selection.Rows(grid);
+        if (selection.Exists()) add("|%d-%d,%d-%d|", columns.first, columns.last, rows.first, rows.last);
         return text;
     }
-    void Empty() { Pattern().Clear(); }
-    /// Notes of a channel that are held, after a short block.
-    std::vector<int> Sounding(int channel)
+    /// What hands do in empty patterns, and what is then there.
+    void Check(const std::vector<std::pair<std::string, std::string>>& cases)
     {
-        PanelRig::Play(64);
-        std::vector<int> notes;
-        for (const auto& voice : Engine().Channel(channel).voices)
-            if (voice->active && !voice->releasing) notes.push_back(voice->note);
-        return notes;
+        for (const auto& [hands, left] : cases) {
+            for (int n = 0; n < kPatterns; ++n) Pattern(n).Clear();
+            Engine().score.currentPattern = 0;
+            Do(hands);
+            EXPECT_EQ(Text(), left) << hands;
+            Do(window->modifiers ? "ctrl close up" : "close up");
+        }
     }
-    /// What the screen shows after a tick; (x, y) relative to the open editor.
-    Color Pixel(int x, int y) const
-    {
-        return window->shown[static_cast<std::size_t>(y + top) * 1065 + static_cast<std::size_t>(x)] & 0xFFFFFF;
-    }
+    /// On the screen; (x, y) relative to the open editor.
+    Color Pixel(int x, int y) const { return window->shown[static_cast<std::size_t>((y + top) * 1065 + x)] & 0xFFFFFF; }
 
+    int lane = 88;
     bool drums = false;
     int top = 0; // of the open editor in the window
 };

@@ -4,180 +4,77 @@
 namespace korvane {
 namespace {
 
-using Notes = std::vector<int>;
 using NotesTest = ScoreRig;
 
-TEST_F(NotesTest, AClickSetsANoteAndASecondTakesItOut)
+// clang-format off
+TEST_F(NotesTest, AClickTurnsANoteOver)
 {
-    const struct {
-        int channel, column, row;
-        const char *before, *once, *twice;
-    } rows[] = {{9, 0, 0, "", "9.0:1", ""},
-                {9, 17, 13, "9.17:1", "9.17:2001", "9.17:1"},
-                {12, 127, 23, "", "12.127:800000", ""},
-                {3, 4, 7, "", "0.4:10", ""},       // the top row is channel 0
-                {3, 127, 4, "", "3.127:8000", ""}, // a bit is its step's within the bar
-                {0, 20, 0, "", "7.20:10", ""},
-                {3, 4, 4, "3.4:11", "3.4:1", "3.4:1"}, // a hit is any bit, its own goes
-                {3, 6, 4, "3.6:1", "3.6:1", "3.6:1"}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.before + std::string(" > ") + row.once);
-        Empty();
-        Put(row.before);
-        Edit(row.channel);
-        Tap(Cell(row.column, row.row));
-        EXPECT_EQ(Text(), row.once);
-        Tap(Cell(row.column, row.row));
-        EXPECT_EQ(Text(), row.twice);
-        EXPECT_EQ(State().selection.Exists(), *row.twice != 0); // of what is left
-        PanelRig::Click(5, 5, mouse::RightDown);
-    }
+    Check({{"open 9 tap 0,0", "9.0:1"}, {"open 9 tap 0,0 tap 0,0", ""}, {"open 12 tap 127,23", "12.127:800000"},
+           {"9.17:1 open 9 tap 17,13", "9.17:2001"}, {"9.17:1 open 9 tap 17,13 tap 17,13", "9.17:1|17-17,0-23|"},
+           {"open 3 tap 4,7", "0.4:10"}, {"open 0 tap 20,0", "7.20:10"}, {"open 0 tap 20,0 tap 20,0", ""},
+           {"open 3 tap 127,4", "3.127:8000"}, // a bit is its step's within the bar
+           {"3.4:11 open 3 tap 4,4", "3.4:1|4-4,4-4|"}, {"3.6:1 open 3 tap 6,4", "3.6:1|6-6,4-4|"}, // its own goes
+           {"open 9 tap P37,154 tap P1060,489", "9.0:800000 9.127:1"},
+           {"open 9 tap P36,200 tap P1061,200 tap P100,490 tap P100,5 tap L6,0.5", ""},
+           {"9.9:1 open 9 band 8,8 12,2 tap 10,5", "9.9:1 9.10:20|8-12,2-8|"},
+           {"open 9 pattern 4 channel 10 tap 70,1", "9.70:2"},
+           // One that wanders changes nothing.
+           {"open 9 drag 10,5 12,5", ""}, {"open 9 down 10,5 to 10,4 to 10,5 up", ""},
+           {"open 3 down 10,5 to 10,-4 to 10,5 up", ""},
+           {"9.10:20 open 9 down 10,5 to 12,5 to 10,5 up", "9.10:20|10-10,0-23|"},
+           {"2.10:400 open 3 down 10,5 to 10,4 to 10,5 up", "2.10:400|10-10,5-5|"}});
 }
 
 TEST_F(NotesTest, APressActsOnTheCellUnderItWithoutAMoveBefore)
 {
-    Edit(9);
-    To(Cell(90, 2));
-    const Point cell = Cell(10, 5);
-    for (const int kind : {mouse::LeftDown, mouse::LeftUp}) editor->MouseEvent(cell.x, cell.y + top, 0, kind);
-    EXPECT_EQ(Text(), "9.10:20");
-    for (const int kind : {mouse::LeftDown, mouse::LeftUp}) editor->MouseEvent(Strip(3).x, Strip(3).y + top, 0, kind);
-    EXPECT_EQ(State().selection.rect, (Rect{37 + 3 * 128 + 1, 155, 126, 334}));
-}
-
-TEST_F(NotesTest, AClickThatWandersChangesNothing)
-{
-    for (const int channel : {9, 3}) {
-        for (const char* notes : {"", "2.10:400 9.10:20"}) { // both grids' row 5
-            for (const Point away : {Point{12, 5}, Point{10, 4}, Point{10, -4}, Point{128, 5}}) {
-                Empty();
-                Put(notes);
-                Edit(channel);
-                Down(Cell(10, 5));
-                To(Cell(away.x, away.y));
-                To(Cell(10, 5));
-                Up();
-                EXPECT_EQ(Text(), notes) << channel << ' ' << away.x << ' ' << away.y;
-                PanelRig::Click(5, 5, mouse::RightDown);
-            }
-        }
-    }
-}
-
-TEST_F(NotesTest, NothingOutsideOfTheGridIsEdited)
-{
-    Edit(9);
-    for (const Point p : {Point{36, 200}, Point{1061, 200}, Point{100, 490}, Point{100, 5}, Point{37, 153}}) {
-        Tap(p);
-        Wheel(1);
-    }
-    EXPECT_EQ(Text(), "");
-    for (const Point p : {Point{37, 154}, Point{1060, 489}}) Tap(p); // its corners
-    EXPECT_EQ(Text(), "9.0:800000 9.127:1");
+    Do("open 9 to 90,2");
+    for (const Point p : {Place("10,5"), Place("B3")})
+        for (const int kind : {mouse::LeftDown, mouse::LeftUp}) editor->MouseEvent(p.x, p.y + top, 0, kind);
+    EXPECT_EQ(Text(), "9.10:20|48-63,0-23|");
 }
 
 TEST_F(NotesTest, TheWheelMovesTheStepsLengthOrElseTheChannels)
 {
-    const struct {
-        int channel;
-        const char* before;
-        Point at; // column, row
-        int notches;
-        const char* after;
-        float length; // of the channel, 0.5 before
-    } rows[] = {{9, "9.3:20", {3, 11}, 10, "9.3:20[3=0.25]", 0.5f},
-                {9, "9.3:20[3=0.9]", {3, 5}, 10, "9.3:20[3=1]", 0.5f},
-                {9, "9.3:20[3=-0.9]", {3, 5}, -10, "9.3:20[3=-1]", 0.5f},
-                {9, "9.3:20[3=0.25]", {3, 5}, -10, "9.3:20", 0.5f},
-                {9, "9.3:20", {4, 5}, 10, "9.3:20", 0.75f},
-                {9, "10.3:20", {3, 5}, 30, "10.3:20", 1.0f},
-                {9, "", {3, 5}, -30, "", 0.0f},
-                {3, "3.3:8", {3, 7}, 2, "3.3:8[3=0.05]", 0.5f}, // the editor's own channel, in any row
-                {3, "2.3:8", {3, 5}, -2, "2.3:8", 0.45f}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.before);
-        Empty();
-        Put(row.before);
-        Engine().storedParams[row.channel][3] = 0.5f;
-        Edit(row.channel);
-        To(Cell(row.at.x, row.at.y));
-        Wheel(row.notches);
-        EXPECT_EQ(Text(), row.after);
-        EXPECT_NEAR(Engine().storedParams[row.channel][3], row.length, 1e-5f);
-        PanelRig::Click(5, 5, mouse::RightDown);
+    Check({{"9.3:20 open 9 to 3,11 wheel 10", "9.3:20[3=0.25]"},
+           {"9.3:20[3=0.9] open 9 to 3,5 wheel 10", "9.3:20[3=1]"},
+           {"9.3:20[3=-0.9] open 9 to 3,5 wheel -10", "9.3:20[3=-1]"},
+           {"9.3:20[3=0.25] open 9 to 3,5 wheel -10", "9.3:20"},
+           {"3.3:8 open 3 to 3,7 wheel 2", "3.3:8[3=0.05]"}, // the editor's own channel, in any row
+           {"9.3:1 open 9 pattern 4 to 3,0 wheel 2", "9.3:1[3=0.05]"}});
+    for (const auto& [hands, length] : {std::pair{"open 9 to 4,5 wheel 10", 0.75f},
+             {"10.3:1 open 9 to 3,5 wheel -30", 0.0f},
+             {"open 9 to 3,5 wheel 30", 1.0f}, {"open 9 to P10,200 wheel 3 to L5,0.5 wheel 3", 0.5f}}) {
+        Engine().storedParams[9][3] = 0.5f;
+        Do(hands);
+        EXPECT_FLOAT_EQ(Engine().storedParams[9][3], length) << hands;
+        Do("close");
     }
 }
 
-TEST_F(NotesTest, APressedCellSoundsUntilTheHandGoesOn)
+TEST_F(NotesTest, APressedCellSoundsUntilTheHandGoesOnAndAKeyAlsoWhilePlaying)
 {
-    const struct {
-        int channel, row, sounds, note;
-    } rows[] = {{9, 7, 9, 55}, {3, 7, 0, 0}, {3, 2, 5, 0}};
-    for (const auto& row : rows) {
-        Edit(row.channel);
-        for (const bool wanders : {false, true}) {
-            Down(Cell(5, row.row));
-            EXPECT_EQ(Sounding(row.sounds), Notes{row.note});
-            if (wanders)
-                To(Cell(5, row.row + (row.row < 7 ? 1 : -1)));
-            else
-                Engine().selection.selectedChannel = 11, Up(); // by MIDI; the note is still of its own channel
-            EXPECT_EQ(Sounding(row.sounds), Notes{}) << row.channel << ' ' << row.row;
-            Up();
-            Engine().selection.selectedChannel = row.channel;
+    const auto sounding = [&](int channel) {
+        Play(64);
+        std::string notes;
+        for (const auto& voice : Engine().Channel(channel).voices)
+            if (voice->active && !voice->releasing) notes += std::to_string(voice->note) + ' ';
+        return notes;
+    };
+    const std::tuple<std::string, const char*, int, const char*> rows[] = {
+        {"down 5,7", "to 5,8", 9, "55 "}, {"down 5,7", "channel 11 up", 9, "55 "}, {"down 5,7", "close", 9, "55 "},
+        {"down 5,7", "to 6,7", 0, "0 "}, {"down 5,2", "up", 5, "0 "}, {"9.20:1 band 18,8 22,3 down 19,5", "up", 9, ""},
+        {"down K0", "up", 9, "48 "}, {"down K0 to K23", "up", 9, "71 "}, {"down K1", "to K2", 6, "0 "},
+        {"down K1 to K2", "close", 5, "0 "}};
+    for (const bool playing : {false, true})
+        for (const auto& [press, end, channel, notes] : rows) {
+            Do((playing ? "playing 1 open " : "open ") + std::string(channel < 8 ? "3 " : "9 ") + press);
+            EXPECT_EQ(sounding(channel), playing && press.find('K') > press.size() ? "" : notes) << press;
+            Do(end);
+            EXPECT_EQ(sounding(channel), "") << press << end;
+            Do(Score().IsOpen() ? "close up" : "up");
         }
-        PanelRig::Click(5, 5, mouse::RightDown);
-    }
-    Edit(9);
-    Put("9.20:1");
-    Drag(Cell(18, 3), Cell(22, 8)); // selected
-    Down(Cell(19, 5));
-    EXPECT_EQ(Sounding(9), Notes{});
-    Up();
-    SetPlaying(true);
-    Down(Cell(40, 5));
-    EXPECT_EQ(Sounding(9), Notes{});
 }
-
-TEST_F(NotesTest, TheKeyStripPlaysRowsAndWritesNothing)
-{
-    for (const bool playing : {false, true}) {
-        SetPlaying(playing);
-        Edit(9);
-        Down(Key(0));
-        EXPECT_EQ(Sounding(9), Notes{48});
-        To(Key(23));
-        EXPECT_EQ(Sounding(9), Notes{71});
-        Up();
-        EXPECT_EQ(Sounding(9), Notes{});
-        PanelRig::Click(5, 5, mouse::RightDown);
-        Edit(3);
-        Down(Key(1));
-        EXPECT_EQ(Sounding(6), Notes{0});
-        To(Key(2));
-        EXPECT_EQ(Sounding(6), Notes{});
-        EXPECT_EQ(Sounding(5), Notes{0});
-        PanelRig::Press(mouse::RightDown); // closes it
-        EXPECT_EQ(Sounding(5), Notes{});
-        Press(mouse::LeftUp);
-        EXPECT_EQ(Text(), "");
-    }
-}
-
-TEST_F(NotesTest, WhatItEditsIsThePatternAndChannelOfItsOpening)
-{
-    Put("9.3:1 9.50:20", 0);
-    Edit(9);
-    Engine().score.currentPattern = 4;
-    Engine().selection.selectedChannel = 10;
-    Tap(Cell(70, 1));
-    To(Cell(3, 0));
-    Wheel(2);
-    Drag(Cell(48, 3), Cell(52, 8)); // around the note at 50
-    Type('X');
-    EXPECT_EQ(Text(0), "9.3:1[3=0.05] 9.70:2");
-    EXPECT_EQ(Text(4), "");
-}
+// clang-format on
 
 } // namespace
 } // namespace korvane

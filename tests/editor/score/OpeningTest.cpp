@@ -5,41 +5,31 @@ namespace korvane {
 namespace {
 
 using OpeningTest = ScoreRig;
-constexpr Rect kAway{-50, -50, 20, 20};
 
 TEST_F(OpeningTest, ItOpensForTheChannelAndClosesWithoutATrace)
 {
-    const struct {
-        int channel;
-        Rect open;
-        std::function<void()> close;
-    } rows[] = {
-        {3, {0, 194, 1065, 436}, [&] { PanelRig::Click(500, 400, mouse::RightDown); }},
-        {10, {0, 81, 1065, 549}, [&] { PanelRig::Click(5, 5, mouse::RightDown); }},
-        {0, {0, 194, 1065, 436}, [&] { PanelRig::Click(500, 193); }},
-        {8, {0, 81, 1065, 549}, [&] { PanelRig::Click(500, 80); }},
-        {7, {0, 194, 1065, 436}, [&] { window->StealGrab(), Tick(); }},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.channel);
-        Show(row.channel, false);
-        To({0, 0});
+    const std::tuple<int, Rect, std::function<void()>> rows[] = {
+        {3, {0, 194, 1065, 436}, [&] { Click(500, 400, mouse::RightDown); }},
+        {10, {0, 81, 1065, 549}, [&] { Click(5, 5, mouse::RightDown); }},
+        {0, {0, 194, 1065, 436}, [&] { Click(500, 193); }},
+        {8, {0, 81, 1065, 549}, [&] { Click(500, 80); }},
+        {7, {0, 194, 1065, 436}, [&] { window->StealGrab(), Tick(); }}};
+    const auto shown = [&] {
+        Move(0, 0);
         for (int n = 0; n < 30; ++n) Tick(); // what glides arrives
-        const auto before = window->shown;
-        Edit(row.channel);
-        EXPECT_TRUE(Score().IsOpen());
-        EXPECT_EQ(Score().rect, row.open);
-        EXPECT_TRUE(window->grabbed && !window->pointerHidden);
-        Tick();
-        EXPECT_NE(window->shown, before);
-        row.close();
-        EXPECT_FALSE(Score().IsOpen());
-        EXPECT_EQ(Score().rect, kAway);
-        EXPECT_FALSE(window->grabbed);
-        EXPECT_EQ(editor->activeGroup, nullptr);
-        To({0, 0});
-        for (int n = 0; n < 30; ++n) Tick();
-        EXPECT_TRUE(window->shown == before);
+        return window->shown;
+    };
+    for (const auto& [channel, open, close] : rows) {
+        Show(channel, false);
+        const auto before = shown();
+        Edit(channel);
+        EXPECT_TRUE(Score().IsOpen() && window->grabbed && !window->pointerHidden);
+        EXPECT_EQ(Score().rect, open) << channel;
+        EXPECT_TRUE(shown() != before);
+        close();
+        EXPECT_FALSE(Score().IsOpen() || window->grabbed || editor->activeGroup) << channel;
+        EXPECT_EQ(Score().rect, (Rect{-50, -50, 20, 20}));
+        EXPECT_TRUE(shown() == before) << channel;
     }
     Edit(10);
     editor->Close();
@@ -49,64 +39,46 @@ TEST_F(OpeningTest, ItOpensForTheChannelAndClosesWithoutATrace)
 
 TEST_F(OpeningTest, EachOpeningBeginsAnew)
 {
-    Put("9.0:1");
-    Edit(9);
-    Tap(Strip(0));
-    Type('C');
-    To(Strip(3));
-    Down(Lane(3, 0.5f));
+    Do("9.0:1 open 9 tap B0 type C to B3 down L3,0.5");
     Press(mouse::RightDown);
-    Edit(9);
-    const ScoreState& state = State();
+    Do("open 9");
+    const ScoreState& state = Score().state;
     EXPECT_FALSE(state.selection.Exists() || state.laneDrag || state.pressActive);
     EXPECT_EQ(state.flash[0] + state.hoverBar + state.hoverColumn + state.barPick + state.auditionRow, -4);
-    Press(mouse::LeftUp); // of the press before
-    To(Lane(3, 0.9f));
+    Do("up to L3,0.9"); // of the press before
     EXPECT_EQ(Text(), "9.0:1");
-}
-
-TEST_F(OpeningTest, BelowTheAboutPageItStaysClosed)
-{
-    PanelRig::Click(500, 30);
-    ASSERT_NE(editor->activeGroup, nullptr);
-    Edit(9, 80);
-    for (const int key : {'C', 'V', 'X'}) Type(key);
-    EXPECT_FALSE(Score().IsOpen());
-    EXPECT_EQ(State().flash[0] + State().flash[1] + State().flash[2], 0);
 }
 
 TEST_F(OpeningTest, NothingStaysInEditMode)
 {
-    const auto edit = [&] {
+    for (const char* hands : {"open 9", "to 3,3", "down 3,3", "up"}) {
         instrument->SetParameter(6, 1.0f);
-        PanelRig::Play(1);
+        Play(1);
         ASSERT_TRUE(Engine().clock.editMode);
         Engine().selection.editStep = 3;
-    };
-    edit();
-    Edit(9);
-    const std::function<void()> gestures[] = {[] {}, [&] { To(Cell(3, 3)); }, [&] { Press(mouse::LeftDown); },
-                                              [&] { Press(mouse::LeftUp); }};
-    for (const auto& gesture : gestures) {
-        gesture();
-        EXPECT_FALSE(ShownModes(Engine()).editMode);
+        Do(hands);
+        EXPECT_FALSE(ShownModes(Engine()).editMode) << hands;
         EXPECT_EQ(Engine().selection.editStep, -1);
-        edit();
     }
 }
 
-TEST_F(OpeningTest, OtherKeysAndTheWheelBelowDoNothing)
+TEST_F(OpeningTest, ItsKeysAreItsOwnAndThoseOfThePanelRest)
 {
-    Edit(9);
+    Do("9.0:1 open 9 tap B0");
     Take();
     window->usedKeys.clear();
-    for (const int code : {int{'M'}, int{'1'}, int{key::Enter}, int{key::Left}, int{'Z'}}) PanelRig::Key(code, true);
-    EXPECT_EQ(std::ranges::count(window->usedKeys, true), 0);
+    for (const int code : {int{'M'}, int{'1'}, int{key::Enter}, int{key::Left}, int{'Z'}, int{'C'}}) Key(code, true);
+    EXPECT_EQ(window->usedKeys, (std::vector{false, false, false, false, false, true}));
     EXPECT_EQ(Take(), Log{});
-    PanelRig::Key('M', false);
+    Key('M', false);
     EXPECT_EQ(Take(), Log{"automate 10 0"}); // what was held before is let go
-    Show(9, false);
-    EXPECT_TRUE(Score().IsOpen());
+    Do("close");
+    window->usedKeys.clear();
+    Click(500, 30); // the page about the instrument
+    Edit(9);
+    for (const int code : {'C', 'V', 'X'}) Key(code, true);
+    EXPECT_FALSE(Score().IsOpen());
+    EXPECT_EQ(std::ranges::count(window->usedKeys, true), 0);
 }
 
 } // namespace
