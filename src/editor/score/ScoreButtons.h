@@ -11,7 +11,7 @@ enum class ScoreCommand : std::uint8_t { Copy, Paste, Clear, Play };
 
 struct ScoreButton {
     ScoreCommand command;
-    int x, y, h;         // below the piano roll
+    int x, y, h;         // in the open piano roll
     int imageColumn;     // of "1_NoteEditorButtons.tga"
     int imageRow, onRow; // at rest; flashing or playing
 

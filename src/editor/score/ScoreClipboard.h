@@ -12,7 +12,7 @@ namespace korvane {
 /// process, so that notes go from one instance to the other. Any window's thread; they wait for each other.
 class ScoreClipboard {
 public:
-    /// Takes the pattern's words and locks; of these the 0..211, once each, by their number.
+    /// Takes the pattern's words and, in the order of the parameters, its locks: one for each parameter 0..211.
     /// columns  not empty
     void Copy(const GroovePattern& from, int channel, ScoreSpan columns);
     /// Something was copied from a grid of that kind.

@@ -104,6 +104,8 @@ void ScoreEditControl::OnLeftDown(int x, int y)
     if (!rect.Contains(x, y)) return OnRightDown(x, y);
     LeaveEditMode();
     EndAudition();
+    state.pressColumn = state.pressRow = state.barPick = -1;
+    state.dragged = state.rubberBand = state.laneDrag = state.keyDrag = false;
     const Point at = Inside(x, y);
     state.pressActive = !PressButton(at);
     if (state.pressActive) PressPage(at);
@@ -128,8 +130,6 @@ void ScoreEditControl::PressPage(Point at)
 {
     const Rect grid = Grid().GridRect();
     pressPoint = lastPoint = at;
-    state.pressColumn = state.pressRow = state.barPick = -1;
-    state.dragged = state.rubberBand = state.laneDrag = state.keyDrag = false;
     Hover(at);
     if (at.y >= grid.y + grid.h) return;
     if (Grid().KeyStripRect().Contains(at.x, at.y)) {
@@ -287,10 +287,8 @@ void ScoreEditControl::ToggleHovered()
 
 void ScoreEditControl::MoveSelection()
 {
-    if (state.pressColumn < 0 || !state.selection.Exists() || !state.OnCell()) return;
-    const ScoreMove move = ScoreMove::Within(notes, state.selection, state.hoverColumn - state.pressColumn,
-                                             state.hoverRow - state.pressRow);
-    move.Apply(notes, state.selection, IsCtrlDown());
+    if (state.CarriesSelection()) ScoreMove::Carried(notes, state).Apply(notes, state.selection, IsCtrlDown());
+    state.pressColumn = state.pressRow = -1;
 }
 
 void ScoreEditControl::OnWheel(int, int notches)

@@ -32,7 +32,7 @@ public:
 
     bool IsOpen() const { return workImage != nullptr; }
 
-    // Of what is selected; nothing without.
+    // Act on the selection; without one they do nothing.
     void Copy();
     void Paste();
     void Clear();
@@ -80,7 +80,7 @@ private:
     KVSynth& synth;
     GrooveEngine& sequencer;
     ScorePainter painter;
-    std::unique_ptr<CDrawBuffer> gridImage, workImage; // the page below, and the editor; null while closed
+    std::unique_ptr<CDrawBuffer> gridImage, workImage; // the window below, and the editor; null while closed
     Rect closedRect;
     Point pressPoint, lastPoint, rubberOrigin; // relative to the open editor
     int auditionChannel = 0, auditionNote = 0; // what sounds while state.auditionRow is one

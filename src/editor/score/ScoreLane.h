@@ -19,7 +19,7 @@ public:
     /// The same with the lock of a column's step.
     float LaneValue(int column) const;
     /// Draws a stroke: sets the locks of the columns with a note whose stretches it crosses. Near the channel's own
-    /// value there is no lock.
+    /// value there is no lock. The parameter becomes the last touched one.
     ///
     /// from, to  relative to the open editor; above and below the lane they count as at its edge
     ///

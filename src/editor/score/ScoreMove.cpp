@@ -10,6 +10,12 @@ namespace {
 
 std::uint32_t Shifted(std::uint32_t notes, int rows) { return rows >= 0 ? notes << rows : notes >> -rows; }
 
+/// Where selected notes come to lie, those that would leave the grid left out: what is recorded meanwhile may.
+std::uint32_t Moved(const ScoreGrid& grid, std::uint32_t selected, int rows)
+{
+    return Shifted(selected, rows) & ((1u << grid.rowCount) - 1u);
+}
+
 /// All selected notes of all columns, by rows.
 std::uint32_t SelectedRows(const ScoreNotes& notes, ScoreSpan columns, ScoreSpan rows)
 {
@@ -24,18 +30,18 @@ void Add(ScoreNotes& notes, int column, std::uint32_t selected)
         if (selected >> row & 1u) notes.SetNoteAt(column, row, true);
 }
 
-/// Within a column; in the piano roll in one piece, so that no tick finds it empty.
+/// Within a column, which no tick finds empty meanwhile.
 void ChangeRows(ScoreNotes& notes, int column, std::uint32_t selected, int rows)
 {
     GroovePattern& pattern = notes.Pattern();
+    const std::uint32_t moved = Moved(*notes.grid, selected, rows), left = Shifted(moved, -rows);
     if (!notes.grid->drumMode) {
-        const std::uint32_t moved = Shifted(selected, rows);
-        pattern.steps[notes.channel][column].Update([=](std::uint32_t word) { return (word & ~selected) | moved; });
+        pattern.steps[notes.channel][column].Update([=](std::uint32_t word) { return (word & ~left) | moved; });
         return;
     }
+    Add(notes, column, moved);
     for (int row = 0; row < notes.grid->rowCount; ++row)
-        if (selected >> row & 1u) pattern.steps[notes.grid->ChannelOfRow(row)][column] = 0u;
-    Add(notes, column, Shifted(selected, rows));
+        if ((left & ~moved) >> row & 1u) pattern.steps[notes.grid->ChannelOfRow(row)][column] = 0u;
 }
 
 void Exchange(ScoreNotes& notes, int from, int to, ScoreSpan rows)
@@ -49,8 +55,10 @@ void Exchange(ScoreNotes& notes, int from, int to, ScoreSpan rows)
 
 } // namespace
 
-ScoreMove ScoreMove::Within(const ScoreNotes& notes, const ScoreSelection& selection, int columns, int rows)
+ScoreMove ScoreMove::Carried(const ScoreNotes& notes, const ScoreState& state)
 {
+    const ScoreSelection& selection = state.selection;
+    const int columns = state.hoverColumn - state.pressColumn, rows = state.hoverRow - state.pressRow;
     const ScoreSpan across = selection.Columns(*notes.grid);
     if (across.Empty()) return {};
     const std::uint32_t selected = SelectedRows(notes, across, selection.Rows(*notes.grid));
@@ -69,10 +77,10 @@ void ScoreMove::Apply(ScoreNotes& notes, const ScoreSelection& selection, bool c
         const int column = columns > 0 ? across.last - (n - across.first) : n;
         const std::uint32_t selected = notes.SelectedIn(column, down);
         if (copying) {
-            Add(notes, column + columns, Shifted(selected, rows));
+            Add(notes, column + columns, Moved(*notes.grid, selected, rows));
             continue;
         }
-        if (columns != 0) Exchange(notes, column, column + columns, down);
+        Exchange(notes, column, column + columns, down); // also with itself: hits take their own step's bit
         if (rows != 0) ChangeRows(notes, column + columns, selected, rows);
     }
 }

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "editor/score/ScoreNotes.h"
+#include "editor/score/ScoreState.h"
 
 namespace korvane {
 
@@ -12,11 +13,11 @@ namespace korvane {
 struct ScoreMove {
     int columns = 0, rows = 0;
 
-    /// What is left of a move by so many columns and rows.
-    static ScoreMove Within(const ScoreNotes& notes, const ScoreSelection& selection, int columns, int rows);
+    /// From the pressed to the hovered cell, which both exist.
+    static ScoreMove Carried(const ScoreNotes& notes, const ScoreState& state);
 
     /// Exchanges each column with the one that it goes to, locks included, or, copying, adds its selected notes there;
-    /// what was selected then changes rows.
+    /// what was selected then changes rows, and takes no locks to another sampler.
     void Apply(ScoreNotes& notes, const ScoreSelection& selection, bool copying) const;
 };
 

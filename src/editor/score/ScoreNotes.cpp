@@ -96,7 +96,7 @@ void ScoreNotes::SwapCells(int ofChannel, int bar1, int step1, int bar2, int ste
 
 std::uint32_t ScoreNotes::SelectedIn(int column, ScoreSpan rows) const
 {
-    if (!grid->drumMode) return Pattern().steps[Channel(channel)][column] & BitsOf(rows);
+    if (!grid->drumMode) return Pattern().steps[Channel(channel)][Column(column)] & BitsOf(rows);
     std::uint32_t selected = 0;
     for (int row = rows.first; row <= rows.last; ++row)
         if (IsNoteAt(column, row)) selected |= 1u << row;

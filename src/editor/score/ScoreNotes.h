@@ -9,8 +9,8 @@
 namespace korvane {
 
 /// One channel of one pattern, in the drum grid all sampler channels, as they stand in the engine, where sequencer and
-/// recording go on. Patterns move while a groove loads: none is kept here. Columns, rows and channels outside their
-/// ranges mean the nearest one. The window's thread.
+/// recording go on. Patterns move while a groove loads: none is kept here. Single columns, rows and channels outside
+/// their ranges mean the nearest one. The window's thread.
 class ScoreNotes {
 public:
     explicit ScoreNotes(GrooveEngine& playing) : engine(playing) {}

@@ -36,7 +36,8 @@ Rect KeyRect(const ScoreGrid& grid, int row)
 
 } // namespace
 
-void ScorePainter::Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing, bool copying)
+void ScorePainter::Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing,
+                        bool copying) const
 {
     KeptDrawState kept(&page);
     page.DrawBitmap(skin.pages[notes.grid->drumMode], {0, 0, page.width, page.height}, {});

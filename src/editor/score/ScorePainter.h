@@ -8,7 +8,7 @@
 
 namespace korvane {
 
-/// The images of the score editor; null ones are left out.
+/// The images of the score editor.
 struct ScoreSkin {
     const CBitmap* pages[2]; // of the piano roll, of the drum grid
     const CBitmap* buttons;
@@ -25,7 +25,7 @@ public:
     /// page     of the open editor's size
     /// playing  what the play button shows
     /// copying  a selection that is carried leaves a copy behind
-    void Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing, bool copying);
+    void Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing, bool copying) const;
 
 private:
     struct ShownNotes;
@@ -39,7 +39,7 @@ private:
     void DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const;
     void DrawHovered(CDrawBuffer& page) const;
     void DrawHint(CDrawBuffer& page, bool copying) const;
-    bool Carries() const { return state.CarriesSelection() && state.dragged; }
+    bool Carries() const { return state.dragged && state.CarriesSelection(); }
 
     // What is around it.
     void DrawLane(CDrawBuffer& page, const char* parameterName) const;

@@ -126,8 +126,7 @@ void ScorePainter::DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const
 /// What is selected once more, where it would go.
 void ScorePainter::DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const
 {
-    const ScoreMove move = ScoreMove::Within(notes, state.selection, state.hoverColumn - state.pressColumn,
-                                             state.hoverRow - state.pressRow);
+    const ScoreMove move = ScoreMove::Carried(notes, state);
     for (int column = 0; column < kSteps; ++column)
         ForRows(shown.selected[column], [&](int row) {
             DrawNote(page, *notes.grid, column + move.columns, row + move.rows, Faint(kSelectedNote));

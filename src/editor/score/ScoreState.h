@@ -20,8 +20,8 @@ struct ScoreState {
     int flash[3] = {}; // of the copy, paste and clear buttons, 255 down to 0
 
     bool OnCell() const { return hoverColumn >= 0 && hoverRow >= 0; }
-    /// What is selected follows the hand.
-    bool CarriesSelection() const { return pressActive && pressColumn >= 0 && selection.Exists() && OnCell(); }
+    /// The hand has what is selected, and is on the grid with it.
+    bool CarriesSelection() const { return pressColumn >= 0 && selection.Exists() && OnCell(); }
 };
 
 } // namespace korvane

@@ -13,7 +13,7 @@ TEST_F(NotesTest, AClickTurnsANoteOver)
            {"9.17:1 open 9 tap 17,13", "9.17:2001"}, {"9.17:1 open 9 tap 17,13 tap 17,13", "9.17:1|17-17,0-23|"},
            {"open 3 tap 4,7", "0.4:10"}, {"open 0 tap 20,0", "7.20:10"}, {"open 0 tap 20,0 tap 20,0", ""},
            {"open 3 tap 127,4", "3.127:8000"}, // a bit is its step's within the bar
-           {"3.4:11 open 3 tap 4,4", "3.4:1|4-4,4-4|"}, {"3.6:1 open 3 tap 6,4", "3.6:1|6-6,4-4|"}, // its own goes
+           {"3.6:1 open 3 tap 6,4", "3.6:40|6-6,4-4|"}, {"3.6:1 open 3 tap 6,4 tap 6,4", ""}, // the first puts it right
            {"open 9 tap P37,154 tap P1060,489", "9.0:800000 9.127:1"},
            {"open 9 tap P36,200 tap P1061,200 tap P100,490 tap P100,5 tap L6,0.5", ""},
            {"9.9:1 open 9 band 8,8 12,2 tap 10,5", "9.9:1 9.10:20|8-12,2-8|"},
