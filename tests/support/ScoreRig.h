@@ -29,7 +29,7 @@ struct ScoreRig : testing::Test, PanelRig {
         const int x = static_cast<int>(a), y = static_cast<int>(b), row = text[0] == 'K' ? x : y;
         const int rowY = drums ? 154 + 28 * (7 - row) + 14 : 154 + 14 * (23 - row) + 7;
         if (text[0] == 'L') return {37 + 8 * x + 4, 10 + static_cast<int>(128 - 128 * b)};
-        if (text[0] == 'B') return {37 + 128 * x + 64, 146};
+        if (text[0] == 'B') return {37 + 128 * x + 127, 146};
         if (text[0] == 'K') return {10, rowY};
         return text[0] == 'P' ? Point{x, y} : Point{37 + 8 * x + 4, rowY};
     }
