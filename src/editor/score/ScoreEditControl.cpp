@@ -205,7 +205,8 @@ void ScoreEditControl::Follow(Point at)
 
 void ScoreEditControl::Drag(Point at)
 {
-    if (state.hoverColumn != state.pressColumn || state.hoverRow != state.pressRow) state.dragged = true;
+    const bool onPressed = state.hoverColumn == state.pressColumn && state.hoverRow == state.pressRow;
+    if (!onPressed || state.rubberBand) state.dragged = true;
     if (state.keyDrag) return FollowKeys(at);
     if (state.barPick >= 0) return FollowBars(at);
     if (state.laneDrag) return FollowLane(at);

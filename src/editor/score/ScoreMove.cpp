@@ -72,6 +72,7 @@ ScoreMove ScoreMove::Carried(const ScoreNotes& notes, const ScoreState& state)
 /// In the order in which no column is met again after it was written.
 void ScoreMove::Apply(ScoreNotes& notes, const ScoreSelection& selection, bool copying) const
 {
+    if (copying && columns == 0 && rows == 0) return;
     const ScoreSpan across = selection.Columns(*notes.grid), down = selection.Rows(*notes.grid);
     for (int n = across.first; n <= across.last; ++n) {
         const int column = columns > 0 ? across.last - (n - across.first) : n;

@@ -186,7 +186,7 @@ void ScorePainter::DrawHint(CDrawBuffer& page, bool copying) const
     page.SetTextColor(kPale);
     const Size size = page.DrawText(text, 0, 0, 0, 0, align::Left, true);
     const Rect cell = notes.grid->CellRect(state.hoverColumn, state.hoverRow);
-    const int x = Clamp(cell.x + kHintAside, 0, page.width - size.width - kHintAir);
+    const int x = Clamp(cell.x + kHintAside, 0, page.width - size.width);
     const int y = Clamp(cell.y - kHintAbove, 0, page.height - size.height);
     const bool plus = copying && Carries();
     const int before = plus ? kHintAir + kPlusWidth : kHintAir;
