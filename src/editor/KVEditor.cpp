@@ -107,6 +107,7 @@ bool KVEditor::OpenScore(int x, int y)
     const bool before = std::exchange(cancelling, true); // what is held has to let go
     Score()->OnLeftDown(kAnywhere.x, kAnywhere.y);
     cancelling = before;
+    if (flags & 1) Platform().TakeFocus(); // it has keys of its own
     return true;
 }
 

@@ -119,11 +119,12 @@ void DrawHints(cairo_t* pen, double y)
         const char* effect;
         double x;
     };
-    constexpr Hint kHints[] = {{"CLICK", "sets or clears a note", 440},
-                               {"DRAG", "selects, or moves what is selected", 564},
-                               {"CTRL + DRAG", "selects, or copies", 742},
-                               {"WHEEL", "note length", 864},
-                               {"RIGHT CLICK", "closes", 964}};
+    constexpr Hint kHints[] = {{"CLICK", "sets or clears a note", 424},
+                               {"DRAG", "selects, or moves what is selected", 540},
+                               {"CTRL + DRAG", "selects, or copies", 710},
+                               {"BAR STRIP", "selects bars", 815},
+                               {"WHEEL", "note length", 902},
+                               {"RIGHT CLICK", "closes", 984}};
     for (const Hint& hint : kHints) {
         Write(pen, kType, kTitleInk, hint.hand, hint.x, y - 5, Stand::Left);
         Write(pen, {9.5, Weight::Plain, 0.1}, kCream, hint.effect, hint.x, y + 8, Stand::Left);

@@ -22,8 +22,9 @@ TEST_F(OpeningTest, ItOpensForTheChannelAndClosesWithoutATrace)
     for (const auto& [channel, open, close] : rows) {
         Show(channel, false);
         const auto before = shown();
+        window->focused = false;
         Edit(channel);
-        EXPECT_TRUE(Score().IsOpen() && window->grabbed && !window->pointerHidden);
+        EXPECT_TRUE(Score().IsOpen() && window->grabbed && !window->pointerHidden && window->focused);
         EXPECT_EQ(Score().rect, open) << channel;
         EXPECT_TRUE(shown() != before);
         close();
