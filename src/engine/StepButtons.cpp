@@ -103,7 +103,7 @@ void RecordPress(GrooveEngine& engine, int k)
     engine.recorder.recordBar = position / kStepsPerBar;
     const int selected = engine.selection.selectedChannel;
     const int target = engine.buttons.PlayedChannel(k, selected);
-    const std::uint32_t bit = 1u << (selected < kSamplerChannels ? position % kStepsPerBar : k);
+    const std::uint32_t bit = selected < kSamplerChannels ? SamplerBit(position) : 1u << k;
     pattern.SetNotes(target, position, bit);
     if (next) engine.recorder.playedThisStep[target].Update([bit](std::uint32_t notes) { return notes | bit; });
 }

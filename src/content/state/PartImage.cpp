@@ -39,6 +39,7 @@ bool ReadPart(ByteReader in, GrooveEngine& engine, PartState& part)
 
     ByteReader sequence = in.Chunk();
     if (!sequence.Tag(tag::kSequence)) return false;
+    engine.score.SettleLocks();
     const GroovePattern& target = engine.score.Current();
     GroovePattern& read = *engine.score.spare[0];
     for (int step = 0; step < kSteps; ++step) {

@@ -22,7 +22,7 @@ struct ScoreButton {
 };
 
 // clang-format off
-/// In the order of ScoreState::flash.
+/// In the order of ScoreCommand, which ScoreState::flash has too.
 inline constexpr ScoreButton kScoreButtons[] = {
 //   command              x    y    h  column row  on
     {ScoreCommand::Copy,   30, 500, 34, 149,  6, 56},

@@ -8,13 +8,13 @@ namespace korvane {
 
 namespace {
 
-void CopyByNumber(StepLockList& to, const StepLockList& from)
+void CopyInOrder(StepLockList& to, const StepLockList& from)
 {
     to.Clear();
     const int count = from.Count();
     if (count == 0) return;
     float offsets[kChannelSlots] = {};
-    for (int n = count - 1; n >= 0; --n) // of two for the same parameter the first one acts
+    for (int n = count - 1; n >= 0; --n) // of two for the same parameter the first one, as Offset has it
         if (const StepLock lock = from.At(n); lock.param >= 0 && lock.param < kChannelSlots)
             offsets[lock.param] = lock.offset;
     for (int param = 0; param < kChannelSlots; ++param) to.Set(param, offsets[param]);
@@ -27,7 +27,7 @@ void ScoreClipboard::Copy(const GroovePattern& from, int channel, ScoreSpan colu
     const std::lock_guard hold(turn);
     for (int c = 0; c < kChannels; ++c) {
         std::copy(std::begin(from.steps[c]), std::end(from.steps[c]), copied.steps[c]);
-        for (int s = 0; s < kSteps; ++s) CopyByNumber(copied.locks[c][s], from.locks[c][s]);
+        for (int s = 0; s < kSteps; ++s) CopyInOrder(copied.locks[c][s], from.locks[c][s]);
     }
     clipFirstColumn = columns.first;
     clipLastColumn = columns.last;
@@ -57,6 +57,7 @@ void ScoreClipboard::Paste(GroovePattern& to, const ScoreGrid& grid, int channel
             const int ofRow = grid.ChannelOfRow(row);
             to.CopyStep(ofRow, column, copied, ofRow, source);
         }
+        to.SettleLocks(); // before the next copy comes
     }
 }
 

@@ -333,21 +333,21 @@ void ScoreEditControl::EndAudition()
 void ScoreEditControl::Copy()
 {
     if (!IsOpen() || !state.selection.Exists()) return;
-    state.flash[0] = 255;
+    Flash(ScoreCommand::Copy);
     CopiedScore().Copy(sequencer.score.Current(), notes.channel, state.selection.Columns(Grid()));
 }
 
 void ScoreEditControl::Paste()
 {
     if (!IsOpen() || !state.selection.Exists() || !CopiedScore().Fits(Grid())) return;
-    state.flash[1] = 255;
+    Flash(ScoreCommand::Paste);
     CopiedScore().Paste(sequencer.score.Current(), Grid(), notes.channel, state.selection);
 }
 
 void ScoreEditControl::Clear()
 {
     if (!IsOpen() || !state.selection.Exists()) return;
-    state.flash[2] = 255;
+    Flash(ScoreCommand::Clear);
     if (notes.Clear(state.selection)) state.selection.Remove();
     SetDirty(true);
 }

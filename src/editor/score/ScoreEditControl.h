@@ -12,8 +12,9 @@
 namespace korvane {
 
 /// Waits outside of the window and opens over most of it, for the channel and pattern that are selected then. While it
-/// is open all events are its own: it has focus and mouse. It changes what the sequencer plays at that moment; each
-/// change is heard at once and costs no other step anything.
+/// is open all events are its own: it has focus and mouse. It changes the engine's own pattern while the sequencer goes
+/// on; a change is heard when its step plays next, a lock of the step that plays at once, and no other step hears of
+/// it.
 class ScoreEditControl : public CControl {
 public:
     /// place  of the closed editor
@@ -47,6 +48,7 @@ private:
     bool Playing();
     void LeaveEditMode();
     void TogglePlay();
+    void Flash(ScoreCommand command) { state.flash[static_cast<int>(command)] = 255; }
 
     void Open();
     void Close();

@@ -48,6 +48,7 @@ void ScoreLane::SetLock(int column, int y)
     const float own = Own();
     const float value = std::fabs(drawn - own) <= kNoLock ? own : drawn;
     notes.engine.SetStepParameter(notes.Pattern(), notes.channel, column, Base(), value);
+    notes.Pattern().SettleLocks();
     notes.engine.HearStep(notes.Pattern(), notes.channel, column);
     synth.links.lastParameter = laneParameter;
 }

@@ -22,7 +22,6 @@ public:
     /// value there is no lock. The parameter becomes the last touched one.
     ///
     /// from, to  relative to the open editor; above and below the lane they count as at its edge
-    ///
     /// within    only columns of it, when it exists
     void Draw(Point from, Point to, const ScoreSelection& within);
 

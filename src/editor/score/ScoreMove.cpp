@@ -20,14 +20,8 @@ std::uint32_t Moved(const ScoreGrid& grid, std::uint32_t selected, int rows)
 std::uint32_t SelectedRows(const ScoreNotes& notes, ScoreSpan columns, ScoreSpan rows)
 {
     std::uint32_t selected = 0;
-    for (int column = columns.first; column <= columns.last; ++column) selected |= notes.SelectedIn(column, rows);
+    for (int column = columns.first; column <= columns.last; ++column) selected |= notes.NotesIn(column, rows);
     return selected;
-}
-
-void Add(ScoreNotes& notes, int column, std::uint32_t selected)
-{
-    for (int row = 0; row < notes.grid->rowCount; ++row)
-        if (selected >> row & 1u) notes.SetNoteAt(column, row, true);
 }
 
 /// Within a column, which no tick finds empty meanwhile.
@@ -39,10 +33,23 @@ void ChangeRows(ScoreNotes& notes, int column, std::uint32_t selected, int rows)
         pattern.steps[notes.channel][column].Update([=](std::uint32_t word) { return (word & ~left) | moved; });
         return;
     }
-    Add(notes, column, moved);
+    notes.SetNotes(column, moved, true);
     for (int row = 0; row < notes.grid->rowCount; ++row)
         if ((left & ~moved) >> row & 1u) pattern.steps[notes.grid->ChannelOfRow(row)][column] = 0u;
 }
+
+/// Between two exchanges the last bar may be without its note: ticks meanwhile keep the length.
+struct StepsOnTheirWay {
+    explicit StepsOnTheirWay(GroovePattern& moved) : pattern(moved) { Count(1); }
+    StepsOnTheirWay(const StepsOnTheirWay&) = delete;
+    ~StepsOnTheirWay() { Count(-1); }
+    void Count(int more)
+    {
+        pattern.movers.Update([more](std::int32_t movers) { return movers + more; });
+    }
+
+    GroovePattern& pattern;
+};
 
 void Exchange(ScoreNotes& notes, int from, int to, ScoreSpan rows)
 {
@@ -74,11 +81,12 @@ void ScoreMove::Apply(ScoreNotes& notes, const ScoreSelection& selection, bool c
 {
     if (copying && columns == 0 && rows == 0) return;
     const ScoreSpan across = selection.Columns(*notes.grid), down = selection.Rows(*notes.grid);
+    const StepsOnTheirWay keepLength(notes.Pattern());
     for (int n = across.first; n <= across.last; ++n) {
         const int column = columns > 0 ? across.last - (n - across.first) : n;
-        const std::uint32_t selected = notes.SelectedIn(column, down);
+        const std::uint32_t selected = notes.NotesIn(column, down);
         if (copying) {
-            Add(notes, column + columns, Moved(*notes.grid, selected, rows));
+            notes.SetNotes(column + columns, Moved(*notes.grid, selected, rows), true);
             continue;
         }
         Exchange(notes, column, column + columns, down); // also with itself: hits take their own step's bit

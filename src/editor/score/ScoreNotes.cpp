@@ -16,7 +16,6 @@ int StepAt(int bar, int step)
 {
     return std::clamp(bar, 0, kBars - 1) * kStepsPerBar + std::clamp(step, 0, kStepsPerBar - 1);
 }
-std::uint32_t OwnBit(int column) { return 1u << column % kStepsPerBar; } // of a sampler's step
 
 /// The bits of some rows of the piano roll.
 std::uint32_t BitsOf(ScoreSpan rows)
@@ -33,7 +32,7 @@ GroovePattern& ScoreNotes::Pattern() const { return *engine.score.patterns[std::
 ScoreNotes::Cell ScoreNotes::CellAt(int column, int row) const
 {
     const int near = std::clamp(row, 0, grid->TopRow()), at = Column(column);
-    if (grid->drumMode) return {grid->ChannelOfRow(near), at, OwnBit(at)};
+    if (grid->drumMode) return {grid->ChannelOfRow(near), at, SamplerBit(at)};
     return {Channel(channel), at, 1u << near};
 }
 
@@ -81,20 +80,31 @@ bool ScoreNotes::ChangeNoteLength(int column, float delta)
     const float changed = Clamp(offset + delta, -1.0f, 1.0f);
     if (changed == offset) return false;
     Pattern().SetLock(Channel(channel), step, slot::NoteLength, changed);
+    Pattern().SettleLocks();
     return true;
 }
 
 // Many at once
 
-void ScoreNotes::SwapCells(int ofChannel, int bar1, int step1, int bar2, int step2)
+void ScoreNotes::SetNotes(int column, std::uint32_t rows, bool on)
 {
-    const int c = Channel(ofChannel), a = StepAt(bar1, step1), b = StepAt(bar2, step2);
-    Pattern().SwapSteps(c, a, b);
-    if (c >= kSamplerChannels) return;
-    for (const int step : {a, b}) Pattern().KeepSamplerBit(c, step);
+    if (grid->drumMode) {
+        for (int row = 0; row < grid->rowCount; ++row)
+            if (rows >> row & 1u) SetNoteAt(column, row, on);
+    } else if (on) {
+        Pattern().SetNotes(Channel(channel), Column(column), rows);
+    } else {
+        Pattern().ClearNotes(Channel(channel), Column(column), rows);
+    }
 }
 
-std::uint32_t ScoreNotes::SelectedIn(int column, ScoreSpan rows) const
+void ScoreNotes::SwapCells(int ofChannel, int bar1, int step1, int bar2, int step2)
+{
+    Pattern().SwapSteps(Channel(ofChannel), StepAt(bar1, step1), StepAt(bar2, step2));
+    Pattern().SettleLocks();
+}
+
+std::uint32_t ScoreNotes::NotesIn(int column, ScoreSpan rows) const
 {
     if (!grid->drumMode) return Pattern().steps[Channel(channel)][Column(column)] & BitsOf(rows);
     std::uint32_t selected = 0;
@@ -106,12 +116,12 @@ std::uint32_t ScoreNotes::SelectedIn(int column, ScoreSpan rows) const
 bool ScoreNotes::Clear(const ScoreSelection& selection)
 {
     const ScoreSpan columns = selection.Columns(*grid), rows = selection.Rows(*grid);
-    for (int column = columns.first; column <= columns.last; ++column)
-        for (int row = rows.first; row <= rows.last; ++row) SetNoteAt(column, row, false);
+    for (int column = columns.first; column <= columns.last; ++column) SetNotes(column, BitsOf(rows), false);
     bool any = false;
     for (int column = 0; column < kSteps; ++column) {
         if (Pattern().steps[Channel(channel)][column] != 0) continue;
         Pattern().ClearLocks(Channel(channel), column);
+        Pattern().SettleLocks();
         any = true;
     }
     return any;
@@ -122,7 +132,7 @@ bool ScoreNotes::AnyIn(const ScoreSelection& selection) const
     const ScoreSpan columns = selection.Columns(*grid);
     const ScoreSpan rows = grid->drumMode ? selection.Rows(*grid) : ScoreSpan{0, grid->TopRow()};
     for (int column = columns.first; column <= columns.last; ++column)
-        if (SelectedIn(column, rows) != 0) return true;
+        if (NotesIn(column, rows) != 0) return true;
     return false;
 }
 

@@ -31,10 +31,12 @@ public:
     /// Exchanges two steps of a channel, words and locks; those of a sampler hold their own step's bit afterwards.
     void SwapCells(int ofChannel, int bar1, int step1, int bar2, int step2);
     /// Takes the notes of the selection out, then empties the locks of all columns of `channel` without a note;
-    /// whether there is one.
+    /// whether there is such a column.
     bool Clear(const ScoreSelection& selection);
     /// The notes of a column in some rows, a bit each, the lowest row's first.
-    std::uint32_t SelectedIn(int column, ScoreSpan rows) const;
+    std::uint32_t NotesIn(int column, ScoreSpan rows) const;
+    /// Sets or takes these in one column; in the piano roll in one piece.
+    void SetNotes(int column, std::uint32_t rows, bool on);
     /// Whether a note is left in the selection: of the piano roll in its columns, of the drum grid in its cells.
     bool AnyIn(const ScoreSelection& selection) const;
 

@@ -28,10 +28,10 @@ constexpr int kNameHeight = 20, kNameMargin = 20, kNameAir = 5, kTopEdge = 2, kH
 
 int HeightOf(float value) { return Truncate(static_cast<float>(ScoreGrid::laneRect.h) * value); }
 
-Rect KeyRect(const ScoreGrid& grid, int row)
+Rect KeyRect(const ScoreGrid& shown, int row)
 {
-    const Rect keys = grid.KeyStripRect();
-    return {keys.x, grid.CellRect(0, row).y, keys.w, grid.cellHeight};
+    const Rect keys = shown.KeyStripRect();
+    return {keys.x, shown.CellRect(0, row).y, keys.w, shown.cellHeight};
 }
 
 } // namespace
@@ -41,8 +41,7 @@ void ScorePainter::Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* pa
 {
     KeptDrawState kept(&page);
     page.DrawBitmap(skin.pages[notes.grid->drumMode], {0, 0, page.width, page.height}, {});
-    DrawGrid(page);
-    if (state.OnCell()) DrawHint(page, copying);
+    grid.Draw(page, copying);
     DrawLane(page, parameterName);
     if (state.hoverBar >= 0) DrawHoveredBar(page);
     DrawKeyMarks(page);
@@ -98,9 +97,8 @@ void ScorePainter::DrawHoveredBar(CDrawBuffer& page) const
 
 void ScorePainter::DrawKeyMarks(CDrawBuffer& page) const
 {
-    const ScoreGrid& grid = *notes.grid;
-    if (grid.drumMode) Fill(page, KeyRect(grid, grid.TopRow() - notes.channel), kOwnChannel);
-    if (state.auditionRow >= 0) Fill(page, KeyRect(grid, state.auditionRow), kAuditioned);
+    if (notes.grid->drumMode) Fill(page, KeyRect(*notes.grid, notes.grid->TopRow() - notes.channel), kOwnChannel);
+    if (state.auditionRow >= 0) Fill(page, KeyRect(*notes.grid, state.auditionRow), kAuditioned);
 }
 
 // Buttons

@@ -2,8 +2,8 @@
 #pragma once
 
 #include "editor/score/ScoreButtons.h"
+#include "editor/score/ScoreGridPainter.h"
 #include "editor/score/ScoreLane.h"
-#include "editor/score/ScoreState.h"
 #include "gui/pixels/CDrawBuffer.h"
 
 namespace korvane {
@@ -18,7 +18,7 @@ struct ScoreSkin {
 class ScorePainter {
 public:
     ScorePainter(const ScoreNotes& shownNotes, const ScoreLane& shownLane, const ScoreState& shownState)
-        : notes(shownNotes), lane(shownLane), state(shownState)
+        : notes(shownNotes), lane(shownLane), state(shownState), grid(shownNotes, shownState)
     {
     }
 
@@ -28,20 +28,6 @@ public:
     void Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* parameterName, bool playing, bool copying) const;
 
 private:
-    struct ShownNotes;
-
-    // The grid.
-    ShownNotes Read() const;
-    void DrawGrid(CDrawBuffer& page) const;
-    void DrawSelection(CDrawBuffer& page) const;
-    void DrawTails(CDrawBuffer& page, const ShownNotes& shown) const;
-    void DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const;
-    void DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const;
-    void DrawHovered(CDrawBuffer& page) const;
-    void DrawHint(CDrawBuffer& page, bool copying) const;
-    bool Carries() const { return state.dragged && state.CarriesSelection(); }
-
-    // What is around it.
     void DrawLane(CDrawBuffer& page, const char* parameterName) const;
     void DrawBars(CDrawBuffer& page) const;
     void DrawHoveredBar(CDrawBuffer& page) const;
@@ -52,10 +38,7 @@ private:
     const ScoreNotes& notes;
     const ScoreLane& lane;
     const ScoreState& state;
+    const ScoreGridPainter grid;
 };
-
-/// What the grid says of a cell: note or channel, bar and step, counted from 1.
-/// text  64 bytes
-void ScoreHint(const ScoreGrid& grid, int column, int row, char* text);
 
 } // namespace korvane

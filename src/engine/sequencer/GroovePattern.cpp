@@ -76,43 +76,54 @@ std::uint32_t GroovePattern::FlipNotes(int channel, int step, std::uint32_t note
     return steps[channel][step].Update([notes](std::uint32_t word) { return word ^ notes; });
 }
 
-void GroovePattern::KeepSamplerBit(int channel, int step)
-{
-    const std::uint32_t own = 1u << step % kStepsPerBar;
-    steps[channel][step].Update([own](std::uint32_t word) { return word != 0 ? own : 0u; });
-}
-
 void GroovePattern::SetLock(int channel, int step, int param, float offset)
 {
     lockEdits.Set(locks[channel][step], param, offset);
 }
 
+/// Memory for locks is there before who changes lists comes to it, who may be the audio thread.
+void GroovePattern::Copy(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep, int count)
+{
+    for (int n = 0; n < count; ++n) {
+        locks[channel][step + n].Touch(from.locks[fromChannel][fromStep + n].Count());
+        steps[channel][step + n] = from.steps[fromChannel][fromStep + n];
+    }
+    lockEdits.Copy(&locks[channel][step], &from.locks[fromChannel][fromStep], count);
+}
+
 void GroovePattern::CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count)
 {
-    for (int n = 0; n < count; ++n) steps[channel][step + n] = from.steps[channel][fromStep + n];
-    lockEdits.Copy(&locks[channel][step], &from.locks[channel][fromStep], count);
+    Copy(channel, step, from, channel, fromStep, count);
 }
 
 void GroovePattern::CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep)
 {
-    steps[channel][step] = from.steps[fromChannel][fromStep];
-    lockEdits.Copy(&locks[channel][step], &from.locks[fromChannel][fromStep], 1);
+    Copy(channel, step, from, fromChannel, fromStep, 1);
 }
 
 void GroovePattern::SwapSteps(int channel, int a, int b)
 {
     const std::uint32_t wordA = steps[channel][a], wordB = steps[channel][b];
     const auto exchange = [this, channel](int step, std::uint32_t old, std::uint32_t notes) {
-        steps[channel][step].Update([=](std::uint32_t word) { return (word & ~old) | notes; });
+        const std::uint32_t own = channel < kSamplerChannels ? SamplerBit(step) : 0u;
+        steps[channel][step].Update([=](std::uint32_t word) {
+            const std::uint32_t next = (word & ~old) | notes;
+            return own != 0 && next != 0 ? own : next;
+        });
     };
     SetNotes(channel, a, wordB); // no tick meets the pattern without them, and takes it for shorter
     exchange(b, wordB, wordA);
     exchange(a, wordA, wordB);
-    lockEdits.Swap(locks[channel][a], locks[channel][b]);
+    StepLockList& mine = locks[channel][a];
+    StepLockList& others = locks[channel][b];
+    mine.Touch(others.Count());
+    others.Touch(mine.Count());
+    lockEdits.Swap(mine, others);
 }
 
 void GroovePattern::UpdateLength()
 {
+    if (movers > 0) return;
     int bars = 1;
     for (int s = kSteps - 1; s >= kStepsPerBar && bars == 1; --s)
         for (int c = 0; c < kChannels; ++c)

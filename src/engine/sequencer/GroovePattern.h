@@ -11,6 +11,9 @@
 
 namespace korvane {
 
+/// The only bit that a sampler's step has: its own number in the bar.
+constexpr std::uint32_t SamplerBit(int step) { return 1u << step % kStepsPerBar; }
+
 /// Steps and their parameter locks, channel by channel, step = bar × 16 + step in the bar. Eight per engine and one
 /// clipboard. Host, editor and MIDI write steps and locks and the audio thread, which records, too; it writes the
 /// length at every tick. All read. Of changes at the same instant none is lost, be they of notes or of locks
@@ -35,24 +38,29 @@ public:
     std::uint32_t SetNotes(int channel, int step, std::uint32_t notes);
     std::uint32_t ClearNotes(int channel, int step, std::uint32_t notes);
     std::uint32_t FlipNotes(int channel, int step, std::uint32_t notes);
-    /// A word that holds a note holds the bit of its own step in the bar, as a sampler's does, and no other.
-    void KeepSamplerBit(int channel, int step);
     /// As StepLockList::Set.
     void SetLock(int channel, int step, int param, float offset);
     /// Copies steps of a channel, words and locks, from another pattern.
     void CopySteps(int channel, int step, const GroovePattern& from, int fromStep, int count);
     /// Copies one step of any channel.
     void CopyStep(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep);
-    /// Exchanges two steps of a channel, words and locks. A note put into one of them meanwhile stays in one.
+    /// Exchanges two steps of a channel, words and locks; those of a sampler that hold a note have their own bit then.
+    /// A note put into one of them meanwhile stays in one.
     void SwapSteps(int channel, int a, int b);
-    /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps.
+    /// Waits until all changes of locks that have been asked for are done. Not on the audio thread.
+    void SettleLocks() const { lockEdits.Settle(); }
+    /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps; leaves it
+    /// while steps are on their way.
     void UpdateLength();
 
     Shared<std::uint32_t> steps[kChannels][kSteps]; // bit k (0..23) plays note 48 + k
     StepLockList locks[kChannels][kSteps];          // to read; who has the pattern alone may write
     Shared<std::int32_t> length = kStepsPerBar;     // 16, 32, 64 or 128 steps
+    Shared<std::int32_t> movers;                    // who carries many steps about counts himself in and out
 
 private:
+    void Copy(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep, int count);
+
     struct Unmap {
         void operator()(std::uint64_t* pages) const;
     };

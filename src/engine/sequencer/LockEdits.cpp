@@ -1,6 +1,9 @@
 // Changes of lock lists, one after another, whoever asks for them.
 #include "engine/sequencer/LockEdits.h"
 
+#include <chrono>
+#include <thread>
+
 namespace korvane {
 
 void LockEdits::Set(StepLockList& list, int param, float offset)
@@ -32,9 +35,26 @@ void LockEdits::Ask(const Edit& edit)
     State mine;
     do {
         state.exchange(State::AtIt); // no mere store: what was put in before it was asked for is seen
-        for (Edit next; waiting.Pop(next);) Do(next);
+        DoWaiting();
         mine = State::AtIt;
     } while (!state.compare_exchange_strong(mine, State::Nobody));
+}
+
+void LockEdits::DoWaiting()
+{
+    for (Edit next; waiting.Pop(next);) {
+        Do(next);
+        done.fetch_add(1, std::memory_order_release);
+    }
+}
+
+void LockEdits::Settle() const
+{
+    constexpr std::chrono::microseconds kLook{100};
+    constexpr int kLooks = 2000;
+    const std::uint32_t asked = waiting.Pushed();
+    const auto behind = [&] { return static_cast<std::int32_t>(done.load(std::memory_order_acquire) - asked) < 0; };
+    for (int looks = 0; behind() && looks < kLooks; ++looks) std::this_thread::sleep_for(kLook);
 }
 
 void LockEdits::Do(const Edit& edit)

@@ -15,7 +15,8 @@ namespace korvane {
 /// its call, and does what came after it when it goes on. Once all calls have returned, all is done.
 ///
 /// When so many wait that the queue is full, since who is at it was interrupted for long, a change is made at once: it
-/// may then undo one of the same instant, and older ones that wait come after it.
+/// may then undo one of the same instant, and older ones that wait come after it. Who may wait settles before it asks
+/// for many, and before it touches what a change that waits still reads.
 class LockEdits {
 public:
     // Any thread.
@@ -27,6 +28,9 @@ public:
     /// Copies what stands in the others when it is done.
     void Copy(StepLockList* lists, const StepLockList* from, int count);
     void Swap(StepLockList& list, StepLockList& other);
+
+    /// Waits until all that has been asked for so far is done, a fifth of a second at most. Not on the audio thread.
+    void Settle() const;
 
 private:
     struct Edit {
@@ -42,10 +46,12 @@ private:
     enum class State { Nobody, AtIt, AskedAgain };
 
     void Ask(const Edit& edit);
+    void DoWaiting();
     static void Do(const Edit& edit);
 
     CommandQueue<Edit, 64> waiting; // whoever is at it reads
     std::atomic<State> state{State::Nobody};
+    std::atomic<std::uint32_t> done{0}; // of those in the queue so far; whoever is at it counts
 };
 
 } // namespace korvane

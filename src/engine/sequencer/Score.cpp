@@ -53,7 +53,7 @@ void Score::Paste(Selection& selection)
         } else if (edited != -1) {
             if (!selection.Chosen(c) || fromBar < 0 || fromStep < 0) continue;
             pattern.CopySteps(c, toBar + edited, *clipboard, fromBar * kStepsPerBar + fromStep, 1);
-            if (c < kSamplerChannels) pattern.steps[c][toBar + edited] = 1u << edited;
+            if (c < kSamplerChannels) pattern.steps[c][toBar + edited] = SamplerBit(edited);
         } else if (selection.channelMarked[c]) {
             pattern.CopySteps(c, 0, *clipboard, 0, kSteps);
         }
@@ -93,8 +93,6 @@ bool Score::NudgeHeldSteps(const Selection& selection, const Shared<bool>* stepH
         any = true;
         if (other < 0 || other >= kStepsPerBar) continue;
         pattern.SwapSteps(channel, bar + step, bar + other);
-        if (channel >= kSamplerChannels) continue;
-        for (const int moved : {step, other}) pattern.KeepSamplerBit(channel, bar + moved);
     }
     return any;
 }
@@ -109,6 +107,12 @@ void Score::ResetSelection()
 {
     currentPattern = nextPattern = patternRepeats = 0;
     Fill(playOnce, false);
+}
+
+void Score::SettleLocks() const
+{
+    for (const auto& pattern : memory) pattern->SettleLocks();
+    clipboard->SettleLocks();
 }
 
 void Score::SwapPatterns()

@@ -17,7 +17,7 @@ namespace korvane {
 /// plays, the other is filled beside it by a load and then takes its place.
 ///
 /// Threads: host, editor and MIDI (on the audio thread) edit, the audio thread reads steps and locks and moves on from
-/// one pattern to the next. A step's notes, and its locks, are changed in one piece; an edit of many steps may be heard
+/// one pattern to the next. A step's notes are changed in one piece; its locks, and an edit of many steps, may be heard
 /// half done for one tick. Two selections of patterns in the same instant leave one of them. `lastStep` is the audio
 /// thread's, others read it.
 class Score {
@@ -50,6 +50,8 @@ public:
     /// The same but for the patterns.
     void ResetSelection();
 
+    /// Waits until no change of locks reads or writes the set that does not play. The loader, before it fills that.
+    void SettleLocks() const;
     /// The set that does not play becomes the one that does. Who has the engine to itself.
     void SwapPatterns();
 

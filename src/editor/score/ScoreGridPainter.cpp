@@ -1,11 +1,12 @@
-// Draws the open score editor: its grid.
+// Draws the grid of the open score editor, with what the hand does there.
+#include "editor/score/ScoreGridPainter.h"
+
 #include <bit>
 #include <cstdio>
 #include <iterator>
 
 #include "editor/score/Fill.h"
 #include "editor/score/ScoreMove.h"
-#include "editor/score/ScorePainter.h"
 #include "gui/controls/KeptDrawState.h"
 #include "platform/Numbers.h"
 
@@ -56,22 +57,28 @@ void ForRows(std::uint32_t bits, DrawRow draw)
 } // namespace
 
 /// As they stood at one moment; a bit for each row.
-struct ScorePainter::ShownNotes {
+struct ScoreGridPainter::ShownNotes {
     std::uint32_t all[kSteps], selected[kSteps];
 };
 
-ScorePainter::ShownNotes ScorePainter::Read() const
+ScoreGridPainter::ShownNotes ScoreGridPainter::Read() const
 {
     ShownNotes shown{};
     const ScoreSpan columns = state.selection.Columns(*notes.grid), rows = state.selection.Rows(*notes.grid);
     for (int column = 0; column < kSteps; ++column) {
-        shown.all[column] = notes.SelectedIn(column, {0, notes.grid->TopRow()});
-        if (columns.Holds(column)) shown.selected[column] = notes.SelectedIn(column, rows);
+        shown.all[column] = notes.NotesIn(column, {0, notes.grid->TopRow()});
+        if (columns.Holds(column)) shown.selected[column] = notes.NotesIn(column, rows);
     }
     return shown;
 }
 
-void ScorePainter::DrawGrid(CDrawBuffer& page) const
+void ScoreGridPainter::Draw(CDrawBuffer& page, bool copying) const
+{
+    DrawCells(page);
+    if (state.OnCell()) DrawHint(page, copying);
+}
+
+void ScoreGridPainter::DrawCells(CDrawBuffer& page) const
 {
     KeptDrawState kept(&page);
     if (!kept.ClipTo(notes.grid->GridRect())) return;
@@ -85,7 +92,7 @@ void ScorePainter::DrawGrid(CDrawBuffer& page) const
 }
 
 /// Its cells are tinted, as they are what commands act on; the frame shows how far the hand has come.
-void ScorePainter::DrawSelection(CDrawBuffer& page) const
+void ScoreGridPainter::DrawSelection(CDrawBuffer& page) const
 {
     const ScoreSpan columns = state.selection.Columns(*notes.grid), rows = state.selection.Rows(*notes.grid);
     if (columns.Empty() || rows.Empty()) return;
@@ -97,7 +104,7 @@ void ScorePainter::DrawSelection(CDrawBuffer& page) const
 }
 
 /// From where a note ends to how far it sounds.
-void ScorePainter::DrawTails(CDrawBuffer& page, const ShownNotes& shown) const
+void ScoreGridPainter::DrawTails(CDrawBuffer& page, const ShownNotes& shown) const
 {
     const ScoreGrid& grid = *notes.grid;
     for (int column = 0; column < kSteps; ++column) {
@@ -113,7 +120,7 @@ void ScorePainter::DrawTails(CDrawBuffer& page, const ShownNotes& shown) const
     }
 }
 
-void ScorePainter::DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const
+void ScoreGridPainter::DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const
 {
     for (int column = 0; column < kSteps; ++column) {
         const std::uint32_t selected = shown.selected[column];
@@ -124,7 +131,7 @@ void ScorePainter::DrawNotes(CDrawBuffer& page, const ShownNotes& shown) const
 }
 
 /// What is selected once more, where it would go.
-void ScorePainter::DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const
+void ScoreGridPainter::DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const
 {
     const ScoreMove move = ScoreMove::Carried(notes, state);
     for (int column = 0; column < kSteps; ++column)
@@ -138,7 +145,7 @@ void ScorePainter::DrawCarried(CDrawBuffer& page, const ShownNotes& shown) const
 }
 
 /// What a click would set, as long as there is nothing.
-void ScorePainter::DrawHovered(CDrawBuffer& page) const
+void ScoreGridPainter::DrawHovered(CDrawBuffer& page) const
 {
     const ScoreGrid& grid = *notes.grid;
     const bool free = grid.drumMode ? !notes.IsNoteAt(state.hoverColumn, state.hoverRow)
@@ -178,7 +185,7 @@ void ScoreHint(const ScoreGrid& grid, int column, int row, char* text)
 }
 
 /// Beside the cell, on the page. A copy is marked with a plus.
-void ScorePainter::DrawHint(CDrawBuffer& page, bool copying) const
+void ScoreGridPainter::DrawHint(CDrawBuffer& page, bool copying) const
 {
     char text[64];
     ScoreHint(*notes.grid, state.hoverColumn, state.hoverRow, text);
