@@ -5,6 +5,8 @@
 
 #include <sstream>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "engine/Transport.h"
 #include "support/PanelRig.h"
@@ -13,7 +15,13 @@ namespace korvane {
 
 /// All patterns are empty at first, the first one is selected.
 ///
-/// Places: "10,5" middle of a cell, "L10,0.75" a height in the lane, "B2" bar, "K3" key, "P120,400" pixel of the editor
+/// Do plays what hands do, in words: verbs and their places. "on 92 open 9" opens channel 9 by a right click on
+/// parameter 92, "tap 10,5" presses and releases there, "drag A B" presses at A and releases at B, "band A B" selects
+/// by a rubber band from cell to cell, "ctrl" holds that key or lets it go, "type _" is the space bar;
+/// "9.10:20[12=0.25]" puts notes and a lock into step 10 of channel 9, as Text writes them.
+///
+/// Places: "10,5" middle of a cell, "L10,0.75" a height in the lane, "B2" a bar's last pixel, "K3" a key, "P120,400"
+/// a pixel of the editor.
 struct ScoreRig : testing::Test, PanelRig {
     ScoreRig()
     {
@@ -118,6 +126,7 @@ struct ScoreRig : testing::Test, PanelRig {
             Engine().score.currentPattern = 0;
             Do(hands);
             EXPECT_EQ(Text(), left) << hands;
+            EXPECT_EQ(Pattern().movers, 0) << hands;
             Do(window->modifiers ? "ctrl close up" : "close up");
         }
     }

@@ -39,6 +39,12 @@ TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
         engine.score.Current().UpdateLength();
         EXPECT_EQ(engine.score.Current().length, length);
     }
+    Put(12, {{64, 0u}, {127, 0u}});
+    for (const auto& [movers, length] : {std::pair{1, 128}, {0, 64}}) { // steps on their way
+        engine.score.Current().movers = movers;
+        engine.score.Current().UpdateLength();
+        EXPECT_EQ(engine.score.Current().length, length);
+    }
     engine.score.Current().Clear();
     EXPECT_EQ(engine.score.Current().length, 16);
 }
