@@ -1,13 +1,11 @@
-// The score editor: how it opens and closes, and what the hand does on it.
+// The score editor: how it opens and closes, its buttons and how it is drawn.
 #include "editor/score/ScoreEditControl.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "editor/layout/Skin.h"
 #include "editor/score/ScoreButtons.h"
 #include "editor/score/ScoreClipboard.h"
-#include "editor/score/ScoreMove.h"
 #include "engine/Transport.h"
 #include "framework/ParameterTable.h"
 #include "gui/controls/CControlGroup.h"
@@ -17,22 +15,15 @@ namespace korvane {
 
 namespace {
 
-constexpr int kBarWidth = kStepsPerBar * ScoreGrid::cellWidth;
 constexpr float kLengthPerNotch = 0.025f;
-constexpr int kFlashFade = 30; // per tick
-
+constexpr int kFlashFade = 30;                 // per tick
 constexpr Color kClosedColor = Rgb(255, 0, 0); // where nobody should see it
-
-Rect Between(Point a, Point b)
-{
-    return {std::min(a.x, b.x), std::min(a.y, b.y), std::abs(a.x - b.x), std::abs(a.y - b.y)};
-}
 
 } // namespace
 
 ScoreEditControl::ScoreEditControl(Rect place, KVSynth& editedSynth)
     : CControl(place, -1), notes(*editedSynth.engine), lane(editedSynth, notes), synth(editedSynth),
-      sequencer(*editedSynth.engine), painter(notes, lane, state), closedRect(place)
+      sequencer(*editedSynth.engine), hand(notes, lane, state), painter(notes, lane, state), closedRect(place)
 {
 }
 
@@ -43,19 +34,10 @@ Point ScoreEditControl::Inside(int x, int y) const
     return {std::clamp(x, -kFarthest, kFarthest) - rect.x, std::clamp(y, -kFarthest, kFarthest) - rect.y};
 }
 
-bool ScoreEditControl::Playing() { return synth.GetParameter(param::Play) != 0.0f; }
-
 /// What is drawn here goes into the pattern, not into a step that the panel edits.
 void ScoreEditControl::LeaveEditMode()
 {
     if (ShownModes(sequencer).editMode) SetEdit(sequencer, false);
-}
-
-void ScoreEditControl::TogglePlay()
-{
-    const float on = Playing() ? 0.0f : 1.0f;
-    synth.SetParameter(param::Play, on);
-    if (synth.wrapper) synth.wrapper->ParameterAutomated(param::Play, on);
 }
 
 // Opening and closing
@@ -68,7 +50,7 @@ void ScoreEditControl::Open()
     CaptureMouse(false);
     notes.channel = sequencer.selection.selectedChannel;
     notes.pattern = sequencer.score.currentPattern;
-    notes.grid = sequencer.selection.OnSampler() ? &kDrumGrid : &kPianoRoll;
+    notes.grid = notes.channel < kSamplerChannels ? &kDrumGrid : &kPianoRoll;
     state = {};
     const Rect open = Grid().openRect;
     gridImage = std::make_unique<CDrawBuffer>();
@@ -84,7 +66,7 @@ void ScoreEditControl::Open()
 void ScoreEditControl::Close()
 {
     if (!IsOpen()) return;
-    EndAudition();
+    hand.Drop();
     ReleaseMouse();
     SetFocus(false);
     gridImage.reset();
@@ -96,200 +78,32 @@ void ScoreEditControl::Close()
 void ScoreEditControl::CancelInteraction() { Close(); }
 void ScoreEditControl::OnRightDown(int, int) { Close(); }
 
-// Presses
+// Hands
 
 void ScoreEditControl::OnLeftDown(int x, int y)
 {
     if (!IsOpen()) return Open();
     if (!rect.Contains(x, y)) return OnRightDown(x, y);
     LeaveEditMode();
-    EndAudition();
-    state.pressColumn = state.pressRow = state.barPick = -1;
-    state.dragged = state.rubberBand = state.laneDrag = state.keyDrag = false;
-    const Point at = Inside(x, y);
-    state.pressActive = !PressButton(at);
-    if (state.pressActive) PressPage(at);
-}
-
-bool ScoreEditControl::PressButton(Point at)
-{
-    for (const ScoreButton& button : kScoreButtons) {
-        if (!button.PlaceOn(Grid()).Contains(at.x, at.y)) continue;
-        switch (button.command) {
-        case ScoreCommand::Copy: Copy(); break;
-        case ScoreCommand::Paste: Paste(); break;
-        case ScoreCommand::Clear: Clear(); break;
-        case ScoreCommand::Play: TogglePlay(); break;
-        }
-        return true;
-    }
-    return false;
-}
-
-void ScoreEditControl::PressPage(Point at)
-{
-    const Rect grid = Grid().GridRect();
-    pressPoint = lastPoint = at;
-    Hover(at);
-    if (at.y >= grid.y + grid.h) return;
-    if (Grid().KeyStripRect().Contains(at.x, at.y)) {
-        state.keyDrag = true;
-        return Follow(at);
-    }
-    if (state.hoverBar >= 0) return PressBar();
-    if (ScoreGrid::laneRect.Contains(at.x, at.y)) {
-        state.laneDrag = true;
-        return Follow(at);
-    }
-    if (!state.OnCell()) return;
-    const bool outside = !state.selection.Contains(at);
-    if (outside) state.selection.Remove();
-    PressCell();
-    if (IsCtrlDown() && outside) StartRubberBand(at);
+    hand.Drop();
+    if (const Point at = Inside(x, y); !PressButton(at)) hand.Press(at, IsCtrlDown());
     SetDirty(true);
 }
-
-void ScoreEditControl::PressBar()
-{
-    state.barPick = state.hoverBar;
-    SelectBars(state.barPick, state.barPick);
-}
-
-void ScoreEditControl::PressCell()
-{
-    state.pressColumn = state.hoverColumn;
-    state.pressRow = state.hoverRow;
-    if (!Playing() && !state.selection.Holds(Grid(), state.hoverColumn, state.hoverRow)) Audition(state.hoverRow);
-    if (!IsCtrlDown() && !state.selection.Exists() && notes.IsNoteAt(state.hoverColumn, state.hoverRow)) SelectNote();
-}
-
-/// In the piano roll the whole chord.
-void ScoreEditControl::SelectNote()
-{
-    const Rect cell = Grid().CellRect(state.pressColumn, state.pressRow), grid = Grid().GridRect();
-    const int inside = cell.w - 2;
-    state.selection.rect =
-        Grid().drumMode ? Rect{cell.x + 1, cell.y + 1, inside, cell.h - 2} : Rect{cell.x + 1, grid.y, inside, grid.h};
-}
-
-// Moves
 
 void ScoreEditControl::OnMouseMove(int x, int y)
 {
     if (!IsOpen()) return;
     LeaveEditMode();
-    Follow(Inside(x, y));
-}
-
-void ScoreEditControl::Hover(Point at)
-{
-    const bool onGrid = Grid().GridRect().Contains(at.x, at.y);
-    const bool onLane = state.laneDrag && ScoreGrid::laneRect.Contains(at.x, at.y);
-    const bool onBars = ScoreGrid::barStripRect.Contains(at.x, at.y);
-    const int column = onGrid || onLane ? ScoreGrid::ColumnAt(at.x) : -1;
-    const int row = onGrid ? Grid().RowAt(at.y) : -1;
-    const int bar = onBars ? (at.x - ScoreGrid::barStripRect.x) / kBarWidth : -1;
-    if (column == state.hoverColumn && row == state.hoverRow && bar == state.hoverBar) return;
-    state.hoverColumn = column;
-    state.hoverRow = row;
-    state.hoverBar = bar;
+    hand.Move(Inside(x, y));
     SetDirty(true);
 }
-
-void ScoreEditControl::Follow(Point at)
-{
-    Hover(at);
-    if (state.pressActive) Drag(at);
-    lastPoint = at;
-}
-
-void ScoreEditControl::Drag(Point at)
-{
-    const bool onPressed = state.hoverColumn == state.pressColumn && state.hoverRow == state.pressRow;
-    if (!onPressed || state.rubberBand) state.dragged = true;
-    if (state.keyDrag) return FollowKeys(at);
-    if (state.barPick >= 0) return FollowBars(at);
-    if (state.laneDrag) return FollowLane(at);
-    FollowRubberBand(at);
-    if (state.dragged) EndAudition();
-}
-
-void ScoreEditControl::FollowKeys(Point at)
-{
-    const int row = Grid().RowAt(at.y);
-    if (row >= 0 && row != state.auditionRow) Audition(row);
-}
-
-void ScoreEditControl::FollowBars(Point at)
-{
-    const int bar = std::clamp(at.x - ScoreGrid::barStripRect.x, 0, ScoreGrid::barStripRect.w - 1) / kBarWidth;
-    SelectBars(std::min(state.barPick, bar), std::max(state.barPick, bar));
-}
-
-void ScoreEditControl::SelectBars(int first, int last)
-{
-    const Rect bars = Grid().ColumnsRect(first * kStepsPerBar, (last - first + 1) * kStepsPerBar);
-    state.selection.rect = {bars.x + 1, bars.y + 1, bars.w - 2, bars.h - 2};
-    SetDirty(true);
-}
-
-void ScoreEditControl::FollowLane(Point at)
-{
-    lane.Draw(lastPoint, at, state.selection);
-    SetDirty(true);
-}
-
-void ScoreEditControl::StartRubberBand(Point origin)
-{
-    rubberOrigin = origin;
-    state.pressColumn = state.pressRow = -1;
-    state.rubberBand = true;
-}
-
-void ScoreEditControl::FollowRubberBand(Point at)
-{
-    if (!state.selection.Exists() && state.pressColumn >= 0 && state.dragged) StartRubberBand(pressPoint);
-    if (!state.rubberBand) return;
-    state.selection.rect = Between(rubberOrigin, at);
-    SetDirty(true);
-}
-
-// Releases
 
 void ScoreEditControl::OnLeftUp(int x, int y)
 {
     if (!IsOpen()) return;
     LeaveEditMode();
-    if (!state.pressActive) return;
-    if (const Point at = Inside(x, y); at != lastPoint) Follow(at);
-    state.pressActive = state.rubberBand = false;
+    hand.Release(Inside(x, y), IsCtrlDown());
     SetDirty(true);
-    EndAudition();
-    if (EndOtherDrag()) return;
-    if (!state.dragged && state.OnCell()) ToggleHovered();
-    if (!notes.AnyIn(state.selection)) state.selection.Remove();
-    MoveSelection();
-}
-
-/// Of keys, lane or bars; whether it was one.
-bool ScoreEditControl::EndOtherDrag()
-{
-    const bool other = state.keyDrag || state.laneDrag || state.barPick >= 0;
-    state.keyDrag = state.laneDrag = false;
-    state.barPick = -1;
-    return other;
-}
-
-void ScoreEditControl::ToggleHovered()
-{
-    const int column = state.hoverColumn, row = state.hoverRow;
-    notes.SetNoteAt(column, row, !notes.IsNoteAt(column, row));
-}
-
-void ScoreEditControl::MoveSelection()
-{
-    if (state.CarriesSelection()) ScoreMove::Carried(notes, state).Apply(notes, state.selection, IsCtrlDown());
-    state.pressColumn = state.pressRow = -1;
 }
 
 void ScoreEditControl::OnWheel(int, int notches)
@@ -307,28 +121,29 @@ void ScoreEditControl::OnWheel(int, int notches)
     SetDirty(true);
 }
 
-// Listening
+// Commands
 
-void ScoreEditControl::Audition(int row)
+bool ScoreEditControl::PressButton(Point at)
 {
-    EndAudition();
-    const bool drums = Grid().drumMode;
-    auditionChannel = drums ? Grid().ChannelOfRow(row) : static_cast<int>(sequencer.selection.selectedChannel);
-    auditionNote = drums ? 0 : kFirstNote + row;
-    state.auditionRow = row;
-    sequencer.NoteOn(auditionChannel, auditionNote, 1.0f);
-    SetDirty(true);
+    for (const ScoreButton& button : kScoreButtons) {
+        if (!button.PlaceOn(Grid()).Contains(at.x, at.y)) continue;
+        switch (button.command) {
+        case ScoreCommand::Copy: Copy(); break;
+        case ScoreCommand::Paste: Paste(); break;
+        case ScoreCommand::Clear: Clear(); break;
+        case ScoreCommand::Play: TogglePlay(); break;
+        }
+        return true;
+    }
+    return false;
 }
 
-void ScoreEditControl::EndAudition()
+void ScoreEditControl::TogglePlay()
 {
-    if (state.auditionRow < 0) return;
-    state.auditionRow = -1;
-    sequencer.ReleaseNote(auditionChannel, auditionNote);
-    SetDirty(true);
+    const float on = ShownModes(sequencer).playing ? 0.0f : 1.0f;
+    synth.SetParameter(param::Play, on);
+    if (synth.wrapper) synth.wrapper->ParameterAutomated(param::Play, on);
 }
-
-// Clipboard
 
 void ScoreEditControl::Copy()
 {
@@ -349,11 +164,11 @@ void ScoreEditControl::Clear()
     if (!IsOpen() || !state.selection.Exists()) return;
     Flash(ScoreCommand::Clear);
     if (notes.Clear(state.selection)) state.selection.Remove();
-    SetDirty(true);
 }
 
 // Drawing
 
+/// What plays and records goes on below the hand: it is drawn on each tick.
 void ScoreEditControl::OnTick()
 {
     if (!IsOpen()) return;
@@ -365,21 +180,23 @@ void ScoreEditControl::OnTick()
 void ScoreEditControl::Draw(CDrawBuffer* buffer)
 {
     if (!buffer) return;
-    if (!IsOpen()) {
-        DrawPage(buffer, rect);
-        const Color before = buffer->GetFillColor();
-        buffer->SetFillColor(kClosedColor);
-        buffer->FillRect(rect);
-        buffer->SetFillColor(before);
-        return;
-    }
+    if (!IsOpen()) return DrawClosed(*buffer);
     char name[256] = "";
     synth.GetParameterName(lane.laneParameter, name);
     const ScoreSkin skin{{group->GetBitmap(image::ScoreEdit), group->GetBitmap(image::DrumsEditor)},
                          group->GetBitmap(image::NoteEditorButtons)};
-    painter.Draw(*workImage, skin, name, Playing(), IsCtrlDown());
+    painter.Draw(*workImage, skin, name, ShownModes(sequencer).playing, IsCtrlDown());
     gridImage->Draw(buffer, rect, {0, 0});
     workImage->Draw(buffer, rect, {0, 0});
+}
+
+void ScoreEditControl::DrawClosed(CDrawBuffer& buffer)
+{
+    DrawPage(&buffer, rect);
+    const Color before = buffer.GetFillColor();
+    buffer.SetFillColor(kClosedColor);
+    buffer.FillRect(rect);
+    buffer.SetFillColor(before);
 }
 
 } // namespace korvane

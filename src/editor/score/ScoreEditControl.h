@@ -3,6 +3,7 @@
 
 #include <memory>
 
+#include "editor/score/ScoreHand.h"
 #include "editor/score/ScoreLane.h"
 #include "editor/score/ScorePainter.h"
 #include "editor/score/ScoreState.h"
@@ -45,47 +46,20 @@ public:
 private:
     const ScoreGrid& Grid() const { return *notes.grid; }
     Point Inside(int x, int y) const;
-    bool Playing();
     void LeaveEditMode();
-    void TogglePlay();
-    void Flash(ScoreCommand command) { state.flash[static_cast<int>(command)] = 255; }
-
     void Open();
     void Close();
-
-    // Presses
     bool PressButton(Point at);
-    void PressPage(Point at);
-    void PressBar();
-    void PressCell();
-    void SelectNote();
-
-    // Moves
-    void Hover(Point at);
-    void Follow(Point at);
-    void Drag(Point at);
-    void FollowKeys(Point at);
-    void FollowBars(Point at);
-    void FollowLane(Point at);
-    void FollowRubberBand(Point at);
-    void StartRubberBand(Point origin);
-    void SelectBars(int first, int last);
-
-    // Releases
-    bool EndOtherDrag();
-    void ToggleHovered();
-    void MoveSelection();
-
-    void Audition(int row);
-    void EndAudition();
+    void TogglePlay();
+    void Flash(ScoreCommand command) { state.flash[static_cast<int>(command)] = 255; }
+    void DrawClosed(CDrawBuffer& buffer);
 
     KVSynth& synth;
     GrooveEngine& sequencer;
+    ScoreHand hand;
     ScorePainter painter;
     std::unique_ptr<CDrawBuffer> gridImage, workImage; // the window below, and the editor; null while closed
     Rect closedRect;
-    Point pressPoint, lastPoint, rubberOrigin; // relative to the open editor
-    int auditionChannel = 0, auditionNote = 0; // what sounds while state.auditionRow is one
 };
 
 } // namespace korvane
