@@ -107,11 +107,11 @@ bool KVEditor::OpenScore(int x, int y)
     const bool before = std::exchange(cancelling, true); // what is held has to let go
     Score()->OnLeftDown(kAnywhere.x, kAnywhere.y);
     cancelling = before;
-    if (flags & 1) Platform().TakeFocus(); // it has keys of its own
+    if (Score()->IsOpen() && flags & 1) Platform().TakeFocus(); // it has keys of its own
     return true;
 }
 
-/// With a group above the panel, the score editor or the page about the instrument.
+/// Keys while a group is above the panel: those of the score editor; the page about the instrument has none.
 bool KVEditor::ScoreKey(int code)
 {
     switch (Score()->IsOpen() ? code : 0) {

@@ -41,8 +41,8 @@ public:
     void SetChannelParameter(int base, float value);
     /// The stored value of the selected channel plus, while a step is edited, that step's lock offset.
     float GetChannelParameter(int base) const;
-    /// The lock of a step becomes what makes of the channel's stored value this one. External controls that are bound
-    /// to the parameter follow.
+    /// Locks a step, so that the parameter has this value there; the stored value removes the lock. External controls
+    /// that are bound to the parameter follow.
     void SetStepParameter(GroovePattern& pattern, int channel, int step, int base, float value);
     /// The stored value of the channel plus the step's lock offset; not clamped.
     float StepParameter(const GroovePattern& pattern, int channel, int step, int base) const;

@@ -126,7 +126,6 @@ struct ScoreRig : testing::Test, PanelRig {
             Engine().score.currentPattern = 0;
             Do(hands);
             EXPECT_EQ(Text(), left) << hands;
-            EXPECT_EQ(Pattern().movers, 0) << hands;
             Do(window->modifiers ? "ctrl close up" : "close up");
         }
     }

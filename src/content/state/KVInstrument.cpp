@@ -198,7 +198,7 @@ void KVInstrument::ResetGroove()
 {
     Load([&] {
         BeginLoad(*engine);
-        for (GroovePattern* pattern : engine->score.spare) pattern->Clear();
+        engine->score.ClearSpare();
         Put(GrooveState(*engine));
     });
     Tell();

@@ -115,8 +115,7 @@ bool ReadState(ByteReader in, GrooveEngine& engine, GrooveState& state)
     constexpr int kBehindTag = kStateHeaderBytes - 4;
     if (!in.Tag(tag::kGroove)) return false;
     state.begun = true;
-    engine.score.SettleLocks();
-    for (GroovePattern* pattern : engine.score.spare) pattern->Clear();
+    engine.score.ClearSpare();
     state.header = in.Next(kBehindTag);
     if (state.header.Left() < kBehindTag) return false;
     for (ChannelSettings& channel : state.channels)

@@ -9,7 +9,8 @@
 namespace korvane {
 
 /// A whole pattern, of which some columns and one channel, or all sampler channels, are meant. There is one in the
-/// process, so that notes go from one instance to the other. Any window's thread; they wait for each other.
+/// process, so that notes go from one instance to the other. Any window's thread; each waits for what another does
+/// here at that moment.
 class ScoreClipboard {
 public:
     /// Takes the pattern's words and, in the order of the parameters, its locks: one for each parameter 0..211.

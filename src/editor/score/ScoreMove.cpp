@@ -38,19 +38,6 @@ void ChangeRows(ScoreNotes& notes, int column, std::uint32_t selected, int rows)
         if ((left & ~moved) >> row & 1u) pattern.steps[notes.grid->ChannelOfRow(row)][column] = 0u;
 }
 
-/// Between two exchanges the last bar may be without its note: ticks meanwhile keep the length.
-struct StepsOnTheirWay {
-    explicit StepsOnTheirWay(GroovePattern& moved) : pattern(moved) { Count(1); }
-    StepsOnTheirWay(const StepsOnTheirWay&) = delete;
-    ~StepsOnTheirWay() { Count(-1); }
-    void Count(int more)
-    {
-        pattern.movers.Update([more](std::int32_t movers) { return movers + more; });
-    }
-
-    GroovePattern& pattern;
-};
-
 void Exchange(ScoreNotes& notes, int from, int to, ScoreSpan rows)
 {
     const auto exchange = [&](int channel) {
@@ -81,7 +68,7 @@ void ScoreMove::Apply(ScoreNotes& notes, const ScoreSelection& selection, bool c
 {
     if (copying && columns == 0 && rows == 0) return;
     const ScoreSpan across = selection.Columns(*notes.grid), down = selection.Rows(*notes.grid);
-    const StepsOnTheirWay keepLength(notes.Pattern());
+    const GroovePattern::Moving moving(notes.Pattern());
     for (int n = across.first; n <= across.last; ++n) {
         const int column = columns > 0 ? across.last - (n - across.first) : n;
         const std::uint32_t selected = notes.NotesIn(column, down);

@@ -28,10 +28,10 @@ constexpr int kNameHeight = 20, kNameMargin = 20, kNameAir = 5, kTopEdge = 2, kH
 
 int HeightOf(float value) { return Truncate(static_cast<float>(ScoreGrid::laneRect.h) * value); }
 
-Rect KeyRect(const ScoreGrid& shown, int row)
+Rect KeyRect(const ScoreGrid& grid, int row)
 {
-    const Rect keys = shown.KeyStripRect();
-    return {keys.x, shown.CellRect(0, row).y, keys.w, shown.cellHeight};
+    const Rect keys = grid.KeyStripRect();
+    return {keys.x, grid.CellRect(0, row).y, keys.w, grid.cellHeight};
 }
 
 } // namespace
@@ -41,7 +41,7 @@ void ScorePainter::Draw(CDrawBuffer& page, const ScoreSkin& skin, const char* pa
 {
     KeptDrawState kept(&page);
     page.DrawBitmap(skin.pages[notes.grid->drumMode], {0, 0, page.width, page.height}, {});
-    grid.Draw(page, copying);
+    gridPainter.Draw(page, copying);
     DrawLane(page, parameterName);
     if (state.hoverBar >= 0) DrawHoveredBar(page);
     DrawKeyMarks(page);

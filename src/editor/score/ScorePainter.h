@@ -18,7 +18,7 @@ struct ScoreSkin {
 class ScorePainter {
 public:
     ScorePainter(const ScoreNotes& shownNotes, const ScoreLane& shownLane, const ScoreState& shownState)
-        : notes(shownNotes), lane(shownLane), state(shownState), grid(shownNotes, shownState)
+        : notes(shownNotes), lane(shownLane), state(shownState), gridPainter(shownNotes, shownState)
     {
     }
 
@@ -38,7 +38,7 @@ private:
     const ScoreNotes& notes;
     const ScoreLane& lane;
     const ScoreState& state;
-    const ScoreGridPainter grid;
+    const ScoreGridPainter gridPainter;
 };
 
 } // namespace korvane

@@ -101,8 +101,10 @@ void GroovePattern::CopyStep(int channel, int step, const GroovePattern& from, i
     Copy(channel, step, from, fromChannel, fromStep, 1);
 }
 
+/// At each moment a step has its old word or its new one.
 void GroovePattern::SwapSteps(int channel, int a, int b)
 {
+    const Moving moving(*this);
     const std::uint32_t wordA = steps[channel][a], wordB = steps[channel][b];
     const auto exchange = [this, channel](int step, std::uint32_t old, std::uint32_t notes) {
         const std::uint32_t own = channel < kSamplerChannels ? SamplerBit(step) : 0u;
@@ -111,9 +113,8 @@ void GroovePattern::SwapSteps(int channel, int a, int b)
             return own != 0 && next != 0 ? own : next;
         });
     };
-    SetNotes(channel, a, wordB); // no tick meets the pattern without them, and takes it for shorter
-    exchange(b, wordB, wordA);
     exchange(a, wordA, wordB);
+    exchange(b, wordB, wordA);
     StepLockList& mine = locks[channel][a];
     StepLockList& others = locks[channel][b];
     mine.Touch(others.Count());
@@ -123,7 +124,8 @@ void GroovePattern::SwapSteps(int channel, int a, int b)
 
 void GroovePattern::UpdateLength()
 {
-    if (movers > 0) return;
+    const std::uint32_t before = moves;
+    if (before % kEnded != 0) return;
     int bars = 1;
     for (int s = kSteps - 1; s >= kStepsPerBar && bars == 1; --s)
         for (int c = 0; c < kChannels; ++c)
@@ -131,6 +133,7 @@ void GroovePattern::UpdateLength()
                 bars = s / kStepsPerBar + 1;
                 break;
             }
+    if (moves != before) return; // a note may have gone from where this look came to where it had been
     length = kStepsPerBar * (bars > 4 ? 8 : bars > 2 ? 4 : bars);
 }
 

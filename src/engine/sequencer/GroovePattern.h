@@ -47,18 +47,36 @@ public:
     /// Exchanges two steps of a channel, words and locks; those of a sampler that hold a note have their own bit then.
     /// A note put into one of them meanwhile stays in one.
     void SwapSteps(int channel, int a, int b);
-    /// Waits until all changes of locks that have been asked for are done. Not on the audio thread.
+    /// Waits until all changes of locks that have been asked for are done, as LockEdits::Settle.
     void SettleLocks() const { lockEdits.Settle(); }
     /// Sets `length` to the last bar with a note on any channel, rounded up to 1, 2, 4 or 8 bars, in steps; leaves it
-    /// while steps are on their way.
+    /// while steps change places.
     void UpdateLength();
 
     Shared<std::uint32_t> steps[kChannels][kSteps]; // bit k (0..23) plays note 48 + k
     StepLockList locks[kChannels][kSteps];          // to read; who has the pattern alone may write
     Shared<std::int32_t> length = kStepsPerBar;     // 16, 32, 64 or 128 steps
-    Shared<std::int32_t> movers;                    // who carries many steps about counts himself in and out
+
+    /// While one exists, steps change places and the last bar may be without its note for a moment: ticks keep the
+    /// length that the pattern had.
+    class Moving {
+    public:
+        explicit Moving(GroovePattern& moved) : pattern(moved) { Count(1); }
+        Moving(const Moving&) = delete;
+        ~Moving() { Count(kEnded - 1); }
+
+    private:
+        void Count(std::uint32_t more)
+        {
+            pattern.moves.Update([more](std::uint32_t moves) { return moves + more; });
+        }
+
+        GroovePattern& pattern;
+    };
 
 private:
+    static constexpr std::uint32_t kEnded = 1u << 16;
+
     void Copy(int channel, int step, const GroovePattern& from, int fromChannel, int fromStep, int count);
 
     struct Unmap {
@@ -66,6 +84,7 @@ private:
     };
 
     const std::unique_ptr<std::uint64_t[], Unmap> entries; // bar by bar of each channel
+    Shared<std::uint32_t> moves; // under way; above kEnded those that have ended, as a count that wraps
     LockEdits lockEdits;
 };
 

@@ -50,11 +50,12 @@ void LockEdits::DoWaiting()
 
 void LockEdits::Settle() const
 {
-    constexpr std::chrono::microseconds kLook{100};
-    constexpr int kLooks = 2000;
+    using Clock = std::chrono::steady_clock;
     const std::uint32_t asked = waiting.Pushed();
     const auto behind = [&] { return static_cast<std::int32_t>(done.load(std::memory_order_acquire) - asked) < 0; };
-    for (int looks = 0; behind() && looks < kLooks; ++looks) std::this_thread::sleep_for(kLook);
+    if (!behind()) return;
+    const Clock::time_point end = Clock::now() + std::chrono::milliseconds(200);
+    while (behind() && Clock::now() < end) std::this_thread::sleep_for(std::chrono::microseconds(100));
 }
 
 void LockEdits::Do(const Edit& edit)

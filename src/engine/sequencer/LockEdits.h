@@ -9,14 +9,15 @@
 
 namespace korvane {
 
-/// Changes of one pattern's lists, none of which is lost. No thread waits for another: each puts its change into a
-/// queue, and the one that finds nobody at it does what stands there, for the others too. So a change is done when the
-/// call returns, but for two cases: another thread is at it and is about to do it; or another was interrupted within
-/// its call, and does what came after it when it goes on. Once all calls have returned, all is done.
+/// Changes of one pattern's lists, none of which is lost. A change is done when the call returns, but for two cases:
+/// another thread is at it and is about to do it; or another was interrupted within its call, and does what came after
+/// it when it goes on. Once all calls have returned, all is done. Who may wait, and needs a change done, calls Settle:
+/// after each of many, and before touching what a change that waits still reads or writes.
 ///
-/// When so many wait that the queue is full, since who is at it was interrupted for long, a change is made at once: it
-/// may then undo one of the same instant, and older ones that wait come after it. Who may wait settles before it asks
-/// for many, and before it touches what a change that waits still reads.
+/// No thread waits for another in the changes themselves: each puts its own into a queue, and the one that finds nobody
+/// at it does what stands there, for the others too. When so many wait that the queue is full, since who is at it was
+/// interrupted for long, a change is made at once: it may then undo one of the same instant, and older ones that wait
+/// come after it.
 class LockEdits {
 public:
     // Any thread.
@@ -29,7 +30,8 @@ public:
     void Copy(StepLockList* lists, const StepLockList* from, int count);
     void Swap(StepLockList& list, StepLockList& other);
 
-    /// Waits until all that has been asked for so far is done, a fifth of a second at most. Not on the audio thread.
+    /// Waits until all that has been asked for so far is done, a fifth of a second at most; the next change may be
+    /// another thread's to do again. Not on the audio thread.
     void Settle() const;
 
 private:

@@ -115,6 +115,13 @@ void Score::SettleLocks() const
     clipboard->SettleLocks();
 }
 
+void Score::ClearSpare()
+{
+    SettleLocks();
+    for (GroovePattern* pattern : spare) pattern->Clear();
+    SettleLocks();
+}
+
 void Score::SwapPatterns()
 {
     for (int p = 0; p < kPatterns; ++p) spare[p] = patterns[p].Exchange(spare[p]);

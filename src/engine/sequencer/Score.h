@@ -50,8 +50,11 @@ public:
     /// The same but for the patterns.
     void ResetSelection();
 
-    /// Waits until no change of locks reads or writes the set that does not play. The loader, before it fills that.
+    /// Waits, as LockEdits::Settle, until no change of locks reads or writes the set that does not play. The loader,
+    /// before it fills a part of that.
     void SettleLocks() const;
+    /// Empties the whole set; the loader may then write its lists.
+    void ClearSpare();
     /// The set that does not play becomes the one that does. Who has the engine to itself.
     void SwapPatterns();
 

@@ -40,11 +40,13 @@ TEST_F(Sequencer, PatternsAreAsLongAsTheirLastBarAsks)
         EXPECT_EQ(engine.score.Current().length, length);
     }
     Put(12, {{64, 0u}, {127, 0u}});
-    for (const auto& [movers, length] : {std::pair{1, 128}, {0, 64}}) { // steps on their way
-        engine.score.Current().movers = movers;
+    {
+        const GroovePattern::Moving moving(engine.score.Current());
         engine.score.Current().UpdateLength();
-        EXPECT_EQ(engine.score.Current().length, length);
+        EXPECT_EQ(engine.score.Current().length, 128);
     }
+    engine.score.Current().UpdateLength();
+    EXPECT_EQ(engine.score.Current().length, 64);
     engine.score.Current().Clear();
     EXPECT_EQ(engine.score.Current().length, 16);
 }
