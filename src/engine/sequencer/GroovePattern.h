@@ -68,7 +68,7 @@ public:
     private:
         void Count(std::uint32_t more)
         {
-            pattern.moves.Update([more](std::uint32_t moves) { return moves + more; });
+            pattern.moves.Update([more](std::uint32_t all) { return all + more; });
         }
 
         GroovePattern& pattern;
