@@ -171,8 +171,8 @@ TEST_F(Threads, DoAsTheyLike)
 }
 
 // Threads change the same few steps at the same instant. Each has a parameter of its own, whose locks are then the last
-// that it set, beside those of the others. What they change between two meetings fits into the queue, whoever is
-// interrupted.
+// that it set, beside those of the others; and a note of its own. What they change between two meetings fits into the
+// queue, whoever is interrupted.
 TEST(StepLocks, ChangedByManyLoseNothing)
 {
     constexpr int kThreads = 4, kShared = 3, kRounds = 8000, kOthers = 8;
@@ -180,6 +180,7 @@ TEST(StepLocks, ChangedByManyLoseNothing)
     for (int n = 0; n < kOthers; ++n) clipboard.SetLock(0, 0, kThreads + n, 0.5f);
     for (int step = 0; step < kShared; ++step) pattern.CopySteps(0, step, clipboard, 0, 1);
     float last[kThreads][kShared]{};
+    bool noted[kThreads][kShared]{};
     std::atomic<int> arrived{0}, lost{0}, doubled{0};
     const auto meet = [&arrived] {
         const int all = (arrived++ / kThreads + 1) * kThreads;
@@ -205,11 +206,17 @@ TEST(StepLocks, ChangedByManyLoseNothing)
             for (int n = 0; n < changes; ++n) {
                 last[own][n % kShared] = 0.25f * static_cast<float>(below(3)); // 0 removes
                 pattern.SetLock(0, n % kShared, own, last[own][n % kShared]);
+                noted[own][n % kShared] = below(2) == 0;
+                if (noted[own][n % kShared])
+                    pattern.SetNotes(0, n % kShared, 1u << own);
+                else
+                    pattern.ClearNotes(0, n % kShared, 1u << own);
             }
             meet();
             for (int step = 0; step < kShared; ++step) {
                 const StepLockList& locks = pattern.locks[0][step];
                 lost += locks.Offset(own) != last[own][step];
+                lost += (pattern.steps[0][step] >> own & 1u) != noted[own][step];
                 int count = kOthers;
                 for (const auto& offsets : last) count += offsets[step] != 0.0f;
                 doubled += locks.Count() != count;

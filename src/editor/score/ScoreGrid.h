@@ -12,8 +12,9 @@ namespace korvane {
 /// pattern, rows are counted from the bottom.
 struct ScoreGrid {
     static constexpr int cellWidth = 8; // pixels
-    static constexpr Rect laneRect{37, 10, kSteps* cellWidth, 128};
-    static constexpr Rect barStripRect{37, 138, kSteps* cellWidth, 16};
+    static constexpr int kLeft = 37, kWidth = kSteps * cellWidth;
+    static constexpr Rect laneRect{kLeft, 10, kWidth, 128};
+    static constexpr Rect barStripRect{kLeft, 138, kWidth, 16};
 
     bool drumMode; // a row is a sampler channel, the first on top; else a note, the lowest is kFirstNote
     int rowCount, cellHeight;
@@ -21,7 +22,7 @@ struct ScoreGrid {
     int buttonsOffset; // of the buttons below the grid
 
     constexpr int TopRow() const { return rowCount - 1; }
-    constexpr Rect GridRect() const { return {laneRect.x, 154, laneRect.w, rowCount * cellHeight}; }
+    constexpr Rect GridRect() const { return {kLeft, 154, kWidth, rowCount * cellHeight}; }
     constexpr Rect KeyStripRect() const { return {0, GridRect().y, 36, GridRect().h}; }
     constexpr int ChannelOfRow(int row) const { return TopRow() - row; } // of the drum grid
 
@@ -40,8 +41,8 @@ struct ScoreGrid {
     /// The column at x; -1 beside the grid.
     static constexpr int ColumnAt(int x)
     {
-        const std::int64_t inside = std::int64_t{x} - laneRect.x;
-        return inside >= 0 && inside < laneRect.w ? static_cast<int>(inside) / cellWidth : -1;
+        const std::int64_t inside = std::int64_t{x} - kLeft;
+        return inside >= 0 && inside < kWidth ? static_cast<int>(inside) / cellWidth : -1;
     }
     /// The row at y; -1 above and below the grid.
     constexpr int RowAt(int y) const

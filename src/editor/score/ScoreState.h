@@ -5,7 +5,7 @@
 
 namespace korvane {
 
-/// Written by the control, read by the painter.
+/// Hand and control write it, the painters read it.
 struct ScoreState {
     ScoreSelection selection;
     int hoverColumn = -1, hoverRow = -1; // the cell under the pointer, -1 none; over the lane the column alone
