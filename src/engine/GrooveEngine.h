@@ -104,8 +104,8 @@ public:
     Mixer mixer;
     ExtControls ext;
 
-    // Live MIDI values; the selected channel hears them. The audio thread writes all; moving a parameter sets the
-    // velocity from any thread.
+    // Live MIDI values; the selected channel hears them. The audio thread writes all; from any thread a parameter that
+    // moves sets the velocity, and a host that has wheel and pressure as parameters sets those.
     Shared<float> liveVelocity, liveModWheel, livePitchBend, livePressure;
 
     Shared<float> storedParams[kChannels][kChannelSlots]; // any thread writes and reads; each value stands for itself

@@ -1,6 +1,8 @@
 // MIDI input: the event queue, the state of keys and controllers, and what an event does to them.
 #include "framework/CMidiController.h"
 
+#include "platform/Numbers.h"
+
 namespace korvane {
 
 namespace {
@@ -80,7 +82,8 @@ void CMidiController::NoteOn(int number, std::uint8_t velocity)
     if (velocity == 0) {
         NoteOff(number);
     } else if (key.velocity == 0) {
-        key.velocity = key.held = velocity;
+        key.held = velocity;
+        key.velocity = velocity;
         NotifyKey(number, velocity);
     }
 }
@@ -98,19 +101,35 @@ void CMidiController::Control(std::uint8_t number, std::uint8_t value)
     case controller::BankSelect:
         if (!BankSelectReceived(value)) ControllerChanged(controller::BankSelect);
         break;
-    case controller::Sustain: SetSustain(value >= 65); break;
+    case controller::Sustain:
+        controllers[controller::Sustain] = value >= 65 ? 1.0 : 0.0;
+        if (value < 65) ReleaseUnheld();
+        break;
     case controller::ResetAll: ResetControllers(); break;
     case controller::AllNotesOff: ReleaseAll(); break;
     default: ControllerChanged(static_cast<std::int8_t>(number)); break;
     }
 }
 
-/// The pedal's release lets go what no finger holds.
-void CMidiController::SetSustain(bool on)
+void CMidiController::MoveController(int number, double value)
 {
-    controllers[controller::Sustain] = on ? 1.0 : 0.0;
-    for (int key = 0; !on && key < kKeys; ++key)
-        if (keys[static_cast<std::size_t>(key)].held == 0) ReleaseKey(key);
+    controllers[number] = value;
+    switch (number) {
+    case controller::BankSelect: BankSelectReceived(Truncate(value * 127.0)); break;
+    case controller::Sustain:
+        if (value < 0.5) ReleaseUnheld();
+        break;
+    case controller::ResetAll: ResetControllers(); break;
+    case controller::AllNotesOff: ReleaseAll(); break;
+    default: break;
+    }
+    ControllerChanged(static_cast<std::int8_t>(number));
+}
+
+void CMidiController::MoveChannelPressure(double value)
+{
+    channelPressure = value;
+    ChannelPressureChanged();
 }
 
 void CMidiController::ResetControllers()
@@ -123,6 +142,13 @@ void CMidiController::ResetControllers()
 
 // Keys
 
+/// What no finger holds.
+void CMidiController::ReleaseUnheld()
+{
+    for (int key = 0; key < kKeys; ++key)
+        if (keys[static_cast<std::size_t>(key)].held == 0) ReleaseKey(key);
+}
+
 void CMidiController::ReleaseAll()
 {
     for (int key = 0; key < kKeys; ++key) NoteOff(key);
@@ -130,9 +156,7 @@ void CMidiController::ReleaseAll()
 
 void CMidiController::ReleaseKey(int key)
 {
-    if (keys[static_cast<std::size_t>(key)].velocity == 0) return;
-    keys[static_cast<std::size_t>(key)].velocity = 0;
-    NotifyKey(key, 0);
+    if (keys[static_cast<std::size_t>(key)].velocity.Exchange(0) != 0) NotifyKey(key, 0);
 }
 
 void CMidiController::NotifyKey(int key, std::uint8_t velocity)

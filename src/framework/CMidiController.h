@@ -16,8 +16,8 @@ inline constexpr int ModWheel = 1, Volume = 7, Pan = 10, BankSelect = 32, Sustai
 } // namespace controller
 
 /// What has come in by MIDI. Events are queued just before their block and dispatched inside it, both on the audio
-/// thread, on which the notifications come too; those of ReleaseAll come from who has the engine to itself. Other
-/// threads read the values.
+/// thread, on which the notifications come too; those of ReleaseAll come from who has the engine to itself, those of a
+/// controller that a host moves as a parameter from whatever thread does. Other threads read the values.
 class CMidiController {
 public:
     static constexpr int kQueueCapacity = 1024;
@@ -40,9 +40,17 @@ public:
     void QueueEvent(std::uint8_t status, std::uint8_t data1, std::uint8_t data2, std::uint8_t data3,
                     std::int32_t deltaFrames);
 
+    // For hosts that have controllers and pressure as parameters. Any thread; at once, and not only in steps of 127.
+    // Everything that MIDI does with the controller, and then its notification, which MIDI spares some of them.
+
+    /// number  0..127
+    /// value   0..1; the pedal keeps it as it is
+    void MoveController(int number, double value);
+    void MoveChannelPressure(double value);
+
     bool Sustained() const { return controllers[controller::Sustain] >= 0.5; }
 
-    Shared<double> controllers[kKeys]; // 0..1; sustain is exactly 0 or 1
+    Shared<double> controllers[kKeys]; // 0..1; by MIDI sustain is exactly 0 or 1
     Shared<double> channelPressure;    // 0..1
     Shared<double> pitchBend;          // -1..+1
 
@@ -63,7 +71,7 @@ private:
     void NoteOn(int key, std::uint8_t velocity);
     void NoteOff(int key);
     void Control(std::uint8_t number, std::uint8_t value);
-    void SetSustain(bool on);
+    void ReleaseUnheld();
     void ResetControllers();
     void ReleaseKey(int key);
     void NotifyKey(int key, std::uint8_t velocity);
@@ -75,9 +83,9 @@ private:
     std::int32_t pendingEvent = -1; // taken but not dispatched, -1 none
 
     struct Key {
-        std::uint8_t velocity = 0; // 0: not sounding; keeps the velocity while sustained
-        std::uint8_t held = 0;     // velocity while physically down
-        double pressure = 0.0;     // 0..1
+        Shared<std::uint8_t> velocity; // 0: not sounding; keeps the velocity while sustained; who zeroes it, releases
+        Shared<std::uint8_t> held;     // velocity while physically down
+        double pressure = 0.0;         // 0..1, audio thread
     };
     std::array<Key, kKeys> keys;
     bool voiceHook = true; // key changes go to VoiceNoteOn before NoteEvent
