@@ -13,6 +13,8 @@ public:
     virtual bool Open(void* parent, int height, int width) = 0;
     virtual void Close() = 0;
     virtual void GetEditorSize(int& height, int& width) const = 0;
+    /// The window's number in the system, null while closed. Any thread.
+    virtual void* Handle() const = 0;
     /// Shows the new value of the control bound to a parameter.
     virtual void ShowParameter(int index, float value) = 0;
     virtual void RefreshAll() = 0;

@@ -1,20 +1,18 @@
 // The editor window as a VST 2 host sees it.
 #pragma once
 
-#include <memory>
-
-#include "shell/CPluginEditor.h"
+#include "shell/PluginInstance.h"
 #include "shell/vst2/AEffEditor.h"
 
 namespace korvane {
 
-/// Owns the window object and holds its rectangle.
+/// Holds its rectangle.
 class CVstEditor : public AEffEditor {
 public:
-    explicit CVstEditor(std::unique_ptr<CPluginEditor> editorWindow) : window(std::move(editorWindow))
+    explicit CVstEditor(PluginInstance& shown) : instance(shown)
     {
         int height = 0, width = 0;
-        window->GetEditorSize(height, width);
+        instance.editor->GetEditorSize(height, width);
         rectangle.bottom = static_cast<std::int16_t>(height);
         rectangle.right = static_cast<std::int16_t>(width);
     }
@@ -24,18 +22,11 @@ public:
         *answer = &rectangle;
         return true;
     }
-    bool Open(void* newParent) override
-    {
-        parentWindow = newParent;
-        return window->Open(newParent, rectangle.bottom, rectangle.right);
-    }
-    void Close() override { window->Close(); }
-
-    CPluginEditor* Window() { return window.get(); }
+    bool Open(void* parentWindow) override { return instance.OpenEditor(parentWindow); }
+    void Close() override { instance.CloseEditor(); }
 
 private:
-    std::unique_ptr<CPluginEditor> window;
-    void* parentWindow = nullptr;
+    PluginInstance& instance;
     ERect rectangle{};
 };
 

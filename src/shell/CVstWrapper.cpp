@@ -10,11 +10,9 @@
 namespace korvane {
 
 CVstWrapper::CVstWrapper(AudioMasterCallback hostCallback)
-    : AudioEffectX(hostCallback, Definition()->numPrograms, Definition()->numHostParams)
+    : AudioEffectX(hostCallback, Definition()->numPrograms, Definition()->numHostParams), instance(this)
 {
     CPluginDefinition& definition = *Definition();
-    engine.reset(definition.CreateSynth(this));
-    if (engine) engine->SetSampleRate(44100.0);
     record.numInputs = definition.numInputs;
     record.numOutputs = 2 * definition.numOutputPairs;
     record.flags |= effect_flag::ProgramChunks;
@@ -22,21 +20,12 @@ CVstWrapper::CVstWrapper(AudioMasterCallback hostCallback)
     std::memcpy(&record.uniqueId, definition.uniqueId, sizeof record.uniqueId);
     if (!engine) return;
     engine->Reset();
-    if (definition.hasEditor != 0) {
-        if (std::unique_ptr<CPluginEditor> window{definition.CreateEditor(engine.get())}) {
-            editor = std::make_unique<CVstEditor>(std::move(window));
-            record.flags |= effect_flag::HasEditor;
-        }
+    instance.CreateEditor();
+    if (instance.editor) {
+        editor = std::make_unique<CVstEditor>(instance);
+        record.flags |= effect_flag::HasEditor;
     }
     engine->SetProgram(0);
-}
-
-/// The editor, which shows the engine, ends before it and waits for its thread, however long the host keeps that; until
-/// then the thread may ask for either, so that neither pointer changes here.
-CVstWrapper::~CVstWrapper()
-{
-    if (editor) editor->Close();      // before what its thread uses ends
-    if (engine) engine->EndThreads(); // they report to host and editor
 }
 
 std::intptr_t CVstWrapper::Dispatch(std::int32_t opcode, std::int32_t index, std::intptr_t value, void* pointer,
@@ -65,7 +54,7 @@ std::intptr_t CVstWrapper::Dispatch(std::int32_t opcode, std::int32_t index, std
     case request::EditorOpen:
     case request::EditorClose: return EditorRequest(opcode, pointer);
     case request::GetChunk: return GetChunk(index != 0, static_cast<void**>(pointer));
-    case request::SetChunk: return SetChunk(index != 0, pointer, value);
+    case request::SetChunk: return instance.SetChunk(index != 0, pointer, value);
     case request::ProgramNameByIndex:
         if (engine) engine->GetProgramName(index, text);
         return 1;
@@ -111,30 +100,11 @@ std::intptr_t CVstWrapper::OutputProperties(std::int32_t index, VstPinProperties
 std::intptr_t CVstWrapper::GetChunk(bool preset, void** data)
 {
     chunk = {};
-    if (!engine || !data) return 0;
-    const auto fill = [&](void* buffer) {
-        return preset ? engine->GetProgramChunk(buffer) : engine->GetBankChunk(buffer);
-    };
-    const std::int32_t size = fill(nullptr);
-    if (size < 2) return 0;
-    chunk.resize(static_cast<std::size_t>(size));
-    const std::int32_t filled = fill(chunk.data()); // less than told when a step has lost its locks meanwhile
+    if (!data) return 0;
+    chunk = instance.Chunk(preset);
+    if (chunk.empty()) return 0;
     *data = chunk.data();
-    return filled;
-}
-
-std::intptr_t CVstWrapper::SetChunk(bool preset, const void* data, std::intptr_t size)
-{
-    if (!engine || !data || size < 0 || size > INT32_MAX) return 0;
-    const auto bytes = static_cast<std::int32_t>(size);
-    return preset ? engine->SetProgramChunk(data, bytes) : engine->SetBankChunk(data, bytes);
-}
-
-void CVstWrapper::SetParameter(std::int32_t index, float value)
-{
-    if (!engine) return;
-    engine->SetParameter(index, value);
-    if (editor) editor->Window()->ShowParameter(index, value);
+    return std::ssize(chunk);
 }
 
 void CVstWrapper::GetParameterLabel(std::int32_t index, char* text)
@@ -201,17 +171,17 @@ std::int32_t CVstWrapper::CanDo(const char* text)
 
 void CVstWrapper::ParameterAutomated(int index, float value)
 {
-    if (index >= 0 && index < Definition()->numHostParams) AskHost(host_request::Automate, index, 0, nullptr, value);
+    if (PluginInstance::IsAutomated(index)) AskHost(host_request::Automate, index, 0, nullptr, value);
 }
 
 void CVstWrapper::BeginEdit(int index)
 {
-    if (index >= 0 && index < Definition()->numHostParams) AskHost(host_request::BeginEdit, index);
+    if (PluginInstance::IsAutomated(index)) AskHost(host_request::BeginEdit, index);
 }
 
 void CVstWrapper::EndEdit(int index)
 {
-    if (index >= 0 && index < Definition()->numHostParams) AskHost(host_request::EndEdit, index);
+    if (PluginInstance::IsAutomated(index)) AskHost(host_request::EndEdit, index);
 }
 
 } // namespace korvane

@@ -5,10 +5,10 @@
 #include <memory>
 #include <vector>
 
-#include "framework/CSynthesizer.h"
 #include "platform/Shared.h"
 #include "shell/CPluginWrapper.h"
 #include "shell/CVstEditor.h"
+#include "shell/PluginInstance.h"
 #include "shell/vst2/AudioEffectX.h"
 
 namespace korvane {
@@ -18,7 +18,6 @@ namespace korvane {
 class CVstWrapper : public AudioEffectX, public CPluginWrapper {
 public:
     explicit CVstWrapper(AudioMasterCallback hostCallback);
-    ~CVstWrapper() override;
 
     std::intptr_t Dispatch(std::int32_t opcode, std::int32_t index, std::intptr_t value, void* pointer,
                            float option) override;
@@ -30,7 +29,7 @@ public:
     {
         RenderBlock(inputs, outputs, frames, true);
     }
-    void SetParameter(std::int32_t index, float value) override;
+    void SetParameter(std::int32_t index, float value) override { instance.SetParameter(index, value); }
     float GetParameter(std::int32_t index) override { return engine ? engine->GetParameter(index) : 0.0f; }
     void GetParameterLabel(std::int32_t index, char* text) override;
     void GetParameterDisplay(std::int32_t index, char* text) override;
@@ -40,26 +39,22 @@ public:
     std::int32_t CanDo(const char* text) override;
 
     void ParameterAutomated(int index, float value) override;
-    CPluginEditor* GetEditor() override { return editor ? editor->Window() : nullptr; }
+    CPluginEditor* GetEditor() override { return instance.editor.get(); }
     void BeginEdit(int index) override;
     void EndEdit(int index) override;
     bool RealTime() override { return AskHost(host_request::ProcessLevel) == kRealTimeLevel; }
 
 private:
-    struct EngineEnd {
-        void operator()(CSynthesizer* synth) const { synth->Destroy(); }
-    };
-
     void RenderBlock(float** inputs, float** outputs, std::int32_t frames, bool replacing);
     const VstTimeInfo* AskTime(std::int32_t filter);
     void Power(bool on);
     std::intptr_t OutputProperties(std::int32_t index, VstPinProperties* properties);
     std::intptr_t GetChunk(bool preset, void** data);
-    std::intptr_t SetChunk(bool preset, const void* data, std::intptr_t size);
     std::intptr_t EditorRequest(std::int32_t opcode, void* pointer);
 
-    std::unique_ptr<CSynthesizer, EngineEnd> engine;
-    std::unique_ptr<CVstEditor> editor; // after the engine, so that it ends first
+    PluginInstance instance;
+    CSynthesizer* const engine = instance.engine.get();
+    std::unique_ptr<CVstEditor> editor;
     // Handed to the host by the last get-chunk request, and the host's until the next one: it asks from one thread.
     std::vector<std::uint8_t> chunk;
     Shared<std::int32_t> programNumber; // as the host gave it; any of its threads sets and asks

@@ -37,7 +37,7 @@ public:
     void RefreshAll() override { editor->notices.PostAll(); }
 
     /// The window's number in the system, for hosts that ask; null while closed. Any thread.
-    void* Handle() const { return handle; }
+    void* Handle() const override { return handle; }
 
 private:
     enum class State { Closed, Opening, Open, Ended }; // Ended: the thread is done and waits to be joined
