@@ -5,7 +5,9 @@
 
 #include "platform/FlushToZero.h"
 #include "platform/ModulePath.h"
+#include "shell/CHarrowdeckWrapper.h"
 #include "shell/CVstWrapper.h"
+#include "shell/ModuleInfo.h"
 #include "shell/SMX_Def.h"
 
 #define KORVANE_EXPORT extern "C" __attribute__((visibility("default")))
@@ -30,6 +32,19 @@ AEffect* CreateVstPlugin(AudioMasterCallback host)
     }
 }
 
+TBramblyPlug* CreateNativePlugin(TBramblyHost* host, std::int32_t tag)
+{
+    CPluginDefinition& definition = *Definition();
+    definition.hostKind = host::Native;
+    static const ModuleInfo module(definition);
+    if (!host || !definition.CheckHost("Harrowdeck", "Brassmoor")) return nullptr;
+    try {
+        return new CHarrowdeckWrapper(*host, tag, module.record);
+    } catch (const std::exception&) {
+        return nullptr;
+    }
+}
+
 } // namespace
 
 } // namespace korvane
@@ -43,6 +58,11 @@ KORVANE_EXPORT int DllMain(void* moduleHandle, unsigned long, void*)
 KORVANE_EXPORT korvane::AEffect* VSTPluginMain(korvane::AudioMasterCallback host)
 {
     return korvane::CreateVstPlugin(host);
+}
+
+KORVANE_EXPORT korvane::TBramblyPlug* CreatePlugInstance(korvane::TBramblyHost* host, std::int32_t tag)
+{
+    return korvane::CreateNativePlugin(host, tag);
 }
 
 /// Older hosts ask for "main"; the language keeps that name for programs.
