@@ -78,6 +78,8 @@ constexpr Option kOptions[] = {
      [](Options& to, const Text& name, const Text& value) { to.block = Whole(name, value, 1, 65536); }},
     {"--plugin", "FILE", "the plug-in (default: korvane.so of the bundle built with this program)",
      [](Options& to, const Text&, const Text& value) { to.plugin = value; }},
+    {"--native", nullptr, "play by the native interface instead of VST 2; set values get 256 steps",
+     [](Options& to, const Text&, const Text&) { to.native = true; }},
     {"--list", nullptr, "print the names of grooves, programs and parts",
      [](Options& to, const Text&, const Text&) { to.list = true; }},
     {"--version", nullptr, "print the version", [](Options& to, const Text&, const Text&) { to.version = true; }},

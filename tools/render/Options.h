@@ -19,6 +19,7 @@ struct Options {
     std::string midi;                                        // file that plays the plug-in
     std::string stems;                                       // folder for one file per channel
     std::string program;                                     // library program to play a note with
+    bool native = false;                                     // by the native interface
     bool integers = false;                                   // 24-bit files instead of floats
     bool list = false, help = false, version = false;        // print that and nothing else
     std::string groove; // state to load: a file or a name; empty: what the plug-in starts with

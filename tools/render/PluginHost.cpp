@@ -7,7 +7,6 @@
 #include <cstring>
 
 #include "render/Failure.h"
-#include "render/Names.h"
 
 namespace korvane::render {
 
@@ -72,23 +71,11 @@ PluginHost::~PluginHost()
     dlclose(library);
 }
 
-int PluginHost::FindParameter(const std::string& name) const
+std::string PluginHost::Text(std::int32_t opcode, int index) const
 {
-    std::vector<std::string> names;
-    for (int n = 0; n < effect->numParams; ++n) {
-        char text[256] = "";
-        Ask(request::GetParameterName, n, 0, text);
-        names.emplace_back(text);
-    }
-    return static_cast<int>(FindName(names, name, "parameter"));
-}
-
-std::string PluginHost::ParameterText(int index) const
-{
-    char name[256] = "", shown[256] = "";
-    Ask(request::GetParameterName, index, 0, name);
-    Ask(request::GetParameterDisplay, index, 0, shown);
-    return std::string(name) + " = " + shown;
+    char text[256] = "";
+    Ask(opcode, index, 0, text);
+    return text;
 }
 
 std::vector<std::uint8_t> PluginHost::GetState()

@@ -7,12 +7,14 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <memory>
 #include <optional>
 
 #include "render/Failure.h"
 #include "render/LevelMeter.h"
 #include "render/Library.h"
 #include "render/MidiFile.h"
+#include "render/NativeHost.h"
 #include "render/Options.h"
 #include "render/ParameterText.h"
 #include "render/PluginHost.h"
@@ -37,10 +39,18 @@ bool progressShown = false; // and its line not ended
 
 void Interrupt(int) { interrupted = 1; }
 
+std::unique_ptr<Host> OpenPlugin(const Options& options)
+{
+    if (!options.native) return std::make_unique<PluginHost>(options.plugin, options.rate, options.block);
+    auto host = std::make_unique<NativeHost>();
+    host->Load(options.plugin, options.rate, options.block);
+    return host;
+}
+
 /// One rendering, from the loaded plug-in to the finished files.
 class Rendering {
 public:
-    explicit Rendering(const Options& chosen) : options(chosen), host(options.plugin, options.rate, options.block)
+    explicit Rendering(const Options& chosen) : options(chosen), plugin(OpenPlugin(options)), host(*plugin)
     {
         if (!options.midi.empty()) midi.emplace(options.midi);
         Prepare();
@@ -60,13 +70,16 @@ public:
     void Run()
     {
         const auto start = std::chrono::steady_clock::now();
+        host.Begin();
         if (transport) host.SetPlaying(true);
         for (long long done = 0; done < allFrames;) {
             if (transport && done == runFrames) host.SetPlaying(false);
             if (interrupted) throw Failure("interrupted");
             const long long rest = (done < runFrames ? runFrames : allFrames) - done;
-            const int frames = RenderBlock(done, static_cast<int>(std::min<long long>(options.block, rest)));
-            done += frames;
+            const int frames = static_cast<int>(std::min<long long>(cut > 0 ? cut : options.block, rest));
+            const int rendered = RenderBlock(done, frames);
+            cut = frames - rendered;
+            done += rendered;
             ShowProgress(done, allFrames);
         }
         for (WavOutput& file : files) file.Finish();
@@ -129,7 +142,7 @@ private:
         if (midi)
             frames = QueueMessages(done, frames);
         else if (!options.program.empty())
-            QueueProgramNote(done, frames);
+            frames = QueueProgramNote(done, frames);
         host.Render(frames);
         for (int pair = 0; pair < host.Pairs(); ++pair) {
             const float* left = host.Output(2 * pair);
@@ -148,17 +161,20 @@ private:
             const MidiMessage& message = midi->messages[next];
             const long long frame = std::max(Frames(message.seconds) - done, 0LL);
             if (frame >= frames) break;
-            if (queued >= kEventsPerBlock && frame > last) return static_cast<int>(frame);
+            if ((queued >= kEventsPerBlock || !host.PlacesEvents()) && frame > last) return static_cast<int>(frame);
             host.QueueMidi(last = static_cast<int>(frame), message.status, message.data1, message.data2);
         }
         return frames;
     }
 
-    void QueueProgramNote(long long done, int frames)
+    int QueueProgramNote(long long done, int frames)
     {
         const long long off = Frames(kProgramNoteSeconds / 2) - done;
         if (done == 0) host.QueueMidi(0, 0x90, kProgramNote, 100);
-        if (off >= 0 && off < frames) host.QueueMidi(static_cast<int>(off), 0x80, kProgramNote, 0);
+        if (off < 0 || off >= frames) return frames;
+        if (off > 0 && !host.PlacesEvents()) return static_cast<int>(off);
+        host.QueueMidi(static_cast<int>(off), 0x80, kProgramNote, 0);
+        return frames;
     }
 
     static void ShowProgress(long long done, long long all)
@@ -184,10 +200,12 @@ private:
     }
 
     Options options;
-    PluginHost host;
+    const std::unique_ptr<Host> plugin;
+    Host& host;
     std::optional<MidiFile> midi;
     std::size_t next = 0;                   // MIDI message to be played
     double tempo = kTempo;                  // beats per minute, where no MIDI file says so
+    int cut = 0;                            // frames of the block that an event has cut, to come next
     bool transport = true;                  // the plug-in's own sequencer runs
     double length = 0.0;                    // seconds before the tail, without transport
     long long runFrames = 0, allFrames = 0; // before the tail, and with it
