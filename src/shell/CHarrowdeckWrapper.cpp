@@ -23,6 +23,13 @@ float FromHost(std::int32_t value) { return Clamp(static_cast<float>(value) / 25
 
 bool IsInstrument() { return Definition()->isEffect == 0; }
 
+/// Of a parameter that stands for a controller the controller's number; -1 for the engine's own.
+int ControllerOf(int index)
+{
+    const int first = Definition()->numHostParams;
+    return index < first ? -1 : index - first;
+}
+
 int KeyOf(const NativeVoice& voice) { return Clamp(Truncate(static_cast<double>(voice.pitch) * 0.01), 0, 127); }
 
 /// A volume of 2 is as loud as keys can be struck.
@@ -138,18 +145,21 @@ void CHarrowdeckWrapper::RestoreState(NativeStream& stream)
     if (!ReadNumber(stream, tag) || !std::equal(tag.begin(), tag.end(), kStateTag)) return;
     if (!ReadNumber(stream, size) || size == 0 || !instance.engine) return;
     const std::vector<std::uint8_t> image = ReadBytes(stream, size);
-    instance.SetChunk(false, image.data(), std::ssize(image));
     std::int32_t program = 0;
     ReadNumber(stream, program);
+    const auto put = [&] { return instance.SetChunk(false, image.data(), std::ssize(image)) != 0; };
+    const bool whole = put();
     instance.engine->SetProgram(std::clamp(program, 0, std::max(Definition()->numPrograms - 1, 0)));
+    // The program moves the external controls to where they stand, and they what they are bound to.
+    if (whole && instance.Chunk(false) != image) put();
 }
 
 // Parameters
 
 std::int32_t CHarrowdeckWrapper::ProcessParameter(std::int32_t index, std::int32_t value, std::int32_t flags)
 {
-    const int extra = index - Definition()->numHostParams;
-    if (index < 0 || extra >= kExtraParams) return value;
+    const int extra = ControllerOf(index);
+    if (index < 0 || extra >= kNativeControllers) return value;
     if (flags & native_parameter::Fine) value = static_cast<std::int32_t>((std::int64_t{value} * 256) >> 16);
     if (flags & native_parameter::Get) {
         if (extra >= 0)
@@ -195,26 +205,26 @@ void CHarrowdeckWrapper::GetName(std::int32_t section, std::int32_t index, std::
 
 void CHarrowdeckWrapper::ParameterName(int index, char* buffer)
 {
-    const int extra = index - Definition()->numHostParams;
+    const int extra = ControllerOf(index);
     if (extra < 0) {
         if (instance.engine) instance.engine->GetParameterName(index, buffer);
-    } else if (extra < kExtraParams - 1) {
+    } else if (extra < kNativeControllers - 1) {
         std::sprintf(buffer, "MIDI CC %d", extra);
-    } else if (extra == kExtraParams - 1) {
+    } else if (extra == kNativeControllers - 1) {
         std::strcpy(buffer, "Chn. Aftertouch");
     }
 }
 
 void CHarrowdeckWrapper::ParameterValue(int index, char* buffer)
 {
-    const int extra = index - Definition()->numHostParams;
+    const int extra = ControllerOf(index);
     if (extra < 0) {
         if (!instance.engine) return;
         char display[256] = "", label[256] = "";
         instance.engine->GetParameterDisplay(index, display);
         instance.engine->GetParameterLabel(index, label);
         std::snprintf(buffer, 256, "%.128s %.126s", display, label);
-    } else if (extra < kExtraParams) {
+    } else if (extra < kNativeControllers) {
         std::sprintf(buffer, "%d", Truncate(controllerValues[extra] * 127.0f));
     }
 }

@@ -18,7 +18,6 @@ namespace korvane {
 /// and the channel pressure, which this host has no other way to send.
 class CHarrowdeckWrapper final : public TCPPBramblyPlug, public CPluginWrapper {
 public:
-    static constexpr int kExtraParams = 129; // after the host parameters: controllers 0..127, channel pressure
     static constexpr int kMixFrames = 65536; // longest block
 
     CHarrowdeckWrapper(TBramblyHost& owner, std::int32_t tag, const NativeInfo& module);
@@ -73,10 +72,10 @@ private:
     std::vector<float> mix;          // of each pair left and right, kMixFrames each; audio thread
     std::vector<float*> outputs;     // where these begin
     std::vector<float*> mainOutputs; // of these the main mix, null for the others
-    std::vector<std::uint8_t> outputEnabled;       // of each pair; all of them
-    Shared<float> controllerValues[kExtraParams];  // 0..1, as the host set them; any thread
-    std::array<Voice, CSynthesizer::kKeys> voices; // by their keys; audio thread
-    std::vector<std::string> parameterMenu;        // what a host may show for a parameter
+    std::vector<std::uint8_t> outputEnabled;            // of each pair; all of them
+    Shared<float> controllerValues[kNativeControllers]; // 0..1, as the host set them; any thread
+    std::array<Voice, CSynthesizer::kKeys> voices;      // by their keys; audio thread
+    std::vector<std::string> parameterMenu;             // what a host may show for a parameter
     PluginInstance instance;
 };
 

@@ -3,7 +3,6 @@
 
 #include <cstring>
 
-#include "shell/CHarrowdeckWrapper.h"
 #include "shell/CPluginDefinition.h"
 
 namespace korvane {
@@ -15,7 +14,7 @@ ModuleInfo::ModuleInfo(const CPluginDefinition& definition)
     record.longName = longName;
     record.shortName = shortName;
     record.flags = definition.isEffect == 0 ? native_flag::Instrument : native_flag::Effect;
-    record.numParams = definition.numHostParams + CHarrowdeckWrapper::kExtraParams;
+    record.numParams = definition.numHostParams + kNativeControllers;
 }
 
 } // namespace korvane

@@ -317,7 +317,9 @@ TEST_F(Bridge, SurvivesItsHost)
 TEST(Plugin, ExportsItsEntriesOnly)
 {
     const std::string list = "nm -D --defined-only --format=posix '" KORVANE_BUNDLE "/korvane.so' | cut -d ' ' -f 1";
-    EXPECT_EQ(std::system(("test \"$(" + list + " | LC_ALL=C sort | xargs)\" = 'DllMain VSTPluginMain main'").c_str()),
+    EXPECT_EQ(std::system(
+                  ("test \"$(" + list + " | LC_ALL=C sort | xargs)\" = 'CreatePlugInstance DllMain VSTPluginMain main'")
+                      .c_str()),
               0);
 }
 

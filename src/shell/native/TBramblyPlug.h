@@ -81,6 +81,9 @@ protected:
     ~TBramblyHost() = default;
 };
 
+/// The last parameters of a plug-in stand for the MIDI controllers 0..127 and the channel pressure.
+inline constexpr int kNativeControllers = 129;
+
 /// Flags of ProcessParameter.
 namespace native_parameter {
 enum : std::int32_t {
