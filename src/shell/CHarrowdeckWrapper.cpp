@@ -301,9 +301,10 @@ void CHarrowdeckWrapper::RenderGenerator(float* destination, std::int32_t frames
     engine->ProcessBlock(nullptr, outputs.data(), frames, true);
     for (Voice& voice : voices) Finish(voice);
     if (IsInstrument()) host->HostLockMix();
-    Mix(destination, 0, frames);
-    for (int pair = 1; pair < numPairs; ++pair)
-        if (outputEnabled[pair]) Mix(host->HostGetMixBuffer(hostTag, engine->GetOutputTarget(pair - 1)), pair, frames);
+    for (int pair = 0; pair < numPairs; ++pair) {
+        if (!outputEnabled[static_cast<std::size_t>(pair)]) continue;
+        Mix(pair == 0 ? destination : host->HostGetMixBuffer(hostTag, engine->GetOutputTarget(pair - 1)), pair, frames);
+    }
     if (IsInstrument()) host->HostUnlockMix();
 }
 

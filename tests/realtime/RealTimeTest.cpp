@@ -95,7 +95,12 @@ TEST_F(RealTime, NothingIsAskedOfTheSystem)
     const auto wait = [](int) { return std::this_thread::sleep_for(std::chrono::milliseconds(2)), true; };
     const Scene scenes[] = {
         {"a groove plays", {}, wait},
-        {"the audio thread moves parameters", [this](int n) { Synth().SetParameter(n % param::Count, 0.5f); }, wait},
+        {"the audio thread moves parameters",
+         [this](int n) {
+             Synth().SetParameter(n % param::Count, 0.5f);
+             Synth().MoveController(n % 128, 0.5);
+         },
+         wait},
         {"every effect is played", {}, [&](int n) { return Overload() && wait(n); }},
         {"program changes", // until one has been told
          [this](int n) {

@@ -316,11 +316,9 @@ TEST_F(Bridge, SurvivesItsHost)
 // The dynamic symbol table shows the entries and nothing of the engine.
 TEST(Plugin, ExportsItsEntriesOnly)
 {
-    const std::string list = "nm -D --defined-only --format=posix '" KORVANE_BUNDLE "/korvane.so' | cut -d ' ' -f 1";
-    EXPECT_EQ(std::system(
-                  ("test \"$(" + list + " | LC_ALL=C sort | xargs)\" = 'CreatePlugInstance DllMain VSTPluginMain main'")
-                      .c_str()),
-              0);
+    const std::string list = "nm -D --defined-only --format=posix '" KORVANE_BUNDLE "/korvane.so' | cut -d ' ' -f 1",
+                      entries = "CreatePlugInstance DllMain VSTPluginMain main";
+    EXPECT_EQ(std::system(("test \"$(" + list + " | LC_ALL=C sort | xargs)\" = '" + entries + "'").c_str()), 0);
 }
 
 // Only a host that calls its thread real-time has blocks that must not wait.

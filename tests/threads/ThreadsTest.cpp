@@ -65,6 +65,7 @@ protected:
         for (int n = 0; n < 20; ++n) {
             Synth().SetParameter(worker.Below(param::Count), worker.Value());
             Synth().SetProgramName(0, names[n % 2].c_str());
+            Synth().MoveController(worker.Below(128), worker.Value());
         }
         Synth().SetPlaying(worker.Often(3));
         if (worker.Often(20)) saved = State();

@@ -7,6 +7,7 @@
 
 #include "desktop/Display.h"
 #include "framework/ParameterTable.h"
+#include "render/NativeHost.h"
 #include "shell/vst2/AEffect.h"
 #include "support/ContentRoot.h"
 #include "support/Waiting.h"
@@ -220,6 +221,42 @@ TEST_F(EditorTest, APlayingHostWritesAndLoadsDuringADrag)
     }
     playing = false;
     audio.join();
+}
+
+/// What a native host hears of the knob.
+struct NativeHosted : render::NativeHost {
+    void HostParameterChanged(std::int32_t, std::int32_t index, std::int32_t value) override
+    {
+        if (index == kKnob) last = value;
+    }
+    void Show(void* parent)
+    {
+        plugin->Dispatch(native_dispatch::ShowEditor, 0, reinterpret_cast<std::intptr_t>(parent));
+    }
+
+    std::atomic<int> last{-1};
+};
+
+// The host reads the window's number from the plug-in.
+TEST_F(EditorTest, OpensInANativeHost)
+{
+    Host host;
+    NativeHosted plugin;
+    plugin.Load(KORVANE_BUNDLE "/korvane.so", 44100.0, 64);
+    plugin.Show(nullptr);
+    for (int n = 0; n < 2; ++n) {
+        EXPECT_EQ(plugin.plugin->editorHandle, nullptr);
+        plugin.SetParameter(kKnob, 0.5f);
+        plugin.Show(host.Parent());
+        ASSERT_EQ(host.Children(host.window).size(), 1u);
+        EXPECT_EQ(plugin.plugin->editorHandle,
+                  reinterpret_cast<void*>(std::uintptr_t{host.Children(host.window).at(0)}));
+        host.Do("to 85,59 press 1 to 85,9 release 1");
+        EXPECT_TRUE(Within(5s, [&] { return plugin.last == 192; })) << plugin.last;
+        plugin.Show(nullptr);
+        EXPECT_EQ(host.Children(host.window).size(), 0u);
+    }
+    plugin.Show(host.Parent()); // and ends so
 }
 
 } // namespace
