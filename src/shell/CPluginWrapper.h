@@ -16,7 +16,7 @@ public:
     /// The user starts and ends a gesture on a host parameter.
     virtual void BeginEdit(int index) = 0;
     virtual void EndEdit(int index) = 0;
-    /// Whether the host says that the calling thread, inside a block, must not wait.
+    /// Whether the calling thread must not wait, as far as the host tells.
     virtual bool RealTime() = 0;
 
 protected:

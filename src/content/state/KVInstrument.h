@@ -116,7 +116,7 @@ private:
     bool ReplacePart(int channel, const Image& image);
     bool ReplaceChannel(const char* path, int channel);
 
-    void Ask(bool bank, int number); // the audio thread
+    void Ask(bool bank, int number); // the audio thread, or who moves the bank select of a host that has it
     void TellHost();                 // the teller
     void LoadDefaultGroove();
 
