@@ -109,10 +109,7 @@ void CHarrowdeckWrapper::SetSampleRate(std::int32_t rate)
     const bool first = std::exchange(firstStart, false);
     if (!instance.engine) return;
     instance.engine->SetSampleRate(rate);
-    if (!first) return;
-    programSetting = true;
-    instance.engine->SetProgram(0);
-    programSetting = false;
+    if (first) SetProgram(0);
 }
 
 // State
@@ -149,9 +146,18 @@ void CHarrowdeckWrapper::RestoreState(NativeStream& stream)
     ReadNumber(stream, program);
     const auto put = [&] { return instance.SetChunk(false, image.data(), std::ssize(image)) != 0; };
     const bool whole = put();
-    instance.engine->SetProgram(std::clamp(program, 0, std::max(Definition()->numPrograms - 1, 0)));
+    SetProgram(program);
     // The program moves the external controls to where they stand, and they what they are bound to.
     if (whole && instance.Chunk(false) != image) put();
+    for (int n = 0; n < Definition()->numHostParams; ++n) ParameterAutomated(n, instance.engine->GetParameter(n));
+}
+
+/// Without the host's hearing of it.
+void CHarrowdeckWrapper::SetProgram(std::int32_t program)
+{
+    programSetting = true;
+    instance.engine->SetProgram(std::clamp(program, 0, std::max(Definition()->numPrograms - 1, 0)));
+    programSetting = false;
 }
 
 // Parameters

@@ -55,6 +55,7 @@ private:
 
     void ShowEditor(std::intptr_t parent);
     void SetSampleRate(std::int32_t rate);
+    void SetProgram(std::int32_t program);
     void SaveState(NativeStream& stream);
     void RestoreState(NativeStream& stream);
     void SetExtraParameter(int number, float value);
@@ -64,18 +65,24 @@ private:
     void Finish(Voice& voice);
     void Mix(float* destination, int pair, std::int32_t frames) const;
 
+    // The host's other threads.
     const std::thread::id maker = std::this_thread::get_id();
-    std::int32_t sampleRate = 44100; // Hz
-    const int numPairs;              // the main mix and the channels
-    bool firstStart = true;          // until the first sample rate
-    Shared<bool> programSetting;     // the host hears nothing of the program that comes with it; any thread reads
-    std::vector<float> mix;          // of each pair left and right, kMixFrames each; audio thread
-    std::vector<float*> outputs;     // where these begin
-    std::vector<float*> mainOutputs; // of these the main mix, null for the others
-    std::vector<std::uint8_t> outputEnabled;            // of each pair; all of them
-    Shared<float> controllerValues[kNativeControllers]; // 0..1, as the host set them; any thread
-    std::array<Voice, CSynthesizer::kKeys> voices;      // by their keys; audio thread
-    std::vector<std::string> parameterMenu;             // what a host may show for a parameter
+    std::int32_t sampleRate = 44100;        // Hz
+    bool firstStart = true;                 // until the first sample rate
+    std::vector<std::string> parameterMenu; // what a host may show for a parameter
+
+    // Any thread.
+    Shared<bool> programSetting;                        // the host hears nothing of what that moves
+    Shared<float> controllerValues[kNativeControllers]; // 0..1, as the host set them
+
+    // The audio thread.
+    const int numPairs;                            // the main mix and the channels
+    std::vector<float> mix;                        // of each pair left and right, kMixFrames each
+    std::vector<float*> outputs;                   // where these begin
+    std::vector<float*> mainOutputs;               // of these the main mix, null for the others
+    std::vector<std::uint8_t> outputEnabled;       // of each pair; all of them
+    std::array<Voice, CSynthesizer::kKeys> voices; // by their keys
+
     PluginInstance instance;
 };
 

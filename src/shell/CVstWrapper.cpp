@@ -12,7 +12,6 @@ namespace korvane {
 CVstWrapper::CVstWrapper(AudioMasterCallback hostCallback)
     : AudioEffectX(hostCallback, Definition()->numPrograms, Definition()->numHostParams), instance(this)
 {
-    if (engine) engine->SetSampleRate(44100.0);
     CPluginDefinition& definition = *Definition();
     record.numInputs = definition.numInputs;
     record.numOutputs = 2 * definition.numOutputPairs;

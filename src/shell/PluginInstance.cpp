@@ -8,6 +8,7 @@ namespace korvane {
 PluginInstance::PluginInstance(CPluginWrapper* bridge)
 {
     engine.reset(Definition()->CreateSynth(bridge)); // which may ask the bridge for the editor
+    if (engine) engine->SetSampleRate(44100.0);
 }
 
 PluginInstance::~PluginInstance()

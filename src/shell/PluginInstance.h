@@ -14,7 +14,7 @@ namespace korvane {
 /// Made and ended with its bridge. Operations without an engine do nothing and answer 0.
 class PluginInstance {
 public:
-    /// The engine, without a sample rate.
+    /// The engine, at 44.1 kHz until the host tells its rate.
     explicit PluginInstance(CPluginWrapper* bridge);
     /// The editor, which shows the engine, ends before it and waits for its thread, however long the host keeps that;
     /// until then the thread may ask for either.

@@ -64,9 +64,7 @@ void NativeHost::Make(Entry entry, double rate, int blockFrames)
     const auto pairs = static_cast<std::size_t>(Pairs()), frames = static_cast<std::size_t>(blockFrames);
     interleaved.assign(pairs, std::vector<float>(2 * frames));
     outputs.assign(2 * pairs, std::vector<float>(frames));
-    constexpr double kFirstRate = 44100.0; // under the other host a plug-in begins with it
-    for (const double told : {kFirstRate, rate})
-        plugin->Dispatch(native_dispatch::SetSampleRate, 0, static_cast<std::intptr_t>(told));
+    plugin->Dispatch(native_dispatch::SetSampleRate, 0, static_cast<std::intptr_t>(rate));
     Reset();
     playSwitch = FindParameter("TRSNP: Play");
 }
