@@ -24,7 +24,7 @@ public:
 
     /// Before the first block, when state and parameters are set.
     virtual void Begin() = 0;
-    /// Whether events are played at their frames; else at the start of the next block.
+    /// Whether events are played at their frames and in their order; else at the start of the next block, notes last.
     virtual bool PlacesEvents() const = 0;
     /// To be played in the next block, in order of their frames.
     virtual void QueueMidi(int frame, std::uint8_t status, std::uint8_t data1, std::uint8_t data2) = 0;

@@ -30,6 +30,13 @@ std::int32_t OnScale(double value) { return static_cast<std::int32_t>(std::ceil(
 
 std::int32_t OnScale(std::uint8_t midiValue) { return OnScale(midiValue / 127.0); }
 
+std::int32_t ControllerOnScale(std::uint8_t number, std::uint8_t value)
+{
+    constexpr std::uint8_t kPedal = 64;
+    if (number == kPedal) return OnScale(value > 64 ? 1.0 : 0.0); // down or up, where MIDI has it so
+    return OnScale(value);
+}
+
 } // namespace
 
 std::int32_t NativeBytes::Read(void* buffer, std::int32_t size)
@@ -138,7 +145,9 @@ void NativeHost::QueueMidi(int, std::uint8_t status, std::uint8_t data1, std::ui
         else
             StartVoice(data1, data2);
         break;
-    case 0xB0: plugin->ProcessParameter(Parameters() + data1, OnScale(data2), native_parameter::Set); break;
+    case 0xB0:
+        plugin->ProcessParameter(Parameters() + data1, ControllerOnScale(data1, data2), native_parameter::Set);
+        break;
     case 0xD0: plugin->ProcessParameter(Parameters() + 128, OnScale(data1), native_parameter::Set); break;
     default: break;
     }

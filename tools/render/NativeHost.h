@@ -48,9 +48,12 @@ public:
 
     void Begin() override;
     bool PlacesEvents() const override { return false; }
-    /// Notes as voices, controllers and channel pressure as parameters; there is no way for other messages.
+    /// Notes as voices, controllers and channel pressure as parameters; there is no way for other messages. Values of
+    /// 7 bits are rounded up to the interface's 256 steps: 0 and 127 are what they are by MIDI, the others up to 1/256
+    /// more; numbers of banks and the pedal's up and down come through. Controllers act at once, notes with the next
+    /// block, so that a controller overtakes the notes queued before it.
     void QueueMidi(int frame, std::uint8_t status, std::uint8_t data1, std::uint8_t data2) override;
-    void SetTempo(double bpm) override;
+    void SetTempo(double bpm) override; // told in single precision
     void SetPosition(double) override {}
     void SetPlaying(bool running) override;
     void Render(int frames) override;

@@ -78,7 +78,7 @@ constexpr Option kOptions[] = {
      [](Options& to, const Text& name, const Text& value) { to.block = Whole(name, value, 1, 65536); }},
     {"--plugin", "FILE", "the plug-in (default: korvane.so of the bundle built with this program)",
      [](Options& to, const Text&, const Text& value) { to.plugin = value; }},
-    {"--native", nullptr, "play by the native interface instead of VST 2; set values get 256 steps",
+    {"--native", nullptr, "play by the native interface instead of VST 2: the same sound, but see below",
      [](Options& to, const Text&, const Text&) { to.native = true; }},
     {"--list", nullptr, "print the names of grooves, programs and parts",
      [](Options& to, const Text&, const Text&) { to.list = true; }},
@@ -134,6 +134,9 @@ beginning of it, in any case, with or without the number; without it the default
     return text + R"(
 A parameter's VALUE is a number from 0 to 1, or what the instrument shows, with its unit: "-6 dB", "0 st", 1/4, LP, on.
 Most parameters act on the selected channel; one of the thirteen set on, then off selects it: "CHANNEL 3: Sampler 3=on".
+The native interface has 256 steps for a value: what --param sets and a MIDI file's controllers and channel pressure
+are rounded up to the next one. There is no pitch bend, key pressure or program change, and a pedal that moves at the
+same instant as notes moves a frame after them.
 
 Examples:
   korvane-render --bars 16 --stems channels "night drive" mix.wav

@@ -39,6 +39,12 @@ bool progressShown = false; // and its line not ended
 
 void Interrupt(int) { interrupted = 1; }
 
+/// The pedal, and what lets all keys go.
+bool MovesKeys(const MidiMessage& message)
+{
+    return (message.status & 0xF0) == 0xB0 && (message.data1 == 64 || message.data1 >= 120);
+}
+
 std::unique_ptr<Host> OpenPlugin(const Options& options)
 {
     if (!options.native) return std::make_unique<PluginHost>(options.plugin, options.rate, options.block);
@@ -137,7 +143,7 @@ private:
     int RenderBlock(long long done, int frames)
     {
         const double seconds = static_cast<double>(done) / options.rate;
-        host.SetTempo(TempoAt(seconds));
+        if (cut == 0) host.SetTempo(TempoAt(seconds)); // once in a block, however it is cut
         host.SetPosition(midi ? midi->QuartersAt(seconds) : seconds * tempo / 60.0);
         if (midi)
             frames = QueueMessages(done, frames);
@@ -156,12 +162,15 @@ private:
 
     int QueueMessages(long long done, int frames)
     {
-        int last = 0; // frame of the event queued last
+        int last = 0;       // frame of the event queued last
+        bool notes = false; // are among them
         for (std::size_t queued = 0; next < midi->messages.size(); ++next, ++queued) {
             const MidiMessage& message = midi->messages[next];
             const long long frame = std::max(Frames(message.seconds) - done, 0LL);
             if (frame >= frames) break;
             if ((queued >= kEventsPerBlock || !host.PlacesEvents()) && frame > last) return static_cast<int>(frame);
+            if (notes && !host.PlacesEvents() && MovesKeys(message)) return 1; // frame later: it overtakes no note
+            notes = notes || message.status < 0xA0;
             host.QueueMidi(last = static_cast<int>(frame), message.status, message.data1, message.data2);
         }
         return frames;
