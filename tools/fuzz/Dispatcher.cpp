@@ -1,5 +1,4 @@
 // The plug-in under a host that asks for anything, in any order; but its pointers are null or lead to what is promised.
-#include "content/ByteReader.h"
 #include "fuzz/Instrument.h"
 #include "shell/CVstWrapper.h"
 
@@ -29,20 +28,6 @@ std::intptr_t Ask(std::int32_t opcode, std::int32_t index = 0, std::intptr_t val
                   float option = 0.0f)
 {
     return effect->dispatcher(effect, opcode, index, value, pointer, option);
-}
-
-/// Mostly one that is in some range.
-std::int32_t Number(ByteReader& in)
-{
-    const auto small = in.Read<std::uint8_t>();
-    return small < 240 ? small : in.Read<std::int32_t>();
-}
-
-Bytes Some(ByteReader& in)
-{
-    Bytes bytes(std::min<std::size_t>(in.Read<std::uint8_t>() % 64u, static_cast<std::size_t>(in.Left())));
-    for (auto& byte : bytes) byte = in.Read<std::uint8_t>();
-    return bytes;
 }
 
 void Block(int frames, int kind)

@@ -3,12 +3,24 @@
 
 #include <cmath>
 
-#include "content/ByteReader.h"
 #include "platform/Files.h"
 #include "shell/SMX_Def.h"
 #include "support/Riff.h"
 
 namespace korvane::fuzz {
+
+std::int32_t Number(ByteReader& in)
+{
+    const auto small = in.Read<std::uint8_t>();
+    return small < 240 ? small : in.Read<std::int32_t>();
+}
+
+Bytes Some(ByteReader& in)
+{
+    Bytes bytes(std::min<std::size_t>(in.Read<std::uint8_t>() % 64u, static_cast<std::size_t>(in.Left())));
+    for (auto& byte : bytes) byte = in.Read<std::uint8_t>();
+    return bytes;
+}
 
 Content::Content()
 {

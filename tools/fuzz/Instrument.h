@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "content/ByteReader.h"
 #include "content/state/KVInstrument.h"
 #include "fuzz/Limits.h"
 #include "support/ContentRoot.h"
@@ -17,6 +18,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 namespace korvane::fuzz {
 
 using Bytes = std::vector<std::uint8_t>;
+
+/// Mostly one that is in some range.
+std::int32_t Number(ByteReader& in);
+/// Up to 63.
+Bytes Some(ByteReader& in);
 
 /// A content folder with a sample, a wave and a program of each kind; the definition is installed.
 struct Content : ContentRoot {
