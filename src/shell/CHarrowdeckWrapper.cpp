@@ -140,10 +140,11 @@ void CHarrowdeckWrapper::RestoreState(NativeStream& stream)
     std::array<char, sizeof kStateTag> tag{};
     std::uint32_t size = 0;
     if (!ReadNumber(stream, tag) || !std::equal(tag.begin(), tag.end(), kStateTag)) return;
-    if (!ReadNumber(stream, size) || size == 0 || !instance.engine) return;
+    if (!ReadNumber(stream, size) || size == 0) return;
     const std::vector<std::uint8_t> image = ReadBytes(stream, size);
     std::int32_t program = 0;
     ReadNumber(stream, program);
+    if (!instance.engine) return;
     const auto put = [&] { return instance.SetChunk(false, image.data(), std::ssize(image)) != 0; };
     const bool whole = put();
     SetProgram(program);
