@@ -57,9 +57,8 @@ std::vector<std::uint8_t> ReadBytes(NativeStream& stream, std::uint32_t size)
         const std::size_t have = bytes.size(), asked = std::min(kPiece, size - have);
         bytes.resize(have + asked);
         const std::int32_t came = stream.Read(bytes.data() + have, static_cast<std::int32_t>(asked));
-        if (came == static_cast<std::int32_t>(asked)) continue;
-        bytes.resize(have + static_cast<std::size_t>(std::clamp(came, 0, static_cast<std::int32_t>(asked))));
-        break;
+        bytes.resize(have + std::min(asked, static_cast<std::size_t>(std::max(came, 0))));
+        if (came <= 0) break;
     }
     return bytes;
 }

@@ -122,11 +122,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static const ModuleInfo about(*Definition());
     static const std::shared_ptr<void> end(nullptr, [](void*) { Close(); });
     if (!plugin) plugin = new CHarrowdeckWrapper(owner, 1, about.record);
-    Bytes image = {'S', 'S', 'D', 'H', 0, 0, 0, 0};
-    const auto length = static_cast<std::uint32_t>(state.size());
-    std::memcpy(image.data() + 4, &length, sizeof length);
-    image.insert(image.end(), state.begin(), state.end());
-    Restore(image);
+    const auto length = static_cast<std::int32_t>(state.size());
+    NativeState block;
+    block.Write("SSDH", 4);
+    block.Write(&length, sizeof length);
+    block.Write(state.data(), length);
+    Restore(block.bytes);
     plugin->ProcessParameter(param::Play, 256, native_parameter::Set);
     ByteReader in(data, static_cast<std::int32_t>(size));
     for (int n = 0; n < 200 && in.Ok() && in.Left() > 0; ++n) {

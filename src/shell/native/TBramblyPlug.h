@@ -39,7 +39,7 @@ static_assert(sizeof(NativeMidiMessage) == 4);
 class NativeStream {
 public:
     // clang-format off
-    /// Into or from a buffer of `size` bytes; how many it were, fewer where the stream ends.
+    /// Into or from a buffer of `size` bytes; how many it were, none where the stream ends.
     virtual std::int32_t Read(void* buffer, std::int32_t size) = 0;        // 1
     virtual std::int32_t Write(const void* buffer, std::int32_t size) = 0; // 2
     // clang-format on
