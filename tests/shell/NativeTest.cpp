@@ -73,6 +73,10 @@ struct Module final : CPluginDefinition {
     bool makesEngines = true;
 };
 
+struct Pieces final : render::NativeBytes { // a stream that gives a little at a time
+    Int Read(void* buffer, Int size) override { return NativeBytes::Read(buffer, std::min(size, 999)); }
+};
+
 struct Recorder : render::NativeHost {
     Wide HostDispatch(Int tag, Int id, Int index, Wide value) override { Say("ask", tag, id, index, value); return 0; }
     void HostParameterChanged(Int tag, Int index, Int value) override { Say("changed", tag, index, value); }
@@ -97,7 +101,7 @@ struct Recorder : render::NativeHost {
     }
     std::string State(bool save, const std::string& block = "")
     {
-        render::NativeBytes stream;
+        Pieces stream;
         stream.bytes.assign(block.begin(), block.end());
         plugin->SaveRestoreState(&stream, save);
         return {stream.bytes.begin(), stream.bytes.end()};
