@@ -1,8 +1,6 @@
 // MIDI input: the event queue, the state of keys and controllers, and what an event does to them.
 #include "framework/CMidiController.h"
 
-#include "platform/Numbers.h"
-
 namespace korvane {
 
 namespace {
@@ -82,8 +80,7 @@ void CMidiController::NoteOn(int number, std::uint8_t velocity)
     if (velocity == 0) {
         NoteOff(number);
     } else if (key.velocity == 0) {
-        key.held = velocity;
-        key.velocity = velocity;
+        key.velocity = key.held = velocity;
         NotifyKey(number, velocity);
     }
 }
@@ -111,21 +108,6 @@ void CMidiController::Control(std::uint8_t number, std::uint8_t value)
     }
 }
 
-void CMidiController::MoveController(int number, double value)
-{
-    controllers[number] = value;
-    switch (number) {
-    case controller::BankSelect: BankSelectReceived(Truncate(value * 127.0)); break;
-    case controller::Sustain:
-        if (value < 0.5) ReleaseUnheld();
-        break;
-    case controller::ResetAll: ResetControllers(); break;
-    case controller::AllNotesOff: ReleaseAll(); break;
-    default: break;
-    }
-    ControllerChanged(static_cast<std::int8_t>(number));
-}
-
 void CMidiController::MoveChannelPressure(double value)
 {
     channelPressure = value;
@@ -142,7 +124,6 @@ void CMidiController::ResetControllers()
 
 // Keys
 
-/// What no finger holds.
 void CMidiController::ReleaseUnheld()
 {
     for (int key = 0; key < kKeys; ++key)
@@ -156,7 +137,9 @@ void CMidiController::ReleaseAll()
 
 void CMidiController::ReleaseKey(int key)
 {
-    if (keys[static_cast<std::size_t>(key)].velocity.Exchange(0) != 0) NotifyKey(key, 0);
+    if (keys[static_cast<std::size_t>(key)].velocity == 0) return;
+    keys[static_cast<std::size_t>(key)].velocity = 0;
+    NotifyKey(key, 0);
 }
 
 void CMidiController::NotifyKey(int key, std::uint8_t velocity)

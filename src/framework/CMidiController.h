@@ -16,8 +16,8 @@ inline constexpr int ModWheel = 1, Volume = 7, Pan = 10, BankSelect = 32, Sustai
 } // namespace controller
 
 /// What has come in by MIDI. Events are queued just before their block and dispatched inside it, both on the audio
-/// thread, on which the notifications come too; those of ReleaseAll come from who has the engine to itself, those of a
-/// controller that a host moves as a parameter from whatever thread does. Other threads read the values.
+/// thread, on which the notifications come too. Keys are moved by who has the engine to itself; a controller that a
+/// host moves as a parameter is announced on whatever thread does. Other threads read the values.
 class CMidiController {
 public:
     static constexpr int kQueueCapacity = 1024;
@@ -40,12 +40,8 @@ public:
     void QueueEvent(std::uint8_t status, std::uint8_t data1, std::uint8_t data2, std::uint8_t data3,
                     std::int32_t deltaFrames);
 
-    // For hosts that have controllers and pressure as parameters. Any thread; at once, and not only in steps of 127.
-    // Everything that MIDI does with the controller, and then its notification, which MIDI spares some of them.
-
-    /// number  0..127
-    /// value   0..1; the pedal keeps it as it is
-    void MoveController(int number, double value);
+    /// By a host that has the pressure as a parameter. Any thread.
+    /// value  0..1
     void MoveChannelPressure(double value);
 
     bool Sustained() const { return controllers[controller::Sustain] >= 0.5; }
@@ -63,16 +59,18 @@ protected:
     void DispatchPending();
     /// The block is over: what was not dispatched is lost.
     void ClearEvents();
-    /// Lets every key go; those that the pedal holds sound on.
+    /// 121 by whatever thread, announced one by one.
+    void ResetControllers();
+    /// Lets every key go; those that the pedal holds sound on. Who has the engine to itself.
     void ReleaseAll();
+    /// What no finger holds. Who has the engine to itself.
+    void ReleaseUnheld();
 
 private:
     void Dispatch(const MidiEvent& event);
     void NoteOn(int key, std::uint8_t velocity);
     void NoteOff(int key);
     void Control(std::uint8_t number, std::uint8_t value);
-    void ReleaseUnheld();
-    void ResetControllers();
     void ReleaseKey(int key);
     void NotifyKey(int key, std::uint8_t velocity);
 
@@ -83,9 +81,9 @@ private:
     std::int32_t pendingEvent = -1; // taken but not dispatched, -1 none
 
     struct Key {
-        Shared<std::uint8_t> velocity; // 0: not sounding; keeps the velocity while sustained; who zeroes it, releases
-        Shared<std::uint8_t> held;     // velocity while physically down
-        double pressure = 0.0;         // 0..1, audio thread
+        std::uint8_t velocity = 0; // 0: not sounding; keeps the velocity while sustained
+        std::uint8_t held = 0;     // velocity while physically down
+        double pressure = 0.0;     // 0..1
     };
     std::array<Key, kKeys> keys;
     bool voiceHook = true; // key changes go to VoiceNoteOn before NoteEvent

@@ -132,6 +132,7 @@ void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, boo
     audioThread = std::this_thread::get_id();
     blockFrames = std::max(frames, blockFrames / 2); // of some hosts, only the first of a few is long
     ServeChange();
+    ServeKeyOrders();
     RenderChunks(in.data(), out.data(), frames);
     ClearEvents();
     LeaveBlock();
@@ -153,6 +154,38 @@ void CSynthesizer::RenderChunks(float** inputs, float** outputs, int frames)
             gap -= chunk;
         }
     }
+}
+
+// Controllers
+
+void CSynthesizer::MoveController(int number, double value)
+{
+    controllers[number] = value;
+    switch (number) {
+    case controller::BankSelect: BankSelectReceived(Truncate(value * 127.0)); break;
+    case controller::Sustain:
+        if (value < 0.5) OrderKeys(ReleaseUnheldKeys);
+        break;
+    case controller::ResetAll: ResetControllers(); break;
+    case controller::AllNotesOff: OrderKeys(ReleaseAllKeys); break;
+    default: break;
+    }
+    ControllerChanged(static_cast<std::int8_t>(number));
+}
+
+void CSynthesizer::OrderKeys(KeyOrder order)
+{
+    keyOrders.fetch_or(order, std::memory_order_release);
+    const BetweenBlocks exclusive(*this);
+    if (blockThread == std::this_thread::get_id()) ServeKeyOrders();
+}
+
+void CSynthesizer::ServeKeyOrders()
+{
+    if (keyOrders.load(std::memory_order_relaxed) == 0) return;
+    const std::uint8_t orders = keyOrders.exchange(0, std::memory_order_acquire);
+    if (orders & ReleaseUnheldKeys) ReleaseUnheld();
+    if (orders & ReleaseAllKeys) ReleaseAll();
 }
 
 void CSynthesizer::Reset() { ReleaseAll(); }

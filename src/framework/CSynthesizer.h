@@ -63,6 +63,11 @@ public:
     virtual void EndThreads() {}                                 // none of its own calls the bridge any more
     // clang-format on
 
+    /// A controller of a host that has it as a parameter: what MIDI does with it, and then its notification, which MIDI
+    /// spares some of them. Any thread; keys that it lets go end at once for who has the engine to itself or may have
+    /// it now, else with the next block. number  0..127 value   0..1; the pedal keeps it as it is
+    void MoveController(int number, double value);
+
     /// A whole-state operation in progress: from construction to destruction blocks are skipped, none is running, and
     /// no other switch either. Waits for them, looking every millisecond, unless this thread is inside a block or
     /// switch itself.
@@ -123,6 +128,10 @@ protected:
     Shared<std::thread::id> blockThread; // who has the engine to itself, in a block or switch; nobody in between
 
 private:
+    enum KeyOrder : std::uint8_t { ReleaseUnheldKeys = 1, ReleaseAllKeys = 2 };
+
+    void OrderKeys(KeyOrder order);
+    void ServeKeyOrders(); // who has the engine to itself
     bool EnterBlock();
     void LeaveBlock();
     void ServeChange(); // who has the engine to itself
@@ -137,7 +146,8 @@ private:
     Shared<std::int32_t> blockFrames;           // of the last blocks
     std::atomic<const std::function<void()>*> change{nullptr}; // that waits, null when none does
     mutable std::atomic<std::uint32_t> changeCount{0};
-    std::atomic<bool> processing{false}; // somebody has the engine to itself
+    std::atomic<std::uint8_t> keyOrders{0}; // bits of KeyOrder; who serves them sees the controllers moved before
+    std::atomic<bool> processing{false};    // somebody has the engine to itself
     std::atomic<int> programChanges{0};
 };
 

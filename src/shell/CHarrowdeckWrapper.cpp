@@ -16,6 +16,7 @@ namespace korvane {
 namespace {
 
 constexpr char kStateTag[] = {'S', 'S', 'D', 'H'};
+constexpr int kPressure = kNativeControllers - 1; // among the controllers
 
 // 256 is 1.0.
 std::int32_t ToHost(float value) { return Truncate(value * 256.0f); }
@@ -39,12 +40,13 @@ int VelocityOf(const NativeVoice& voice)
     return Clamp(Truncate(127.0 * std::log(1.0 + 10.0 * volume) / std::log(21.0)), 0, 127);
 }
 
-template <class Number>
-bool ReadNumber(NativeStream& stream, Number& number)
+/// Leaves the value where the stream has not all of it.
+template <class Value>
+bool ReadValue(NativeStream& stream, Value& value)
 {
-    Number read;
+    Value read;
     if (stream.Read(&read, sizeof read) != static_cast<std::int32_t>(sizeof read)) return false;
-    number = read;
+    value = read;
     return true;
 }
 
@@ -74,7 +76,7 @@ CHarrowdeckWrapper::CHarrowdeckWrapper(TBramblyHost& owner, std::int32_t tag, co
     mainOutputs.resize(outputs.size());
     std::copy_n(outputs.begin(), 2, mainOutputs.begin());
     instance.CreateEditor();
-    if (IsInstrument()) host->HostDispatch(hostTag, native_request::Generates, 0, 1);
+    if (IsInstrument()) host->HostDispatch(hostTag, native_request::Instrument, 0, 1);
 }
 
 std::int32_t CHarrowdeckWrapper::Dispatch(std::int32_t id, std::int32_t, std::intptr_t value)
@@ -138,11 +140,11 @@ void CHarrowdeckWrapper::RestoreState(NativeStream& stream)
 {
     std::array<char, sizeof kStateTag> tag{};
     std::uint32_t size = 0;
-    if (!ReadNumber(stream, tag) || !std::equal(tag.begin(), tag.end(), kStateTag)) return;
-    if (!ReadNumber(stream, size) || size == 0) return;
+    if (!ReadValue(stream, tag) || !std::equal(tag.begin(), tag.end(), kStateTag)) return;
+    if (!ReadValue(stream, size) || size == 0) return;
     const std::vector<std::uint8_t> image = ReadBytes(stream, size);
     std::int32_t program = 0;
-    ReadNumber(stream, program);
+    ReadValue(stream, program);
     if (!instance.engine) return;
     const auto put = [&] { return instance.SetChunk(false, image.data(), std::ssize(image)) != 0; };
     const bool whole = put();
@@ -186,10 +188,10 @@ void CHarrowdeckWrapper::SetExtraParameter(int number, float value)
 {
     controllerValues[number] = value;
     if (!instance.engine) return;
-    if (number < CMidiController::kKeys)
-        instance.engine->MoveController(number, static_cast<double>(value));
-    else
+    if (number == kPressure)
         instance.engine->MoveChannelPressure(static_cast<double>(value));
+    else
+        instance.engine->MoveController(number, static_cast<double>(value));
 }
 
 void CHarrowdeckWrapper::GetName(std::int32_t section, std::int32_t index, std::int32_t, char* buffer)
@@ -214,10 +216,10 @@ void CHarrowdeckWrapper::ParameterName(int index, char* buffer)
     const int extra = ControllerOf(index);
     if (extra < 0) {
         if (instance.engine) instance.engine->GetParameterName(index, buffer);
-    } else if (extra < kNativeControllers - 1) {
-        std::sprintf(buffer, "MIDI CC %d", extra);
-    } else if (extra == kNativeControllers - 1) {
+    } else if (extra == kPressure) {
         std::strcpy(buffer, "Chn. Aftertouch");
+    } else if (extra < kPressure) {
+        std::sprintf(buffer, "MIDI CC %d", extra);
     }
 }
 
@@ -229,7 +231,7 @@ void CHarrowdeckWrapper::ParameterValue(int index, char* buffer)
         char display[256] = "", label[256] = "";
         instance.engine->GetParameterDisplay(index, display);
         instance.engine->GetParameterLabel(index, label);
-        std::snprintf(buffer, 256, "%.128s %.126s", display, label);
+        std::snprintf(buffer, 256, "%.128s %.126s", display, label); // no byte more than the buffer has
     } else if (extra < kNativeControllers) {
         std::sprintf(buffer, "%d", Truncate(controllerValues[extra] * 127.0f));
     }
@@ -248,23 +250,21 @@ void CHarrowdeckWrapper::ParameterAutomated(int index, float value)
     host->HostShowHint(hostTag, hint);
 }
 
-// The audio thread
-
 std::int32_t CHarrowdeckWrapper::HostEvent(std::int32_t kind, float value)
 {
     if (kind == native_event::Tempo && instance.engine) instance.engine->SetTempo(static_cast<double>(value));
     return 0;
 }
 
+// The audio thread
+
 std::intptr_t CHarrowdeckWrapper::TriggerVoice(NativeVoice* record, std::intptr_t voiceTag)
 {
     if (!instance.engine || !record) return 0;
     const int key = KeyOf(*record);
-    Voice& voice = voices[static_cast<std::size_t>(key)];
-    Finish(voice);
-    voice = {record, voiceTag};
+    Finish(std::exchange(voices[static_cast<std::size_t>(key)], {record, voiceTag}));
     QueueNote(key, VelocityOf(*record));
-    host->HostVoiceNotification(voiceTag, TBramblyHost::kVoiceStarted, 0, 0);
+    host->HostVoiceNotification(voiceTag, TBramblyHost::kVoiceTriggered, 0, 0);
     return key;
 }
 
@@ -285,11 +285,9 @@ void CHarrowdeckWrapper::QueueNote(int key, int velocity)
 }
 
 /// The engine keeps nothing of the host's voices: they end with the block that starts them, and notes with their key.
-void CHarrowdeckWrapper::Finish(Voice& voice)
+void CHarrowdeckWrapper::Finish(const Voice& voice)
 {
-    if (!voice.record) return;
-    voice.record = nullptr;
-    host->HostVoiceFinished(voice.tag, 0);
+    if (voice.record) host->HostVoiceFinished(voice.tag, 0);
 }
 
 void CHarrowdeckWrapper::MidiIn(const NativeMidiMessage* message)
@@ -305,7 +303,7 @@ void CHarrowdeckWrapper::RenderGenerator(float* destination, std::int32_t frames
     if (!engine) return;
     frames = std::clamp(frames, 0, kMixFrames);
     engine->ProcessBlock(nullptr, outputs.data(), frames, true);
-    for (Voice& voice : voices) Finish(voice);
+    for (Voice& voice : voices) Finish(std::exchange(voice, {}));
     if (IsInstrument()) host->HostLockMix();
     for (int pair = 0; pair < numPairs; ++pair) {
         if (!outputEnabled[static_cast<std::size_t>(pair)]) continue;
@@ -318,8 +316,8 @@ void CHarrowdeckWrapper::RenderGenerator(float* destination, std::int32_t frames
 void CHarrowdeckWrapper::Mix(float* destination, int pair, std::int32_t frames) const
 {
     if (!destination) return;
-    const float* const left = outputs[2 * static_cast<std::size_t>(pair)];
-    const float* const right = left + kMixFrames;
+    const float* const* const sides = outputs.data() + 2 * pair;
+    const float *const left = sides[0], *const right = sides[1];
     for (std::int32_t n = 0; n < frames; ++n) {
         destination[2 * n] += left[n];
         destination[2 * n + 1] += right[n];
@@ -335,7 +333,7 @@ void CHarrowdeckWrapper::RenderEffect(const float* source, float* destination, s
         left[n] = source[2 * n];
         right[n] = source[2 * n + 1];
     }
-    instance.engine->ProcessBlock(mainOutputs.data(), mainOutputs.data(), frames, false); // adds to what is there
+    instance.engine->ProcessBlock(mainOutputs.data(), mainOutputs.data(), frames, false); // in place
     for (std::int32_t n = 0; n < frames; ++n) {
         destination[2 * n] = left[n];
         destination[2 * n + 1] = right[n];

@@ -31,6 +31,7 @@ public:
     std::int32_t HostEvent(std::int32_t kind, float value) override;
     /// Get, then set; the value that it got, else the one that was given. Any thread.
     std::int32_t ProcessParameter(std::int32_t index, std::int32_t value, std::int32_t flags) override;
+    /// Hands the engine the source in its own main mix. This engine takes no sound and plays into silence.
     void RenderEffect(const float* source, float* destination, std::int32_t frames) override;
     /// frames  0..kMixFrames
     void RenderGenerator(float* destination, std::int32_t frames) override;
@@ -62,10 +63,10 @@ private:
     void ParameterName(int index, char* buffer);
     void ParameterValue(int index, char* buffer);
     void QueueNote(int key, int velocity); // 0: release
-    void Finish(Voice& voice);
+    void Finish(const Voice& voice);
     void Mix(float* destination, int pair, std::int32_t frames) const;
 
-    // The host's other threads.
+    // The host's other threads. Rate and menu are kept for hosts; nothing here reads them.
     const std::thread::id maker = std::this_thread::get_id();
     std::int32_t sampleRate = 44100;        // Hz
     bool firstStart = true;                 // until the first sample rate

@@ -34,10 +34,11 @@ AEffect* CreateVstPlugin(AudioMasterCallback host)
 
 TBramblyPlug* CreateNativePlugin(TBramblyHost* host, std::int32_t tag)
 {
+    if (!host) return nullptr;
     CPluginDefinition& definition = *Definition();
     definition.hostKind = host::Native;
     static const ModuleInfo module(definition);
-    if (!host || !definition.CheckHost("Harrowdeck", "Brassmoor")) return nullptr;
+    if (!definition.CheckHost("Harrowdeck", "Brassmoor")) return nullptr;
     try {
         return new CHarrowdeckWrapper(*host, tag, module.record);
     } catch (const std::exception&) {

@@ -16,8 +16,8 @@ class PluginInstance {
 public:
     /// The engine, at 44.1 kHz until the host tells its rate.
     explicit PluginInstance(CPluginWrapper* bridge);
-    /// The editor, which shows the engine, ends before it and waits for its thread, however long the host keeps that;
-    /// until then the thread may ask for either.
+    /// Waits for the editor's thread and the engine's, however long the host keeps them: both may ask for engine and
+    /// editor until they end. The editor ends first.
     ~PluginInstance();
     PluginInstance(const PluginInstance&) = delete;
 

@@ -121,6 +121,29 @@ TEST(Events, ReachTheirNotification)
     EXPECT_NE(reset.find("[cc 6][cc 7 127][cc 8][cc 9][cc 10 64][cc 11]"), std::string::npos) << reset;
 }
 
+// Keys belong to blocks: what another thread lets go ends with the next one, what their own thread does at once.
+TEST(Events, OfAnotherThreadMoveKeysWithTheNextBlock)
+{
+    Listener synth;
+    for (const int key : {50, 60}) synth.Send(0x90, key, 9);
+    for (const int number : {64, 0}) synth.Send(0xB0, number, 127);
+    synth.Send(0x80, 60, 0);
+    synth.Play(1);
+    const auto move = [&](int number) {
+        synth.log.str("");
+        synth.MoveController(number, 0.0);
+        return synth.log.str();
+    };
+    for (const auto& [number, at, released] :
+         {std::tuple{64, "[cc 64]", "[note 60]"}, {123, "[cc 123]", "[note 50]"}}) {
+        std::thread([&, n = number, told = at] { EXPECT_EQ(move(n), told); }).join();
+        EXPECT_EQ(synth.Play(1), std::string(released) + "[render 1]");
+    }
+    synth.Send(0x90, 70, 9);
+    synth.Play(1);
+    EXPECT_EQ(move(123), "[note 70][cc 123]");
+}
+
 TEST(Tempo, IsAtLeastOne)
 {
     Listener synth;

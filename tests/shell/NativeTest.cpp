@@ -45,6 +45,7 @@ struct Engine final : CSynthesizer {
     void SetParameter(int n, float value) override { values.at(n) = value; }
     void GetParameterName(int n, char* text) override { *std::fill_n(text, n == 153 ? 200 : 1, 'P') = '\0'; }
     void GetParameterDisplay(int n, char* text) override { std::sprintf(text, "%d", Thousandths(values.at(n))); }
+    int GetExtraName(int n, char* text) override { return std::sprintf(text, "extra %d", n); }
     void GetParameterLabel(int, char* text) override { std::strcpy(text, "Hz"); }
     bool GetProgramName(int n, char* text) override { return std::sprintf(text, "Night %d", n) > 0; }
     Int GetBankChunk(void* to) override { if (to) std::memcpy(to, chunk.data(), 3); return 3; }
@@ -56,7 +57,7 @@ struct Engine final : CSynthesizer {
     int GetOutputTarget(int pair) override { return pair / 2; }
     int GetMidiPort() override { return port; }
     void ProcessMultiOut(float**, float** out, int frames) override // 1 into the first output, 2 into the second...
-    { for (int n = 0; n < 28 * frames; ++n) out[n % 28][n / 28] += static_cast<float>(n % 28 + 1); }
+    { for (int n = 0; n < 28 * frames; ++n) if (out[n % 28]) out[n % 28][n / 28] += static_cast<float>(n % 28 + 1); }
 
     std::array<float, param::HostCount> values{}; // a wrong index throws
     std::string chunk = "abc";
@@ -192,7 +193,7 @@ TEST_F(Native, NamesWhatItHasAndTellsOfIt)
         {0, 0, "P"}, {0, 153, std::string(200, 'P')}, {0, 154, "MIDI CC 0"}, {0, 281, "MIDI CC 127"},
         {0, 282, "Chn. Aftertouch"}, {0, 283, "untouched"}, {0, INT32_MAX, "untouched"}, {1, 5, "500 Hz"},
         {1, 153, "0 Hz"}, {1, 154, "0"}, {1, 161, "63"}, {1, 282, "0"}, {1, 283, "untouched"},
-        {6, 9, "Night 0"}, {3, 0, "untouched"}, {-1, 0, "untouched"}, {7, 0, "untouched"}};
+        {2, 300, "extra 300"}, {6, 9, "Night 0"}, {3, 0, "untouched"}, {-1, 0, "untouched"}, {7, 0, "untouched"}};
     // clang-format on
     for (const auto& [section, index, expected] : cases) {
         EXPECT_EQ(Written([&, s = section, n = index](char* text) { bridge->GetName(s, n, 0, text); }), expected);
@@ -264,6 +265,12 @@ TEST_F(Native, AddsToTheHostsMix)
             ASSERT_EQ(sound[n], n / 2 >= 65536 || n + 2 >= sound.size() ? 9.0f : n % 2 ? 11.0f : 10.0f) << frames;
     }
     bridge->RenderGenerator(nullptr, 130);
+    const std::vector<float> source{10.0f, 20.0f, 30.0f, 40.0f};
+    std::vector<float> sound(4);
+    bridge->RenderEffect(source.data(), sound.data(), 2);
+    EXPECT_EQ(sound, (std::vector{11.0f, 22.0f, 31.0f, 42.0f})) << "the engine has the source before it";
+    for (const float* none : {source.data(), static_cast<const float*>(nullptr)})
+        bridge->RenderEffect(none, nullptr, 2);
 }
 
 TEST_F(Native, SavesAndRestoresBlocks)
@@ -335,7 +342,10 @@ TEST_F(Native, RestoresWhatItSaved)
     told.clear();
     host.Set(kLevel, 0);
     host.State(false, saved);
-    EXPECT_EQ(host.State(true), saved);
+    Recorder second;
+    second.Load(kModule, 96000, 64);
+    second.State(false, saved);
+    EXPECT_TRUE(host.State(true) == saved && second.State(true) == saved);
     EXPECT_EQ(host.Get(kLevel), 32);
     const std::string level = "changed 1 " + std::to_string(kLevel) + ' ';
     const auto heard = std::find_if(told.rbegin(), told.rend(), [&](auto& line) { return line.starts_with(level); });

@@ -37,6 +37,12 @@ std::int32_t ControllerOnScale(std::uint8_t number, std::uint8_t value)
     return OnScale(value);
 }
 
+SMX_Def& Module()
+{
+    static SMX_Def definition;
+    return definition;
+}
+
 } // namespace
 
 std::int32_t NativeBytes::Read(void* buffer, std::int32_t size)
@@ -119,7 +125,8 @@ std::vector<std::uint8_t> NativeHost::GetState()
     return {stream.bytes.begin() + kHead, stream.bytes.end() - kTail};
 }
 
-/// The interface has no answer; but a state that was accepted is there afterwards.
+/// The interface has no answer. But of a state that was refused nothing is there afterwards, and one that ended early
+/// has become longer.
 void NativeHost::SetState(const std::vector<std::uint8_t>& bytes, const std::string& name)
 {
     const auto before = GetState();
@@ -132,7 +139,10 @@ void NativeHost::SetState(const std::vector<std::uint8_t>& bytes, const std::str
     stream.Write(&program, sizeof program);
     plugin->SaveRestoreState(&stream, 0);
     stateSet = true;
-    if (bytes != before && GetState() == before) throw Failure("the plug-in refuses '" + name + "'");
+    const auto after = GetState();
+    const bool asBefore =
+        after == before && !(bytes.size() >= before.size() && std::equal(before.begin(), before.end(), bytes.begin()));
+    if (asBefore || after.size() > bytes.size()) throw Failure("the plug-in refuses '" + name + "'");
 }
 
 void NativeHost::QueueMidi(int, std::uint8_t status, std::uint8_t data1, std::uint8_t data2)
@@ -173,12 +183,12 @@ void NativeHost::Render(int frames)
                 interleaved[n / 2][2 * static_cast<std::size_t>(frame) + n % 2];
 }
 
-int NativeHost::Pairs() const { return SMX_Def().numOutputPairs; }
+int NativeHost::Pairs() const { return Module().numOutputPairs; }
 
 std::string NativeHost::PairName(int pair) const
 {
     char name[512];
-    SMX_Def().GetOutputName(pair, name);
+    Module().GetOutputName(pair, name);
     return name;
 }
 

@@ -39,7 +39,7 @@ static_assert(sizeof(NativeMidiMessage) == 4);
 class NativeStream {
 public:
     // clang-format off
-    /// Into or from a buffer of `size` bytes; how many it were, none where the stream ends.
+    /// Into or from a buffer of `size` bytes. The answer: how many bytes; 0 where the stream ends.
     virtual std::int32_t Read(void* buffer, std::int32_t size) = 0;        // 1
     virtual std::int32_t Write(const void* buffer, std::int32_t size) = 0; // 2
     // clang-format on
@@ -50,7 +50,7 @@ protected:
 
 /// Requests of the plug-in to HostDispatch.
 namespace native_request {
-enum : std::int32_t { Made = 29, Generates = 33 }; // the first one; sound comes from nothing: value 1
+enum : std::int32_t { First = 29, Instrument = 33 }; // what they do is the host's; the latter has value 1
 }
 
 /// What the host is to its plug-ins.
@@ -59,7 +59,7 @@ enum : std::int32_t { Made = 29, Generates = 33 }; // the first one; sound comes
 /// voiceTag  of a voice, as the host gave it to TriggerVoice
 class TBramblyHost {
 public:
-    static constexpr std::int32_t kVoiceStarted = 6; // to HostVoiceNotification
+    static constexpr std::int32_t kVoiceTriggered = 6; // to HostVoiceNotification; what it does is the host's
 
     // clang-format off
     virtual std::intptr_t HostDispatch(std::int32_t tag, std::int32_t id, std::int32_t index,
@@ -67,11 +67,11 @@ public:
     /// The plug-in itself moved a parameter; 256 is 1.0.
     virtual void HostParameterChanged(std::int32_t tag, std::int32_t index, std::int32_t value) = 0;   // 2
     virtual void HostShowHint(std::int32_t tag, const char* text) = 0;                                 // 3
-    /// Nothing is known of the voice any more.
+    /// The plug-in has forgotten the voice.
     virtual void HostVoiceFinished(std::intptr_t voiceTag, std::intptr_t reserved) = 0;                // 4
     virtual std::intptr_t HostVoiceNotification(std::intptr_t voiceTag, std::int32_t id, std::intptr_t a,
                                                 std::intptr_t b) = 0;                                  // 5
-    /// Interleaved stereo that sound may be added to, or null. Between HostLockMix and HostUnlockMix.
+    /// Interleaved stereo that sound may be added to, or null. Instruments ask between HostLockMix and HostUnlockMix.
     virtual float* HostGetMixBuffer(std::int32_t tag, std::int32_t target) = 0;                        // 6
     virtual void HostLockMix() = 0;                                                                    // 7
     virtual void HostUnlockMix() = 0;                                                                  // 8
@@ -111,7 +111,8 @@ enum : std::int32_t { Tempo = 0 };
 /// What a plug-in is to the host, which calls its operations by their slots and reads its fields. In this platform's
 /// classes a destructor has two slots, so that KillAllVoices has the twenty-first.
 ///
-/// Voices, MIDI and sound are asked for on the host's audio thread, everything else on its others.
+/// Voices, MIDI and sound are asked for on the host's audio thread, tempo and parameters on any, the rest on its
+/// others.
 class TBramblyPlug {
 public:
     TBramblyPlug(TBramblyHost& owner, std::int32_t tag, const NativeInfo& module)

@@ -5,12 +5,12 @@
 
 namespace korvane {
 
-/// Tells the host that it is being made. Operations that are not overridden do nothing, and answer 0.
+/// Greets the host. Operations that are not overridden do nothing, and answer 0.
 class TCPPBramblyPlug : public TBramblyPlug {
 public:
     TCPPBramblyPlug(TBramblyHost& owner, std::int32_t tag, const NativeInfo& module) : TBramblyPlug(owner, tag, module)
     {
-        host->HostDispatch(hostTag, native_request::Made, 0, 0);
+        host->HostDispatch(hostTag, native_request::First, 0, 0);
     }
 
     // clang-format off
