@@ -68,7 +68,7 @@ struct Host : CPluginWrapper {
     void EndEdit(int) override {}
     bool RealTime() override { return realTime; }
 
-    bool realTime = false; // offline: blocks wait for what they ask the loader
+    Shared<bool> realTime; // offline unless set: blocks wait for what they ask the loader
     std::function<void()> whenTold = [] {};
     std::mutex lock;
     std::atomic<int> told{0};
