@@ -59,7 +59,7 @@ protected:
     void DispatchPending();
     /// The block is over: what was not dispatched is lost.
     void ClearEvents();
-    /// 121 by whatever thread, announced one by one.
+    /// Each to its first value, and announced. Any thread.
     void ResetControllers();
     /// Lets every key go; those that the pedal holds sound on. Who has the engine to itself.
     void ReleaseAll();

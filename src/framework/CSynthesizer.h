@@ -65,7 +65,10 @@ public:
 
     /// A controller of a host that has it as a parameter: what MIDI does with it, and then its notification, which MIDI
     /// spares some of them. Any thread; keys that it lets go end at once for who has the engine to itself or may have
-    /// it now, else with the next block. number  0..127 value   0..1; the pedal keeps it as it is
+    /// it now, else with the next block.
+    ///
+    /// number  0..127
+    /// value   0..1; the pedal keeps it as it is
     void MoveController(int number, double value);
 
     /// A whole-state operation in progress: from construction to destruction blocks are skipped, none is running, and

@@ -165,7 +165,7 @@ void NativeHost::QueueMidi(int, std::uint8_t status, std::uint8_t data1, std::ui
 
 void NativeHost::StartVoice(std::uint8_t key, std::uint8_t velocity)
 {
-    NativeVoice& voice = voices[key];
+    NativeVoice& voice = voices[key & 0x7Fu];
     voice = {0.0f, VolumeOf(velocity), 100.0f * key};
     plugin->TriggerVoice(&voice, key);
 }
