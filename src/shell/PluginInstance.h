@@ -13,6 +13,10 @@ namespace korvane {
 
 /// Made and ended with its bridge. Operations without an engine do nothing and answer 0.
 class PluginInstance {
+    struct EngineEnd {
+        void operator()(CSynthesizer* synth) const { synth->Destroy(); }
+    };
+
 public:
     /// The engine, at 44.1 kHz until the host tells its rate.
     explicit PluginInstance(CPluginWrapper* bridge);
@@ -37,12 +41,6 @@ public:
     /// Bytes of a state that were accepted, 0 when it was refused.
     std::int32_t SetChunk(bool preset, const void* data, std::intptr_t size);
 
-private:
-    struct EngineEnd {
-        void operator()(CSynthesizer* synth) const { synth->Destroy(); }
-    };
-
-public:
     std::unique_ptr<CSynthesizer, EngineEnd> engine; // null when it could not be made
     std::unique_ptr<CPluginEditor> editor;           // after the engine, so that it ends first
 };

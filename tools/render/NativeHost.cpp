@@ -158,7 +158,7 @@ void NativeHost::QueueMidi(int, std::uint8_t status, std::uint8_t data1, std::ui
     case 0xB0:
         plugin->ProcessParameter(Parameters() + data1, ControllerOnScale(data1, data2), native_parameter::Set);
         break;
-    case 0xD0: plugin->ProcessParameter(Parameters() + 128, OnScale(data1), native_parameter::Set); break;
+    case 0xD0: plugin->ProcessParameter(plugin->info->numParams - 1, OnScale(data1), native_parameter::Set); break;
     default: break;
     }
 }

@@ -123,13 +123,17 @@ public:
 
     // clang-format off
     virtual void Destroy() = 0;                                                                            // 1
+    /// id      native_dispatch, with a value: the number of the parent window, 0 closes; none; Hz
     virtual std::int32_t Dispatch(std::int32_t id, std::int32_t index, std::intptr_t value) = 0;           // 2
     virtual void Idle(std::intptr_t) = 0;                                                                  // 3
+    /// save    not 0: into the stream
     virtual void SaveRestoreState(NativeStream* stream, std::int32_t save) = 0;                            // 4
+    /// section native_name
     /// buffer  256 bytes
     virtual void GetName(std::int32_t section, std::int32_t index, std::int32_t value, char* buffer) = 0;  // 5
+    /// value   of a native_event: beats per minute
     virtual std::int32_t HostEvent(std::int32_t kind, float value) = 0;                                    // 6
-    /// value   256 is 1.0
+    /// value   256 is 1.0; flags: native_parameter
     virtual std::int32_t ProcessParameter(std::int32_t index, std::int32_t value, std::int32_t flags) = 0; // 7
     /// Interleaved stereo from the one into the other.
     virtual void RenderEffect(const float* source, float* destination, std::int32_t frames) = 0;           // 8
