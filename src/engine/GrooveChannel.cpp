@@ -2,15 +2,12 @@
 #include "engine/GrooveChannel.h"
 
 #include <algorithm>
-#include <bit>
-#include <cmath>
 #include <cstddef>
 
 #include "engine/fx/FxSettings.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/SamplerVoice.h"
 #include "engine/voice/SynthVoice.h"
-#include "engine/voice/VoiceFilter.h"
 #include "engine/voice/VoiceLife.h"
 #include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
@@ -22,22 +19,6 @@ namespace {
 
 /// Modulation source A of a voice that sounds.
 float SourceVelocity(const ChannelVoice& voice) { return voice.fromSequencer ? 0.0f : voice.velocity; }
-
-/// Shapes a voice's block by its amplitude. A block that is not finite, which takes parameters far outside 0..1,
-/// becomes silence: nothing of it must reach filters, effects and the mix.
-void ApplyAmplitude(ChannelVoice& voice, const float* amp, int frames)
-{
-    std::int32_t largest = 0;
-    const auto magnitude = [](float x) { return std::bit_cast<std::int32_t>(x) & 0x7fffffff; };
-    for (int n = 0; n < frames; ++n) {
-        voice.left[n] *= amp[n];
-        voice.right[n] *= amp[n];
-        largest = std::max(largest, std::max(magnitude(voice.left[n]), magnitude(voice.right[n])));
-    }
-    if (largest < magnitude(HUGE_VALF)) return;
-    std::fill_n(voice.left, frames, 0.0f);
-    std::fill_n(voice.right, frames, 0.0f);
-}
 
 void FillPhases(ChannelVoice& voice, RandomGenerator& random)
 {
@@ -59,14 +40,14 @@ GrooveChannel::GrooveChannel(SamplePool& pool, RandomGenerator& generator) : sou
     stutterUnit = std::make_unique<FXUnit>(FxType::Stutter);
 }
 
-void GrooveChannel::Render(int frames, float tempo)
+void GrooveChannel::Refresh(float tempo)
 {
     TakeOffers();
     SetUpModulation(sound, AnyVoiceActive(voices), tempo);
     UpdateFxSettings(sound.params, fxActive, fxUnits, *stutterUnit);
     const bool sounds = RefreshVoices();
     soundedThisBlock = sounds; // once, so that who watches sees no gap
-    if (sounds) RenderVoices(frames);
+    if (sounds) TuneVoices();
 }
 
 void GrooveChannel::TakeOffers()
@@ -99,46 +80,17 @@ bool GrooveChannel::RefreshVoices()
     return sounds;
 }
 
-void GrooveChannel::RenderVoices(int frames)
+void GrooveChannel::TuneVoices()
 {
-    ChannelFrames shared;
-    RunChannelModulation(sound, sound.Modulated(slot::Modulation), shared, frames);
-    const float glideRate = law::EnvelopeRate(law::SlideSeconds(sound.Modulated(slot::SlideTime)), sound.rate);
-    SynthSettings synth;
-    if (!sound.isSampler) SetUpSynth(sound, synth);
-
-    for (auto& slot : voices) {
-        ChannelVoice& voice = *slot;
-        if (!voice.active) continue;
-        sound.velocityIn = SourceVelocity(voice);
-        VoiceFrames own;
-        if (sound.isSampler) {
-            TuneLayers(sound, voice);
-            RunVoiceModulation(sound, voices, voice, shared, glideRate, own, frames);
-            RenderLayers(sound, voice, frames);
-        } else {
-            UnisonTuning tuning;
-            TuneOscillators(sound, voice, synth, tuning);
-            RunVoiceModulation(sound, voices, voice, shared, glideRate, own, frames);
-            RenderUnison(synth.mix, tuning, own.modAmount, voice.phases, sound.random, voice.left, voice.right, frames);
-            voice.seam.Join(voice.left, voice.right, frames);
-        }
-        ApplyAmplitude(voice, own.amp, frames);
-        if (frames > 0) voice.sounded = true;
+    SetUpVoices(sound);
+    for (auto& voice : voices) {
+        if (!voice->active) continue;
+        sound.velocityIn = SourceVelocity(*voice);
+        if (sound.isSampler)
+            TuneLayers(sound, *voice);
+        else
+            TuneOscillators(sound, *voice);
     }
-}
-
-bool GrooveChannel::ProcessEffects(float* left, float* right, int frames, float tempo)
-{
-    bool audible = soundedThisBlock;
-    stutterUnit->Process(left, right, frames, tempo);
-    audible = audible || stutterUnit->audible;
-    for (auto& unit : fxUnits) {
-        if (!audible) unit->bypass = 1;
-        unit->Process(left, right, frames, tempo);
-        audible = audible || unit->audible;
-    }
-    return audible;
 }
 
 ChannelVoice& GrooveChannel::VoiceForNote()
@@ -182,19 +134,6 @@ void GrooveChannel::Reset(float newRate)
         voice->amp = voice->env1 = voice->env2 = {};
         FillPhases(*voice, sound.random);
     }
-}
-
-void FilterChannels(const Channels& channels, SamplePool& pool, int frames)
-{
-    FilterJob jobs[kChannels * kVoices];
-    int count = 0;
-    for (int c = 0; c < kChannels; ++c) {
-        const GrooveChannel& channel = *channels[static_cast<std::size_t>(c)];
-        const FilterType type = static_cast<FilterType>(channel.sound.filterType);
-        for (const auto& voice : channel.voices)
-            if (voice->active) jobs[count++] = {voice.get(), type, pool.ChannelLeft(c), pool.ChannelRight(c)};
-    }
-    FilterVoices(jobs, count, pool.engineTable, frames);
 }
 
 } // namespace korvane

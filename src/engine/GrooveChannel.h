@@ -24,23 +24,17 @@ class GrooveChannel {
 public:
     GrooveChannel(SamplePool& pool, RandomGenerator& generator);
 
-    /// Takes the files that are offered to the slots, refreshes modulation and effect settings and renders the active
-    /// voices into their own buffers.
-    ///
-    /// frames  0..512; 0 still refreshes the modulation, so a tick is heard at its exact frame
-    ///
+    /// Takes the files that are offered to the slots, refreshes modulation and effect settings and gets the active
+    /// voices ready for the coming run (ChannelStages.h). A run of 0 frames does so as well, so a tick is heard at its
+    /// exact frame.
     /// tempo   beats per minute
-    void Render(int frames, float tempo);
+    void Refresh(float tempo);
 
     /// Starts a note on a free voice, else on the oldest one; in mono mode always on voice 0.
     /// note      key number; the pad offset plus 48, any integer that pads and keys can give
     /// tempo     beats per minute; 0 means a live note, which nothing but a release ends
     /// velocity  0..1
     void NoteOn(int note, float tempo, float velocity);
-
-    /// Runs the stutter and the effects over the channel's mix, in place; whether a voice or an effect ran, so that it
-    /// is mixed.
-    bool ProcessEffects(float* left, float* right, int frames, float tempo);
 
     /// Silences every voice, refills its phases from the generator, clears effects, meters and smoothed gains. Audio
     /// thread or under the program-switch handshake.
@@ -60,16 +54,10 @@ public:
 private:
     void TakeOffers();
     bool RefreshVoices(); // whether one is active
-    void RenderVoices(int frames);
+    void TuneVoices();
     ChannelVoice& VoiceForNote();
 };
 
 using Channels = std::array<std::unique_ptr<GrooveChannel>, kChannels>;
-
-/// Adds the active voices of all channels to their mix buffers through their filters: channel by channel, voice by
-/// voice. Audio thread.
-/// pool    the mix buffers and the cutoff table
-/// frames  0..kMaxRun, of the run that the channels have just rendered
-void FilterChannels(const Channels& channels, SamplePool& pool, int frames);
 
 } // namespace korvane

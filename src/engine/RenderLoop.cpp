@@ -5,6 +5,7 @@
 #include <array>
 #include <cassert>
 
+#include "engine/ChannelStages.h"
 #include "engine/SequencerTick.h"
 #include "engine/Transport.h"
 #include "framework/ParameterTable.h"
@@ -16,7 +17,7 @@ namespace {
 
 constexpr int kOutputs = 2 + 2 * kChannels;
 
-void RenderChannels(GrooveEngine& engine, int frames)
+void RefreshChannels(GrooveEngine& engine)
 {
     const int selected = engine.selection.selectedChannel;
     for (int c = 0; c < kChannels; ++c) {
@@ -26,33 +27,35 @@ void RenderChannels(GrooveEngine& engine, int frames)
         sound.modWheelIn = live ? static_cast<float>(engine.liveModWheel) : 0.0f;
         sound.pitchBendIn = live ? static_cast<float>(engine.livePitchBend) : 0.0f;
         sound.pressureIn = live ? static_cast<float>(engine.livePressure) : 0.0f;
-        engine.Channel(c).Render(frames, engine.clock.tempo);
+        engine.Channel(c).Refresh(engine.clock.tempo);
     }
 }
 
-void MixStrip(GrooveEngine& engine, int c, float* const* outputs, int frames)
+void MixStrip(GrooveEngine& engine, int c, bool audible, float* const* outputs, int frames)
 {
     GrooveChannel& channel = engine.Channel(c);
-    float* left = engine.samplePool->ChannelLeft(c);
-    float* right = engine.samplePool->ChannelRight(c);
-    const bool audible = channel.ProcessEffects(left, right, frames, engine.clock.tempo);
+    SamplePool& pool = *engine.samplePool;
     channel.strip.Set(channel.sound.params[slot::MixLevel], channel.sound.params[slot::Panning]);
     if (audible)
-        channel.strip.Mix(left, right, frames,
+        channel.strip.Mix(pool.ChannelLeft(c), pool.ChannelRight(c), frames,
                           {outputs[0], outputs[1], outputs[2 + 2 * c], outputs[3 + 2 * c], c == 0});
     else
         channel.strip.Skip();
 }
 
-void MixChannels(GrooveEngine& engine, float* const* outputs, int frames)
+void RenderChannels(GrooveEngine& engine, float* const* outputs, int frames)
 {
     SamplePool& pool = *engine.samplePool;
+    std::array<GrooveChannel*, kChannels> channels;
     for (int c = 0; c < kChannels; ++c) {
+        channels[static_cast<std::size_t>(c)] = &engine.Channel(c);
         std::fill_n(pool.ChannelLeft(c), frames, 0.0f);
         std::fill_n(pool.ChannelRight(c), frames, 0.0f);
     }
-    FilterChannels(engine.channels, pool, frames);
-    for (int c = 0; c < kChannels; ++c) MixStrip(engine, c, outputs, frames);
+    RenderVoices(channels, frames);
+    FilterChannels(channels, pool, frames);
+    const auto audible = ProcessRacks(channels, pool, frames, engine.clock.tempo);
+    for (int c = 0; c < kChannels; ++c) MixStrip(engine, c, audible[static_cast<std::size_t>(c)], outputs, frames);
 }
 
 } // namespace
@@ -87,8 +90,8 @@ void RenderFrames(GrooveEngine& engine, float* const* outputs, int frames)
             clock.samplesToNextStep = clock.samplesToNextStep + clock.StepFrames();
             run = 0; // the channels still take over what the tick has changed
         }
-        RenderChannels(engine, run);
-        MixChannels(engine, out.data(), run);
+        RefreshChannels(engine);
+        RenderChannels(engine, out.data(), run);
         if (clock.Recording()) engine.mixer.click.Add(out[0], out[1], run);
         clock.Pass(run);
         for (float*& pointer : out) pointer += run;

@@ -5,9 +5,9 @@
 #include <memory>
 
 #include "content/SamplePool.h"
-#include "engine/GrooveChannel.h"
+#include "engine/ChannelStages.h"
+#include "engine/kernels/VoiceFilter.h"
 #include "engine/voice/SynthKernel.h"
-#include "engine/voice/VoiceFilter.h"
 #include "framework/ParameterTable.h"
 
 using namespace korvane;
@@ -16,6 +16,21 @@ namespace {
 
 constexpr int kFrames = 128;
 constexpr float kTempo = 120.0f;
+
+std::array<GrooveChannel*, kChannels> Pointers(const Channels& channels)
+{
+    std::array<GrooveChannel*, kChannels> pointers;
+    for (std::size_t c = 0; c < pointers.size(); ++c) pointers[c] = channels[c].get();
+    return pointers;
+}
+
+/// A run of one channel by itself.
+void RenderAlone(GrooveChannel& channel, int frames, float tempo)
+{
+    channel.Refresh(tempo);
+    GrooveChannel* const alone[] = {&channel};
+    RenderVoices(alone, frames);
+}
 
 /// All channels, with a sample in every layer and a waveform in every oscillator.
 struct Rig {
@@ -86,8 +101,8 @@ void BM_VoiceFilter(benchmark::State& state)
     Rig rig;
     const int voices = static_cast<int>(state.range(0));
     for (int v = 0; v < voices; ++v) rig.Play(v % kChannels, 1);
-    for (auto& channel : rig.channels) channel->Render(kFrames, kTempo);
-    for (auto _ : state) FilterChannels(rig.channels, *rig.pool, kFrames);
+    for (auto& channel : rig.channels) RenderAlone(*channel, kFrames, kTempo);
+    for (auto _ : state) FilterChannels(Pointers(rig.channels), *rig.pool, kFrames);
     PerFrame(state, voices);
 }
 BENCHMARK(BM_VoiceFilter)->Arg(1)->Arg(8)->Arg(20)->Arg(78);
@@ -100,7 +115,7 @@ void BM_SamplerChannel(benchmark::State& state) // six voices with the given num
     rig.Play(0, kVoices);
     for (auto _ : state) {
         rig.Rewind();
-        rig.channels[0]->Render(kFrames, kTempo);
+        RenderAlone(*rig.channels[0], kFrames, kTempo);
     }
     PerFrame(state, kVoices * layers);
 }
@@ -117,7 +132,7 @@ void BM_SynthChannel(benchmark::State& state) // six voices; unit: unison voice
         for (int index : {slot::MixOsc2, slot::MixOsc3, slot::NoiseMix, slot::Modulation})
             channel.sound.params[index] = 0.5f;
     rig.Play(kSamplerChannels, kVoices);
-    for (auto _ : state) channel.Render(kFrames, kTempo);
+    for (auto _ : state) RenderAlone(channel, kFrames, kTempo);
     PerFrame(state, kVoices * unison);
 }
 BENCHMARK(BM_SynthChannel)->ArgNames({"kind", "unison", "all"})->ArgsProduct({{0, 1, 2}, {1, 16}, {0, 1}});
@@ -133,7 +148,7 @@ void BM_HeaviestSynths(benchmark::State& state) // 30 voices × 16, every source
         rig.Play(c, kVoices);
     }
     for (auto _ : state)
-        for (int c = kSamplerChannels; c < kChannels; ++c) rig.channels[c]->Render(kFrames, kTempo);
+        for (int c = kSamplerChannels; c < kChannels; ++c) RenderAlone(*rig.channels[c], kFrames, kTempo);
     PerFrame(state, 1);
 }
 BENCHMARK(BM_HeaviestSynths)->DenseRange(0, 2);
@@ -150,8 +165,8 @@ void BM_EverythingAtOnce(benchmark::State& state) // 48 sampler voices of four l
     }
     for (auto _ : state) {
         rig.Rewind();
-        for (auto& channel : rig.channels) channel->Render(kFrames, kTempo);
-        FilterChannels(rig.channels, *rig.pool, kFrames);
+        for (auto& channel : rig.channels) RenderAlone(*channel, kFrames, kTempo);
+        FilterChannels(Pointers(rig.channels), *rig.pool, kFrames);
     }
     PerFrame(state, 1);
 }
@@ -161,8 +176,8 @@ void BM_IdleChannels(benchmark::State& state)
 {
     Rig rig;
     for (auto _ : state) {
-        for (auto& channel : rig.channels) channel->Render(kFrames, kTempo);
-        FilterChannels(rig.channels, *rig.pool, kFrames);
+        for (auto& channel : rig.channels) RenderAlone(*channel, kFrames, kTempo);
+        FilterChannels(Pointers(rig.channels), *rig.pool, kFrames);
     }
     PerFrame(state, 1);
 }

@@ -1,6 +1,8 @@
 // What an effect unit asks of the effect in it.
 #pragma once
 
+#include <span>
+
 #include "engine/fx/UnitControls.h"
 
 namespace korvane {
@@ -10,6 +12,15 @@ struct StereoBlock {
     float* left;
     float* right;
     int frames; // 1..kMaxRun
+};
+
+class Effect;
+
+/// An effect of one channel on its way through a block.
+struct EffectRun {
+    Effect* effect;
+    UnitControls* unit;
+    StereoBlock block;
 };
 
 /// One kind of processing with its state. The unit around it keeps the settings, starts and stops it, and mutes and
@@ -29,6 +40,12 @@ public:
     /// There is something to do in the coming block. Otherwise Process is not called and the block passes.
     virtual bool Runs(const UnitControls& unit) const { return !unit.FadedOut(); }
     virtual void Process(UnitControls& unit, const StereoBlock& block) = 0;
+    /// The same kind of effect of several channels, this one among them; blocks are equally long. Those whose inner
+    /// loop takes channels side by side do so here.
+    virtual void ProcessAll(std::span<const EffectRun> runs)
+    {
+        for (const EffectRun& run : runs) run.effect->Process(*run.unit, run.block);
+    }
 };
 
 } // namespace korvane

@@ -79,19 +79,44 @@ void FXUnit::Reset(float newRate)
 
 void FXUnit::Process(float* left, float* right, int frames, float tempo)
 {
+    const UnitRun run{this, {left, right, frames}};
+    ProcessUnits({&run, 1}, tempo);
+}
+
+void ProcessUnits(std::span<const UnitRun> runs, float tempo)
+{
+    std::array<const UnitRun*, kChannels> begun;
+    std::array<EffectRun, kChannels> effects;
+    std::size_t begunCount = 0, count = 0;
+    for (const UnitRun& run : runs) {
+        FXUnit& unit = *run.unit;
+        assert(run.block.frames <= kMaxRun);
+        if (!unit.Begin(tempo) || run.block.frames < 1) continue;
+        begun[begunCount++] = &run;
+        unit.audible = unit.effect->Runs(unit);
+        if (unit.audible) effects[count++] = {unit.effect.get(), &unit, run.block};
+    }
+    if (count > 0) effects[0].effect->ProcessAll({effects.data(), count});
+    for (std::size_t n = 0; n < begunCount; ++n) begun[n]->unit->Finish(begun[n]->block);
+}
+
+/// Whether there is anything to do with this rate and tempo.
+bool FXUnit::Begin(float tempo)
+{
     if (!Usable() || !(tempo >= 1.0f)) {
         audible = 0;
-        return;
+        return false;
     }
-    assert(frames <= kMaxRun);
-    if (frames < 1) return;
     lfoSeconds = lfoBeats * 60.0f / tempo;
     lfoIncrement = lfoSeconds > 0.0f ? 1.0 / (static_cast<double>(sampleRate) * static_cast<double>(lfoSeconds)) : 0.0;
-    const StereoBlock block{left, right, frames};
-    audible = effect->Runs(*this);
-    if (audible) effect->Process(*this, block);
+    return true;
+}
+
+void FXUnit::Finish(const StereoBlock& block)
+{
     if (eqBands && eqOn) Equalise(block);
-    if ((audible || eqOn) && !(AllSound(left, frames) && AllSound(right, frames))) Silence(block);
+    if ((audible || eqOn) && !(AllSound(block.left, block.frames) && AllSound(block.right, block.frames)))
+        Silence(block);
     mix = Flushed(mix);
 }
 

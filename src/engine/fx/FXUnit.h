@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <span>
 
 #include "engine/fx/Effect.h"
 #include "engine/fx/Equaliser.h"
@@ -25,6 +26,17 @@ enum class FxType : std::int32_t {
     Pump = 9,       // x release, y drop level; carries the channel's equaliser
     Stutter = 11,
 };
+
+class FXUnit;
+
+/// A unit and its channel's block.
+struct UnitRun {
+    FXUnit* unit;
+    StereoBlock block;
+};
+
+/// As Process of each unit: units of the same type, of several channels, blocks of the same length.
+void ProcessUnits(std::span<const UnitRun> runs, float tempo);
 
 /// Runs the effect of its type in place on the channel's stereo block: starts and stops it, keeps what all types share
 /// and mutes what is no number. Settings are written before each block by UpdateFxSettings (the stutter's by
@@ -48,6 +60,7 @@ public:
     /// frames  0..kMaxRun; 0 changes nothing, `audible` included
     /// tempo   beats per minute
     void Process(float* left, float* right, int frames, float tempo);
+    friend void ProcessUnits(std::span<const UnitRun> runs, float tempo);
 
     const FxType type;
 
@@ -63,6 +76,8 @@ public:
 
 private:
     bool Usable() const;
+    bool Begin(float tempo);
+    void Finish(const StereoBlock& block);
     void Equalise(const StereoBlock& block);
     void Silence(const StereoBlock& block);
 

@@ -7,6 +7,7 @@
 #include "content/SampleSlot.h"
 #include "engine/voice/Lfo.h"
 #include "engine/voice/RandomGenerator.h"
+#include "engine/voice/SynthVoice.h"
 #include "framework/Limits.h"
 #include "platform/Shared.h"
 
@@ -16,6 +17,14 @@ namespace korvane {
 struct EnvelopeRoute {
     float amount = 0.0f; // signed
     int destination = 0; // 0..3
+};
+
+/// Values of each frame of a run that all voices of the channel share.
+struct ChannelFrames {
+    alignas(64) float cutoff[kMaxRun];
+    alignas(64) float modAmount[kMaxRun];
+    alignas(64) float lfo1[kMaxRun];
+    alignas(64) float lfo2[kMaxRun];
 };
 
 /// A channel as its voices see it: parameters, samples, live inputs, modulation. Owned by GrooveChannel; audio thread
@@ -43,9 +52,12 @@ struct ChannelSound {
     // Modulation of the run, the same for every voice.
     Lfo lfo1, lfo2;
     EnvelopeRoute env1, env2;
-    int filterType = 0;                            // 0 low-pass, 1 band-pass, 2 high-pass
-    float cutoffBase = 0.0f, cutoffSmooth = -1.0f; // -1 before first use
-    float modAmountSmooth = 0.0f;
+    int filterType = 0;                             // 0 low-pass, 1 band-pass, 2 high-pass
+    float cutoffBase = 0.0f, cutoffSmooth = -1.0f;  // -1 before first use
+    float modTarget = 0.0f, modAmountSmooth = 0.0f; // of the synth's oscillator modulation
+    float glideRate = 0.0f;                         // fraction of the distance per frame
+    SynthSettings synth;                            // of a synth channel
+    ChannelFrames frames;
 };
 
 } // namespace korvane

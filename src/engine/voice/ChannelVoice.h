@@ -8,6 +8,7 @@
 #include "engine/voice/Envelope.h"
 #include "engine/voice/LayerFilters.h"
 #include "engine/voice/Seam.h"
+#include "engine/voice/SynthKernel.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -29,11 +30,6 @@ struct SamplerLayer {
     float envLevel = 0.0f, envTarget = 0.0f, envRate = 0.0f, decayRate = 0.0f;
     LayerFilters filters = {};
     Seam seam;
-};
-
-/// Phases of one of the stacked unison voices; a full cycle is 2^32.
-struct UnisonPhases {
-    std::uint32_t osc1, sync, osc2, osc3;
 };
 
 /// One of the six voices of a channel: what the note is, its envelopes and sources, and its render buffers. Audio
@@ -62,13 +58,16 @@ struct ChannelVoice {
 
     SamplerLayer layers[kLayers];
     UnisonPhases phases[kUnison] = {};
-    Seam seam; // of the oscillators
+    UnisonTuning tuning; // of the run
+    Seam seam;           // of the oscillators
 
-    // Of the current run; the voice filter reads them.
+    // Of the current run.
     alignas(64) float left[kMaxRun];
     alignas(64) float right[kMaxRun];
     alignas(64) float cutoffFrames[kMaxRun];
     alignas(64) float gainFrames[kMaxRun];
+    alignas(64) float ampFrames[kMaxRun];
+    alignas(64) float modAmountFrames[kMaxRun]; // of the synth's oscillator modulation
 };
 
 using ChannelVoices = std::array<std::unique_ptr<ChannelVoice>, kVoices>; // of one channel

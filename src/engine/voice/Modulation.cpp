@@ -2,9 +2,12 @@
 #include "engine/voice/Modulation.h"
 
 #include <algorithm>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 
 #include "engine/voice/ChannelSound.h"
+#include "engine/voice/SynthVoice.h"
 #include "engine/voice/VoiceLife.h"
 #include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
@@ -92,27 +95,11 @@ void ScaleLfo(const float* lfo, const float* envelope, bool scaled, float* out, 
     for (int n = 0; n < frames; ++n) out[n] = lfo[n] * envelope[n];
 }
 
-} // namespace
-
-void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
+/// Fills the channel's frames.
+void RunChannelModulation(ChannelSound& channel, int frames)
 {
-    SetUpLfo(channel, channel.lfo1, 0, tempo);
-    SetUpLfo(channel, channel.lfo2, 1, tempo);
-    if (voicesSound) {
-        SetUpRouting(channel, 0, channel.env1, channel.lfo1);
-        SetUpRouting(channel, 1, channel.env2, channel.lfo2);
-    }
-    constexpr int last = slot::LastPosition(slot::FilterType);
-    channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), last), 0, last);
-    channel.cutoffBase = channel.params[slot::FilterCutoff];
-    if (!(channel.cutoffSmooth >= 0.0f) || !std::isfinite(channel.cutoffSmooth))
-        channel.cutoffSmooth = channel.cutoffBase;
-    if (!std::isfinite(channel.modAmountSmooth)) channel.modAmountSmooth = 0.0f;
-}
-
-void RunChannelModulation(ChannelSound& channel, float modulation, ChannelFrames& shared, int frames)
-{
-    const float cutoffBase = channel.cutoffBase, modTarget = law::ModulationAmount(modulation);
+    ChannelFrames& shared = channel.frames;
+    const float cutoffBase = channel.cutoffBase, modTarget = channel.modTarget;
     float cutoff = channel.cutoffSmooth, modAmount = channel.modAmountSmooth;
     for (int n = 0; n < frames; ++n) {
         cutoff += (cutoffBase - cutoff) * kSmoothing;
@@ -126,9 +113,10 @@ void RunChannelModulation(ChannelSound& channel, float modulation, ChannelFrames
     channel.lfo2.Run(shared.lfo2, frames);
 }
 
-void RunVoiceModulation(const ChannelSound& channel, ChannelVoices& voices, ChannelVoice& voice,
-                        const ChannelFrames& shared, float glideRate, VoiceFrames& own, int frames)
+void RunVoiceModulation(const ChannelSound& channel, ChannelVoices& voices, ChannelVoice& voice, int frames)
 {
+    const ChannelFrames& shared = channel.frames;
+    const float glideRate = channel.glideRate;
     Levels levels;
     int sounding = 0; // frames before the release
     if (!voice.releasing) {
@@ -152,10 +140,65 @@ void RunVoiceModulation(const ChannelSound& channel, ChannelVoices& voices, Chan
     for (int n = 0; n < frames; ++n) {
         const float env1 = levels.env1[n], env2 = levels.env2[n];
         voice.cutoffFrames[n] = toCutoff.AddTo(shared.cutoff[n] + cutoffOffset, env1, env2, lfo1[n], lfo2[n]);
-        own.modAmount[n] = toModAmount.AddTo(shared.modAmount[n], env1, env2, lfo1[n], lfo2[n]);
+        voice.modAmountFrames[n] = toModAmount.AddTo(shared.modAmount[n], env1, env2, lfo1[n], lfo2[n]);
         const float amp = levels.amp[n] * levels.amp[n] + toAmp.lfo1 * lfo1[n] + toAmp.lfo2 * lfo2[n];
-        own.amp[n] = amp > 0.0f ? amp : 0.0f;
+        voice.ampFrames[n] = amp > 0.0f ? amp : 0.0f;
     }
+}
+
+void ApplyAmplitude(ChannelVoice& voice, int frames)
+{
+    const float* const amp = voice.ampFrames;
+    std::int32_t largest = 0;
+    const auto magnitude = [](float x) { return std::bit_cast<std::int32_t>(x) & 0x7fffffff; };
+    for (int n = 0; n < frames; ++n) {
+        voice.left[n] *= amp[n];
+        voice.right[n] *= amp[n];
+        largest = std::max(largest, std::max(magnitude(voice.left[n]), magnitude(voice.right[n])));
+    }
+    if (largest < magnitude(HUGE_VALF)) return;
+    std::fill_n(voice.left, frames, 0.0f);
+    std::fill_n(voice.right, frames, 0.0f);
+}
+
+} // namespace
+
+void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
+{
+    SetUpLfo(channel, channel.lfo1, 0, tempo);
+    SetUpLfo(channel, channel.lfo2, 1, tempo);
+    if (voicesSound) {
+        SetUpRouting(channel, 0, channel.env1, channel.lfo1);
+        SetUpRouting(channel, 1, channel.env2, channel.lfo2);
+    }
+    constexpr int last = slot::LastPosition(slot::FilterType);
+    channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), last), 0, last);
+    channel.cutoffBase = channel.params[slot::FilterCutoff];
+    if (!(channel.cutoffSmooth >= 0.0f) || !std::isfinite(channel.cutoffSmooth))
+        channel.cutoffSmooth = channel.cutoffBase;
+    if (!std::isfinite(channel.modAmountSmooth)) channel.modAmountSmooth = 0.0f;
+}
+
+void SetUpVoices(ChannelSound& channel)
+{
+    channel.modTarget = law::ModulationAmount(channel.Modulated(slot::Modulation));
+    channel.glideRate = law::EnvelopeRate(law::SlideSeconds(channel.Modulated(slot::SlideTime)), channel.rate);
+    if (!channel.isSampler) SetUpSynth(channel, channel.synth);
+}
+
+void ModulateVoices(SoundingVoices sounding, int frames)
+{
+    const ChannelSound* last = nullptr;
+    for (const auto& [channel, voices, voice] : sounding) {
+        if (channel != last) RunChannelModulation(*channel, frames);
+        last = channel;
+        RunVoiceModulation(*channel, *voices, *voice, frames);
+    }
+}
+
+void ShapeVoices(SoundingVoices sounding, int frames)
+{
+    for (const SoundingVoice& each : sounding) ApplyAmplitude(*each.voice, frames);
 }
 
 float PitchModulation(const ChannelSound& channel, const ChannelVoice& voice, float lfoSemitones)

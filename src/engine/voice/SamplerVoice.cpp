@@ -189,8 +189,6 @@ void RenderLayer(SamplerLayer& layer, const CWaveSample* sample, float* left, fl
     }
 }
 
-} // namespace
-
 void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames)
 {
     std::fill_n(voice.left, frames, 0.0f);
@@ -201,6 +199,14 @@ void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames)
         if (!layer.bypassed && (sample || layer.seam.Heard()))
             RenderLayer(layer, sample, voice.left, voice.right, frames);
     }
+}
+
+} // namespace
+
+void RenderSamplers(SoundingVoices sounding, int frames)
+{
+    for (const auto& [channel, voices, voice] : sounding)
+        if (channel->isSampler) RenderLayers(*channel, *voice, frames);
 }
 
 } // namespace korvane

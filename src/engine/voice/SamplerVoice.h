@@ -1,10 +1,11 @@
 // The sampler channel's source: up to four sample layers per note.
 #pragma once
 
+#include "engine/voice/SoundingVoice.h"
+
 namespace korvane {
 
 struct ChannelSound;
-struct ChannelVoice;
 
 /// Sets up the four layers for the note that starts: gain, pitch, delay, envelope, filters, start point.
 void StartLayers(ChannelSound& channel, ChannelVoice& voice);
@@ -16,8 +17,8 @@ bool LayersCanPlay(const ChannelSound& channel, const ChannelVoice& voice);
 /// plus modulation, and at 0 semitones one sample frame goes into each output frame, whatever the sample's rate.
 void TuneLayers(ChannelSound& channel, ChannelVoice& voice);
 
-/// Renders the layers into the voice's buffers. Linear interpolation, a low-cut and a high-cut section per side,
-/// squared attack-hold-decay envelope.
-void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames);
+/// Renders the layers of the sampler voices among them into their buffers. Linear interpolation, a low-cut and a
+/// high-cut section per side, squared attack-hold-decay envelope.
+void RenderSamplers(SoundingVoices sounding, int frames);
 
 } // namespace korvane

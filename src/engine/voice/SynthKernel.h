@@ -4,11 +4,15 @@
 #include <cstdint>
 
 #include "content/WaveTables.h"
-#include "engine/voice/ChannelVoice.h"
 #include "engine/voice/RandomGenerator.h"
 #include "framework/Limits.h"
 
 namespace korvane {
+
+/// Phases of one of the stacked unison voices; a full cycle is 2^32.
+struct UnisonPhases {
+    std::uint32_t osc1, sync, osc2, osc3;
+};
 
 /// How oscillator 2 or its reference modulates oscillator 1.
 enum class OscillatorModulation : int {

@@ -107,8 +107,10 @@ void StartOscillators(ChannelSound& channel, ChannelVoice& voice)
     voice.restartPhases = false;
 }
 
-void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning)
+void TuneOscillators(ChannelSound& channel, ChannelVoice& voice)
 {
+    const SynthSettings& settings = channel.synth;
+    UnisonTuning& tuning = voice.tuning;
     if (!settings.slides) voice.glidePitch = static_cast<float>(voice.pitchNote);
     const float pitch = voice.glidePitch + PitchModulation(channel, voice, kLfoSemitones) +
                         settings.bendSemitones * channel.pitchBendIn;
@@ -129,7 +131,18 @@ void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSett
         tuning.tables[osc] =
             tables ? tables + kWaveTablePoints * TableOf(frequencies[osc], rate) : channel.samplePool.silentTable;
     }
-    if (voice.restartPhases) RestartPhases(channel.random, voice, tuning, settings.mix.unisonCount);
+}
+
+void RenderSynths(SoundingVoices sounding, int frames)
+{
+    for (const auto& [channel, voices, voice] : sounding) {
+        if (channel->isSampler) continue;
+        const UnisonMix& mix = channel->synth.mix;
+        if (voice->restartPhases) RestartPhases(channel->random, *voice, voice->tuning, mix.unisonCount);
+        RenderUnison(mix, voice->tuning, voice->modAmountFrames, voice->phases, channel->random, voice->left,
+                     voice->right, frames);
+        voice->seam.Join(voice->left, voice->right, frames);
+    }
 }
 
 } // namespace korvane

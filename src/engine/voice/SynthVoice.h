@@ -1,12 +1,12 @@
 // The synth channel's source: three table oscillators and noise, stacked for unison.
 #pragma once
 
+#include "engine/voice/SoundingVoice.h"
 #include "engine/voice/SynthKernel.h"
 
 namespace korvane {
 
 struct ChannelSound;
-struct ChannelVoice;
 
 /// What a run has in common for all voices of a synth channel.
 struct SynthSettings {
@@ -23,8 +23,11 @@ void SetUpSynth(const ChannelSound& channel, SynthSettings& settings);
 /// Sets the phases for the note that starts, or marks them for a restart at its first run.
 void StartOscillators(ChannelSound& channel, ChannelVoice& voice);
 
-/// Tunes the voice for the coming run and carries out a pending restart of the phases. Pitch is read here, once per
-/// run.
-void TuneOscillators(ChannelSound& channel, ChannelVoice& voice, const SynthSettings& settings, UnisonTuning& tuning);
+/// Tunes the voice for the coming run. Pitch is read here, once per run.
+void TuneOscillators(ChannelSound& channel, ChannelVoice& voice);
+
+/// Renders the oscillators of the synth voices among them into their buffers, from the first to the last: they share
+/// the engine's random numbers. A pending restart of phases comes first.
+void RenderSynths(SoundingVoices sounding, int frames);
 
 } // namespace korvane

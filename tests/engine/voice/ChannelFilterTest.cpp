@@ -4,11 +4,18 @@
 #include <vector>
 
 #include "engine/fx/Signals.h"
-#include "engine/voice/VoiceFilter.h"
+#include "engine/kernels/VoiceFilter.h"
 #include "engine/voice/VoiceRig.h"
 
 namespace korvane {
 namespace {
+
+std::array<GrooveChannel*, kChannels> Pointers(const Channels& channels)
+{
+    std::array<GrooveChannel*, kChannels> pointers;
+    for (std::size_t c = 0; c < pointers.size(); ++c) pointers[c] = channels[c].get();
+    return pointers;
+}
 
 struct FilterRig {
     std::unique_ptr<SamplePool> pool = std::make_unique<SamplePool>();
@@ -61,7 +68,7 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
         GrooveChannel& channel = *rig.channels[3];
         channel.sound.rate = kRate;
         channel.sound.params[slot::FilterType] = c.type;
-        channel.Render(0, kTempo);
+        RenderAlone(channel, 0, kTempo);
         ChannelVoice& voice = *channel.voices[0];
         voice.active = true;
         voice.resonance = c.resonance;
@@ -73,7 +80,7 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
             std::copy_n(&input.left[from], kMaxRun, voice.left);
             for (int n = 0; n < kMaxRun; ++n) voice.right[n] = 4.0f * voice.left[n];
             for (float* mix : {rig.pool->ChannelLeft(3), rig.pool->ChannelRight(3)}) std::fill_n(mix, kMaxRun, 0.0f);
-            FilterChannels(rig.channels, *rig.pool, kMaxRun);
+            FilterChannels(Pointers(rig.channels), *rig.pool, kMaxRun);
             std::copy_n(rig.pool->ChannelLeft(3), kMaxRun, &sound.left[from]);
             std::copy_n(rig.pool->ChannelRight(3), kMaxRun, &sound.right[from]);
         }
@@ -109,10 +116,10 @@ TEST(ChannelFilter, VoicesSideBySideGiveTheBitsOfEachAlone)
             for (int v = 0; v < voices; ++v) {
                 const int c = v * 5 % kChannels;
                 for (FilterRig* rig : {&together, &alone}) rig->Play(c, v / kChannels);
-                FilterChannels(alone.channels, *alone.pool, frames);
+                FilterChannels(Pointers(alone.channels), *alone.pool, frames);
                 alone.channels[c]->voices[v / kChannels]->active = false;
             }
-            FilterChannels(together.channels, *together.pool, frames);
+            FilterChannels(Pointers(together.channels), *together.pool, frames);
             ASSERT_EQ(Results(alone), Results(together)) << voices << " voices, " << frames << " frames";
         }
 }

@@ -84,7 +84,7 @@ TEST(Notes, FollowTheirEnvelopes)
         const float levels[] = {rig.Last().amp.level, rig.Last().env1.level, rig.Last().env2.level};
         for (int n = 0; n < 3; ++n) EXPECT_NEAR(levels[n], c.levels[n], 5e-4) << n;
         rig.Last().amp.rate = 0;
-        rig.channel.Render(1, VoiceRig::kTempo);
+        RenderAlone(rig.channel, 1, VoiceRig::kTempo);
         EXPECT_NEAR(rig.Last().left[0], 0.5 * 0.005 * levels[0] * levels[0], 1e-6);
     }
 }
@@ -124,7 +124,7 @@ TEST(Notes, GainFollowsLevelVelocityAndMute)
         rig.channel.sound.muted = c.mute;
         rig.channel.NoteOn(50, c.tempo, c.velocity);
         EXPECT_EQ(rig.Last().gain, c.start);
-        rig.channel.Render(1, VoiceRig::kTempo);
+        RenderAlone(rig.channel, 1, VoiceRig::kTempo);
         EXPECT_NEAR(rig.Last().gain, c.start + (c.end - c.start) / 100, 0.001f);
     }
 }
@@ -210,7 +210,7 @@ TEST(Modulation, ReachesAmplitudeAndCutoff)
         rig.channel.sound.lfo1.phase = rig.channel.sound.lfo2.phase = c.phase;
         rig.Last().env1 = {.level = 0.75f};
         rig.Last().env2 = {.level = 0.5f};
-        rig.channel.Render(1, VoiceRig::kTempo);
+        RenderAlone(rig.channel, 1, VoiceRig::kTempo);
         EXPECT_NEAR(rig.Last().cutoffFrames[0], c.cutoff, 1e-4);
         EXPECT_NEAR(rig.Last().left[0] / 0.0025, c.amp, 1e-4);
     }
@@ -239,9 +239,9 @@ TEST(Modulation, RunsGiveTheBitsOfSingleFrames)
                 rig->channel.NoteOn(60 + setting, 0, 1);
             }
             for (int frames : {1, 2, 3, 4, 5, 6, 7, 8, 9, 13, 16, 17, 128}) {
-                whole.channel.Render(frames, VoiceRig::kTempo);
+                RenderAlone(whole.channel, frames, VoiceRig::kTempo);
                 for (int n = 0; n < frames; ++n) {
-                    single.channel.Render(1, VoiceRig::kTempo);
+                    RenderAlone(single.channel, 1, VoiceRig::kTempo);
                     ASSERT_EQ(whole.Voice(0).left[n], single.Voice(0).left[0]) << n << " of " << frames;
                     ASSERT_EQ(whole.Voice(0).right[n], single.Voice(0).right[0]) << n << " of " << frames;
                 }

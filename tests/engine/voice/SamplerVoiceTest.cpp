@@ -69,8 +69,8 @@ TEST(SamplerVoice, EndsWhenNoLayerCanPlay)
         rig.Set(c.values);
         if (c.frames >= 0) rig.GiveSample(0, c.frames, 1, Wobble);
         rig.channel.NoteOn(48, 0, 1.0f);
-        rig.channel.Render(3, VoiceRig::kTempo);
-        rig.channel.Render(0, VoiceRig::kTempo);
+        RenderAlone(rig.channel, 3, VoiceRig::kTempo);
+        RenderAlone(rig.channel, 0, VoiceRig::kTempo);
         EXPECT_EQ(rig.Last().active, c.plays);
         EXPECT_EQ(rig.channel.soundedThisBlock, c.plays);
         rig.Render(12000, 512);

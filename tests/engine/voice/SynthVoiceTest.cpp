@@ -67,7 +67,7 @@ TEST(SynthVoice, SoundsAtItsPitchAndLevel)
         for (int n = 0; n < 16384; n += 128) {
             voice.lfo1Out = rig.channel.sound.lfo1.amount; // both modulators rest at their peak
             voice.env1.level = c.values.empty() ? 0 : 1;
-            rig.channel.Render(128, VoiceRig::kTempo);
+            RenderAlone(rig.channel, 128, VoiceRig::kTempo);
             out.insert(out.end(), voice.left, voice.left + 128);
         }
         const double hertz = Frequency(out, c.hz);

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "content/SamplePool.h"
-#include "engine/GrooveChannel.h"
+#include "engine/ChannelStages.h"
 #include "engine/fx/Signals.h"
 #include "framework/ParameterTable.h"
 
@@ -17,6 +17,14 @@ namespace korvane {
 
 /// A sample that has something in every frame, a little later on the right.
 inline float Wobble(int c, int i) { return std::sin(0.02f * static_cast<float>(i + 40 * c)); }
+
+/// A run of one channel by itself.
+inline void RenderAlone(GrooveChannel& channel, int frames, float tempo)
+{
+    channel.Refresh(tempo);
+    GrooveChannel* const alone[] = {&channel};
+    RenderVoices(alone, frames);
+}
 
 struct VoiceRig {
     static constexpr float kRate = 44100.0f, kTempo = 120.0f;
@@ -80,7 +88,7 @@ struct VoiceRig {
 
     void Render(int frames, int run = 100)
     {
-        for (; frames > 0; frames -= run) channel.Render(frames < run ? frames : run, kTempo);
+        for (; frames > 0; frames -= run) RenderAlone(channel, frames < run ? frames : run, kTempo);
     }
 
     /// Plays a live note with these values and lets it settle.
@@ -97,7 +105,7 @@ struct VoiceRig {
         Sound sound(frames);
         for (int from = 0; from < frames; from += kBlock) {
             const int run = std::min(kBlock, frames - from);
-            channel.Render(run, kTempo);
+            RenderAlone(channel, run, kTempo);
             if (!Last().active) break;
             std::copy_n(Last().left, run, &sound.left[from]);
             std::copy_n(Last().right, run, &sound.right[from]);

@@ -7,8 +7,8 @@
 
 #include "engine/dsp/LfoShape.h"
 #include "engine/fx/FXUnit.h"
+#include "engine/kernels/VoiceFilter.h"
 #include "engine/voice/Lfo.h"
-#include "engine/voice/VoiceFilter.h"
 #include "factory/words/Patch.h"
 #include "framework/KnobLaws.h"
 #include "framework/ParameterTable.h"

@@ -1,0 +1,21 @@
+// The inner loops of the engine, as each instruction set has them.
+#pragma once
+
+#include "engine/kernels/Isa.h"
+#include "engine/kernels/VoiceFilter.h"
+
+namespace korvane {
+
+/// Every kernel's header begins with its plain form, which is its definition: the compiled forms give the same bits.
+struct Kernels {
+    int lanes; // floats side by side
+    FilterVoicesKernel* filterVoices;
+};
+
+/// Of an instruction set that runs here (Isa.h). Any thread.
+const Kernels& KernelsOf(Isa isa);
+
+/// Those that the engine uses, chosen when the library is loaded.
+extern const Kernels& kernels;
+
+} // namespace korvane

@@ -1,0 +1,52 @@
+// Vectors as wide as the instruction set that a kernel is compiled for.
+#pragma once
+
+#include <cstdint>
+#include <cstring>
+
+// The build compiles everything in this folder once for each instruction set, in a namespace of its own. What several
+// files of the folder share lies in that namespace or is always inlined: otherwise the linker would keep one of the
+// three copies for all.
+namespace korvane::KORVANE_ISA_SPACE {
+
+inline constexpr int kLanes = KORVANE_LANES; // floats of a vector: 4, 8 or 16
+inline constexpr int kDoubles = kLanes / 2;
+
+typedef float Floats __attribute__((vector_size(4 * kLanes)));
+typedef std::int32_t Ints __attribute__((vector_size(4 * kLanes)));
+typedef std::uint32_t Words __attribute__((vector_size(4 * kLanes)));
+typedef double Doubles __attribute__((vector_size(4 * kLanes)));
+typedef std::int64_t Longs __attribute__((vector_size(4 * kLanes)));
+
+template <class V, class T>
+[[gnu::always_inline]] inline V Load(const T* from)
+{
+    V value;
+    std::memcpy(&value, from, sizeof value);
+    return value;
+}
+
+template <class V, class T>
+[[gnu::always_inline]] inline void Store(const V& value, T* to)
+{
+    std::memcpy(to, &value, sizeof value);
+}
+
+[[gnu::always_inline]] inline Floats Splat(float value) { return Floats{} + value; } // −0 becomes 0
+
+[[gnu::always_inline]] inline Floats Select(Ints mask, Floats yes, Floats no) { return mask ? yes : no; }
+
+[[gnu::always_inline]] inline Floats Magnitude(Floats value)
+{
+    return reinterpret_cast<Floats>(reinterpret_cast<Ints>(value) & 0x7fffffff);
+}
+
+/// Values this small, and NaN, become 0.
+[[gnu::always_inline]] inline Floats Flushed(Floats value)
+{
+    constexpr float kFlushBelow = 1e-9f;
+    const Ints keep = Magnitude(value) >= kFlushBelow;
+    return reinterpret_cast<Floats>(reinterpret_cast<Ints>(value) & keep);
+}
+
+} // namespace korvane::KORVANE_ISA_SPACE

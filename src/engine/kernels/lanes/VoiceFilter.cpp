@@ -1,0 +1,222 @@
+// Channel filters of all voices, side by side.
+#include "engine/kernels/VoiceFilter.h"
+
+#include "engine/kernels/lanes/Transpose.h"
+
+namespace korvane::KORVANE_ISA_SPACE {
+
+FilterVoicesKernel FilterVoices;
+
+namespace {
+
+// A vector holds left and right of some voices. A ladder waits for its own result, so one vector takes as long as
+// several: as many run interleaved as the registers hold.
+constexpr int kVoicesPerVector = kLanes / 2;
+constexpr int kMaxVectors = kLanes == 16 ? 5 : 6;
+constexpr int kMaxJobs = kChannels * kVoices;
+
+alignas(64) constexpr float kNothing[kMaxRun] = {}; // rows of lanes that no voice has
+
+/// The rows of the voices that share a vector.
+struct Rows {
+    const float* signal[kLanes];
+    const float* cutoff[kLanes]; // each voice's twice
+};
+
+template <int kVectors>
+struct Group {
+    Ladder<Floats> ladders[kVectors] = {};
+    Floats resonance[kVectors] = {};
+    Ints isLowPass[kVectors] = {}, isHighPass[kVectors] = {};
+    Rows rows[kVectors];
+    // Of kLanes frames: lanes of each vector.
+    alignas(64) Floats signal[kLanes][kVectors];
+    alignas(64) Ints index[kLanes][kVectors]; // into the cutoff table
+};
+
+template <int kVectors>
+void LoadVoices(Group<kVectors>& group, const FilterJob* const* jobs, int count)
+{
+    for (Rows& rows : group.rows)
+        for (int lane = 0; lane < kLanes; ++lane) rows.signal[lane] = rows.cutoff[lane] = kNothing;
+    for (int lane = 0; lane < 2 * count; ++lane) {
+        const FilterJob& job = *jobs[lane / 2];
+        const int vector = lane / kLanes, at = lane % kLanes;
+        const float* const state = job.state[lane % 2];
+        Ladder<Floats>& ladder = group.ladders[vector];
+        ladder.s1[at] = state[0];
+        ladder.s2[at] = state[1];
+        ladder.s3[at] = state[2];
+        ladder.s4[at] = state[3];
+        group.resonance[vector][at] = job.resonance;
+        group.isLowPass[vector][at] = job.type == FilterType::LowPass ? -1 : 0;
+        group.isHighPass[vector][at] = job.type == FilterType::HighPass ? -1 : 0;
+        group.rows[vector].signal[at] = lane % 2 == 0 ? job.left : job.right;
+        group.rows[vector].cutoff[at] = job.cutoff;
+    }
+}
+
+template <int kVectors>
+void StoreVoices(const Group<kVectors>& group, const FilterJob* const* jobs, int count)
+{
+    for (int lane = 0; lane < 2 * count; ++lane) {
+        const Ladder<Floats>& ladder = group.ladders[lane / kLanes];
+        const int at = lane % kLanes;
+        float* const state = jobs[lane / 2]->state[lane % 2];
+        state[0] = ladder.s1[at];
+        state[1] = ladder.s2[at];
+        state[2] = ladder.s3[at];
+        state[3] = ladder.s4[at];
+    }
+}
+
+Ints IndexOf(Floats cutoff)
+{
+    constexpr auto kPairs = static_cast<float>(kCutoffPairs);
+    const Floats place = cutoff * kPairs;
+    const Floats above = Select(place > 0.0f, place, Floats{}); // NaN as well
+    const Floats inside = Select(above < kPairs - 1.0f, above, Splat(kPairs - 1.0f));
+    return __builtin_convertvector(inside, Ints);
+}
+
+template <int kVectors>
+void LoadFrames(Group<kVectors>& group, int from)
+{
+    for (int v = 0; v < kVectors; ++v) {
+        Floats lanes[kLanes];
+        for (int lane = 0; lane < kLanes; ++lane) lanes[lane] = Load<Floats>(group.rows[v].signal[lane] + from);
+        Transpose(lanes);
+        for (int n = 0; n < kLanes; ++n) group.signal[n][v] = lanes[n];
+        for (int lane = 0; lane < kLanes; ++lane) lanes[lane] = Load<Floats>(group.rows[v].cutoff[lane] + from);
+        Transpose(lanes);
+        for (int n = 0; n < kLanes; ++n) group.index[n][v] = IndexOf(lanes[n]);
+    }
+}
+
+template <int kVectors>
+void StoreFrames(const Group<kVectors>& group, const FilterJob* const* jobs, int count, int from)
+{
+    for (int v = 0; v < kVectors; ++v) {
+        Floats rows[kLanes];
+        for (int n = 0; n < kLanes; ++n) rows[n] = group.signal[n][v];
+        Transpose(rows);
+        for (int lane = v * kLanes; lane < kLanes * (v + 1) && lane < 2 * count; ++lane) {
+            const FilterJob& job = *jobs[lane / 2];
+            Store(rows[lane - v * kLanes], (lane % 2 == 0 ? job.left : job.right) + from);
+        }
+    }
+}
+
+/// Coefficients of each lane; both lanes of a voice have the same.
+struct Coefficients {
+    Floats g, k;
+};
+
+Coefficients Read(const CutoffPair* table, Ints index)
+{
+    typedef float Pair __attribute__((vector_size(8)));
+    Floats pairs;
+    for (int voice = 0; voice < kVoicesPerVector; ++voice) {
+        const Pair pair = Load<Pair>(&table[index[2 * voice]]);
+        pairs[2 * voice] = pair[0];
+        pairs[2 * voice + 1] = pair[1];
+    }
+    const auto even = [&]<int... lane>(std::integer_sequence<int, lane...>)
+    {
+        return __builtin_shufflevector(pairs, pairs, (lane / 2 * 2)...);
+    };
+    const auto odd = [&]<int... lane>(std::integer_sequence<int, lane...>)
+    {
+        return __builtin_shufflevector(pairs, pairs, (lane / 2 * 2 + 1)...);
+    };
+    constexpr auto kAll = std::make_integer_sequence<int, kLanes>();
+    return {even(kAll), odd(kAll)};
+}
+
+/// Without resonance nothing is fed back, and the limiter sees the same input in every pass.
+template <bool kResonant, int kVectors>
+void RunFrames(Group<kVectors>& group, const CutoffPair* table, int frames)
+{
+    Ladder<Floats> ladders[kVectors];
+    for (int v = 0; v < kVectors; ++v) ladders[v] = group.ladders[v];
+    for (int n = 0; n < frames; ++n) {
+        Floats x[kVectors];
+        Coefficients c[kVectors];
+        for (int v = 0; v < kVectors; ++v) {
+            x[v] = group.signal[n][v];
+            c[v] = Read(table, group.index[n][v]);
+            if constexpr (!kResonant) ladders[v].Limit(x[v], Floats{}, Floats{});
+        }
+        for (int pass = 0; pass < kOversampling; ++pass)
+            for (int v = 0; v < kVectors; ++v) {
+                if constexpr (kResonant) ladders[v].Limit(x[v], c[v].k, group.resonance[v]);
+                ladders[v].Stages(c[v].g);
+            }
+        for (int v = 0; v < kVectors; ++v) {
+            const Ladder<Floats>& ladder = ladders[v];
+            const Floats upper = Select(group.isHighPass[v], ladder.u, ladder.s3) - ladder.s4;
+            group.signal[n][v] = Select(group.isLowPass[v], ladder.s4, upper);
+        }
+    }
+    for (int v = 0; v < kVectors; ++v) group.ladders[v] = ladders[v];
+}
+
+template <bool kResonant, int kVectors>
+void FilterGroup(const FilterJob* const* jobs, int count, const CutoffPair* table, int frames)
+{
+    Group<kVectors> group;
+    LoadVoices(group, jobs, count);
+    for (int from = 0; from < frames; from += kLanes) {
+        LoadFrames(group, from);
+        RunFrames<kResonant>(group, table, frames - from < kLanes ? frames - from : kLanes);
+        StoreFrames(group, jobs, count, from);
+    }
+    StoreVoices(group, jobs, count);
+}
+
+using GroupFunction = void(const FilterJob* const* jobs, int count, const CutoffPair* table, int frames);
+
+template <bool kResonant, int... vectors>
+void FilterAll(const FilterJob* const* jobs, int count, const CutoffPair* table, int frames,
+               std::integer_sequence<int, vectors...>)
+{
+    static constexpr GroupFunction* kFunctions[] = {FilterGroup<kResonant, vectors + 1>...};
+    int rest = (count + kVoicesPerVector - 1) / kVoicesPerVector;
+    for (int groups = (rest + kMaxVectors - 1) / kMaxVectors; groups > 0; --groups) { // of nearly the same size
+        const int size = (rest + groups - 1) / groups;
+        const int voices = size * kVoicesPerVector < count ? size * kVoicesPerVector : count;
+        kFunctions[size - 1](jobs, voices, table, frames);
+        jobs += voices;
+        count -= voices;
+        rest -= size;
+    }
+}
+
+void AddOutput(const FilterJob& job, int frames)
+{
+    for (int n = 0; n < frames; ++n) {
+        job.mixLeft[n] += job.left[n] * job.gain[n];
+        job.mixRight[n] += job.right[n] * job.gain[n];
+    }
+}
+
+} // namespace
+
+void FilterVoices(const FilterJob* jobs, int count, const CutoffPair* table, int frames)
+{
+    if (frames < 1) return;
+    const FilterJob *resonant[kMaxJobs], *straight[kMaxJobs];
+    int resonantCount = 0, straightCount = 0;
+    for (int v = 0; v < count; ++v) {
+        if (jobs[v].resonance == 0.0f)
+            straight[straightCount++] = &jobs[v];
+        else
+            resonant[resonantCount++] = &jobs[v];
+    }
+    constexpr auto kSizes = std::make_integer_sequence<int, kMaxVectors>();
+    FilterAll<true>(resonant, resonantCount, table, frames, kSizes);
+    FilterAll<false>(straight, straightCount, table, frames, kSizes);
+    for (int v = 0; v < count; ++v) AddOutput(jobs[v], frames);
+}
+
+} // namespace korvane::KORVANE_ISA_SPACE
