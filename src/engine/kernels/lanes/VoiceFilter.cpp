@@ -13,22 +13,23 @@ namespace {
 // several: as many run interleaved as the registers hold.
 constexpr int kVoicesPerVector = kLanes / 2;
 constexpr int kMaxVectors = kLanes == 16 ? 5 : 6;
+constexpr int kFullGroup = kMaxVectors * kVoicesPerVector;
 constexpr int kMaxJobs = kChannels * kVoices;
 
 alignas(64) constexpr float kNothing[kMaxRun] = {}; // rows of lanes that no voice has
 
-/// The rows of the voices that share a vector.
-struct Rows {
+/// The lanes of a vector, one by one.
+struct Lanes {
+    float s1[kLanes] = {}, s2[kLanes] = {}, s3[kLanes] = {}, s4[kLanes] = {};
+    float resonance[kLanes] = {};
+    std::int32_t isLowPass[kLanes] = {}, isHighPass[kLanes] = {};
     const float* signal[kLanes];
     const float* cutoff[kLanes]; // each voice's twice
 };
 
 template <int kVectors>
 struct Group {
-    Ladder<Floats> ladders[kVectors] = {};
-    Floats resonance[kVectors] = {};
-    Ints isLowPass[kVectors] = {}, isHighPass[kVectors] = {};
-    Rows rows[kVectors];
+    alignas(64) Lanes lanes[kVectors];
     // Of kLanes frames: lanes of each vector.
     alignas(64) Floats signal[kLanes][kVectors];
     alignas(64) Ints index[kLanes][kVectors]; // into the cutoff table
@@ -37,36 +38,36 @@ struct Group {
 template <int kVectors>
 void LoadVoices(Group<kVectors>& group, const FilterJob* const* jobs, int count)
 {
-    for (Rows& rows : group.rows)
-        for (int lane = 0; lane < kLanes; ++lane) rows.signal[lane] = rows.cutoff[lane] = kNothing;
     for (int lane = 0; lane < 2 * count; ++lane) {
         const FilterJob& job = *jobs[lane / 2];
-        const int vector = lane / kLanes, at = lane % kLanes;
         const float* const state = job.state[lane % 2];
-        Ladder<Floats>& ladder = group.ladders[vector];
-        ladder.s1[at] = state[0];
-        ladder.s2[at] = state[1];
-        ladder.s3[at] = state[2];
-        ladder.s4[at] = state[3];
-        group.resonance[vector][at] = job.resonance;
-        group.isLowPass[vector][at] = job.type == FilterType::LowPass ? -1 : 0;
-        group.isHighPass[vector][at] = job.type == FilterType::HighPass ? -1 : 0;
-        group.rows[vector].signal[at] = lane % 2 == 0 ? job.left : job.right;
-        group.rows[vector].cutoff[at] = job.cutoff;
+        Lanes& lanes = group.lanes[lane / kLanes];
+        const int at = lane % kLanes;
+        lanes.s1[at] = state[0];
+        lanes.s2[at] = state[1];
+        lanes.s3[at] = state[2];
+        lanes.s4[at] = state[3];
+        lanes.resonance[at] = job.resonance;
+        lanes.isLowPass[at] = job.type == FilterType::LowPass ? -1 : 0;
+        lanes.isHighPass[at] = job.type == FilterType::HighPass ? -1 : 0;
+        lanes.signal[at] = lane % 2 == 0 ? job.left : job.right;
+        lanes.cutoff[at] = job.cutoff;
     }
+    for (int lane = 2 * count; lane < kLanes * kVectors; ++lane)
+        group.lanes[lane / kLanes].signal[lane % kLanes] = group.lanes[lane / kLanes].cutoff[lane % kLanes] = kNothing;
 }
 
 template <int kVectors>
 void StoreVoices(const Group<kVectors>& group, const FilterJob* const* jobs, int count)
 {
     for (int lane = 0; lane < 2 * count; ++lane) {
-        const Ladder<Floats>& ladder = group.ladders[lane / kLanes];
+        const Lanes& lanes = group.lanes[lane / kLanes];
         const int at = lane % kLanes;
         float* const state = jobs[lane / 2]->state[lane % 2];
-        state[0] = ladder.s1[at];
-        state[1] = ladder.s2[at];
-        state[2] = ladder.s3[at];
-        state[3] = ladder.s4[at];
+        state[0] = lanes.s1[at];
+        state[1] = lanes.s2[at];
+        state[2] = lanes.s3[at];
+        state[3] = lanes.s4[at];
     }
 }
 
@@ -79,30 +80,50 @@ Ints IndexOf(Floats cutoff)
     return __builtin_convertvector(inside, Ints);
 }
 
+constexpr int kFewFrames = kLanes / 4; // up to so many are not worth a transposition
+
 template <int kVectors>
-void LoadFrames(Group<kVectors>& group, int from)
+void LoadFrames(Group<kVectors>& group, int from, int frames)
 {
     for (int v = 0; v < kVectors; ++v) {
-        Floats lanes[kLanes];
-        for (int lane = 0; lane < kLanes; ++lane) lanes[lane] = Load<Floats>(group.rows[v].signal[lane] + from);
-        Transpose(lanes);
-        for (int n = 0; n < kLanes; ++n) group.signal[n][v] = lanes[n];
-        for (int lane = 0; lane < kLanes; ++lane) lanes[lane] = Load<Floats>(group.rows[v].cutoff[lane] + from);
-        Transpose(lanes);
-        for (int n = 0; n < kLanes; ++n) group.index[n][v] = IndexOf(lanes[n]);
+        const Lanes& rows = group.lanes[v];
+        Floats signal[kLanes], cutoff[kLanes];
+        if (frames > kFewFrames) {
+            for (int lane = 0; lane < kLanes; ++lane) signal[lane] = Load<Floats>(rows.signal[lane] + from);
+            for (int lane = 0; lane < kLanes; ++lane) cutoff[lane] = Load<Floats>(rows.cutoff[lane] + from);
+            Transpose(signal);
+            Transpose(cutoff);
+        } else {
+            for (int n = 0; n < frames; ++n) {
+                float lanes[2][kLanes];
+                for (int lane = 0; lane < kLanes; ++lane) lanes[0][lane] = rows.signal[lane][from + n];
+                for (int lane = 0; lane < kLanes; ++lane) lanes[1][lane] = rows.cutoff[lane][from + n];
+                signal[n] = Load<Floats>(lanes[0]);
+                cutoff[n] = Load<Floats>(lanes[1]);
+            }
+        }
+        for (int n = 0; n < frames; ++n) {
+            group.signal[n][v] = signal[n];
+            group.index[n][v] = IndexOf(cutoff[n]);
+        }
     }
 }
 
 template <int kVectors>
-void StoreFrames(const Group<kVectors>& group, const FilterJob* const* jobs, int count, int from)
+void StoreFrames(const Group<kVectors>& group, const FilterJob* const* jobs, int count, int from, int frames)
 {
     for (int v = 0; v < kVectors; ++v) {
         Floats rows[kLanes];
-        for (int n = 0; n < kLanes; ++n) rows[n] = group.signal[n][v];
-        Transpose(rows);
-        for (int lane = v * kLanes; lane < kLanes * (v + 1) && lane < 2 * count; ++lane) {
-            const FilterJob& job = *jobs[lane / 2];
-            Store(rows[lane - v * kLanes], (lane % 2 == 0 ? job.left : job.right) + from);
+        for (int n = 0; n < frames; ++n) rows[n] = group.signal[n][v];
+        const bool few = frames <= kFewFrames;
+        if (!few) Transpose(rows);
+        for (int lane = 0; lane < kLanes && v * kLanes + lane < 2 * count; ++lane) {
+            const FilterJob& job = *jobs[(v * kLanes + lane) / 2];
+            float* const row = (lane % 2 == 0 ? job.left : job.right) + from;
+            if (few)
+                for (int n = 0; n < frames; ++n) row[n] = reinterpret_cast<const float*>(&rows[n])[lane];
+            else
+                Store(rows[lane], row);
         }
     }
 }
@@ -138,7 +159,15 @@ template <bool kResonant, int kVectors>
 void RunFrames(Group<kVectors>& group, const CutoffPair* table, int frames)
 {
     Ladder<Floats> ladders[kVectors];
-    for (int v = 0; v < kVectors; ++v) ladders[v] = group.ladders[v];
+    Floats resonance[kVectors];
+    Ints isLowPass[kVectors], isHighPass[kVectors];
+    for (int v = 0; v < kVectors; ++v) {
+        const Lanes& lanes = group.lanes[v];
+        ladders[v] = {Load<Floats>(lanes.s1), Load<Floats>(lanes.s2), Load<Floats>(lanes.s3), Load<Floats>(lanes.s4)};
+        resonance[v] = Load<Floats>(lanes.resonance);
+        isLowPass[v] = Load<Ints>(lanes.isLowPass);
+        isHighPass[v] = Load<Ints>(lanes.isHighPass);
+    }
     for (int n = 0; n < frames; ++n) {
         Floats x[kVectors];
         Coefficients c[kVectors];
@@ -149,16 +178,21 @@ void RunFrames(Group<kVectors>& group, const CutoffPair* table, int frames)
         }
         for (int pass = 0; pass < kOversampling; ++pass)
             for (int v = 0; v < kVectors; ++v) {
-                if constexpr (kResonant) ladders[v].Limit(x[v], c[v].k, group.resonance[v]);
+                if constexpr (kResonant) ladders[v].Limit(x[v], c[v].k, resonance[v]);
                 ladders[v].Stages(c[v].g);
             }
         for (int v = 0; v < kVectors; ++v) {
             const Ladder<Floats>& ladder = ladders[v];
-            const Floats upper = Select(group.isHighPass[v], ladder.u, ladder.s3) - ladder.s4;
-            group.signal[n][v] = Select(group.isLowPass[v], ladder.s4, upper);
+            const Floats upper = Select(isHighPass[v], ladder.u, ladder.s3) - ladder.s4;
+            group.signal[n][v] = Select(isLowPass[v], ladder.s4, upper);
         }
     }
-    for (int v = 0; v < kVectors; ++v) group.ladders[v] = ladders[v];
+    for (int v = 0; v < kVectors; ++v) {
+        Store(ladders[v].s1, group.lanes[v].s1);
+        Store(ladders[v].s2, group.lanes[v].s2);
+        Store(ladders[v].s3, group.lanes[v].s3);
+        Store(ladders[v].s4, group.lanes[v].s4);
+    }
 }
 
 template <bool kResonant, int kVectors>
@@ -167,9 +201,10 @@ void FilterGroup(const FilterJob* const* jobs, int count, const CutoffPair* tabl
     Group<kVectors> group;
     LoadVoices(group, jobs, count);
     for (int from = 0; from < frames; from += kLanes) {
-        LoadFrames(group, from);
-        RunFrames<kResonant>(group, table, frames - from < kLanes ? frames - from : kLanes);
-        StoreFrames(group, jobs, count, from);
+        const int run = frames - from < kLanes ? frames - from : kLanes;
+        LoadFrames(group, from, run);
+        RunFrames<kResonant>(group, table, run);
+        StoreFrames(group, jobs, count, from, run);
     }
     StoreVoices(group, jobs, count);
 }
@@ -213,6 +248,8 @@ void FilterVoices(const FilterJob* jobs, int count, const CutoffPair* table, int
         else
             resonant[resonantCount++] = &jobs[v];
     }
+    // Lanes of a resonant group that are left cost less than a group of their own.
+    while (straightCount > 0 && resonantCount % kFullGroup != 0) resonant[resonantCount++] = straight[--straightCount];
     constexpr auto kSizes = std::make_integer_sequence<int, kMaxVectors>();
     FilterAll<true>(resonant, resonantCount, table, frames, kSizes);
     FilterAll<false>(straight, straightCount, table, frames, kSizes);
