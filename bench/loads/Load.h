@@ -1,0 +1,42 @@
+// What the instrument may have to play at once, as states for hosts.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "framework/Limits.h"
+
+namespace korvane::loads {
+
+using Notes = std::array<int, kChannels>; // on each channel, 0..kVoices
+
+/// A groove of one bar whose notes last longer than the bar, or, without notes, what a new instance has.
+struct Load {
+    std::string name;
+    Notes notes{};
+    int layers = 1, unison = 1; // of each sampler voice, of each synth voice
+    bool rich = false;          // every oscillator, noise, layer filter, envelope and LFO at work
+    bool effects = false;       // all ten glued on every channel, equaliser and stutter on
+    bool plays = true;          // the transport
+
+    int Voices() const;
+};
+
+/// So many voices on the first channels, as evenly as it goes.
+Notes Spread(int voices, int channels = kChannels);
+
+/// The five by which the whole is measured: "silence", "default", "typical", "voices", "heaviest".
+const std::vector<Load>& WholeLoads();
+
+/// The state image of a load, once all its voices were seen to sound in an engine. Empty for one without notes. Throws
+/// std::runtime_error when they do not.
+/// noise  a sample of some seconds
+std::vector<std::uint8_t> StateOf(const Load& load, const std::filesystem::path& noise);
+
+/// Writes the sample: 20 seconds, stereo.
+void WriteNoise(const std::filesystem::path& file);
+
+} // namespace korvane::loads

@@ -1,0 +1,180 @@
+// korvane-loads: what loads cost in the plug-in as a host has it.
+#include <unistd.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <cstring>
+#include <exception>
+#include <functional>
+#include <map>
+#include <memory>
+
+#include "loads/Player.h"
+#include "render/Failure.h"
+#include "render/Memory.h"
+
+namespace korvane::loads {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr int kWindow = 94 * kFrames; // a quarter second
+constexpr const char* kUsage = R"(Usage: korvane-loads SECTION [PLUG-IN]...
+  whole      the five loads: ns per frame, mean and dearest quarter second
+  blocks     three of them in blocks of 1 to 4096 frames
+  scaling    cost against voices, channels and unison voices
+  memory     of one and of twenty instances, and how long further ones take to open
+  count N    nothing but one second of load N in blocks of 128, for a tool that counts instructions
+Every row: what, the value it is taken at, the plug-in's number, ns of processor time per frame. Plug-ins in turn.
+)";
+
+struct Work {
+    std::vector<std::string> plugins;
+    fs::path folder = fs::temp_directory_path() / ("korvane-loads." + std::to_string(getpid()));
+    fs::path noise = folder / "noise.wav";
+
+    Work()
+    {
+        fs::create_directories(folder);
+        WriteNoise(noise);
+    }
+    ~Work() { fs::remove_all(folder); }
+    Work(const Work&) = delete;
+};
+
+/// Of each window of a load the least of several passes, per frame and plug-in; the plug-ins take turns.
+/// frames  of a window
+std::vector<std::vector<double>> Windows(const Work& work, const Load& load, int count, int frames, int block)
+{
+    constexpr int kPasses = 5;
+    const auto state = StateOf(load, work.noise);
+    std::vector<std::unique_ptr<Player>> players;
+    for (const auto& plugin : work.plugins) players.push_back(std::make_unique<Player>(plugin, load, state));
+    std::vector best(players.size(), std::vector<double>(static_cast<std::size_t>(count), 1.0e99));
+    for (int pass = 0; pass < kPasses; ++pass)
+        for (std::size_t p = 0; p < players.size(); ++p) {
+            players[p]->Start();
+            for (double& least : best[p]) least = std::min(least, players[p]->Render(frames, block) / frames);
+        }
+    return best;
+}
+
+void Row(const char* what, int at, std::size_t plugin, double value)
+{
+    std::printf("%s\t%d\t%zu\t%.3f\n", what, at, plugin, value);
+    std::fflush(stdout);
+}
+
+double Mean(const std::vector<double>& values)
+{
+    double sum = 0.0;
+    for (const double value : values) sum += value;
+    return sum / static_cast<double>(values.size());
+}
+
+void Whole(const Work& work)
+{
+    for (const Load& load : WholeLoads()) {
+        const auto windows = Windows(work, load, load.name == "default" ? 32 : 8, kWindow, kFrames);
+        for (std::size_t p = 0; p < windows.size(); ++p) {
+            Row(load.name.c_str(), 0, p, Mean(windows[p]));
+            Row((load.name + " dearest").c_str(), 0, p, *std::max_element(windows[p].begin(), windows[p].end()));
+        }
+    }
+}
+
+/// One row for each plug-in.
+void Point(const Work& work, const char* what, int at, const Load& load, int frames, int block)
+{
+    const auto windows = Windows(work, load, 1, frames, block);
+    for (std::size_t p = 0; p < windows.size(); ++p) Row(what, at, p, windows[p][0]);
+}
+
+void Blocks(const Work& work)
+{
+    for (const Load& load : WholeLoads())
+        for (int block = 1; block <= kLongestBlock; block *= 2)
+            if (load.name != "typical" && load.name != "voices")
+                Point(work, ("blocks of " + load.name).c_str(), block, load, std::max(4096, kLongestBlock), block);
+}
+
+void Scaling(const Work& work)
+{
+    for (const int v : {1, 2, 4, 8, 13, 20, 26, 32, 39, 45, 52, 58, 65, 72, 78})
+        Point(work, "voices", v, {.name = "scaling", .notes = Spread(v), .unison = 4}, kWindow, kFrames);
+    for (int c = 1; c <= kChannels; ++c)
+        Point(work, "channels", c,
+              {.name = "scaling", .notes = Spread(c, c), .layers = kLayers, .unison = 4, .rich = true, .effects = true},
+              kWindow, kFrames);
+    for (int u = 1; u <= kUnison; ++u)
+        Point(work, "unison", u,
+              {.name = "scaling", .notes = {0, 0, 0, 0, 0, 0, 0, 0, 6, 6, 6, 6, 6}, .unison = u, .rich = true}, kWindow,
+              kFrames);
+}
+
+void Memory(const Work& work)
+{
+    constexpr int kInstances = 20;
+    const std::string& plugin = work.plugins.front();
+    const double before = render::ResidentMegabytes();
+    std::vector<std::unique_ptr<Player>> players;
+    std::vector<double> opens;
+    double first = 0.0;
+    for (int n = 0; n < kInstances; ++n) {
+        const auto begin = std::chrono::steady_clock::now();
+        players.push_back(std::make_unique<Player>(plugin, WholeLoads()[1], std::vector<std::uint8_t>()));
+        const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
+        if (n > 0) opens.push_back(took.count());
+        players.back()->Start();
+        if (n == 0) first = render::ResidentMegabytes() - before;
+    }
+    std::sort(opens.begin(), opens.end());
+    Row("megabytes of instances", 1, 0, first);
+    Row("megabytes of instances", kInstances, 0, render::ResidentMegabytes() - before);
+    Row("milliseconds to open", 2, 0, opens[opens.size() / 2]);
+}
+
+/// The tool counts while this runs.
+[[gnu::noinline]] void CountedBlocks(Player& player) { player.Render(static_cast<int>(kRate), kFrames); }
+
+void Count(const Work& work, const Load& load)
+{
+    Player player(work.plugins.front(), load, StateOf(load, work.noise));
+    player.Start();
+    CountedBlocks(player);
+}
+
+bool Run(Work& work, int count, char** arguments)
+{
+    const std::map<std::string, std::function<void(const Work&)>> sections{
+        {"whole", Whole}, {"blocks", Blocks}, {"scaling", Scaling}, {"memory", Memory}};
+    const std::string section = count > 1 ? arguments[1] : "";
+    const bool counts = section == "count" && count > 2;
+    const auto found = sections.find(section);
+    if (!counts && found == sections.end()) return false;
+    work.plugins.assign(arguments + (counts ? 3 : 2), arguments + count);
+    if (work.plugins.empty())
+        work.plugins = {fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "Korvane/korvane.so"};
+    if (counts)
+        Count(work, WholeLoads().at(std::stoul(arguments[2])));
+    else
+        found->second(work);
+    return true;
+}
+
+} // namespace
+} // namespace korvane::loads
+
+int main(int count, char** arguments)
+{
+    try {
+        korvane::loads::Work work;
+        if (korvane::loads::Run(work, count, arguments)) return 0;
+        std::fputs(korvane::loads::kUsage, stderr);
+        return 2;
+    } catch (const std::exception& reason) {
+        std::fprintf(stderr, "korvane-loads: %s\n", reason.what());
+        return 1;
+    }
+}
