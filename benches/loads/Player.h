@@ -29,7 +29,8 @@ public:
         if (!load.plays) return;
         host.SetPlaying(true);
         Render(kFrames, kFrames);
-        for (int c = 0; load.effects && c < kChannels; ++c) host.SetParameter(param::Channel1 + c, 1.0f); // all hear it
+        for (int c = 0; c < kChannels; ++c) // which all hear it
+            if (load.HasEffects(c)) host.SetParameter(param::Channel1 + c, 1.0f);
         for (const float held : {0.0f, 1.0f})
             if (load.effects) host.SetParameter(param::Stutter1_4, held);
         Render(kSettling, kFrames);

@@ -55,7 +55,7 @@ void Fill(GrooveEngine& engine, const Load& load, const std::filesystem::path& n
         auto* const params = engine.storedParams[c];
         Put(params, kAlways);
         if (load.rich) Put(params, kRich);
-        if (load.effects) Put(params, kEffectsOn);
+        if (load.HasEffects(c)) Put(params, kEffectsOn);
         params[slot::UnisonVoices] = (static_cast<float>(load.unison) - 0.5f) / 15.0f;
         for (int n = 0; n < kSampleSlots; ++n) {
             const bool layer = n >= kFirstLayerSlot, plays = !layer || n < kFirstLayerSlot + load.layers;

@@ -19,14 +19,16 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kWindow = 94 * kFrames; // a quarter second
+constexpr int kWindow = 3 * kLongestBlock; // a quarter second
 constexpr const char* kUsage = R"(Usage: korvane-loads SECTION [PLUG-IN]...
-  whole      the five loads: ns per frame, mean and dearest quarter second
-  blocks     three of them in blocks of 1 to 4096 frames
-  scaling    cost against voices, channels and unison voices
-  memory     of one and of twenty instances, and how long further ones take to open
-  count N    nothing but one second of load N in blocks of 128, for a tool that counts instructions
-Every row: what, the value it is taken at, the plug-in's number, ns of processor time per frame. Plug-ins in turn.
+  whole       the five loads, "silence", "default", "typical", "voices", "heaviest": 
+              mean and dearest quarter second
+  blocks      three of them in blocks of 1 to 4096 frames
+  scaling     cost against voices, channels and unison voices
+  memory      of one and of twenty instances, and how long further ones take to open
+  count LOAD  half a second of one of the five in blocks of 128, for a tool that counts instructions
+Every row: what, the value it is taken at, the plug-in's number, ns of processor time per frame; of memory, megabytes
+and milliseconds. Plug-ins take turns.
 )";
 
 struct Work {
@@ -96,7 +98,7 @@ void Blocks(const Work& work)
     for (const Load& load : WholeLoads())
         for (int block = 1; block <= kLongestBlock; block *= 2)
             if (load.name != "typical" && load.name != "voices")
-                Point(work, ("blocks of " + load.name).c_str(), block, load, std::max(4096, kLongestBlock), block);
+                Point(work, ("blocks of " + load.name).c_str(), block, load, kWindow, block);
 }
 
 void Scaling(const Work& work)
@@ -136,10 +138,14 @@ void Memory(const Work& work)
 }
 
 /// The tool counts while this runs.
-[[gnu::noinline]] void CountedBlocks(Player& player) { player.Render(static_cast<int>(kRate), kFrames); }
+[[gnu::noinline]] void CountedBlocks(Player& player) { player.Render(2 * kWindow, kFrames); }
 
-void Count(const Work& work, const Load& load)
+void Count(const Work& work, const std::string& name)
 {
+    const auto& loads = WholeLoads();
+    const auto found = std::find_if(loads.begin(), loads.end(), [&name](const Load& load) { return load.name == name; });
+    if (found == loads.end()) throw render::Failure("there is no load '" + name + "'");
+    const Load& load = *found;
     Player player(work.plugins.front(), load, StateOf(load, work.noise));
     player.Start();
     CountedBlocks(player);
@@ -157,7 +163,7 @@ bool Run(Work& work, int count, char** arguments)
     if (work.plugins.empty())
         work.plugins = {fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "Korvane/korvane.so"};
     if (counts)
-        Count(work, WholeLoads().at(std::stoul(arguments[2])));
+        Count(work, arguments[2]);
     else
         found->second(work);
     return true;

@@ -19,10 +19,11 @@ struct Load {
     Notes notes{};
     int layers = 1, unison = 1; // of each sampler voice, of each synth voice
     bool rich = false;          // every oscillator, noise, layer filter, envelope and LFO at work
-    bool effects = false;       // all ten glued on every channel, equaliser and stutter on
+    bool effects = false;       // all ten glued on every channel with notes, equaliser and stutter on
     bool plays = true;          // the transport
 
     int Voices() const;
+    bool HasEffects(int c) const { return effects && notes[static_cast<std::size_t>(c)] > 0; }
 };
 
 /// So many voices on the first channels, as evenly as it goes.
