@@ -101,7 +101,7 @@ const std::vector<Load>& WholeLoads()
         {.name = "silence", .plays = false},
         {.name = "default"},
         {.name = "typical", .notes = {1, 1, 1, 1, 1, 1, 1, 1, 3, 3, 2, 2, 2}, .unison = 4},
-        {.name = "voices", .notes = Spread(78), .layers = kLayers, .unison = kUnison, .rich = true},
+        {.name = "dry", .notes = Spread(78), .layers = kLayers, .unison = kUnison, .rich = true},
         {.name = "heaviest", .notes = Spread(78), .layers = kLayers, .unison = kUnison, .rich = true, .effects = true},
     };
     return loads;
@@ -125,8 +125,7 @@ void WriteNoise(const std::filesystem::path& file)
     std::minstd_rand noise(1);
     riff::Bytes sound(20 * 48000 * 4, '\0');
     for (char& byte : sound) byte = static_cast<char>(noise() >> 8);
-    std::ofstream(file, std::ios::binary)
-        << riff::Wav(riff::Format(riff::kIntegers, 2, 16, 48000) + riff::Data(sound));
+    std::ofstream(file, std::ios::binary) << riff::Wav(riff::Format(riff::kIntegers, 2, 16, 48000) + riff::Data(sound));
 }
 
 } // namespace korvane::loads

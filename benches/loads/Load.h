@@ -29,7 +29,7 @@ struct Load {
 /// So many voices on the first channels, as evenly as it goes.
 Notes Spread(int voices, int channels = kChannels);
 
-/// The five by which the whole is measured: "silence", "default", "typical", "voices", "heaviest".
+/// The five by which the whole is measured: "silence", "default", "typical", "dry", "heaviest".
 const std::vector<Load>& WholeLoads();
 
 /// The state image of a load, once all its voices were seen to sound in an engine. Empty for one without notes. Throws
