@@ -67,14 +67,13 @@ def scaling(path, curves, blocks):
     save(path, 2 * WIDTH, 2 * HEIGHT, body)
 
 
-def stages(path, best):
-    """A bar for each load, cut into what its stages take of a block; of benchmarks "Stages/LOAD/STAGE"."""
+def stages(path, times):
+    """A bar for each load, cut into what its stages take of a block.
+    times  "LOAD/STAGE" -> ns, as the program has rows"""
     bars = {}
-    for name, value in best.items():
-        if name.startswith("Stages/"):
-            bars.setdefault(name.split("/")[1], {})[name.split("/")[2]] = value / 1000.0
-    if not bars:
-        return
+    for name, values in times.items():
+        load, stage = name.split("/")
+        bars.setdefault(load, {})[stage] = next(iter(values[0].values())) / 1000.0
     left, width, body, labels = 90, 680, "", list(next(iter(bars.values())))
     for row, (load, parts) in enumerate(bars.items()):
         whole, x, y = sum(parts.values()), left, 20 + 60 * row

@@ -222,7 +222,7 @@ def measure(others):
                   "memory": memory_table(loads("memory", plugins[:1])), "isa": kernel_table(best),
                   **{name: bench_table(name, best) for name in TABLES}})
     pictures.scaling(ROOT / "docs/pictures/scaling.svg", scaling, blocks)
-    pictures.stages(ROOT / "docs/pictures/stages.svg", best)
+    pictures.stages(ROOT / "docs/pictures/stages.svg", loads("stages", plugins[:1]))
     if others:
         compare_plugins(whole | blocks | scaling)
 

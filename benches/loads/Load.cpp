@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 #include "content/state/StateImage.h"
-#include "engine/GrooveEngine.h"
 #include "engine/RenderLoop.h"
 #include "engine/Transport.h"
 #include "framework/ChannelSlots.h"
@@ -70,16 +69,11 @@ void Fill(GrooveEngine& engine, const Load& load, const std::filesystem::path& n
 /// How many voices sound a quarter second after its start.
 int SoundingVoices(const std::vector<std::uint8_t>& state)
 {
-    GrooveEngine engine;
-    engine.ResetGroove();
-    engine.ResetEngine(48000.0f);
-    if (!LoadState(engine, state.data(), static_cast<std::int32_t>(state.size()))) return -1;
-    engine.ServeRequests();
-    SetPlay(engine, true);
+    const auto engine = Playing(state);
     std::array<float*, 2 + 2 * kChannels> nowhere{};
-    for (int n = 0; n < 94; ++n) RenderFrames(engine, nowhere.data(), 128);
+    for (int n = 0; n < 94; ++n) RenderFrames(*engine, nowhere.data(), 128);
     int sounding = 0;
-    for (const auto& channel : engine.channels)
+    for (const auto& channel : engine->channels)
         for (const auto& voice : channel->voices) sounding += voice->active && voice->gain > 0.0f;
     return sounding;
 }
@@ -118,6 +112,20 @@ std::vector<std::uint8_t> StateOf(const Load& load, const std::filesystem::path&
     if (const int sounding = SoundingVoices(state); sounding != load.Voices())
         throw std::runtime_error(load.name + ": " + std::to_string(sounding) + " voices sound");
     return state;
+}
+
+std::unique_ptr<GrooveEngine> Playing(const std::vector<std::uint8_t>& state, const std::filesystem::path& bundle)
+{
+    auto engine = std::make_unique<GrooveEngine>();
+    EnginePath((bundle / "Drum Samples").c_str()).copy(engine->samplePool->sampleFolder, 1023);
+    EnginePath((bundle / "Synth Waves").c_str()).copy(engine->samplePool->waveFolder, 1023);
+    engine->ResetGroove();
+    engine->ResetEngine(48000.0f);
+    if (!LoadState(*engine, state.data(), static_cast<std::int32_t>(state.size())))
+        throw std::runtime_error("a state is no groove");
+    engine->ServeRequests();
+    SetPlay(*engine, true);
+    return engine;
 }
 
 void WriteNoise(const std::filesystem::path& file)

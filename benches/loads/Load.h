@@ -4,10 +4,11 @@
 #include <array>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
-#include "framework/Limits.h"
+#include "engine/GrooveEngine.h"
 
 namespace korvane::loads {
 
@@ -36,6 +37,10 @@ const std::vector<Load>& WholeLoads();
 /// std::runtime_error when they do not.
 /// noise  a sample of some seconds
 std::vector<std::uint8_t> StateOf(const Load& load, const std::filesystem::path& noise);
+
+/// An engine at 48 kHz that starts to play a state, its files read. Throws as StateOf.
+/// bundle  where the factory's files lie
+std::unique_ptr<GrooveEngine> Playing(const std::vector<std::uint8_t>& state, const std::filesystem::path& bundle = {});
 
 /// Writes the sample: 20 seconds, stereo.
 void WriteNoise(const std::filesystem::path& file);

@@ -11,8 +11,10 @@
 #include <memory>
 
 #include "loads/Player.h"
+#include "loads/Stages.h"
 #include "render/Failure.h"
 #include "render/Memory.h"
+#include "render/ReadFile.h"
 
 namespace korvane::loads {
 namespace {
@@ -25,6 +27,7 @@ constexpr const char* kUsage = R"(Usage: korvane-loads SECTION [PLUG-IN]...
               mean and dearest quarter second
   blocks      three of them in blocks of 1 to 4096 frames
   scaling     cost against voices, channels and unison voices
+  stages      ns of the stages of a block of the default groove and of the heaviest load, in an engine of its own
   memory      of one and of twenty instances, and how long further ones take to open
   count LOAD  half a second of one of the five in blocks of 128, for a tool that counts instructions
 Every row: what, the value it is taken at, the plug-in's number, ns of processor time per frame; of memory, megabytes
@@ -143,6 +146,18 @@ void Memory(const Work& work)
     Row("milliseconds to open", 2, 0, opens[opens.size() / 2]);
 }
 
+void Stages(const Work& work)
+{
+    const fs::path bundle = fs::path(work.plugins.front()).parent_path();
+    for (const Load& load : {WholeLoads()[1], WholeLoads()[4]}) {
+        const auto made = StateOf(load, work.noise);
+        const auto times =
+            TimesOfStages(made.empty() ? render::ReadFile(bundle / "default.kvprj") : made, bundle, load.effects);
+        for (std::size_t s = 0; s < times.size(); ++s)
+            Row((load.name + "/" + kStages[s]).c_str(), kFrames, 0, times[s]);
+    }
+}
+
 /// The tool counts while this runs.
 [[gnu::noinline]] void CountedBlocks(Player& player) { player.Render(2 * kWindow, kFrames); }
 
@@ -161,7 +176,7 @@ void Count(const Work& work, const std::string& name)
 bool Run(Work& work, int count, char** arguments)
 {
     const std::map<std::string, std::function<void(const Work&)>> sections{
-        {"whole", Whole}, {"blocks", Blocks}, {"scaling", Scaling}, {"memory", Memory}};
+        {"whole", Whole}, {"blocks", Blocks}, {"scaling", Scaling}, {"stages", Stages}, {"memory", Memory}};
     const std::string section = count > 1 ? arguments[1] : "";
     const bool counts = section == "count" && count > 2;
     const auto found = sections.find(section);
