@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Sourced by play and test: the packages of a fresh Debian 12, and the build of a preset.
+# Sourced by play, test, fuzz and bench: the packages of a fresh Debian 12, and the build of a preset.
 root=$(dirname "$(dirname "$(realpath "${BASH_SOURCE[0]}")")")
 log=$root/build/$(basename "$0").log
 packages=(g++ cmake make pkg-config libsndfile1-dev libcairo2-dev libxcb1-dev libxcb-shm0-dev libxcb-xkb-dev

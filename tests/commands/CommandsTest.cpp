@@ -1,4 +1,4 @@
-// play and test, with a stand-in for every command they call: what they install, show and play.
+// play, test and bench, with a stand-in for every command they call: what they install, show and play.
 #include <array>
 
 #include "support/CommandTest.h"
@@ -14,9 +14,9 @@ struct Commands : CommandTest {
     /// An ordinary user on a machine that has all packages, neither sudo nor a player.
     Commands()
     {
-        for (const fs::path& path : {house / "tools", house / "build/tools", bin, elsewhere})
+        for (const fs::path& path : {house / "tools", house / "benches", house / "build/tools", bin, elsewhere})
             fs::create_directories(path);
-        for (const char* file : {"play", "test", "tools/setup.sh"})
+        for (const char* file : {"play", "test", "bench", "tools/setup.sh"})
             fs::copy_file(fs::path(KORVANE_SOURCE) / file, house / file);
         for (const char* name : {"awk", "basename", "bash", "cat", "dirname", "env", "grep", "mkdir", "nproc",
                                  "realpath", "sh", "stat", "tail", "timeout", "wc", "xargs"})
@@ -26,7 +26,7 @@ struct Commands : CommandTest {
         for (const char* name :
              {"apt-get", "clang-format", "cmake", "ctest", "g++", "git", "make", "pkg-config", "valgrind"})
             Stand(name, "");
-        for (const char* script : {"tools/rooms", "fuzz"}) Script(house / script, "");
+        for (const char* script : {"tools/rooms", "fuzz", "benches/report.py"}) Script(house / script, "");
         Script(house / "build/tools/korvane-render", "for last; do :; done; pwd >\"$last\"");
         Script(house / "build/tools/korvane-window", "exit $ENDS");
     }
@@ -56,8 +56,9 @@ TEST_F(Commands, InstallsOnlyWhatIsMissingOrSaysItInOneLine)
 {
     Stand("dpkg-query", "exit 1");
     for (const char* tool : {"g++", "cmake", "make", "pkg-config"}) fs::remove(bin / tool);
-    for (const auto& [command, more] :
-         {std::pair{"play", ""}, {"test", " libgtest-dev libbenchmark-dev libxcb-xtest0-dev xvfb"}}) {
+    for (const auto& [command, more] : {std::pair{"play", ""},
+                                        {"test", " libgtest-dev libbenchmark-dev libxcb-xtest0-dev xvfb"},
+                                        {"bench", " libbenchmark-dev python3"}}) { // valgrind is there
         const Answer answer = Run(command);
         EXPECT_EQ(std::pair(answer.status, answer.Called("apt-get")), std::pair(1, false));
         EXPECT_EQ(answer.output + answer.errors, kAdvice + kNeeded + more + "\n");
@@ -115,6 +116,19 @@ TEST_F(Commands, AllLanesAreTriedAndThoseThatFailAreNamed)
     }
     Stand("ctest", "");
     EXPECT_EQ(Run("test all").status, 0);
+}
+
+TEST_F(Commands, WhatIsMeasuredIsBuiltBefore)
+{
+    WriteText(folder / "elsewhere/old.so", "");
+    const Answer answer = Run("bench --accept --counts old.so");
+    EXPECT_EQ(std::pair(answer.status, answer.errors), std::pair(0, std::string()));
+    EXPECT_LT(answer.calls.find(" --target korvane-loads korvane_bench\n"),
+              answer.calls.find("report.py counts --accept " + (elsewhere / "old.so").string() + "\n"));
+    EXPECT_TRUE(answer.Called("report.py")) << answer.calls;
+    EXPECT_TRUE(Run("bench").Called("report.py all\n"));
+    Script(house / "benches/report.py", "exit 1");
+    EXPECT_EQ(std::pair(Run("bench").status, Run("bench --fast").status), std::pair(1, 2));
 }
 
 TEST_F(Commands, AFailedBuildShowsItsReasonAndItsLog)

@@ -35,19 +35,17 @@ void PlainFilterVoices(const FilterJob* jobs, int count, const CutoffPair* table
 {
     for (const FilterJob* job = jobs; job < jobs + count; ++job)
         for (int side = 0; side < 2; ++side) {
-            float *const signal = side == 0 ? job->left : job->right, *mix = side == 0 ? job->mixLeft : job->mixRight;
+            const float* const signal = side == 0 ? job->left : job->right;
+            float* const mix = side == 0 ? job->mixLeft : job->mixRight;
             float* const state = job->state[side];
             Ladder<float> ladder{state[0], state[1], state[2], state[3]};
             for (int n = 0; n < frames; ++n) {
                 const CutoffPair pair = table[CutoffIndex(job->cutoff[n])];
                 for (int pass = 0; pass < kOversampling; ++pass) ladder.Pass(signal[n], pair.g, pair.k, job->resonance);
-                signal[n] = job->type == FilterType::LowPass    ? ladder.s4
-                            : job->type == FilterType::BandPass ? ladder.s3 - ladder.s4
-                                                                : ladder.u - ladder.s4;
-                mix[n] += signal[n] * job->gain[n];
+                const float upper = (job->type == FilterType::HighPass ? ladder.u : ladder.s3) - ladder.s4;
+                mix[n] += (job->type == FilterType::LowPass ? ladder.s4 : upper) * job->gain[n];
             }
-            const float left[] = {ladder.s1, ladder.s2, ladder.s3, ladder.s4};
-            std::copy_n(left, kFilterStages, state);
+            state[0] = ladder.s1, state[1] = ladder.s2, state[2] = ladder.s3, state[3] = ladder.s4;
         }
 }
 
