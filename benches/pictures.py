@@ -3,7 +3,7 @@ from math import ceil, log2, log10
 
 INKS = ["#2f6f9f", "#c8553d", "#588157", "#e0a030", "#7a5195", "#8d99ae", "#444444", "#b56576"]
 WIDTH, HEIGHT = 400, 240  # of a panel
-LEFT, RIGHT, TOP, BOTTOM = 58, 12, 30, 36  # around its graph
+LEFT, RIGHT, TOP, BOTTOM = 58, 20, 30, 36  # around its graph
 
 
 def text(x, y, words, anchor="middle", size=12):

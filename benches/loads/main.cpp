@@ -96,10 +96,10 @@ void Whole(const Work& work)
 }
 
 /// One row for each plug-in.
-void Point(const Work& work, const char* what, int at, const Load& load, int frames, int block)
+void Point(const Work& work, const char* what, int at, const Load& load, int block = kFrames)
 {
-    const auto windows = Windows(work, load, 1, frames, block);
-    for (std::size_t p = 0; p < windows.size(); ++p) Row(what, at, p, windows[p][0]);
+    const auto windows = Windows(work, load, kWindow / kLongestBlock, kLongestBlock, block);
+    for (std::size_t p = 0; p < windows.size(); ++p) Row(what, at, p, Mean(windows[p]));
 }
 
 void Blocks(const Work& work)
@@ -107,21 +107,20 @@ void Blocks(const Work& work)
     for (const Load& load : WholeLoads())
         for (int block = 1; block <= kLongestBlock; block *= 2)
             if (load.name != "typical" && load.name != "dry")
-                Point(work, ("blocks of " + load.name).c_str(), block, load, kWindow, block);
+                Point(work, ("blocks of " + load.name).c_str(), block, load, block);
 }
 
 void Scaling(const Work& work)
 {
     for (const int v : {1, 2, 4, 8, 13, 20, 26, 32, 39, 45, 52, 58, 65, 72, 78})
-        Point(work, "voices", v, {.name = "scaling", .notes = Spread(v), .unison = 4}, kWindow, kFrames);
+        Point(work, "voices", v, {.name = "scaling", .notes = Spread(v), .unison = 4});
     for (int c = 1; c <= kChannels; ++c)
-        Point(work, "channels", c,
-              {.name = "scaling", .notes = Spread(c, c), .layers = kLayers, .unison = 4, .rich = true, .effects = true},
-              kWindow, kFrames);
+        Point(
+            work, "channels", c,
+            {.name = "scaling", .notes = Spread(c, c), .layers = kLayers, .unison = 4, .rich = true, .effects = true});
     for (int u = 1; u <= kUnison; ++u)
         Point(work, "unison", u,
-              {.name = "scaling", .notes = {0, 0, 0, 0, 0, 0, 0, 0, 6, 6, 6, 6, 6}, .unison = u, .rich = true}, kWindow,
-              kFrames);
+              {.name = "scaling", .notes = {0, 0, 0, 0, 0, 0, 0, 0, 6, 6, 6, 6, 6}, .unison = u, .rich = true});
 }
 
 void Memory(const Work& work)
@@ -130,20 +129,18 @@ void Memory(const Work& work)
     const std::string& plugin = work.plugins.front();
     const double before = render::ResidentMegabytes();
     std::vector<std::unique_ptr<Player>> players;
-    std::vector<double> opens;
-    double first = 0.0;
+    double first = 0.0, fastest = 1.0e99;
     for (int n = 0; n < kInstances; ++n) {
         const auto begin = std::chrono::steady_clock::now();
         players.push_back(std::make_unique<Player>(plugin, WholeLoads()[1], std::vector<std::uint8_t>()));
         const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - begin;
-        if (n > 0) opens.push_back(took.count());
+        if (n > 0) fastest = std::min(fastest, took.count());
         players.back()->Start();
         if (n == 0) first = render::ResidentMegabytes() - before;
     }
-    std::sort(opens.begin(), opens.end());
     Row("megabytes of instances", 1, 0, first);
     Row("megabytes of instances", kInstances, 0, render::ResidentMegabytes() - before);
-    Row("milliseconds to open", 2, 0, opens[opens.size() / 2]);
+    Row("milliseconds to open", 2, 0, fastest);
 }
 
 void Stages(const Work& work)
