@@ -22,24 +22,30 @@ void Chorus::Reset() { delays->Clear(); }
 void Chorus::Process(UnitControls& unit, const StereoBlock& block)
 {
     float lfo[kMaxRun];
+    double speeds[kMaxRun];
+    TapePlace places[kMaxRun];
     unit.FillLfo(lfo, block.frames);
     TapeDelay<StereoChain>& tapes = *delays;
-    const float x = unit.x;
+    for (int n = 0; n < block.frames; ++n)
+        speeds[n] = tapes.clock.SpeedFor(static_cast<double>(DelayOf(unit.x, lfo[n])));
+    tapes.clock.Run(speeds, block.frames, places);
     const float target = unit.Target();
+    const float feedback = law::ChorusFeedback(unit.y);
     float level = unit.mix;
-    tapes.feedback = law::ChorusFeedback(unit.y);
+    RecordPath<StereoChain> path = tapes.path;
     for (int n = 0; n < block.frames; ++n) {
         level += (target - level) * UnitControls::kOnStep;
-        tapes.speed = tapes.SpeedFor(static_cast<double>(DelayOf(x, lfo[n])));
-        tapes.inputGain = -level; // three inversions in series: the sum is inverted, too
         const float left = block.left[n];
         const float right = block.right[n];
-        const StereoChain out = tapes.Read();
-        tapes.Record({Float4{left, out.left[0], out.left[1], 0.0f}, Float4{right, out.right[0], out.right[1], 0.0f}},
-                     out);
+        const StereoChain out = tapes.Read(places[n]);
+        const StereoChain in = {Float4{left, out.left[0], out.left[1], 0.0f},
+                                Float4{right, out.right[0], out.right[1], 0.0f}};
+        // Three inversions in series: the sum is inverted, too.
+        tapes.Write(path.Step(-level * in + feedback * out, 1.0f, 0.0f), places[n]);
         block.left[n] = left + out.left[2];
         block.right[n] = right + out.right[2];
     }
+    tapes.path = path;
     unit.mix = level;
 }
 

@@ -23,8 +23,11 @@ public:
 
 private:
     void Set(const UnitControls& unit);
+    int Pass(const StereoBlock& block);
+    int Play(UnitControls& unit, const StereoBlock& block);
 
     std::unique_ptr<TapeDelay<Stereo>> delays;
+    int silentFrames = 0; // that were recorded last; at least kSilent when nothing else was
 };
 
 } // namespace korvane

@@ -26,23 +26,34 @@ void Panner::Allocate(float rate)
 void Panner::Reset()
 {
     for (auto& delay : delays) delay->Clear();
+    path = {};
 }
 
 void Panner::Process(UnitControls& unit, const StereoBlock& block)
 {
     float lfo[kMaxRun];
+    double speeds[2][kMaxRun];
+    TapePlace places[2][kMaxRun];
     unit.FillLfo(lfo, block.frames);
     const float x = unit.x;
     const float y = unit.y;
     MFXTapeDelay& left = *delays[0];
     MFXTapeDelay& right = *delays[1];
-    left.inputGain = right.inputGain = 1.0f;
     for (int n = 0; n < block.frames; ++n) {
         const float s = 2.0f * (x + lfo[n]) - 1.0f; // -1 left, 1 right
-        left.speed = left.SpeedFor(static_cast<double>(DelayOf(s)));
-        right.speed = right.SpeedFor(static_cast<double>(DelayOf(-s)));
-        block.left[n] = left.Process(GainOf(s, y) * block.left[n]);
-        block.right[n] = right.Process(GainOf(-s, y) * block.right[n]);
+        speeds[0][n] = left.clock.SpeedFor(static_cast<double>(DelayOf(s)));
+        speeds[1][n] = right.clock.SpeedFor(static_cast<double>(DelayOf(-s)));
+        block.left[n] *= GainOf(s, y);
+        block.right[n] *= GainOf(-s, y);
+    }
+    left.clock.Run(speeds[0], block.frames, places[0]);
+    right.clock.Run(speeds[1], block.frames, places[1]);
+    for (int n = 0; n < block.frames; ++n) {
+        const Stereo in = path.Step(LoadFrame(block.left, block.right, n), 1.0f, 0.0f);
+        block.left[n] = left.Read(places[0][n]);
+        block.right[n] = right.Read(places[1][n]);
+        left.Write(in[0], places[0][n]);
+        right.Write(in[1], places[1][n]);
     }
 }
 

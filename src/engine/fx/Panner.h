@@ -18,7 +18,8 @@ public:
     void Process(UnitControls& unit, const StereoBlock& block) override;
 
 private:
-    std::unique_ptr<MFXTapeDelay> delays[2]; // left, right
+    std::unique_ptr<MFXTapeDelay> delays[2]; // left, right; without feedback
+    RecordPath<Stereo> path;                 // of both
 };
 
 } // namespace korvane

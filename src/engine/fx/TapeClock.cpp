@@ -1,0 +1,119 @@
+// Tape clock: positions, entries, the search among them.
+#include "engine/fx/TapeClock.h"
+
+#include <algorithm>
+#include <bit>
+#include <cstdint>
+
+namespace korvane {
+
+namespace {
+
+constexpr int kSpare = 16; // a loop at the lowest speed, its closing entry and those of Clear fit
+
+/// The largest power of two up to a positive number.
+double PowerBelow(double value)
+{
+    constexpr std::uint64_t kExponent = 0x7ff0000000000000;
+    return std::bit_cast<double>(std::bit_cast<std::uint64_t>(value) & kExponent);
+}
+
+/// Position of a tape after some frames at one speed. Between two powers of two every step rounds alike once the
+/// position is even in its last place, which a step that ends half way between two numbers makes it: from there on the
+/// steps are a product.
+double Moved(double position, double step, int frames)
+{
+    while (frames > 0) {
+        double steps[4] = {position};
+        int count = 0;
+        do {
+            steps[count + 1] = steps[count] + step;
+            ++count;
+            --frames;
+        } while (count < 3 && frames > 0 && steps[count] < 1.0);
+        position = steps[count];
+        if (position >= 1.0) {
+            position -= 1.0;
+            continue;
+        }
+        if (frames == 0) break;
+        const double limit = 2.0 * PowerBelow(steps[1]), rounded = steps[3] - steps[2];
+        const int more = std::min(static_cast<int>((limit - position) / rounded) - 2, frames);
+        if (more < 1) continue;
+        position += more * rounded;
+        frames -= more;
+    }
+    return position;
+}
+
+} // namespace
+
+TapeClock::TapeClock(int newLength)
+    : length(std::max(newLength, 4)), room(length + kSpare), minSpeed(1.0 / length),
+      times(std::make_unique<double[]>(static_cast<std::size_t>(room)))
+{
+    Clear();
+}
+
+/// NaN gives the lowest.
+double TapeClock::Kept(double speed) const
+{
+    constexpr double kMaxSpeed = 0.2;
+    return std::max(minSpeed, std::min(speed, kMaxSpeed));
+}
+
+/// The loop that is read holds silence that never ends, the one that is recorded starts with silence.
+/// time  of that entry
+void TapeClock::StartBehind(double time)
+{
+    constexpr double kNever = 2.0;
+    times[0] = times[1] = kNever;
+    times[2] = time;
+    read = 1;
+    passStart = 2;
+    write = 3;
+}
+
+void TapeClock::Clear()
+{
+    position = 0.0;
+    StartBehind(-1.0);
+}
+
+void TapeClock::Run(const double* speeds, int frames, TapePlace* places)
+{
+    double* const time = times.get();
+    double now = position;
+    int to = write, from = read, start = passStart;
+    for (int n = 0; n < frames; ++n) {
+        while (time[from] < now) from = Next(from); // the closing entry lies behind every position
+        const int before = from > 0 ? from - 1 : room - 1;
+        const double span = time[from] - time[before]; // of the first of a loop: negative
+        const float fraction = span > 0.0 ? static_cast<float>((now - time[before]) / span) : 0.0f;
+        const int first = to;
+        const int after = from;
+        now += Kept(speeds[n]);
+        if (now >= 1.0) {
+            time[to] = now;
+            to = Next(to);
+            now -= 1.0;
+            from = start;
+            start = to;
+        }
+        time[to] = now;
+        places[n] = {before, after, fraction, first, to};
+        to = Next(to);
+    }
+    position = now;
+    write = to;
+    read = from;
+    passStart = start;
+}
+
+void TapeClock::RunSilent(double speed, int frames)
+{
+    position = Moved(position, Kept(speed), frames);
+    StartBehind(position);
+}
+
+} // namespace korvane
