@@ -2,6 +2,7 @@
 #include "engine/fx/Chorus.h"
 
 #include "engine/fx/DelayLengths.h"
+#include "engine/fx/Fade.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
@@ -29,24 +30,22 @@ void Chorus::Process(UnitControls& unit, const StereoBlock& block)
     for (int n = 0; n < block.frames; ++n)
         speeds[n] = tapes.clock.SpeedFor(static_cast<double>(DelayOf(unit.x, lfo[n])));
     tapes.clock.Run(speeds, block.frames, places);
-    const float target = unit.Target();
+    float levels[kMaxRun];
+    FillLevels(unit, levels, block.frames);
     const float feedback = law::ChorusFeedback(unit.y);
-    float level = unit.mix;
     RecordPath<StereoChain> path = tapes.path;
     for (int n = 0; n < block.frames; ++n) {
-        level += (target - level) * UnitControls::kOnStep;
         const float left = block.left[n];
         const float right = block.right[n];
         const StereoChain out = tapes.Read(places[n]);
         const StereoChain in = {Float4{left, out.left[0], out.left[1], 0.0f},
                                 Float4{right, out.right[0], out.right[1], 0.0f}};
         // Three inversions in series: the sum is inverted, too.
-        tapes.Write(path.Step(-level * in + feedback * out, 1.0f, 0.0f), places[n]);
+        tapes.Write(path.Step(-levels[n] * in + feedback * out, 1.0f, 0.0f), places[n]);
         block.left[n] = left + out.left[2];
         block.right[n] = right + out.right[2];
     }
     tapes.path = path;
-    unit.mix = level;
 }
 
 } // namespace korvane

@@ -5,6 +5,7 @@
 
 #include "engine/fx/DelayLengths.h"
 #include "engine/fx/Tail.h"
+#include "engine/fx/Fade.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
@@ -75,16 +76,15 @@ int Echo::Play(UnitControls& unit, const StereoBlock& block)
     tapes.clock.Run(speeds, block.frames, places);
     const float send = law::EchoSend(unit.x);
     const float feedback = tapes.feedback, lowpass = tapes.lowpass, highpass = tapes.highpass;
-    const float target = unit.Target();
-    float level = unit.mix;
+    float levels[kMaxRun];
+    FillLevels(unit, levels, block.frames);
     RecordPath<Stereo> path = tapes.path;
     int heard = -1;
     bool silent = true;
     for (int n = 0; n < block.frames; ++n) {
-        level += (target - level) * UnitControls::kOnStep;
         const Stereo dry = LoadFrame(block.left, block.right, n);
         const Stereo wet = tapes.Read(places[n]);
-        const Stereo recorded = path.Step(level * send * dry + feedback * wet, lowpass, highpass);
+        const Stereo recorded = path.Step(levels[n] * send * dry + feedback * wet, lowpass, highpass);
         tapes.Write(recorded, places[n]);
         const Stereo out = dry + wet;
         if (CanBeHeard(dry) || CanBeHeard(out)) heard = n;
@@ -94,7 +94,6 @@ int Echo::Play(UnitControls& unit, const StereoBlock& block)
     silent = silent && IsZero(path.lowpassState) && IsZero(path.highpassState);
     silentFrames = silent ? std::min(silentFrames + block.frames, kSilent) : 0;
     tapes.path = path;
-    unit.mix = level;
     return heard;
 }
 

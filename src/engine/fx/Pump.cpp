@@ -4,8 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/dsp/EqualSteps.h"
 #include "engine/dsp/StereoFrame.h"
 #include "framework/KnobLaws.h"
+#include "framework/Limits.h"
 
 namespace korvane {
 
@@ -25,22 +27,23 @@ float EnvelopeAt(float p, float release)
 
 void Pump::Process(UnitControls& unit, const StereoBlock& block)
 {
+    double phases[kMaxRun];
+    float levels[kMaxRun];
+    for (int from = 0; from < block.frames;) {
+        from += StepBelowOne(unit.lfoPhase, unit.lfoIncrement, block.frames - from, phases + from);
+        if (!(unit.lfoPhase < 1.0)) unit.lfoPhase -= std::floor(unit.lfoPhase);
+    }
     const float release = law::PumpSpeed(unit.x);
     const float drop = law::PumpDrop(unit.y);
-    const double increment = unit.lfoIncrement;
+    for (int n = 0; n < block.frames; ++n) levels[n] = EnvelopeAt(static_cast<float>(phases[n]), release);
     float level = envelope;
-    double phase = unit.lfoPhase;
+    for (int n = 0; n < block.frames; ++n) levels[n] = level += (levels[n] - level) * kEnvelopeStep;
+    envelope = Flushed(level);
     for (int n = 0; n < block.frames; ++n) {
-        const float e = EnvelopeAt(static_cast<float>(phase), release);
-        phase += increment;
-        if (phase >= 1.0) phase -= std::floor(phase);
-        level += (e - level) * kEnvelopeStep;
-        const float gain = 1.0f - level * drop;
+        const float gain = 1.0f - levels[n] * drop;
         block.left[n] *= gain;
         block.right[n] *= gain;
     }
-    envelope = Flushed(level);
-    unit.lfoPhase = phase;
 }
 
 } // namespace korvane

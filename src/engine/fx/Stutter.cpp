@@ -1,11 +1,14 @@
 // Stutter: slices, fade and tail.
 #include "engine/fx/Stutter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 
+#include "engine/dsp/EqualSteps.h"
 #include "engine/fx/DelayLengths.h"
-#include "engine/fx/Tail.h"
+#include "engine/fx/Fade.h"
+#include "framework/Limits.h"
 
 namespace korvane {
 
@@ -19,26 +22,27 @@ void Stutter::Allocate(float rate) { loop.Allocate(LongDelayFrames(rate)); }
 
 void Stutter::Process(UnitControls& unit, const StereoBlock& block)
 {
-    const float target = unit.Target();
-    float level = unit.mix;
-    for (int n = 0; n < block.frames; ++n) {
-        unit.holdFrames = TailLeft(unit.holdFrames, !unit.bypass, kTailFrames);
-        const float inLeft = block.left[n];
-        const float inRight = block.right[n];
-        if (loop.Playing()) {
-            level += (target - level) * UnitControls::kOnStep;
-            float outLeft = 0.0f, outRight = 0.0f;
-            loop.Read(outLeft, outRight);
-            block.left[n] = (1.0f - level) * inLeft + level * outLeft;
-            block.right[n] = (1.0f - level) * inRight + level * outRight;
-        }
-        loop.Record(inLeft, inRight);
-        unit.lfoPhase += unit.lfoIncrement;
+    unit.holdFrames = unit.bypass ? std::max(unit.holdFrames - block.frames, -1) : kTailFrames;
+    for (int from = 0; from < block.frames;) {
+        const int frames = StepBelowOne(unit.lfoPhase, unit.lfoIncrement, block.frames - from);
+        Play(unit, {block.left + from, block.right + from, frames});
+        from += frames;
         if (unit.lfoPhase < 1.0) continue;
         unit.lfoPhase -= std::floor(unit.lfoPhase);
         loop.EndSlice(unit.reverse != 0);
     }
-    unit.mix = level;
+}
+
+/// A part of a slice.
+void Stutter::Play(UnitControls& unit, const StereoBlock& block)
+{
+    float levels[kMaxRun];
+    for (int from = 0; from < block.frames;) {
+        const int frames = loop.Alike(block.frames - from);
+        if (loop.Playing()) FillLevels(unit, levels, frames);
+        loop.Run({block.left + from, block.right + from, frames}, levels);
+        from += frames;
+    }
 }
 
 } // namespace korvane

@@ -17,6 +17,8 @@ public:
     void Process(UnitControls& unit, const StereoBlock& block) override;
 
 private:
+    void Play(UnitControls& unit, const StereoBlock& block);
+
     StutterLoop loop;
 };
 

@@ -2,49 +2,14 @@
 #include "engine/fx/TapeClock.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstdint>
+
+#include "engine/dsp/EqualSteps.h"
 
 namespace korvane {
 
 namespace {
 
 constexpr int kSpare = 16; // a loop at the lowest speed, its closing entry and those of Clear fit
-
-/// The largest power of two up to a positive number.
-double PowerBelow(double value)
-{
-    constexpr std::uint64_t kExponent = 0x7ff0000000000000;
-    return std::bit_cast<double>(std::bit_cast<std::uint64_t>(value) & kExponent);
-}
-
-/// Position of a tape after some frames at one speed. Between two powers of two every step rounds alike once the
-/// position is even in its last place, which a step that ends half way between two numbers makes it: from there on the
-/// steps are a product.
-double Moved(double position, double step, int frames)
-{
-    while (frames > 0) {
-        double steps[4] = {position};
-        int count = 0;
-        do {
-            steps[count + 1] = steps[count] + step;
-            ++count;
-            --frames;
-        } while (count < 3 && frames > 0 && steps[count] < 1.0);
-        position = steps[count];
-        if (position >= 1.0) {
-            position -= 1.0;
-            continue;
-        }
-        if (frames == 0) break;
-        const double limit = 2.0 * PowerBelow(steps[1]), rounded = steps[3] - steps[2];
-        const int more = std::min(static_cast<int>((limit - position) / rounded) - 2, frames);
-        if (more < 1) continue;
-        position += more * rounded;
-        frames -= more;
-    }
-    return position;
-}
 
 } // namespace
 
@@ -112,7 +77,10 @@ void TapeClock::Run(const double* speeds, int frames, TapePlace* places)
 
 void TapeClock::RunSilent(double speed, int frames)
 {
-    position = Moved(position, Kept(speed), frames);
+    while (frames > 0) {
+        frames -= StepBelowOne(position, Kept(speed), frames);
+        if (position >= 1.0) position -= 1.0;
+    }
     StartBehind(position);
 }
 
