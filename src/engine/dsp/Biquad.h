@@ -42,37 +42,20 @@ inline FilterCoefficients HighPassCoefficients(float frequencyHz, float q, float
 }
 
 /// y = b0 x + b1 x1 + b2 x2 − a1 y1 − a2 y2, normalised by a0.
+template <class S>
 struct BandCoefficients {
-    float b0, b1, b2, a1, a2;
+    S b0, b1, b2, a1, a2;
 };
 
 /// kSections sections in series. Each takes its past input from the past output of the one before, which is the same
 /// number. S is float or a vector of floats; every lane of the vector form gives the bits of the float form.
 template <class S, int kSections>
 struct BiquadChain {
-    /// All sections with the same coefficients.
-    template <bool highPass>
-    S Step(S x, const FilterCoefficients& c)
-    {
-        return Run(x, [&c](int, S in, S x1, S x2, S y1, S y2) {
-            const S sum = highPass ? in - 2.0f * x1 + x2 : in + 2.0f * x1 + x2;
-            return c.b * sum - c.a1 * y1 - c.a2 * y2;
-        });
-    }
+    S past[kSections + 1], beforePast[kSections + 1]; // input, then the output of each section
 
-    S Step(S x, const BandCoefficients* bands)
-    {
-        return Run(x, [bands](int n, S in, S x1, S x2, S y1, S y2) {
-            const BandCoefficients& c = bands[n];
-            return c.b0 * in + c.b1 * x1 + c.b2 * x2 - c.a1 * y1 - c.a2 * y2;
-        });
-    }
-
-    S past[kSections + 1]{}, beforePast[kSections + 1]{}; // input, then the output of each section
-
-private:
+    /// section  number of the section, its x, x1, x2, y1, y2 to its y
     template <class Section>
-    S Run(S x, Section section)
+    [[gnu::always_inline]] S Step(S x, Section section)
     {
         S in = Flushed(x);
         for (int n = 0; n < kSections; ++n) {
@@ -85,6 +68,23 @@ private:
         past[kSections] = x;
         return x;
     }
+};
+
+inline constexpr float kLowPassMiddle = 2.0f, kHighPassMiddle = -2.0f; // factors of x1
+
+/// Equal sections of FilterCoefficients.
+template <class S, int kSections>
+struct FilterChain {
+    BiquadChain<S, kSections> chain;
+    S b, a1, a2, middle;
+
+    [[gnu::always_inline]] S Step(S in)
+    {
+        return chain.Step(
+            in, [this](int, S x, S x1, S x2, S y1, S y2) { return b * (x + middle * x1 + x2) - a1 * y1 - a2 * y2; });
+    }
+
+    void Set(const FilterCoefficients& c, float newMiddle) { b = c.b, a1 = c.a1, a2 = c.a2, middle = newMiddle; }
 };
 
 } // namespace korvane

@@ -1,7 +1,6 @@
-// Decimator: hold period, hold, lowpass.
+// Decimator: hold period and lowpass.
 #include "engine/fx/Decimator.h"
 
-#include "engine/fx/Crossfade.h"
 #include "engine/fx/Tone.h"
 #include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
@@ -10,29 +9,18 @@ namespace korvane {
 
 void Decimator::Reset()
 {
-    held = Stereo{};
-    heldFrames = 0;
-    tone = {};
+    for (auto& side : sides) {
+        side.lowpass.chain = {};
+        side.held = side.left = 0.0f;
+    }
 }
 
-void Decimator::Process(UnitControls& unit, const StereoBlock& block)
+const float* Decimator::Prepare(UnitControls& unit, int frames)
 {
-    const int period = law::CrushFrames(Clamp(1.0f + unit.BlockLfo(block.frames) - unit.x, 0.0f, 1.0f));
-    const FilterCoefficients c = ToneCoefficients(unit.y, unit.sampleRate);
-    auto lowpass = tone;
-    Stereo sample = held;
-    int countdown = heldFrames;
-    Crossfade(unit, block, [&](Stereo dry) {
-        if (countdown > 0) --countdown;
-        if (countdown == 0) {
-            sample = dry;
-            countdown = period;
-        }
-        return lowpass.Step<false>(sample, c);
-    });
-    tone = lowpass;
-    held = sample;
-    heldFrames = countdown;
+    const int period = law::CrushFrames(Clamp(1.0f + unit.BlockLfo(frames) - unit.x, 0.0f, 1.0f));
+    for (auto& side : sides) side.period = static_cast<float>(period);
+    if (toneInputs.Moved({unit.y, unit.sampleRate})) SetTone(sides, unit.y, unit.sampleRate);
+    return nullptr;
 }
 
 } // namespace korvane

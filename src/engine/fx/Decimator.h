@@ -1,22 +1,20 @@
 // Sample-and-hold decimator into a lowpass.
 #pragma once
 
-#include "engine/dsp/Biquad.h"
-#include "engine/fx/Effect.h"
+#include "engine/fx/SidesEffect.h"
 
 namespace korvane {
 
-/// Takes a frame and holds it for a period, then one second-order section; crossfaded.
 /// x  crush, coarsest at 0, moved by the LFO once per block    y  lowpass
-class Decimator final : public Effect {
+class Decimator final : public SidesEffect<DecimatorSide, &Kernels::decimate> {
 public:
     void Reset() override;
-    void Process(UnitControls& unit, const StereoBlock& block) override;
+
+protected:
+    const float* Prepare(UnitControls& unit, int frames) override;
 
 private:
-    Stereo held{};
-    int heldFrames = 0; // left before the next frame is taken
-    BiquadChain<Stereo, 1> tone;
+    LastInputs<2> toneInputs;
 };
 
 } // namespace korvane

@@ -1,26 +1,26 @@
-// Distortion: drive, clipper, lowpass.
+// Distortion: drive and lowpass.
 #include "engine/fx/Distortion.h"
 
-#include "engine/fx/Crossfade.h"
 #include "engine/fx/Tone.h"
 #include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
 
-void Distortion::Reset() { tone = {}; }
-
-void Distortion::Process(UnitControls& unit, const StereoBlock& block)
+void Distortion::Reset()
 {
-    const float k = law::Drive(Clamp(unit.x + unit.BlockLfo(block.frames), 0.0f, 1.0f));
-    const float makeUp = law::DriveMakeUp(k);
-    const FilterCoefficients c = ToneCoefficients(unit.y, unit.sampleRate);
-    auto lowpass = tone;
-    Crossfade(unit, block, [&](Stereo dry) {
-        const Stereo clipped = dry / (Magnitude(dry) * k + 1.0f) * makeUp;
-        return lowpass.Step<false>(clipped, c);
-    });
-    tone = lowpass;
+    for (auto& side : sides) side.lowpass.chain = {};
+}
+
+const float* Distortion::Prepare(UnitControls& unit, int frames)
+{
+    const float k = law::Drive(Clamp(unit.x + unit.BlockLfo(frames), 0.0f, 1.0f));
+    for (auto& side : sides) {
+        side.drive = k;
+        side.makeUp = law::DriveMakeUp(k);
+    }
+    if (toneInputs.Moved({unit.y, unit.sampleRate})) SetTone(sides, unit.y, unit.sampleRate);
+    return nullptr;
 }
 
 } // namespace korvane

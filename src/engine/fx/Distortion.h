@@ -1,20 +1,20 @@
 // Soft clipper into a lowpass.
 #pragma once
 
-#include "engine/dsp/Biquad.h"
-#include "engine/fx/Effect.h"
+#include "engine/fx/SidesEffect.h"
 
 namespace korvane {
 
-/// s ÷ (|s| k + 1), made up for and followed by one second-order section; crossfaded.
 /// x  drive, moved by the LFO once per block    y  lowpass
-class Distortion final : public Effect {
+class Distortion final : public SidesEffect<DistortionSide, &Kernels::distort> {
 public:
     void Reset() override;
-    void Process(UnitControls& unit, const StereoBlock& block) override;
+
+protected:
+    const float* Prepare(UnitControls& unit, int frames) override;
 
 private:
-    BiquadChain<Stereo, 1> tone;
+    LastInputs<2> toneInputs;
 };
 
 } // namespace korvane

@@ -1,4 +1,4 @@
-// Equaliser: band table, coefficients and the run of five sections.
+// Equaliser: band table, coefficients, and which equalisers have something to do.
 #include "engine/fx/Equaliser.h"
 
 #include <algorithm>
@@ -6,8 +6,10 @@
 #include <cstddef>
 #include <numbers>
 
-#include "engine/fx/Tail.h"
+#include "engine/dsp/Silence.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
+#include "framework/Limits.h"
 #include "platform/Numbers.h"
 
 namespace korvane {
@@ -32,14 +34,22 @@ constexpr std::array<Band, kEqBands> kBands {{
 }};
 // clang-format on
 
-BandCoefficients Normalised(float b0, float b1, float b2, float a0, float a1, float a2)
+BandCoefficients<float> Normalised(float b0, float b1, float b2, float a0, float a1, float a2)
 {
     return {Flushed(b0 / a0), Flushed(b1 / a0), Flushed(b2 / a0), Flushed(a1 / a0), Flushed(a2 / a0)};
 }
 
+bool IsZero(float value) { return value == 0.0f; }
+
+bool Silent(const StereoBlock& block)
+{
+    return std::all_of(block.left, block.left + block.frames, IsZero) &&
+           std::all_of(block.right, block.right + block.frames, IsZero);
+}
+
 } // namespace
 
-BandCoefficients EqualiserBand(int band, float gain, float rate)
+BandCoefficients<float> EqualiserBand(int band, float gain, float rate)
 {
     const Band& row = kBands[static_cast<std::size_t>(band)];
     const float w = Clamp(2.0f * std::numbers::pi_v<float> * row.frequencyHz / rate, 0.0f, 3.0f);
@@ -64,29 +74,39 @@ BandCoefficients EqualiserBand(int band, float gain, float rate)
 
 void Equaliser::SetBand(int band, float gain, float rate)
 {
-    coefficients[static_cast<std::size_t>(band)] = EqualiserBand(band, gain, rate);
+    for (auto& side : sides) side.bands[band] = EqualiserBand(band, gain, rate);
 }
 
-void Equaliser::Process(float* left, float* right, int frames)
+void Equaliser::Clear()
 {
-    const auto isZero = [](float sample) { return sample == 0.0f; };
-    if (Silent() && std::all_of(left, left + frames, isZero) && std::all_of(right, right + frames, isZero)) return;
-    auto bands = states;
-    for (int n = 0; n < frames; ++n) {
-        StoreFrame(bands.Step(LoadFrame(left, right, n), coefficients.data()), left, right, n);
-    }
-    states = bands;
+    for (auto& side : sides) side.chain = {};
 }
 
-void Equaliser::Clear() { states = {}; }
+void Equaliser::ProcessAll(std::span<const EqualiserRun> runs)
+{
+    std::array<SidesJob<EqualiserSide>, kChannels> jobs{};
+    int count = 0;
+    for (const auto& [equaliser, block] : runs) {
+        if (equaliser->Silent() && korvane::Silent(block)) continue;
+        jobs[static_cast<std::size_t>(count++)] = {block.left, block.right, equaliser->sides.data(), nullptr};
+    }
+    if (count > 0) kernels.equalise(jobs.data(), count, runs.front().block.frames);
+}
 
-bool Equaliser::Ringing() const { return std::any_of(std::begin(states.past) + 1, std::end(states.past), CanBeHeard); }
+bool Equaliser::Ringing() const
+{
+    const auto rings = [](const EqualiserSide<float>& side) {
+        const auto& past = side.chain.past;
+        return std::any_of(std::begin(past) + 1, std::end(past), [](float y) { return Magnitude(y) > kSilence; });
+    };
+    return rings(sides[0]) || rings(sides[1]);
+}
 
 bool Equaliser::Silent() const
 {
-    const auto isZero = [](Stereo value) { return value[0] == 0.0f && value[1] == 0.0f; };
-    return std::all_of(std::begin(states.past), std::end(states.past), isZero) &&
-           std::all_of(std::begin(states.beforePast), std::end(states.beforePast), isZero);
+    return std::ranges::all_of(sides, [](const EqualiserSide<float>& side) {
+        return std::ranges::all_of(side.chain.past, IsZero) && std::ranges::all_of(side.chain.beforePast, IsZero);
+    });
 }
 
 } // namespace korvane

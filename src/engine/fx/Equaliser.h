@@ -2,13 +2,20 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
+#include <span>
 
-#include "engine/dsp/Biquad.h"
+#include "engine/fx/Effect.h"
+#include "engine/kernels/Equaliser.h"
 
 namespace korvane {
 
-inline constexpr int kEqBands = 5; // 80 Hz low shelf, peaks at 220, 1200 and 6000 Hz, 12 kHz high shelf
+class Equaliser;
+
+/// An equaliser and its channel's block.
+struct EqualiserRun {
+    Equaliser* equaliser;
+    StereoBlock block;
+};
 
 /// Shelf and peaking sections of R. Bristow-Johnson's "Cookbook formulae for audio equalizer biquad filter
 /// coefficients", in series on both sides. Audio thread; allocates nothing.
@@ -16,8 +23,10 @@ class Equaliser {
 public:
     /// gain  0..1: −12..12 dB
     void SetBand(int band, float gain, float rate);
-    void Process(float* left, float* right, int frames);
     void Clear();
+
+    /// Equalisers of several channels, in place; blocks are equally long.
+    static void ProcessAll(std::span<const EqualiserRun> runs);
 
     /// Something above −80 dB is still in the filters.
     bool Ringing() const;
@@ -25,11 +34,10 @@ public:
 private:
     bool Silent() const;
 
-    std::array<BandCoefficients, kEqBands> coefficients{};
-    BiquadChain<Stereo, kEqBands> states;
+    alignas(64) std::array<EqualiserSide<float>, 2> sides{}; // left, right; the bands are equal
 };
 
 /// Coefficients of one band; pure.
-BandCoefficients EqualiserBand(int band, float gain, float rate);
+BandCoefficients<float> EqualiserBand(int band, float gain, float rate);
 
 } // namespace korvane

@@ -97,6 +97,15 @@ void ProcessUnits(std::span<const UnitRun> runs, float tempo)
         if (unit.audible) effects[count++] = {unit.effect.get(), &unit, run.block};
     }
     if (count > 0) effects[0].effect->ProcessAll({effects.data(), count});
+    std::array<EqualiserRun, kChannels> equalisers;
+    count = 0;
+    for (std::size_t n = 0; n < begunCount; ++n) {
+        FXUnit& unit = *begun[n]->unit;
+        if (!unit.Equalises()) continue;
+        unit.UpdateBands();
+        equalisers[count++] = {unit.eqBands.get(), begun[n]->block};
+    }
+    Equaliser::ProcessAll({equalisers.data(), count});
     for (std::size_t n = 0; n < begunCount; ++n) begun[n]->unit->Finish(begun[n]->block);
 }
 
@@ -114,21 +123,19 @@ bool FXUnit::Begin(float tempo)
 
 void FXUnit::Finish(const StereoBlock& block)
 {
-    if (eqBands && eqOn) Equalise(block);
+    if (Equalises() && eqBands->Ringing()) audible = 1;
     if ((audible || eqOn) && !(AllSound(block.left, block.frames) && AllSound(block.right, block.frames)))
         Silence(block);
     mix = Flushed(mix);
 }
 
-void FXUnit::Equalise(const StereoBlock& block)
+void FXUnit::UpdateBands()
 {
     for (int band = 0; band < kEqBands; ++band) {
         auto& changed = eqChanged[static_cast<std::size_t>(band)];
         if (changed) eqBands->SetBand(band, eqGains[static_cast<std::size_t>(band)], sampleRate);
         changed = 0;
     }
-    eqBands->Process(block.left, block.right, block.frames);
-    if (eqBands->Ringing()) audible = 1;
 }
 
 /// A bad number has reached the output: the block is muted and everything that remembers it is cleared.

@@ -78,7 +78,8 @@ private:
     bool Usable() const;
     bool Begin(float tempo);
     void Finish(const StereoBlock& block);
-    void Equalise(const StereoBlock& block);
+    bool Equalises() const { return eqBands && eqOn; }
+    void UpdateBands();
     void Silence(const StereoBlock& block);
 
     const std::unique_ptr<Effect> effect;

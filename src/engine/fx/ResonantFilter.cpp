@@ -1,7 +1,6 @@
-// Resonant filters: frequency and quality, four sections.
+// Resonant filters: frequency and quality.
 #include "engine/fx/ResonantFilter.h"
 
-#include "engine/fx/Crossfade.h"
 #include "framework/KnobLaws.h"
 #include "platform/Numbers.h"
 
@@ -10,19 +9,19 @@ namespace korvane {
 template <bool highPass>
 void ResonantFilter<highPass>::Reset()
 {
-    sections = {};
+    for (auto& side : this->sides) side.sections.chain = {};
 }
 
 template <bool highPass>
-void ResonantFilter<highPass>::Process(UnitControls& unit, const StereoBlock& block)
+const float* ResonantFilter<highPass>::Prepare(UnitControls& unit, int frames)
 {
-    const float d = Clamp(unit.x + unit.BlockLfo(block.frames), 0.0f, 1.0f);
+    const float d = Clamp(unit.x + unit.BlockLfo(frames), 0.0f, 1.0f);
+    if (!inputs.Moved({d, unit.y, unit.sampleRate})) return nullptr;
     const float q = law::FilterQ(unit.y);
     const FilterCoefficients c = highPass ? HighPassCoefficients(law::HighPassHz(d), q, unit.sampleRate)
                                           : LowPassCoefficients(law::LowPassHz(d), q, unit.sampleRate);
-    auto stages = sections;
-    Crossfade(unit, block, [&](Stereo dry) { return stages.template Step<highPass>(dry, c); });
-    sections = stages;
+    for (auto& side : this->sides) side.sections.Set(c, highPass ? kHighPassMiddle : kLowPassMiddle);
+    return nullptr;
 }
 
 template class ResonantFilter<false>;

@@ -1,23 +1,21 @@
 // Resonant lowpass and highpass.
 #pragma once
 
-#include "engine/dsp/Biquad.h"
-#include "engine/fx/Effect.h"
+#include "engine/fx/SidesEffect.h"
 
 namespace korvane {
 
-/// Four equal second-order sections in series; crossfaded.
 /// x  frequency, moved by the LFO once per block    y  resonance
 template <bool highPass>
-class ResonantFilter final : public Effect {
+class ResonantFilter final : public SidesEffect<ResonantSide, &Kernels::filterSides> {
 public:
     void Reset() override;
-    void Process(UnitControls& unit, const StereoBlock& block) override;
+
+protected:
+    const float* Prepare(UnitControls& unit, int frames) override;
 
 private:
-    static constexpr int kSections = 4;
-
-    BiquadChain<Stereo, kSections> sections;
+    LastInputs<3> inputs;
 };
 
 using LowPassFilter = ResonantFilter<false>;

@@ -6,10 +6,12 @@
 
 namespace korvane {
 
-inline FilterCoefficients ToneCoefficients(float y, float rate)
+/// y  0..1    rate  Hz
+template <class Sides>
+void SetTone(Sides& sides, float y, float rate)
 {
     constexpr float kQuality = 0.99f; // without a peak, by ear
-    return LowPassCoefficients(law::ToneHz(y), kQuality, rate);
+    for (auto& side : sides) side.lowpass.Set(LowPassCoefficients(law::ToneHz(y), kQuality, rate), kLowPassMiddle);
 }
 
 } // namespace korvane

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "engine/dsp/LfoShape.h"
+#include "engine/dsp/OnLevel.h"
 
 namespace korvane {
 
@@ -22,7 +23,7 @@ struct UnitControls {
     float mix = 0.0f;                   // smoothed on-level, 0..1; the effect moves it
     std::int32_t holdFrames = 0;        // frames of tail still to be produced after release; TailLeft counts them down
 
-    static constexpr float kOnStep = 0.01f; // of the way that mix goes per frame: 100 frames, by ear
+    static constexpr float kOnStep = korvane::kOnStep; // of the way that mix goes per frame
 
     /// Where mix goes.
     float Target() const { return bypass ? 0.0f : 1.0f; }

@@ -1,7 +1,12 @@
 // The inner loops of the engine, as each instruction set has them.
 #pragma once
 
+#include "engine/kernels/Decimator.h"
+#include "engine/kernels/Distortion.h"
+#include "engine/kernels/Equaliser.h"
 #include "engine/kernels/Isa.h"
+#include "engine/kernels/Phaser.h"
+#include "engine/kernels/ResonantFilter.h"
 #include "engine/kernels/VoiceFilter.h"
 
 namespace korvane {
@@ -10,6 +15,11 @@ namespace korvane {
 struct Kernels {
     int lanes; // floats side by side
     FilterVoicesKernel* filterVoices;
+    SidesKernel<DistortionSide>* distort;
+    SidesKernel<DecimatorSide>* decimate;
+    SidesKernel<PhaserSide>* phase;
+    SidesKernel<ResonantSide>* filterSides;
+    SidesKernel<EqualiserSide>* equalise;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

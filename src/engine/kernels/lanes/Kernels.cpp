@@ -6,11 +6,21 @@
 namespace korvane::KORVANE_ISA_SPACE {
 
 FilterVoicesKernel FilterVoices;
+SidesKernel<DistortionSide> Distort;
+SidesKernel<DecimatorSide> Decimate;
+SidesKernel<PhaserSide> Phase;
+SidesKernel<ResonantSide> FilterSides;
+SidesKernel<EqualiserSide> Equalise;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
     .lanes = kLanes,
     .filterVoices = FilterVoices,
+    .distort = Distort,
+    .decimate = Decimate,
+    .phase = Phase,
+    .filterSides = FilterSides,
+    .equalise = Equalise,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE

@@ -1,0 +1,71 @@
+// Cost of the effects that take the sides of channels side by side, per channel and frame.
+#include <benchmark/benchmark.h>
+
+#include <random>
+
+#include "engine/kernels/Kernels.h"
+#include "framework/Limits.h"
+
+using namespace korvane;
+
+namespace {
+
+constexpr int kMaxFrames = 128;
+
+template <template <class> class Side>
+struct Channels {
+    alignas(64) float signal[kChannels][2][kMaxRun], lfo[kMaxRun];
+    alignas(64) Side<float> sides[kChannels][2];
+    SidesJob<Side> jobs[kChannels];
+};
+
+/// Noise everywhere: settings are small enough that nothing grows.
+template <template <class> class Side>
+void Sides(benchmark::State& state, SidesKernel<Side>* kernel)
+{
+    const int channels = static_cast<int>(state.range(0)), frames = static_cast<int>(state.range(1));
+    static Channels<Side> all;
+    std::minstd_rand random(1);
+    const auto fill = [&](auto& target) {
+        float* const values = reinterpret_cast<float*>(&target);
+        for (std::size_t n = 0; n < sizeof target / sizeof(float); ++n)
+            values[n] = static_cast<float>(random()) / static_cast<float>(random.max()) * 0.2f - 0.1f;
+    };
+    fill(all.lfo);
+    fill(all.sides);
+    for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], all.sides[c], all.lfo};
+    for (auto _ : state) {
+        if (state.iterations() % 64 == 0) fill(all.signal);
+        kernel(all.jobs, channels, frames);
+        benchmark::DoNotOptimize(all.signal);
+    }
+    const double units = static_cast<double>(state.iterations()) * channels * frames;
+    state.counters["ns/unit"] =
+        benchmark::Counter(units / 1e9, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+
+template <template <class> class Side>
+void Register(const char* name, SidesKernel<Side>* Kernels::*kernel)
+{
+    const auto add = [&](const char* form, SidesKernel<Side>* function) {
+        const std::string title = std::string(name) + "/" + form;
+        for (const int channels : {1, 2, 4, 13})
+            benchmark::RegisterBenchmark(title.c_str(), Sides<Side>, function)->Args({channels, kMaxFrames});
+        benchmark::RegisterBenchmark(title.c_str(), Sides<Side>, function)->Args({kChannels, 1});
+    };
+    add("plain", RunSides<Side>);
+    constexpr const char* kNames[] = {"sse2", "avx2", "avx512"};
+    for (const Isa isa : kIsas)
+        if (Runs(isa)) add(kNames[static_cast<int>(isa)], KernelsOf(isa).*kernel);
+}
+
+const bool registered = [] {
+    Register("Distortion", &Kernels::distort);
+    Register("Decimator", &Kernels::decimate);
+    Register("ResonantFilter", &Kernels::filterSides);
+    Register("Phaser", &Kernels::phase);
+    Register("Equaliser", &Kernels::equalise);
+    return true;
+}();
+
+} // namespace

@@ -1,0 +1,65 @@
+// Effects whose kernel takes the sides of several channels side by side.
+#pragma once
+
+#include <array>
+
+#include "engine/fx/Effect.h"
+#include "engine/kernels/Kernels.h"
+#include "framework/Limits.h"
+
+namespace korvane {
+
+/// Keeps the sides of its channel and hands them to the kernel; what kind of effect it is prepares their settings.
+template <template <class> class Side, SidesKernel<Side>* Kernels::*kernel>
+class SidesEffect : public Effect {
+public:
+    void Process(UnitControls& unit, const StereoBlock& block) final
+    {
+        const EffectRun run{this, &unit, block};
+        ProcessAll({&run, 1});
+    }
+
+    void ProcessAll(std::span<const EffectRun> runs) final
+    {
+        std::array<SidesJob<Side>, kChannels> jobs{};
+        for (std::size_t n = 0; n < runs.size(); ++n) {
+            const auto& [effect, unit, block] = runs[n];
+            jobs[n] = static_cast<SidesEffect*>(effect)->Begun(*unit, block);
+        }
+        (kernels.*kernel)(jobs.data(), static_cast<int>(runs.size()), runs.front().block.frames);
+        for (const EffectRun& run : runs) run.unit->mix = static_cast<SidesEffect*>(run.effect)->sides[0].on.level;
+    }
+
+protected:
+    /// Settings of the sides for the coming block; moves the LFO on. The on-level is set already.
+    /// Returns the LFO of each frame where the kernel asks for it.
+    virtual const float* Prepare(UnitControls& unit, int frames) = 0;
+
+    alignas(64) std::array<Side<float>, 2> sides{}; // left, right; all settings are equal
+
+private:
+    SidesJob<Side> Begun(UnitControls& unit, const StereoBlock& block)
+    {
+        for (Side<float>& side : sides) side.on = {unit.mix, unit.Target()};
+        return {block.left, block.right, sides.data(), Prepare(unit, block.frames)};
+    }
+};
+
+/// The numbers that settings were computed from, so that they are computed only when one of them has moved.
+template <std::size_t count>
+class LastInputs {
+public:
+    /// Takes the inputs. The first time, and while one of them is NaN, they have moved.
+    bool Moved(const std::array<float, count>& now)
+    {
+        if (known && now == inputs) return false;
+        inputs = now;
+        return known = true;
+    }
+
+private:
+    std::array<float, count> inputs{};
+    bool known = false;
+};
+
+} // namespace korvane
