@@ -4,10 +4,12 @@
 #include "engine/kernels/Decimator.h"
 #include "engine/kernels/Distortion.h"
 #include "engine/kernels/Equaliser.h"
+#include "engine/kernels/Amplitude.h"
 #include "engine/kernels/Isa.h"
 #include "engine/kernels/Phaser.h"
 #include "engine/kernels/ResonantFilter.h"
 #include "engine/kernels/VoiceFilter.h"
+#include "engine/kernels/VoiceMotion.h"
 
 namespace korvane {
 
@@ -20,6 +22,8 @@ struct Kernels {
     SidesKernel<PhaserSide>* phase;
     SidesKernel<ResonantSide>* filterSides;
     SidesKernel<EqualiserSide>* equalise;
+    ModulateVoicesKernel* modulateVoices;
+    ShapeVoicesKernel* shapeVoices;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

@@ -19,12 +19,9 @@ struct EnvelopeRoute {
     int destination = 0; // 0..3
 };
 
-/// Values of each frame of a run that all voices of the channel share.
+/// What all voices of the channel share of each frame of a run.
 struct ChannelFrames {
-    alignas(64) float cutoff[kMaxRun];
-    alignas(64) float modAmount[kMaxRun];
-    alignas(64) float lfo1[kMaxRun];
-    alignas(64) float lfo2[kMaxRun];
+    alignas(64) float sines[kLfos][kMaxRun]; // of the LFOs, where they are sines that act on something
 };
 
 /// A channel as its voices see it: parameters, samples, live inputs, modulation. Owned by GrooveChannel; audio thread

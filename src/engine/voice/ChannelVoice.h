@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <memory>
 
-#include "engine/voice/Envelope.h"
+#include "engine/kernels/VoiceMotion.h"
 #include "engine/voice/LayerFilters.h"
 #include "engine/voice/Seam.h"
 #include "engine/voice/SynthKernel.h"
@@ -32,9 +32,9 @@ struct SamplerLayer {
     Seam seam;
 };
 
-/// One of the six voices of a channel: what the note is, its envelopes and sources, and its render buffers. Audio
-/// thread only.
-struct ChannelVoice {
+/// One of the six voices of a channel: what the note is, its envelopes, gain, glide and sources, and its render
+/// buffers. Audio thread only.
+struct ChannelVoice : VoiceMotion<float> {
     std::uint32_t age = 0; // stamp from the channel's voiceCounter
     bool active = false;
     bool releasing = false;
@@ -46,15 +46,8 @@ struct ChannelVoice {
     float velocity = 0.0f;         // 0..1
     std::int32_t lengthFrames = 0; // frames until the note is released
 
-    Envelope amp; // keeps its level when a note takes the voice over
-    float ampReleaseRate = 0.0f;
-    Envelope env1, env2;
-    float gain = -1.0f, gainTarget = 1.0f; // gain -1: takes the target at first use
-    float glidePitch = 0.0f;               // sounding pitch in semitones, on its way to pitchNote
-    float cutoffOffset = 0.0f;             // added to the channel's cutoff
     float resonance = 0.0f;
-    float lfo1Out = 0.0f, lfo2Out = 0.0f; // of the last frame
-    float filterState[2][4] = {};         // left, right; four stages
+    float filterState[2][4] = {}; // left, right; four stages
 
     SamplerLayer layers[kLayers];
     UnisonPhases phases[kUnison] = {};
@@ -67,7 +60,7 @@ struct ChannelVoice {
     alignas(64) float cutoffFrames[kMaxRun];
     alignas(64) float gainFrames[kMaxRun];
     alignas(64) float ampFrames[kMaxRun];
-    alignas(64) float modAmountFrames[kMaxRun]; // of the synth's oscillator modulation
+    alignas(64) float modAmountFrames[kMaxRun]; // where oscillator 2 modulates oscillator 1
 };
 
 using ChannelVoices = std::array<std::unique_ptr<ChannelVoice>, kVoices>; // of one channel

@@ -1,42 +1,20 @@
 // LFO shapes and rates.
 #include "engine/voice/Lfo.h"
 
-#include <algorithm>
 #include <cmath>
-#include <numbers>
 
+#include "engine/kernels/VoiceMotion.h"
 #include "framework/ChannelSlots.h"
 #include "framework/KnobLaws.h"
 
 namespace korvane {
 
-namespace {
-
-template <class Shape>
-void RunShape(Lfo& lfo, float* values, int frames, Shape shape)
+void Lfo::FillSines(float* values, int frames) const
 {
-    float phase = lfo.phase;
+    float p = phase;
     for (int n = 0; n < frames; ++n) {
-        values[n] = shape(phase) * lfo.amount;
-        phase += lfo.increment;
-        phase -= std::floor(phase);
-    }
-    lfo.phase = phase;
-}
-
-} // namespace
-
-void Lfo::Run(float* values, int frames)
-{
-    if (amount == 0.0f) return RunShape(*this, values, frames, [](float) { return 0.0f; });
-    switch (shape) {
-    case LfoShape::Sine:
-        return RunShape(*this, values, frames, [](float p) { return std::sin(2.0f * std::numbers::pi_v<float> * p); });
-    case LfoShape::Triangle:
-        return RunShape(*this, values, frames, [](float p) { return 2.0f * p <= 1.0f ? 2.0f * p : 2.0f - 2.0f * p; });
-    case LfoShape::Ramp: return RunShape(*this, values, frames, [](float p) { return 1.0f - p; });
-    case LfoShape::Square: return RunShape(*this, values, frames, [](float p) { return p < 0.5f ? 1.0f : 0.0f; });
-    default: std::fill_n(values, frames, 0.0f);
+        values[n] = LfoSine(p);
+        p = Fraction(p + increment);
     }
 }
 

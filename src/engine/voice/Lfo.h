@@ -22,8 +22,8 @@ struct Lfo {
     float amount = 0.0f;             // signed depth
     int destination = 0;             // 0..3, anything else acts on nothing
 
-    /// Writes the next `frames` values, scaled by the amount, and moves the phase on.
-    void Run(float* values, int frames);
+    /// Writes the sines of the next `frames` phases; the LFO stays where it is.
+    void FillSines(float* values, int frames) const;
 };
 
 /// Cycles per second, >= 0 and finite.

@@ -2,10 +2,10 @@
 #include "engine/voice/Modulation.h"
 
 #include <algorithm>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 
+#include "engine/kernels/Kernels.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/SynthVoice.h"
 #include "engine/voice/VoiceLife.h"
@@ -17,7 +17,6 @@ namespace korvane {
 
 namespace {
 
-constexpr float kSmoothing = 0.01f;         // of cutoff, modulation amount and gain, fraction per frame; by ear
 constexpr float kEnvelopeSemitones = 24.0f; // of an envelope at full level and amount
 
 void SetUpLfo(const ChannelSound& channel, Lfo& lfo, int number, float tempo)
@@ -39,15 +38,7 @@ void SetUpRouting(const ChannelSound& channel, int number, EnvelopeRoute& envelo
     lfo.amount = law::Depth(value(slot::LfoAmount), value(slot::LfoInvert) != 0.0f);
 }
 
-/// How much of each modulator reaches one destination; an unrouted one has factor 0.
-struct Mix {
-    float env1, env2, lfo1, lfo2;
-
-    float AddTo(float base, float env1Level, float env2Level, float lfo1Out, float lfo2Out) const
-    {
-        return base + env1 * env1Level + env2 * env2Level + lfo1 * lfo1Out + lfo2 * lfo2Out;
-    }
-};
+using Mix = MixOf<float>;
 
 Mix MixFor(const ChannelSound& channel, int destination)
 {
@@ -57,108 +48,106 @@ Mix MixFor(const ChannelSound& channel, int destination)
             channel.lfo2.destination == destination ? 1.0f : 0.0f};
 }
 
-struct Levels {
-    alignas(64) float amp[kMaxRun], env1[kMaxRun], env2[kMaxRun];
-};
-
-/// Frames `from` to `to` - 1 of the recurrences.
-void RunLevels(ChannelVoice& voice, float glideRate, Levels& levels, int from, int to)
+/// An LFO beyond the shapes stands still at 0. Increments from kFastest on all give phase 0.
+void DescribeLfo(const Lfo& lfo, int l, const EnvelopeRoute& envelope, ChannelMotion<float>& motion)
 {
-    Envelope amp = voice.amp, env1 = voice.env1, env2 = voice.env2;
-    float gain = voice.gain, glidePitch = voice.glidePitch;
-    const float gainTarget = voice.gainTarget, pitchNote = static_cast<float>(voice.pitchNote);
-    for (int n = from; n < to; ++n) {
-        glidePitch += (pitchNote - glidePitch) * glideRate;
-        env1.Step();
-        env2.Step();
-        amp.Step();
-        gain += (gainTarget - gain) * kSmoothing;
-        levels.env1[n] = env1.level;
-        levels.env2[n] = env2.level;
-        levels.amp[n] = amp.level;
-        voice.gainFrames[n] = gain;
-    }
-    voice.amp = amp;
-    voice.env1 = env1;
-    voice.env2 = env2;
-    voice.gain = gain;
-    voice.glidePitch = glidePitch;
+    constexpr float kFastest = 0x1p24f, kNoShape = -1.0f;
+    const bool known = lfo.shape >= LfoShape::Sine && lfo.shape <= LfoShape::Square;
+    const bool stands = lfo.amount != 0.0f && !known;
+    motion.phase[l] = lfo.phase;
+    motion.increment[l] = stands ? 0.0f : std::min(lfo.increment, kFastest);
+    motion.amount[l] = stands ? 0.0f : lfo.amount;
+    motion.shape[l] = lfo.amount != 0.0f && known ? static_cast<float>(lfo.shape) : kNoShape;
+    motion.scaled[l] = envelope.destination == destination::Depth ? 1.0f : 0.0f;
+    motion.toAmp[l] = lfo.destination == destination::Amplitude ? 1.0f : 0.0f;
 }
 
-/// An LFO as the voice hears it, its depth scaled by the envelope where that is routed to it.
-void ScaleLfo(const float* lfo, const float* envelope, bool scaled, float* out, int frames)
+ChannelMotion<float> MotionOf(const ChannelSound& channel)
 {
-    if (!scaled) {
-        std::copy_n(lfo, frames, out);
-        return;
-    }
-    for (int n = 0; n < frames; ++n) out[n] = lfo[n] * envelope[n];
+    ChannelMotion<float> motion;
+    DescribeLfo(channel.lfo1, 0, channel.env1, motion);
+    DescribeLfo(channel.lfo2, 1, channel.env2, motion);
+    motion.cutoff = channel.cutoffSmooth;
+    motion.modAmount = channel.modAmountSmooth;
+    motion.cutoffBase = channel.cutoffBase;
+    motion.modTarget = channel.modTarget;
+    motion.glideRate = channel.glideRate;
+    motion.toCutoff = MixFor(channel, destination::Cutoff);
+    motion.toModAmount = MixFor(channel, destination::ModAmount);
+    return motion;
 }
 
-/// Fills the channel's frames.
-void RunChannelModulation(ChannelSound& channel, int frames)
+bool NeedsModAmount(const ChannelSound& channel)
 {
-    ChannelFrames& shared = channel.frames;
-    const float cutoffBase = channel.cutoffBase, modTarget = channel.modTarget;
-    float cutoff = channel.cutoffSmooth, modAmount = channel.modAmountSmooth;
-    for (int n = 0; n < frames; ++n) {
-        cutoff += (cutoffBase - cutoff) * kSmoothing;
-        modAmount += (modTarget - modAmount) * kSmoothing;
-        shared.cutoff[n] = cutoff;
-        shared.modAmount[n] = modAmount;
-    }
-    channel.cutoffSmooth = cutoff;
-    channel.modAmountSmooth = modAmount;
-    channel.lfo1.Run(shared.lfo1, frames);
-    channel.lfo2.Run(shared.lfo2, frames);
+    return !channel.isSampler && channel.synth.mix.modulation != OscillatorModulation::Sync;
 }
 
-void RunVoiceModulation(const ChannelSound& channel, ChannelVoices& voices, ChannelVoice& voice, int frames)
+/// One that an envelope scales counts even at amount 0: levels that leave all bounds make a NaN of it.
+bool Acts(const ChannelSound& channel, const Lfo& lfo, const EnvelopeRoute& envelope)
 {
-    const ChannelFrames& shared = channel.frames;
-    const float glideRate = channel.glideRate;
-    Levels levels;
-    int sounding = 0; // frames before the release
-    if (!voice.releasing) {
-        sounding = std::min(frames, std::max(voice.lengthFrames, 1));
-        RunLevels(voice, glideRate, levels, 0, sounding);
-        voice.lengthFrames -= sounding;
-        if (voice.lengthFrames < 1 && sounding > 0) ReleaseNote(voices, voice.note);
-    }
-    RunLevels(voice, glideRate, levels, sounding, frames);
-    if (frames < 1) return;
-
-    alignas(64) float lfo1[kMaxRun], lfo2[kMaxRun];
-    ScaleLfo(shared.lfo1, levels.env1, channel.env1.destination == destination::Depth, lfo1, frames);
-    ScaleLfo(shared.lfo2, levels.env2, channel.env2.destination == destination::Depth, lfo2, frames);
-    voice.lfo1Out = lfo1[frames - 1];
-    voice.lfo2Out = lfo2[frames - 1];
-
-    const Mix toCutoff = MixFor(channel, destination::Cutoff), toModAmount = MixFor(channel, destination::ModAmount),
-              toAmp = MixFor(channel, destination::Amplitude);
-    const float cutoffOffset = voice.cutoffOffset;
-    for (int n = 0; n < frames; ++n) {
-        const float env1 = levels.env1[n], env2 = levels.env2[n];
-        voice.cutoffFrames[n] = toCutoff.AddTo(shared.cutoff[n] + cutoffOffset, env1, env2, lfo1[n], lfo2[n]);
-        voice.modAmountFrames[n] = toModAmount.AddTo(shared.modAmount[n], env1, env2, lfo1[n], lfo2[n]);
-        const float amp = levels.amp[n] * levels.amp[n] + toAmp.lfo1 * lfo1[n] + toAmp.lfo2 * lfo2[n];
-        voice.ampFrames[n] = amp > 0.0f ? amp : 0.0f;
-    }
+    if (envelope.destination == destination::Depth) return true;
+    if (lfo.amount == 0.0f) return false;
+    return lfo.destination == destination::Cutoff || lfo.destination == destination::Amplitude ||
+           (lfo.destination == destination::ModAmount && NeedsModAmount(channel));
 }
 
-void ApplyAmplitude(ChannelVoice& voice, int frames)
+/// What the channel's jobs have in common.
+MotionJob DescribeChannel(ChannelSound& channel, ChannelMotion<float>& motion, int frames)
 {
-    const float* const amp = voice.ampFrames;
-    std::int32_t largest = 0;
-    const auto magnitude = [](float x) { return std::bit_cast<std::int32_t>(x) & 0x7fffffff; };
-    for (int n = 0; n < frames; ++n) {
-        voice.left[n] *= amp[n];
-        voice.right[n] *= amp[n];
-        largest = std::max(largest, std::max(magnitude(voice.left[n]), magnitude(voice.right[n])));
+    motion = MotionOf(channel);
+    MotionJob job = {};
+    job.channel = &motion;
+    job.release = kNeverReleased;
+    const Lfo* const lfos[kLfos] = {&channel.lfo1, &channel.lfo2};
+    const EnvelopeRoute* const envelopes[kLfos] = {&channel.env1, &channel.env2};
+    for (int l = 0; l < kLfos; ++l) {
+        if (!Acts(channel, *lfos[l], *envelopes[l])) continue;
+        job.lfosAct = true;
+        if (motion.shape[l] != static_cast<float>(LfoShape::Sine)) continue;
+        lfos[l]->FillSines(channel.frames.sines[l], frames);
+        job.sines[l] = channel.frames.sines[l];
     }
-    if (largest < magnitude(HUGE_VALF)) return;
-    std::fill_n(voice.left, frames, 0.0f);
-    std::fill_n(voice.right, frames, 0.0f);
+    return job;
+}
+
+void TakeOver(ChannelSound& channel, const ChannelMotion<float>& moved)
+{
+    channel.lfo1.phase = moved.phase[0];
+    channel.lfo2.phase = moved.phase[1];
+    channel.cutoffSmooth = moved.cutoff;
+    channel.modAmountSmooth = moved.modAmount;
+}
+
+MotionJob DescribeVoice(const MotionJob& channel, bool needsModAmount, ChannelVoice& voice)
+{
+    MotionJob job = channel;
+    job.voice = &voice;
+    job.cutoff = voice.cutoffFrames;
+    job.gain = voice.gainFrames;
+    job.amp = voice.ampFrames;
+    job.modAmount = needsModAmount ? voice.modAmountFrames : nullptr;
+    voice.glideTarget = static_cast<float>(voice.pitchNote);
+    return job;
+}
+
+/// Counts the note of voice v down. Those before it have been counted already, those behind it not yet.
+void CountDown(SoundingVoices sounding, std::size_t v, MotionJob* jobs, int frames)
+{
+    const ChannelVoice& ending = *sounding[v].voice;
+    if (ending.releasing) return;
+    const int sounds = std::min(frames, std::max(ending.lengthFrames, 1));
+    sounding[v].voice->lengthFrames -= sounds;
+    if (ending.lengthFrames >= 1) return;
+    const auto released = [&](std::size_t other) {
+        return sounding[other].channel == sounding[v].channel && sounding[other].voice->note == ending.note;
+    };
+    for (std::size_t other = 0; other <= v; ++other) {
+        if (!released(other)) continue;
+        sounding[other].voice->releasing = true;
+        jobs[other].release = other == v ? sounds : frames;
+    }
+    for (std::size_t other = v + 1; other < sounding.size(); ++other)
+        if (released(other)) ReleaseVoice(*sounding[other].voice);
 }
 
 } // namespace
@@ -188,17 +177,36 @@ void SetUpVoices(ChannelSound& channel)
 
 void ModulateVoices(SoundingVoices sounding, int frames)
 {
-    const ChannelSound* last = nullptr;
-    for (const auto& [channel, voices, voice] : sounding) {
-        if (channel != last) RunChannelModulation(*channel, frames);
-        last = channel;
-        RunVoiceModulation(*channel, *voices, *voice, frames);
+    if (frames < 1 || sounding.empty()) return;
+    ChannelMotion<float> channels[kChannels], moved[kChannels];
+    MotionJob jobs[kChannels * kVoices];
+    ChannelSound* sounds[kChannels];
+    int count = 0;
+    bool needsModAmount = false;
+    MotionJob shared = {};
+    for (std::size_t v = 0; v < sounding.size(); ++v) {
+        ChannelSound* const channel = sounding[v].channel;
+        if (count == 0 || channel != sounds[count - 1]) {
+            shared = DescribeChannel(*channel, channels[count], frames);
+            shared.moved = &moved[count];
+            needsModAmount = NeedsModAmount(*channel);
+            sounds[count++] = channel;
+        }
+        jobs[v] = DescribeVoice(shared, needsModAmount, *sounding[v].voice);
+        CountDown(sounding, v, jobs, frames);
     }
+    kernels.modulateVoices(jobs, static_cast<int>(sounding.size()), frames);
+    for (int c = 0; c < count; ++c) TakeOver(*sounds[c], moved[c]);
 }
 
 void ShapeVoices(SoundingVoices sounding, int frames)
 {
-    for (const SoundingVoice& each : sounding) ApplyAmplitude(*each.voice, frames);
+    if (sounding.empty()) return;
+    AmplitudeJob jobs[kChannels * kVoices];
+    int count = 0;
+    for (const SoundingVoice& each : sounding)
+        jobs[count++] = {each.voice->left, each.voice->right, each.voice->ampFrames};
+    kernels.shapeVoices(jobs, count, frames);
 }
 
 float PitchModulation(const ChannelSound& channel, const ChannelVoice& voice, float lfoSemitones)

@@ -35,9 +35,9 @@ void StartEnvelopes(ChannelSound& channel, ChannelVoice& voice)
     voice.amp.sustain = value(slot::AmpSustain);
     voice.ampReleaseRate = rate(law::AmpReleaseSeconds(value(slot::AmpRelease)));
 
-    Envelope* const envelopes[] = {&voice.env1, &voice.env2};
+    Envelope<float>* const envelopes[] = {&voice.env1, &voice.env2};
     for (int e = 0; e < 2; ++e) {
-        Envelope& envelope = *envelopes[e];
+        Envelope<float>& envelope = *envelopes[e];
         envelope.level = 0.0f;
         envelope.Attack(rate(law::EnvelopeAttackSeconds(value(slot::EnvelopeAttack + e))));
         envelope.decayRate = rate(law::EnvelopeDecaySeconds(value(slot::EnvelopeDecay + e)));

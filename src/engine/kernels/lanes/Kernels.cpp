@@ -11,6 +11,8 @@ SidesKernel<DecimatorSide> Decimate;
 SidesKernel<PhaserSide> Phase;
 SidesKernel<ResonantSide> FilterSides;
 SidesKernel<EqualiserSide> Equalise;
+ModulateVoicesKernel ModulateVoices;
+ShapeVoicesKernel ShapeVoices;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
@@ -21,6 +23,8 @@ constinit const Kernels kKernels = {
     .phase = Phase,
     .filterSides = FilterSides,
     .equalise = Equalise,
+    .modulateVoices = ModulateVoices,
+    .shapeVoices = ShapeVoices,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE
