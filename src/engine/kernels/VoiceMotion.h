@@ -160,7 +160,7 @@ struct MotionJob {
 
 /// Moves voices through a run. Rows are overwritten up to the next multiple of 16 frames. Audio thread.
 /// count   0..kChannels * kVoices
-/// frames  0..kMaxRun
+/// frames  1..kMaxRun
 using ModulateVoicesKernel = void(const MotionJob* jobs, int count, int frames);
 
 /// The plain form.

@@ -230,7 +230,6 @@ void RunGroup(const MotionJob* const* jobs, int count, int frames)
 
 void ModulateVoices(const MotionJob* jobs, int count, int frames)
 {
-    if (frames < 1) return;
     const MotionJob* ordered[kMaxJobs]; // those with LFOs apart
     int placed = 0;
     for (const bool act : {true, false})
