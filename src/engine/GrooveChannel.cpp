@@ -27,8 +27,9 @@ void FillPhases(ChannelVoice& voice, RandomGenerator& random)
         for (int skipped = 0; skipped < 31; ++skipped) random.Next();
         return drawn;
     };
-    for (UnisonPhases& phases : voice.phases)
-        for (std::uint32_t* phase : {&phases.osc1, &phases.sync, &phases.osc2, &phases.osc3}) *phase = word();
+    UnisonPhases& phases = voice.phases;
+    for (int u = 0; u < kUnison; ++u)
+        for (std::uint32_t* phase : {phases.osc1, phases.sync, phases.osc2, phases.osc3}) phase[u] = word();
 }
 
 } // namespace

@@ -10,7 +10,7 @@
 #include "engine/mix/MixerStrip.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/ChannelVoice.h"
-#include "engine/voice/RandomGenerator.h"
+#include "engine/dsp/RandomGenerator.h"
 #include "engine/voice/VoiceLife.h"
 #include "framework/Limits.h"
 #include "platform/Shared.h"

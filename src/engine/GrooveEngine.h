@@ -15,7 +15,7 @@
 #include "engine/sequencer/Recorder.h"
 #include "engine/sequencer/Score.h"
 #include "engine/sequencer/Selection.h"
-#include "engine/voice/RandomGenerator.h"
+#include "engine/dsp/RandomGenerator.h"
 #include "framework/Limits.h"
 #include "platform/Shared.h"
 

@@ -7,7 +7,6 @@
 #include "content/SamplePool.h"
 #include "engine/ChannelStages.h"
 #include "engine/kernels/VoiceFilter.h"
-#include "engine/voice/SynthKernel.h"
 #include "framework/ParameterTable.h"
 
 using namespace korvane;

@@ -8,6 +8,7 @@
 #include "engine/kernels/Isa.h"
 #include "engine/kernels/Phaser.h"
 #include "engine/kernels/ResonantFilter.h"
+#include "engine/kernels/Unison.h"
 #include "engine/kernels/VoiceFilter.h"
 #include "engine/kernels/VoiceMotion.h"
 
@@ -24,6 +25,7 @@ struct Kernels {
     SidesKernel<EqualiserSide>* equalise;
     ModulateVoicesKernel* modulateVoices;
     ShapeVoicesKernel* shapeVoices;
+    RenderUnisonKernel* renderUnison;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

@@ -6,7 +6,7 @@
 #include "content/SamplePool.h"
 #include "content/SampleSlot.h"
 #include "engine/voice/Lfo.h"
-#include "engine/voice/RandomGenerator.h"
+#include "engine/dsp/RandomGenerator.h"
 #include "engine/voice/SynthVoice.h"
 #include "framework/Limits.h"
 #include "platform/Shared.h"

@@ -5,10 +5,10 @@
 #include <cstdint>
 #include <memory>
 
+#include "engine/kernels/Unison.h"
 #include "engine/kernels/VoiceMotion.h"
 #include "engine/voice/LayerFilters.h"
 #include "engine/voice/Seam.h"
-#include "engine/voice/SynthKernel.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -50,7 +50,7 @@ struct ChannelVoice : VoiceMotion<float> {
     float filterState[2][4] = {}; // left, right; four stages
 
     SamplerLayer layers[kLayers];
-    UnisonPhases phases[kUnison] = {};
+    UnisonPhases phases = {};
     UnisonTuning tuning; // of the run
     Seam seam;           // of the oscillators
 

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/kernels/Kernels.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "framework/ChannelSlots.h"
@@ -30,6 +31,7 @@ void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
                                                 b * (1.0f - z), z};
     const float stereo = value(slot::UnisonStereo);
     const int count = mix.unisonCount;
+    std::fill(mix.heard + 1, mix.heard + kOscillatorsAndNoise, false);
     const float norm = kSourceScale / (static_cast<float>(count - 1) * kLoudnessOfOne + 1.0f);
     for (int u = 0; u < count; ++u) {
         const float sign = u == 0 && count % 2 == 1 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
@@ -37,6 +39,7 @@ void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
         for (int source = 0; source < kOscillatorsAndNoise; ++source) {
             mix.gainLeft[source][u] = levels[source] * left * norm;
             mix.gainRight[source][u] = levels[source] * right * norm;
+            mix.heard[source] |= mix.gainLeft[source][u] != 0.0f || mix.gainRight[source][u] != 0.0f;
         }
     }
 }
@@ -60,8 +63,8 @@ void RestartPhases(RandomGenerator& random, ChannelVoice& voice, const UnisonTun
 {
     for (int u = 0; u < unisonCount; ++u) {
         const std::uint32_t frames = (random.Next() + 1u) % kRestartFrames;
-        voice.phases[u].osc1 = tuning.increments[0][u] * frames;
-        voice.phases[u].osc2 = tuning.increments[1][u] * frames;
+        voice.phases.osc1[u] = tuning.increments[0][u] * frames;
+        voice.phases.osc2[u] = tuning.increments[1][u] * frames;
     }
     voice.restartPhases = false;
 }
@@ -101,8 +104,9 @@ void StartOscillators(ChannelSound& channel, ChannelVoice& voice)
     }
     const float spread = channel.Modulated(slot::UnisonPhase);
     for (int u = 0; u < kUnison; ++u) {
-        const std::uint32_t phase = PhaseOf(4.0f * static_cast<float>(u) * spread);
-        voice.phases[u] = {phase, phase, phase, phase};
+        UnisonPhases& phases = voice.phases;
+        phases.osc1[u] = phases.sync[u] = phases.osc2[u] = phases.osc3[u] =
+            PhaseOf(4.0f * static_cast<float>(u) * spread);
     }
     voice.restartPhases = false;
 }
@@ -139,8 +143,8 @@ void RenderSynths(SoundingVoices sounding, int frames)
         if (channel->isSampler) continue;
         const UnisonMix& mix = channel->synth.mix;
         if (voice->restartPhases) RestartPhases(channel->random, *voice, voice->tuning, mix.unisonCount);
-        RenderUnison(mix, voice->tuning, voice->modAmountFrames, voice->phases, channel->random, voice->left,
-                     voice->right, frames);
+        kernels.renderUnison({&mix, &voice->tuning, voice->modAmountFrames, &voice->phases, voice->left, voice->right},
+                             channel->random, frames);
         voice->seam.Join(voice->left, voice->right, frames);
     }
 }

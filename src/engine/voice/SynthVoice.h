@@ -1,8 +1,8 @@
 // The synth channel's source: three table oscillators and noise, stacked for unison.
 #pragma once
 
+#include "engine/kernels/Unison.h"
 #include "engine/voice/SoundingVoice.h"
-#include "engine/voice/SynthKernel.h"
 
 namespace korvane {
 

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "engine/voice/SynthKernel.h"
+#include "engine/kernels/Unison.h"
 #include "factory/words/ChannelWords.h"
 
 namespace korvane::factory::synth {

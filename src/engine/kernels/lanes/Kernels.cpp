@@ -13,6 +13,7 @@ SidesKernel<ResonantSide> FilterSides;
 SidesKernel<EqualiserSide> Equalise;
 ModulateVoicesKernel ModulateVoices;
 ShapeVoicesKernel ShapeVoices;
+RenderUnisonKernel RenderUnison;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
@@ -25,6 +26,7 @@ constinit const Kernels kKernels = {
     .equalise = Equalise,
     .modulateVoices = ModulateVoices,
     .shapeVoices = ShapeVoices,
+    .renderUnison = RenderUnison,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE

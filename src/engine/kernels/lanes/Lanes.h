@@ -1,6 +1,8 @@
 // Vectors as wide as the instruction set that a kernel is compiled for.
 #pragma once
 
+#include <immintrin.h>
+
 #include <cstdint>
 #include <cstring>
 
@@ -47,6 +49,29 @@ template <class V, class T>
     constexpr float kFlushBelow = 1e-9f;
     const Ints keep = Magnitude(value) >= kFlushBelow;
     return reinterpret_cast<Floats>(reinterpret_cast<Ints>(value) & keep);
+}
+
+/// Lane n's sign in bit n.
+template <class V>
+[[gnu::always_inline]] inline unsigned Bits(const V& mask)
+{
+    if constexpr (sizeof mask == 64)
+        return _mm512_movepi32_mask((__m512i)mask);
+    else if constexpr (sizeof mask == 32)
+        return static_cast<unsigned>(_mm256_movemask_ps((__m256)mask));
+    else
+        return static_cast<unsigned>(_mm_movemask_ps((__m128)mask));
+}
+
+/// Lane n is the table's number at index n.
+template <class V>
+[[gnu::always_inline]] inline Floats Gather(const float* table, const V& index)
+{
+    if constexpr (sizeof index == 64)
+        return (Floats)_mm512_mask_i32gather_ps(__m512{}, 0xffff, (__m512i)index, table, 4);
+    Floats values{};
+    for (int lane = 0; lane < kLanes; ++lane) values[lane] = table[index[lane]];
+    return values;
 }
 
 } // namespace korvane::KORVANE_ISA_SPACE
