@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <cstring>
+#include <utility>
 
 // The build compiles everything in this folder once for each instruction set, in a namespace of its own. What several
 // files of the folder share lies in that namespace or is always inlined: otherwise the linker would keep one of the
@@ -63,15 +64,20 @@ template <class V>
         return static_cast<unsigned>(_mm_movemask_ps((__m128)mask));
 }
 
+template <class V, int... lane>
+[[gnu::always_inline]] inline Floats ReadAll(const float* table, const V& index, std::integer_sequence<int, lane...>)
+{
+    return Floats{table[index[lane]]...};
+}
+
 /// Lane n is the table's number at index n.
 template <class V>
 [[gnu::always_inline]] inline Floats Gather(const float* table, const V& index)
 {
     if constexpr (sizeof index == 64)
         return (Floats)_mm512_mask_i32gather_ps(__m512{}, 0xffff, (__m512i)index, table, 4);
-    Floats values{};
-    for (int lane = 0; lane < kLanes; ++lane) values[lane] = table[index[lane]];
-    return values;
+    else
+        return ReadAll(table, index, std::make_integer_sequence<int, kLanes>());
 }
 
 } // namespace korvane::KORVANE_ISA_SPACE

@@ -133,14 +133,17 @@ struct Sources {
     std::uint32_t osc1 = phases.osc1[u], sync = phases.sync[u];
     const Words ramp1 = kRamp * step1;
     Words read = osc1 + ramp1;
-    const Words behind = sync + stepSync + kRamp * stepSync; // the reference behind each frame
-    for (unsigned wraps = Bits(behind < stepSync) & ((1u << frames) - 1u); wraps != 0; wraps &= wraps - 1u) {
-        const auto frame = static_cast<unsigned>(__builtin_ctz(wraps));
-        osc1 = sync + (frame + 1u) * stepSync - frame * step1; // where it would have begun
-        read = kRamp > frame ? osc1 + ramp1 : read;
+    const std::uint64_t end = sync + std::uint64_t{stepSync} * static_cast<unsigned>(frames);
+    if (end >> 32 != 0) {
+        const Words behind = sync + stepSync + kRamp * stepSync; // the reference behind each frame
+        for (unsigned wraps = Bits(behind < stepSync) & ((1u << frames) - 1u); wraps != 0; wraps &= wraps - 1u) {
+            const auto frame = static_cast<unsigned>(__builtin_ctz(wraps));
+            osc1 = sync + (frame + 1u) * stepSync - frame * step1; // where it would have begun
+            read = kRamp > frame ? osc1 + ramp1 : read;
+        }
     }
     phases.osc1[u] = osc1 + static_cast<unsigned>(frames) * step1;
-    phases.sync[u] = sync + static_cast<unsigned>(frames) * stepSync;
+    phases.sync[u] = static_cast<std::uint32_t>(end);
     return read;
 }
 
