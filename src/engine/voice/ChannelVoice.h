@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <limits>
 #include <memory>
 
 #include "engine/kernels/Unison.h"
@@ -32,6 +33,16 @@ struct SamplerLayer {
     Seam seam;
 };
 
+inline constexpr float kNotYet = std::numeric_limits<float>::quiet_NaN(); // equals nothing
+
+/// What the oscillators were last tuned to, so that nothing is computed again for a note that holds its pitch.
+struct OscillatorPitch {
+    float note = kNotYet, hertz = 0.0f;                            // in semitones
+    float syncHertz = kNotYet;                                     // of the reference
+    float oscillators[kOscillators] = {kNotYet, kNotYet, kNotYet}; // in Hz
+    std::uint32_t detunes = 0;                                     // of SynthSettings
+};
+
 /// One of the six voices of a channel: what the note is, its envelopes, gain, glide and sources, and its render
 /// buffers. Audio thread only.
 struct ChannelVoice : VoiceMotion<float> {
@@ -52,7 +63,8 @@ struct ChannelVoice : VoiceMotion<float> {
     SamplerLayer layers[kLayers];
     UnisonPhases phases = {};
     UnisonTuning tuning; // of the run
-    Seam seam;           // of the oscillators
+    OscillatorPitch tunedTo;
+    Seam seam; // of the oscillators
 
     // Of the current run.
     alignas(64) float left[kMaxRun];

@@ -3,7 +3,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
+#include "engine/dsp/Vectors.h"
 #include "engine/kernels/Kernels.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
@@ -21,26 +23,44 @@ constexpr std::uint32_t kRestartFrames = 512; // a restarted phase lies up to so
 constexpr float kLoudnessOfOne = 0.15f;       // what each further unison voice counts of the first; by ear
 constexpr float kSyncSpan = 3.0f;             // full modulation raises oscillator 1 by so many times its frequency
 constexpr float kLfoSemitones = 12.0f;        // of an LFO at 1
+constexpr int kFewFrames = 5;                 // of unison voices: sooner rendered than set up side by side
 
-void SetUpMix(const ChannelSound& channel, UnisonMix& mix)
+MixKnobs ReadMixKnobs(const ChannelSound& channel, int unisonCount)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
     const auto share = [&](int index) { return law::MixShare(value(index)); };
-    const float a = share(slot::MixOsc2), b = share(slot::MixOsc3), z = share(slot::NoiseMix);
+    return {share(slot::MixOsc2), share(slot::MixOsc3), share(slot::NoiseMix), value(slot::UnisonStereo), unisonCount};
+}
+
+void SetUpMix(const MixKnobs& knobs, UnisonMix& mix)
+{
+    const float a = knobs.share2, b = knobs.share3, z = knobs.shareNoise;
     const float levels[kOscillatorsAndNoise] = {(1.0f - a) * (1.0f - b) * (1.0f - z), a * (1.0f - b) * (1.0f - z),
                                                 b * (1.0f - z), z};
-    const float stereo = value(slot::UnisonStereo);
-    const int count = mix.unisonCount;
+    const int count = knobs.unisonCount;
     std::fill(mix.heard + 1, mix.heard + kOscillatorsAndNoise, false);
     const float norm = kSourceScale / (static_cast<float>(count - 1) * kLoudnessOfOne + 1.0f);
     for (int u = 0; u < count; ++u) {
         const float sign = u == 0 && count % 2 == 1 ? 0.0f : u % 2 == 0 ? 1.0f : -1.0f;
-        const float left = law::StereoLeft(sign * stereo), right = law::StereoRight(sign * stereo);
+        const float left = law::StereoLeft(sign * knobs.stereo), right = law::StereoRight(sign * knobs.stereo);
         for (int source = 0; source < kOscillatorsAndNoise; ++source) {
             mix.gainLeft[source][u] = levels[source] * left * norm;
             mix.gainRight[source][u] = levels[source] * right * norm;
             mix.heard[source] |= mix.gainLeft[source][u] != 0.0f || mix.gainRight[source][u] != 0.0f;
         }
+    }
+}
+
+void SetUpDetune(SynthSettings& settings, int count, float octaves, float rate)
+{
+    if (count == settings.mix.unisonCount && octaves == settings.octaves && rate == settings.rate) return;
+    settings.mix.unisonCount = count;
+    settings.octaves = octaves;
+    settings.rate = rate;
+    ++settings.detunes;
+    for (int u = 0; u < count; ++u) {
+        const float position = static_cast<float>(u) / static_cast<float>(count - 1) - 0.5f;
+        settings.detune[u] = count == 1 ? 1.0f : std::pow(2.0f, position * octaves);
     }
 }
 
@@ -50,12 +70,18 @@ int TableOf(float frequency, float rate)
     return Clamp(Truncate(rate / (2.0f * frequency)), 0, kRichestTable);
 }
 
-void FillIncrements(float frequency, float rate, const SynthSettings& settings, std::uint32_t* increments)
+/// tunedTo  the frequency that the increments have
+void FillIncrements(float frequency, const SynthSettings& settings, float& tunedTo, std::uint32_t* increments)
 {
-    const float limit = kHighestFrequency * rate;
-    for (int u = 0; u < settings.mix.unisonCount; ++u) {
-        const float cycles = std::min(frequency * settings.detune[u], limit) / rate;
-        increments[u] = static_cast<std::uint32_t>(Truncate(cycles * 0x1p32f));
+    if (frequency == tunedTo) return;
+    tunedTo = frequency;
+    const float limit = kHighestFrequency * settings.rate;
+    for (int u = 0; u < settings.mix.unisonCount; u += 4) {
+        const Float4 detuned = frequency * Load<Float4>(settings.detune + u);
+        const Float4 cycles = (limit < detuned ? Float4{} + limit : detuned) / settings.rate;
+        const Float4 steps = cycles * 0x1p32f; // below 2^31, by the limit
+        const Int4 whole = __builtin_convertvector(steps > 0.0f ? steps : Float4{}, Int4);
+        std::memcpy(increments + u, &whole, sizeof whole);
     }
 }
 
@@ -75,25 +101,25 @@ void SetUpSynth(const ChannelSound& channel, SynthSettings& settings)
 {
     const auto value = [&](int index) { return channel.Modulated(index); };
     const int count = Clamp(Truncate(law::UnisonVoices(value(slot::UnisonVoices))), 1, kUnison);
-    const float spread = law::UnisonOctaves(value(slot::UnisonDetune));
-    for (int u = 0; u < count; ++u) {
-        const float position = static_cast<float>(u) / static_cast<float>(count - 1) - 0.5f;
-        settings.detune[u] = count == 1 ? 1.0f : std::pow(2.0f, position * spread);
-    }
+    SetUpDetune(settings, count, law::UnisonOctaves(value(slot::UnisonDetune)), channel.rate);
     for (int osc = 0; osc < kOscillators; ++osc) {
-        const float semitones = static_cast<float>(law::OscillatorSemitones(value(slot::Osc1Pitch + 2 * osc)));
+        const float whole = static_cast<float>(law::OscillatorSemitones(value(slot::Osc1Pitch + 2 * osc)));
         const float cents = static_cast<float>(law::OscillatorCents(value(slot::Osc1Detune + 2 * osc)));
-        settings.ratios[osc] = law::PitchRatio(semitones + 0.01f * cents);
+        const float semitones = whole + 0.01f * cents;
+        if (semitones == settings.semitones[osc]) continue;
+        settings.semitones[osc] = semitones;
+        settings.ratios[osc] = law::PitchRatio(semitones);
     }
     settings.bendSemitones = static_cast<float>(law::BendSemitones(value(slot::BendRange)));
     settings.slides = value(slot::SlideEnable) != 0.0f;
 
     UnisonMix& mix = settings.mix;
-    mix.unisonCount = count;
     mix.modulation = static_cast<OscillatorModulation>(Clamp(Truncate(value(slot::ModKind)), 0, 2));
     mix.phaseOffset2 = PhaseOf(2.0f * value(slot::PhaseOffsetOsc2));
     mix.invert2 = value(slot::Osc2Invert) != 0.0f;
-    SetUpMix(channel, mix);
+    const MixKnobs knobs = ReadMixKnobs(channel, count);
+    if (!(knobs == settings.mixKnobs)) SetUpMix(knobs, mix);
+    settings.mixKnobs = knobs;
 }
 
 void StartOscillators(ChannelSound& channel, ChannelVoice& voice)
@@ -118,22 +144,24 @@ void TuneOscillators(ChannelSound& channel, ChannelVoice& voice)
     if (!settings.slides) voice.glidePitch = static_cast<float>(voice.pitchNote);
     const float pitch = voice.glidePitch + PitchModulation(channel, voice, kLfoSemitones) +
                         settings.bendSemitones * channel.pitchBendIn;
-    const float base = law::NoteHz(pitch);
-    const float rate = channel.rate;
+    OscillatorPitch& tunedTo = voice.tunedTo;
+    if (tunedTo.detunes != settings.detunes) tunedTo = {.detunes = settings.detunes};
+    if (pitch != tunedTo.note) tunedTo.hertz = law::NoteHz(pitch);
+    tunedTo.note = pitch;
 
     float frequencies[kOscillators];
-    for (int osc = 0; osc < kOscillators; ++osc) frequencies[osc] = base * settings.ratios[osc];
-    FillIncrements(frequencies[0], rate, settings, tuning.syncIncrements);
+    for (int osc = 0; osc < kOscillators; ++osc) frequencies[osc] = tunedTo.hertz * settings.ratios[osc];
+    FillIncrements(frequencies[0], settings, tunedTo.syncHertz, tuning.syncIncrements);
     if (settings.mix.modulation == OscillatorModulation::Sync) {
         const float amount = ModulatedAmount(channel, voice, channel.Modulated(slot::Modulation));
         frequencies[0] *= 1.0f + kSyncSpan * Clamp(amount, 0.0f, 1.0f);
     }
     for (int osc = 0; osc < kOscillators; ++osc) {
-        FillIncrements(frequencies[osc], rate, settings, tuning.increments[osc]);
+        FillIncrements(frequencies[osc], settings, tunedTo.oscillators[osc], tuning.increments[osc]);
         const PoolEntry* entry = channel.sampleSlots[static_cast<std::size_t>(osc)].Playing();
         const float* tables = entry ? entry->waveTables.get() : nullptr;
-        tuning.tables[osc] =
-            tables ? tables + kWaveTablePoints * TableOf(frequencies[osc], rate) : channel.samplePool.silentTable;
+        tuning.tables[osc] = tables ? tables + kWaveTablePoints * TableOf(frequencies[osc], settings.rate)
+                                    : channel.samplePool.silentTable;
     }
 }
 
@@ -143,8 +171,10 @@ void RenderSynths(SoundingVoices sounding, int frames)
         if (channel->isSampler) continue;
         const UnisonMix& mix = channel->synth.mix;
         if (voice->restartPhases) RestartPhases(channel->random, *voice, voice->tuning, mix.unisonCount);
-        kernels.renderUnison({&mix, &voice->tuning, voice->modAmountFrames, &voice->phases, voice->left, voice->right},
-                             channel->random, frames);
+        RenderUnisonKernel* const render =
+            frames * mix.unisonCount <= kFewFrames ? RenderUnisonPlainly : kernels.renderUnison;
+        render({&mix, &voice->tuning, voice->modAmountFrames, &voice->phases, voice->left, voice->right},
+               channel->random, frames);
         voice->seam.Join(voice->left, voice->right, frames);
     }
 }

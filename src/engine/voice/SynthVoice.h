@@ -8,13 +8,28 @@ namespace korvane {
 
 struct ChannelSound;
 
+/// What a mix was computed from.
+struct MixKnobs {
+    float share2 = kNotYet, share3 = kNotYet, shareNoise = kNotYet; // 0..1, each of what those before it leave
+    float stereo = kNotYet;
+    int unisonCount = 0;
+
+    bool operator==(const MixKnobs&) const = default;
+};
+
 /// What a run has in common for all voices of a synth channel.
 struct SynthSettings {
-    float ratios[kOscillators] = {}; // of the oscillators' frequencies to the note's
-    float detune[kUnison] = {};      // frequency factors of the unison voices
-    float bendSemitones = 0.0f;      // at full pitch bend
-    bool slides = false;             // pitch glides from the last note's
+    float ratios[kOscillators] = {};        // of the oscillators' frequencies to the note's
+    alignas(64) float detune[kUnison] = {}; // frequency factors of the unison voices
+    float bendSemitones = 0.0f;             // at full pitch bend
+    bool slides = false;                    // pitch glides from the last note's
     UnisonMix mix;
+
+    // What they were computed from.
+    float semitones[kOscillators] = {kNotYet, kNotYet, kNotYet};
+    float octaves = kNotYet, rate = kNotYet; // spread of the unison voices; sample rate in Hz
+    std::uint32_t detunes = 0;               // how often detune or the rate has changed
+    MixKnobs mixKnobs;
 };
 
 /// Reads the settings of the coming run.

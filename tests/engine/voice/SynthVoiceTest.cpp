@@ -172,5 +172,32 @@ TEST(SynthVoice, SpreadsUnisonInPitchAndStereo)
     }
 }
 
+// A note that holds its pitch is not tuned again, unless what its tuning came from has changed.
+TEST(SynthVoice, FollowsKnobsAndRateWithinANote)
+{
+    VoiceRig rig(false);
+    rig.Start({}, 57);
+    // clang-format off
+    const struct { const char* what; VoiceRig::Value knob; float rate; int u; double hertz, gain2; } cases[] = {
+        {"one voice",    {slot::UnisonVoices, 0},        44100, 0, 220,        0},
+        {"two voices",   {slot::UnisonVoices, 1.1f/15},  44100, 1, 220,        0},
+        {"detuned",      {slot::UnisonDetune, 0.5f},     44100, 1, 223.07106,  0},
+        {"other rate",   {slot::Pitch, 0.5f},            22050, 1, 223.07106,  0},
+        {"octave up",    {slot::Pitch, 0.75f},           22050, 1, 446.14212,  0},
+        {"oscillator",   {slot::Osc1Pitch, 1},           22050, 1, 3569.13696, 0},
+        {"other source", {slot::MixOsc2, 1},             22050, 0, 3471.5391,  0.005/1.15},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        rig.Set({c.knob});
+        rig.channel.sound.rate = c.rate;
+        rig.Play(4);
+        EXPECT_NEAR(rig.Last().tuning.increments[0][c.u] * 0x1p-32 * c.rate, c.hertz, 0.01);
+        EXPECT_NEAR(rig.channel.sound.synth.mix.gainLeft[1][0], c.gain2, 1e-6);
+        EXPECT_EQ(rig.channel.sound.synth.mix.heard[1], c.gain2 != 0);
+    }
+}
+
 } // namespace
 } // namespace korvane
