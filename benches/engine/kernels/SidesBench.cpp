@@ -1,7 +1,9 @@
 // Cost of the effects that take the sides of channels side by side, per channel and frame.
 #include <benchmark/benchmark.h>
 
+#include <cstring>
 #include <random>
+#include <string>
 
 #include "engine/kernels/Kernels.h"
 #include "framework/Limits.h"
@@ -14,8 +16,8 @@ constexpr int kMaxFrames = 128;
 
 template <template <class> class Side>
 struct Channels {
-    alignas(64) float signal[kChannels][2][kMaxRun], lfo[kMaxRun];
-    alignas(64) Side<float> sides[kChannels][2];
+    alignas(64) float noise[kChannels][2][kMaxFrames], signal[kChannels][2][kMaxFrames], lfo[kMaxFrames];
+    alignas(64) Side<Stereo> sides[kChannels];
     SidesJob<Side> jobs[kChannels];
 };
 
@@ -28,14 +30,15 @@ void Sides(benchmark::State& state, SidesKernel<Side>* kernel)
     std::minstd_rand random(1);
     const auto fill = [&](auto& target) {
         float* const values = reinterpret_cast<float*>(&target);
-        for (std::size_t n = 0; n < sizeof target / sizeof(float); ++n)
+        for (std::size_t n = 0, bytes = sizeof target; n < bytes / sizeof(float); ++n)
             values[n] = static_cast<float>(random()) / static_cast<float>(random.max()) * 0.2f - 0.1f;
     };
+    fill(all.noise);
     fill(all.lfo);
     fill(all.sides);
-    for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], all.sides[c], all.lfo};
+    for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], &all.sides[c], all.lfo};
     for (auto _ : state) {
-        if (state.iterations() % 64 == 0) fill(all.signal);
+        std::memcpy(all.signal, all.noise, sizeof all.signal[0] * static_cast<std::size_t>(frames == 1 ? 1 : channels));
         kernel(all.jobs, channels, frames);
         benchmark::DoNotOptimize(all.signal);
     }
@@ -53,7 +56,9 @@ void Register(const char* name, SidesKernel<Side>* Kernels::*kernel)
             benchmark::RegisterBenchmark(title.c_str(), Sides<Side>, function)->Args({channels, kMaxFrames});
         benchmark::RegisterBenchmark(title.c_str(), Sides<Side>, function)->Args({kChannels, 1});
     };
-    add("plain", RunSides<Side>);
+    add("plain", [](const SidesJob<Side>* jobs, int count, int frames) {
+        for (int n = 0; n < count; ++n) RunSides(jobs[n], frames);
+    });
     constexpr const char* kNames[] = {"sse2", "avx2", "avx512"};
     for (const Isa isa : kIsas)
         if (Runs(isa)) add(kNames[static_cast<int>(isa)], KernelsOf(isa).*kernel);

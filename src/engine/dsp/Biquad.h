@@ -84,7 +84,13 @@ struct FilterChain {
             in, [this](int, S x, S x1, S x2, S y1, S y2) { return b * (x + middle * x1 + x2) - a1 * y1 - a2 * y2; });
     }
 
-    void Set(const FilterCoefficients& c, float newMiddle) { b = c.b, a1 = c.a1, a2 = c.a2, middle = newMiddle; }
+    void Set(const FilterCoefficients& c, float newMiddle)
+    {
+        b = S{} + c.b;
+        a1 = S{} + c.a1;
+        a2 = S{} + c.a2;
+        middle = S{} + newMiddle;
+    }
 };
 
 } // namespace korvane

@@ -19,7 +19,7 @@ inline void StoreFrame(Stereo frame, float* left, float* right, int n)
 inline float Magnitude(float value) { return __builtin_fabsf(value); }
 
 template <class S>
-S Magnitude(S value)
+[[gnu::always_inline]] inline S Magnitude(S value)
 {
     using Bits = decltype(value < value);
     return reinterpret_cast<S>(reinterpret_cast<Bits>(value) & 0x7fffffff);
@@ -31,7 +31,7 @@ inline constexpr float kFlushBelow = 1e-9f;
 inline float Flushed(float value) { return Magnitude(value) >= kFlushBelow ? value : 0.0f; }
 
 template <class S>
-S Flushed(S value)
+[[gnu::always_inline]] inline S Flushed(S value)
 {
     const auto keep = Magnitude(value) >= kFlushBelow;
     return reinterpret_cast<S>(reinterpret_cast<decltype(value < value)>(value) & keep);

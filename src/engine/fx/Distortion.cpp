@@ -7,19 +7,14 @@
 
 namespace korvane {
 
-void Distortion::Reset()
-{
-    for (auto& side : sides) side.lowpass.chain = {};
-}
+void Distortion::Reset() { sides.lowpass.chain = {}; }
 
 const float* Distortion::Prepare(UnitControls& unit, int frames)
 {
     const float k = law::Drive(Clamp(unit.x + unit.BlockLfo(frames), 0.0f, 1.0f));
-    for (auto& side : sides) {
-        side.drive = k;
-        side.makeUp = law::DriveMakeUp(k);
-    }
-    if (toneInputs.Moved({unit.y, unit.sampleRate})) SetTone(sides, unit.y, unit.sampleRate);
+    sides.drive = Both(k);
+    sides.makeUp = Both(law::DriveMakeUp(k));
+    if (toneInputs.Moved({unit.y, unit.sampleRate})) SetTone(sides.lowpass, unit.y, unit.sampleRate);
     return nullptr;
 }
 

@@ -2,11 +2,12 @@
 #include "engine/fx/Equaliser.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
 
-#include "engine/dsp/Silence.h"
+#include "engine/fx/Tail.h"
 #include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
@@ -39,12 +40,11 @@ BandCoefficients<float> Normalised(float b0, float b1, float b2, float a0, float
     return {Flushed(b0 / a0), Flushed(b1 / a0), Flushed(b2 / a0), Flushed(a1 / a0), Flushed(a2 / a0)};
 }
 
-bool IsZero(float value) { return value == 0.0f; }
-
 bool Silent(const StereoBlock& block)
 {
-    return std::all_of(block.left, block.left + block.frames, IsZero) &&
-           std::all_of(block.right, block.right + block.frames, IsZero);
+    const auto isZero = [](float sample) { return sample == 0.0f; };
+    return std::all_of(block.left, block.left + block.frames, isZero) &&
+           std::all_of(block.right, block.right + block.frames, isZero);
 }
 
 } // namespace
@@ -74,13 +74,12 @@ BandCoefficients<float> EqualiserBand(int band, float gain, float rate)
 
 void Equaliser::SetBand(int band, float gain, float rate)
 {
-    for (auto& side : sides) side.bands[band] = EqualiserBand(band, gain, rate);
+    const BandCoefficients<float> c = EqualiserBand(band, gain, rate);
+    const auto both = [](float value) { return Stereo{value, value}; };
+    sides.bands[band] = {both(c.b0), both(c.b1), both(c.b2), both(c.a1), both(c.a2)};
 }
 
-void Equaliser::Clear()
-{
-    for (auto& side : sides) side.chain = {};
-}
+void Equaliser::Clear() { sides.chain = {}; }
 
 void Equaliser::ProcessAll(std::span<const EqualiserRun> runs)
 {
@@ -88,25 +87,21 @@ void Equaliser::ProcessAll(std::span<const EqualiserRun> runs)
     int count = 0;
     for (const auto& [equaliser, block] : runs) {
         if (equaliser->Silent() && korvane::Silent(block)) continue;
-        jobs[static_cast<std::size_t>(count++)] = {block.left, block.right, equaliser->sides.data(), nullptr};
+        jobs[static_cast<std::size_t>(count++)] = {block.left, block.right, &equaliser->sides, nullptr};
     }
     if (count > 0) kernels.equalise(jobs.data(), count, runs.front().block.frames);
 }
 
 bool Equaliser::Ringing() const
 {
-    const auto rings = [](const EqualiserSide<float>& side) {
-        const auto& past = side.chain.past;
-        return std::any_of(std::begin(past) + 1, std::end(past), [](float y) { return Magnitude(y) > kSilence; });
-    };
-    return rings(sides[0]) || rings(sides[1]);
+    const auto& past = sides.chain.past;
+    return std::any_of(std::begin(past) + 1, std::end(past), CanBeHeard);
 }
 
 bool Equaliser::Silent() const
 {
-    return std::ranges::all_of(sides, [](const EqualiserSide<float>& side) {
-        return std::ranges::all_of(side.chain.past, IsZero) && std::ranges::all_of(side.chain.beforePast, IsZero);
-    });
+    const auto isZero = [](Stereo value) { return value[0] == 0.0f && value[1] == 0.0f; };
+    return std::ranges::all_of(sides.chain.past, isZero) && std::ranges::all_of(sides.chain.beforePast, isZero);
 }
 
 } // namespace korvane

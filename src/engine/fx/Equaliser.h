@@ -1,7 +1,6 @@
 // Five-band equaliser of a channel.
 #pragma once
 
-#include <array>
 #include <span>
 
 #include "engine/fx/Effect.h"
@@ -34,7 +33,7 @@ public:
 private:
     bool Silent() const;
 
-    alignas(64) std::array<EqualiserSide<float>, 2> sides{}; // left, right; the bands are equal
+    alignas(64) EqualiserSide<Stereo> sides{};
 };
 
 /// Coefficients of one band; pure.

@@ -16,26 +16,20 @@ constexpr float kNoDepth = -1.0f;                         // takes the target at
 
 void Phaser::Reset()
 {
-    for (auto& side : sides) {
-        std::ranges::fill(side.stages, 0.0f);
-        side.last = 0.0f;
-        side.depth = kNoDepth;
-    }
+    std::ranges::fill(sides.stages, Stereo{});
+    sides.last = Stereo{};
+    sides.depth = Both(kNoDepth);
 }
 
 const float* Phaser::Prepare(UnitControls& unit, int frames)
 {
     if (inputs.Moved({unit.x, unit.y, unit.sampleRate})) {
-        const float feedback = law::PhaserFeedback(unit.y);
-        for (auto& side : sides) {
-            side.depthTarget = law::PhaserDepth(unit.x);
-            side.feedback = feedback;
-            side.lowest = kLowestHz / unit.sampleRate;
-            side.span = (kHighestHz - kLowestHz) / unit.sampleRate;
-        }
+        sides.depthTarget = Both(law::PhaserDepth(unit.x));
+        sides.feedback = Both(law::PhaserFeedback(unit.y));
+        sides.lowest = Both(kLowestHz / unit.sampleRate);
+        sides.span = Both((kHighestHz - kLowestHz) / unit.sampleRate);
     }
-    for (auto& side : sides)
-        if (side.depth < 0.0f) side.depth = side.depthTarget;
+    if (sides.depth[0] < 0.0f) sides.depth = sides.depthTarget;
     unit.FillLfo(lfo, frames);
     return lfo;
 }

@@ -9,7 +9,7 @@ namespace korvane {
 template <bool highPass>
 void ResonantFilter<highPass>::Reset()
 {
-    for (auto& side : this->sides) side.sections.chain = {};
+    this->sides.sections.chain = {};
 }
 
 template <bool highPass>
@@ -20,7 +20,7 @@ const float* ResonantFilter<highPass>::Prepare(UnitControls& unit, int frames)
     const float q = law::FilterQ(unit.y);
     const FilterCoefficients c = highPass ? HighPassCoefficients(law::HighPassHz(d), q, unit.sampleRate)
                                           : LowPassCoefficients(law::LowPassHz(d), q, unit.sampleRate);
-    for (auto& side : this->sides) side.sections.Set(c, highPass ? kHighPassMiddle : kLowPassMiddle);
+    this->sides.sections.Set(c, highPass ? kHighPassMiddle : kLowPassMiddle);
     return nullptr;
 }
 

@@ -9,7 +9,7 @@
 
 namespace korvane {
 
-/// Keeps the sides of its channel and hands them to the kernel; what kind of effect it is prepares their settings.
+/// Keeps the sides of its channel and hands them to the kernel; the kind of effect prepares their settings.
 template <template <class> class Side, SidesKernel<Side>* Kernels::*kernel>
 class SidesEffect : public Effect {
 public:
@@ -27,7 +27,7 @@ public:
             jobs[n] = static_cast<SidesEffect*>(effect)->Begun(*unit, block);
         }
         (kernels.*kernel)(jobs.data(), static_cast<int>(runs.size()), runs.front().block.frames);
-        for (const EffectRun& run : runs) run.unit->mix = static_cast<SidesEffect*>(run.effect)->sides[0].on.level;
+        for (const EffectRun& run : runs) run.unit->mix = static_cast<SidesEffect*>(run.effect)->sides.on.level[0];
     }
 
 protected:
@@ -35,13 +35,15 @@ protected:
     /// Returns the LFO of each frame where the kernel asks for it.
     virtual const float* Prepare(UnitControls& unit, int frames) = 0;
 
-    alignas(64) std::array<Side<float>, 2> sides{}; // left, right; all settings are equal
+    static Stereo Both(float value) { return Stereo{value, value}; }
+
+    alignas(64) Side<Stereo> sides{};
 
 private:
     SidesJob<Side> Begun(UnitControls& unit, const StereoBlock& block)
     {
-        for (Side<float>& side : sides) side.on = {unit.mix, unit.Target()};
-        return {block.left, block.right, sides.data(), Prepare(unit, block.frames)};
+        sides.on = {Both(unit.mix), Both(unit.Target())};
+        return {block.left, block.right, &sides, Prepare(unit, block.frames)};
     }
 };
 

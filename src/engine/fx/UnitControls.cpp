@@ -43,7 +43,7 @@ bool UnitControls::FadedOut() const { return bypass && mix < kSilence; }
 float UnitControls::BlockLfo(int frames)
 {
     float value = 0.0f;
-    RunLfo(&value, 1, 0.0);
+    if (lfoAmount != 0.0f) RunLfo(&value, 1, 0.0);
     lfoPhase = AdvancedPhase(frames);
     return value;
 }

@@ -11,9 +11,8 @@ inline constexpr int kEqBands = 5; // 80 Hz low shelf, peaks at 220, 1200 and 60
 template <class S>
 struct EqualiserSide {
     BiquadChain<S, kEqBands> chain;
-    S unused[4];
     BandCoefficients<S> bands[kEqBands];
-    S unusedToo[7];
+    S unused[3];
 
     [[gnu::always_inline]] S Step(S in)
     {

@@ -14,7 +14,8 @@ namespace {
 alignas(64) constexpr float kNoRow[kMaxRun] = {}; // of lanes that no channel has
 
 inline constexpr int kPiece = 32; // frames that are in lanes at a time
-inline constexpr int kMovedFloats = 16;
+inline constexpr int kMovedValues = 16;
+inline constexpr int kWorthPacking = 24; // frames of all channels
 
 /// kVectors vectors of sides: left and right of one channel, then of the next one.
 template <template <class> class Side, int kVectors>
@@ -44,22 +45,22 @@ template <class Row>
         if (lane < count) Store(lanes[lane], row(lane));
 }
 
-template <template <class> class Side>
-const float* SideRow(const SidesJob<Side>* jobs, int count, int side)
-{
-    static constexpr Side<float> kNoSide = {};
-    return reinterpret_cast<const float*>(side < 2 * count ? &jobs[side / 2].sides[side % 2] : &kNoSide);
-}
-
 template <template <class> class Side, int kVectors>
 void LoadSides(SideGroup<Side, kVectors>& group, const SidesJob<Side>* jobs, int count)
 {
-    static_assert(sizeof(Side<float>) % (kMovedFloats * sizeof(float)) == 0);
+    static const Side<Stereo> kNoSides = {};
+    static_assert(sizeof kNoSides % (8 * sizeof(Stereo)) == 0);
+    constexpr int kValues = sizeof kNoSides / sizeof(Stereo);
     for (int v = 0; v < kVectors; ++v)
-        for (std::size_t at = 0; at < sizeof(Side<float>) / sizeof(float); at += kLanes) {
-            Floats lanes[kLanes];
-            LoadRows(lanes, [&](int lane) { return SideRow(jobs, count, v * kLanes + lane) + at; });
-            std::memcpy(reinterpret_cast<Floats*>(&group.sides[v]) + at, lanes, sizeof lanes);
+        for (int at = 0; at < kValues; at += kDoubles) {
+            Doubles rows[kDoubles]; // of pairs, which change places together
+            for (int n = 0; n < kDoubles; ++n) {
+                const int channel = v * kDoubles + n;
+                const Side<Stereo>* const sides = channel < count ? jobs[channel].sides : &kNoSides;
+                rows[n] = Load<Doubles>(reinterpret_cast<const Stereo*>(sides) + at);
+            }
+            Transpose(rows);
+            std::memcpy(reinterpret_cast<Floats*>(&group.sides[v]) + at, rows, sizeof rows);
         }
 }
 
@@ -67,13 +68,12 @@ template <template <class> class Side, int kVectors>
 void StoreSides(const SideGroup<Side, kVectors>& group, const SidesJob<Side>* jobs, int count)
 {
     for (int v = 0; v < kVectors; ++v)
-        for (int at = 0; at < kMovedFloats; at += kLanes) {
-            Floats lanes[kLanes];
-            std::memcpy(lanes, reinterpret_cast<const Floats*>(&group.sides[v]) + at, sizeof lanes);
-            StoreRows(lanes, 2 * count - v * kLanes, [&](int lane) {
-                const int side = v * kLanes + lane;
-                return reinterpret_cast<float*>(&jobs[side / 2].sides[side % 2]) + at;
-            });
+        for (int at = 0; at < kMovedValues; at += kDoubles) {
+            Doubles rows[kDoubles];
+            std::memcpy(rows, reinterpret_cast<const Floats*>(&group.sides[v]) + at, sizeof rows);
+            Transpose(rows);
+            for (int n = 0; n < kDoubles && v * kDoubles + n < count; ++n)
+                Store(rows[n], reinterpret_cast<Stereo*>(jobs[v * kDoubles + n].sides) + at);
         }
 }
 
@@ -158,6 +158,10 @@ void RunGroup(const SidesJob<Side>* jobs, int count, int frames)
 template <template <class> class Side, int kMaxVectors>
 [[gnu::always_inline]] inline void RunInLanes(const SidesJob<Side>* jobs, int count, int frames)
 {
+    if (count == 1 || count * frames < kWorthPacking) {
+        for (int n = 0; n < count; ++n) RunSides<Side>(jobs[n], frames);
+        return;
+    }
     using GroupFunction = void(const SidesJob<Side>* jobs, int count, int frames);
     constexpr int kChannelsPerVector = kLanes / 2;
     const auto functions = []<int... vectors>(std::integer_sequence<int, vectors...>)

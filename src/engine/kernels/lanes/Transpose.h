@@ -7,6 +7,36 @@
 
 namespace korvane::KORVANE_ISA_SPACE {
 
+// Two vectors as one of twice the length, dealt out alternately: the lower half.
+template <class V, int... lane>
+[[gnu::always_inline]] inline V ZipLow(V a, V b, std::integer_sequence<int, lane...>)
+{
+    constexpr int kCount = sizeof...(lane);
+    return __builtin_shufflevector(a, b, (lane % 2 == 0 ? lane / 2 : kCount + lane / 2)...);
+}
+
+template <class V, int... lane>
+[[gnu::always_inline]] inline V ZipHigh(V a, V b, std::integer_sequence<int, lane...>)
+{
+    constexpr int kCount = sizeof...(lane), kHalf = kCount / 2;
+    return __builtin_shufflevector(a, b, (lane % 2 == 0 ? kHalf + lane / 2 : kCount + kHalf + lane / 2)...);
+}
+
+/// As many rows as a vector has lanes change places with columns.
+template <class V, int count>
+[[gnu::always_inline]] inline void Transpose(V (&rows)[count])
+{
+    constexpr auto kAll = std::make_integer_sequence<int, count>();
+    for (int step = 1; step < count; step *= 2) {
+        V next[count];
+        for (int n = 0; n < count / 2; ++n) {
+            next[2 * n] = ZipLow(rows[n], rows[n + count / 2], kAll);
+            next[2 * n + 1] = ZipHigh(rows[n], rows[n + count / 2], kAll);
+        }
+        for (int n = 0; n < count; ++n) rows[n] = next[n];
+    }
+}
+
 // Of each four lanes of a and b: the first two of both, dealt out alternately, or the last two.
 template <int first, int... lane>
 [[gnu::always_inline]] inline Floats Zip(Floats a, Floats b, std::integer_sequence<int, lane...>)
