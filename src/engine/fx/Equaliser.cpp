@@ -83,7 +83,7 @@ void Equaliser::Clear() { sides.chain = {}; }
 
 void Equaliser::ProcessAll(std::span<const EqualiserRun> runs)
 {
-    std::array<SidesJob<EqualiserSide>, kChannels> jobs{};
+    std::array<SidesJob<EqualiserSide>, kChannels> jobs;
     int count = 0;
     for (const auto& [equaliser, block] : runs) {
         if (equaliser->Silent() && korvane::Silent(block)) continue;

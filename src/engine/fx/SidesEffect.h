@@ -21,12 +21,13 @@ public:
 
     void ProcessAll(std::span<const EffectRun> runs) final
     {
-        std::array<SidesJob<Side>, kChannels> jobs{};
-        for (std::size_t n = 0; n < runs.size(); ++n) {
-            const auto& [effect, unit, block] = runs[n];
-            jobs[n] = static_cast<SidesEffect*>(effect)->Begun(*unit, block);
-        }
-        (kernels.*kernel)(jobs.data(), static_cast<int>(runs.size()), runs.front().block.frames);
+        std::array<SidesJob<Side>, kChannels> jobs;
+        std::size_t count = 0;
+        do { // there is at least one
+            const auto& [effect, unit, block] = runs[count];
+            jobs[count] = static_cast<SidesEffect*>(effect)->Begun(*unit, block);
+        } while (++count < runs.size());
+        (kernels.*kernel)(jobs.data(), static_cast<int>(count), runs.front().block.frames);
         for (const EffectRun& run : runs) run.unit->mix = static_cast<SidesEffect*>(run.effect)->sides.on.level[0];
     }
 
