@@ -3,11 +3,13 @@
 
 #include <algorithm>
 #include <array>
+#include <bitset>
 #include <cassert>
 
 #include "engine/ChannelStages.h"
 #include "engine/SequencerTick.h"
 #include "engine/Transport.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/ParameterTable.h"
 #include "platform/Numbers.h"
 
@@ -31,16 +33,26 @@ void RefreshChannels(GrooveEngine& engine)
     }
 }
 
-void MixStrip(GrooveEngine& engine, int c, bool audible, float* const* outputs, int frames)
+void MixChannels(GrooveEngine& engine, const std::bitset<kChannels>& audible, float* const* outputs, int frames)
 {
-    GrooveChannel& channel = engine.Channel(c);
     SamplePool& pool = *engine.samplePool;
-    channel.strip.Set(channel.sound.params[slot::MixLevel], channel.sound.params[slot::Panning]);
-    if (audible)
-        channel.strip.Mix(pool.ChannelLeft(c), pool.ChannelRight(c), frames,
-                          {outputs[0], outputs[1], outputs[2 + 2 * c], outputs[3 + 2 * c], c == 0});
-    else
-        channel.strip.Skip();
+    std::array<StripJob, kChannels> jobs;
+    std::array<MixerStrip*, kChannels> strips;
+    std::size_t count = 0;
+    for (int c = 0; c < kChannels; ++c) {
+        GrooveChannel& channel = engine.Channel(c);
+        MixerStrip& strip = channel.strip;
+        strip.Set(channel.sound.params[slot::MixLevel], channel.sound.params[slot::Panning]);
+        if (audible[static_cast<std::size_t>(c)]) {
+            jobs[count] =
+                strip.Job(pool.ChannelLeft(c), pool.ChannelRight(c), outputs[2 + 2 * c], outputs[3 + 2 * c], c == 0);
+            strips[count++] = &strip;
+        } else {
+            strip.Skip();
+        }
+    }
+    kernels.mixStrips(jobs.data(), static_cast<int>(count), outputs[0], outputs[1], frames);
+    for (std::size_t n = 0; n < count; ++n) strips[n]->Mixed(jobs[n]);
 }
 
 void RenderChannels(GrooveEngine& engine, float* const* outputs, int frames)
@@ -55,7 +67,7 @@ void RenderChannels(GrooveEngine& engine, float* const* outputs, int frames)
     RenderVoices(channels, frames);
     FilterChannels(channels, pool, frames);
     const auto audible = ProcessRacks(channels, pool, frames, engine.clock.tempo);
-    for (int c = 0; c < kChannels; ++c) MixStrip(engine, c, audible[static_cast<std::size_t>(c)], outputs, frames);
+    MixChannels(engine, audible, outputs, frames);
 }
 
 } // namespace
@@ -68,7 +80,9 @@ void RenderFrames(GrooveEngine& engine, float* const* outputs, int frames)
     engine.ServeVoices();
 
     std::array<float*, kOutputs> out;
-    for (int n = 0; n < kOutputs; ++n) out[n] = outputs[n] ? outputs[n] : engine.samplePool->Scratch(n & 1);
+    std::copy_n(outputs, kOutputs, out.begin());
+    for (int side = 0; side < 2; ++side)
+        if (!out[side]) out[side] = engine.samplePool->Scratch(side);
     if (frames < 1) return;
     std::fill_n(out[0], frames, 0.0f);
     std::fill_n(out[1], frames, 0.0f);
@@ -94,7 +108,8 @@ void RenderFrames(GrooveEngine& engine, float* const* outputs, int frames)
         RenderChannels(engine, out.data(), run);
         if (clock.Recording()) engine.mixer.click.Add(out[0], out[1], run);
         clock.Pass(run);
-        for (float*& pointer : out) pointer += run;
+        for (float*& pointer : out)
+            if (pointer) pointer += run;
         frames -= run;
     }
 }

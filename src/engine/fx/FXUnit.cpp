@@ -16,6 +16,7 @@
 #include "engine/fx/ResonantFilter.h"
 #include "engine/fx/ReverbSend.h"
 #include "engine/fx/Stutter.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -38,15 +39,6 @@ std::unique_ptr<Effect> EffectOf(FxType type)
     case FxType::Stutter: break;
     }
     return std::make_unique<Stutter>();
-}
-
-/// Numbers, and small enough that the mixer's gain and sum keep them so.
-bool AllSound(const float* samples, int frames)
-{
-    constexpr float kOverflow = 1.0e25f;
-    int bad = 0;
-    for (int n = 0; n < frames; ++n) bad |= !(std::fabs(samples[n]) < kOverflow);
-    return bad == 0;
 }
 
 } // namespace
@@ -124,8 +116,7 @@ bool FXUnit::Begin(float tempo)
 void FXUnit::Finish(const StereoBlock& block)
 {
     if (Equalises() && eqBands->Ringing()) audible = 1;
-    if ((audible || eqOn) && !(AllSound(block.left, block.frames) && AllSound(block.right, block.frames)))
-        Silence(block);
+    if ((audible || eqOn) && !kernels.allSound(block.left, block.right, block.frames)) Silence(block);
     mix = Flushed(mix);
 }
 

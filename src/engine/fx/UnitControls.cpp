@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 
 #include "engine/dsp/Silence.h"
+#include "engine/kernels/Kernels.h"
+#include "framework/Limits.h"
 
 namespace korvane {
 
@@ -15,9 +16,7 @@ namespace {
 template <LfoShape shape>
 float LfoValue(double p)
 {
-    if constexpr (shape == LfoShape::Sine)
-        return static_cast<float>(std::sin(2.0 * std::numbers::pi * p));
-    else if constexpr (shape == LfoShape::Triangle)
+    if constexpr (shape == LfoShape::Triangle)
         return static_cast<float>(2.0 * p <= 1.0 ? 2.0 * p : 2.0 - 2.0 * p);
     else if constexpr (shape == LfoShape::Ramp)
         return static_cast<float>(p);
@@ -26,14 +25,21 @@ float LfoValue(double p)
 }
 
 template <LfoShape shape>
-double FillShape(float* lfo, int frames, float amount, double phase, double increment)
+void ShapeLfo(const double* phases, float amount, float* lfo, int frames)
 {
+    for (int n = 0; n < frames; ++n) lfo[n] = LfoValue<shape>(phases[n]) * amount;
+}
+
+/// Moves the phase behind the last frame.
+void FillPhases(double& phase, double increment, double* phases, int frames)
+{
+    double next = phase;
     for (int n = 0; n < frames; ++n) {
-        lfo[n] = LfoValue<shape>(phase) * amount;
-        phase += increment;
-        if (phase >= 1.0) phase -= std::floor(phase);
+        phases[n] = next;
+        next += increment;
+        if (next >= 1.0) next -= std::floor(next);
     }
-    return phase;
+    phase = next;
 }
 
 } // namespace
@@ -43,7 +49,7 @@ bool UnitControls::FadedOut() const { return bypass && mix < kSilence; }
 float UnitControls::BlockLfo(int frames)
 {
     float value = 0.0f;
-    if (lfoAmount != 0.0f) RunLfo(&value, 1, 0.0);
+    if (lfoAmount != 0.0f) ShapePhases(&lfoPhase, &value, 1);
     lfoPhase = AdvancedPhase(frames);
     return value;
 }
@@ -51,24 +57,24 @@ float UnitControls::BlockLfo(int frames)
 void UnitControls::FillLfo(float* lfo, int frames)
 {
     if (lfoAmount != 0.0f) {
-        lfoPhase = RunLfo(lfo, frames, lfoIncrement);
+        double phases[kMaxRun];
+        FillPhases(lfoPhase, lfoIncrement, phases, frames);
+        ShapePhases(phases, lfo, frames);
     } else {
         std::fill_n(lfo, frames, 0.0f);
         lfoPhase = AdvancedPhase(frames);
     }
 }
 
-/// Returns the phase behind the last frame.
-double UnitControls::RunLfo(float* lfo, int frames, double increment) const
+void UnitControls::ShapePhases(const double* phases, float* lfo, int frames) const
 {
     using enum LfoShape;
     switch (lfoShape) {
-    case Sine: return FillShape<Sine>(lfo, frames, lfoAmount, lfoPhase, increment);
-    case Triangle: return FillShape<Triangle>(lfo, frames, lfoAmount, lfoPhase, increment);
-    case Ramp: return FillShape<Ramp>(lfo, frames, lfoAmount, lfoPhase, increment);
-    case Square: break;
+    case Sine: kernels.sines(phases, lfoAmount, lfo, frames); break;
+    case Triangle: ShapeLfo<Triangle>(phases, lfoAmount, lfo, frames); break;
+    case Ramp: ShapeLfo<Ramp>(phases, lfoAmount, lfo, frames); break;
+    case Square: ShapeLfo<Square>(phases, lfoAmount, lfo, frames); break;
     }
-    return FillShape<Square>(lfo, frames, lfoAmount, lfoPhase, increment);
 }
 
 double UnitControls::AdvancedPhase(int frames) const

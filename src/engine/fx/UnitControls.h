@@ -36,7 +36,7 @@ struct UnitControls {
     void FillLfo(float* lfo, int frames);
 
 private:
-    double RunLfo(float* lfo, int frames, double increment) const;
+    void ShapePhases(const double* phases, float* lfo, int frames) const;
     double AdvancedPhase(int frames) const;
 };
 

@@ -9,6 +9,10 @@
 #include "engine/kernels/Phaser.h"
 #include "engine/kernels/ResonantFilter.h"
 #include "engine/kernels/Unison.h"
+#include "engine/kernels/AllSound.h"
+#include "engine/kernels/Isa.h"
+#include "engine/kernels/Sines.h"
+#include "engine/kernels/StripMix.h"
 #include "engine/kernels/VoiceFilter.h"
 #include "engine/kernels/VoiceMotion.h"
 
@@ -26,6 +30,9 @@ struct Kernels {
     ModulateVoicesKernel* modulateVoices;
     ShapeVoicesKernel* shapeVoices;
     RenderUnisonKernel* renderUnison;
+    AllSoundKernel* allSound;
+    SinesKernel* sines;
+    MixStripsKernel* mixStrips;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

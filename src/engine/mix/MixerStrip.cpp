@@ -12,7 +12,6 @@ namespace korvane {
 
 namespace {
 
-constexpr float kGainStep = 0.01f;     // share of the distance that a gain moves per frame
 constexpr float kGainCeiling = 1.0e9f; // keeps a wild level finite
 
 /// Where a gain starts the run from.
@@ -26,6 +25,9 @@ float Start(float gain, float target)
 
 void MixerStrip::Set(float level, float pan)
 {
+    if (level == setLevel && pan == setPan) return;
+    setLevel = level;
+    setPan = pan;
     const float gain = Clamp(law::MixGain(level), 0.0f, kGainCeiling);
     targetLeft = std::max(law::PanLeft(pan) * gain, kSilence);
     targetRight = std::max(law::PanRight(pan) * gain, kSilence);
@@ -37,28 +39,19 @@ void MixerStrip::Skip()
     outGainRight = targetRight;
 }
 
-void MixerStrip::Mix(const float* left, const float* right, int frames, const StripOutputs& outputs)
+StripJob MixerStrip::Job(const float* left, const float* right, float* directLeft, float* directRight, bool first) const
 {
-    float gainLeft = Start(outGainLeft, targetLeft), gainRight = Start(outGainRight, targetRight);
-    const float toLeft = targetLeft, toRight = targetRight;
-    const auto [mainLeft, mainRight, directLeft, directRight, first] = outputs;
-    float highestLeft = peakLeft, highestRight = peakRight;
-    for (int n = 0; n < frames; ++n) {
-        gainLeft += (toLeft - gainLeft) * kGainStep;
-        gainRight += (toRight - gainRight) * kGainStep;
-        const float l = left[n] * gainLeft;
-        const float r = right[n] * gainRight;
-        highestLeft = std::max(highestLeft, std::fabs(l));
-        highestRight = std::max(highestRight, std::fabs(r));
-        mainLeft[n] = first ? l : mainLeft[n] + l;
-        mainRight[n] = first ? r : mainRight[n] + r;
-        directLeft[n] = l;
-        directRight[n] = r;
-    }
-    outGainLeft = gainLeft;
-    outGainRight = gainRight;
-    peakLeft = highestLeft;
-    peakRight = highestRight;
+    return {{left, directLeft, targetLeft, Start(outGainLeft, targetLeft), peakLeft},
+            {right, directRight, targetRight, Start(outGainRight, targetRight), peakRight},
+            first};
+}
+
+void MixerStrip::Mixed(const StripJob& job)
+{
+    outGainLeft = job.left.gain;
+    outGainRight = job.right.gain;
+    peakLeft = job.left.peak;
+    peakRight = job.right.peak;
 }
 
 void MixerStrip::Reset()

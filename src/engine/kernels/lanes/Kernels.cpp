@@ -14,6 +14,9 @@ SidesKernel<EqualiserSide> Equalise;
 ModulateVoicesKernel ModulateVoices;
 ShapeVoicesKernel ShapeVoices;
 RenderUnisonKernel RenderUnison;
+AllSoundKernel AllSound;
+SinesKernel Sines;
+MixStripsKernel MixStrips;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
@@ -27,6 +30,9 @@ constinit const Kernels kKernels = {
     .modulateVoices = ModulateVoices,
     .shapeVoices = ShapeVoices,
     .renderUnison = RenderUnison,
+    .allSound = AllSound,
+    .sines = Sines,
+    .mixStrips = MixStrips,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE

@@ -44,6 +44,24 @@ template <class V, class T>
     return reinterpret_cast<Floats>(reinterpret_cast<Ints>(value) & 0x7fffffff);
 }
 
+/// Some lane of a mask is set.
+[[gnu::always_inline]] inline bool Any(Ints mask)
+{
+    std::int64_t halves[kLanes / 2];
+    std::memcpy(halves, &mask, sizeof halves);
+    std::int64_t all = 0;
+    for (const std::int64_t half : halves) all |= half;
+    return all != 0;
+}
+
+/// The number of each lane.
+[[gnu::always_inline]] inline Ints LaneNumbers()
+{
+    Ints numbers{};
+    for (int n = 0; n < kLanes; ++n) numbers[n] = n;
+    return numbers;
+}
+
 /// Values this small, and NaN, become 0.
 [[gnu::always_inline]] inline Floats Flushed(Floats value)
 {

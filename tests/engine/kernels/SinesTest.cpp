@@ -1,0 +1,43 @@
+// Sines of many phases: the bits of the library's, rounded.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <vector>
+
+#include "engine/kernels/Kernels.h"
+
+namespace korvane {
+namespace {
+
+/// Even, around the quarters of a turn, and so small that they are hardly there.
+std::vector<double> Phases()
+{
+    std::vector<double> phases;
+    for (int n = 0; n < 1'000'003; ++n) phases.push_back(n / 1'000'003.0);
+    for (double quarter = 0.0; quarter <= 1.0; quarter += 0.125)
+        for (int bits = 0; bits < 70; ++bits)
+            for (const double sign : {-1.0, 1.0}) phases.push_back(std::fabs(quarter + sign * std::ldexp(1.0, -bits)));
+    for (double phase = 1.0; phase > 1e-300; phase *= 0.7) phases.push_back(phase);
+    return phases;
+}
+
+TEST(Sines, AreThoseOfTheLibrary)
+{
+    const std::vector<double> phases = Phases();
+    std::vector<float> expected, sines(phases.size() + 1);
+    for (const double phase : phases) expected.push_back(SineOf(phase) * 0.7f);
+    for (const Isa isa : kIsas) {
+        if (!Runs(isa)) continue;
+        int length = 0; // each odd length, at each place of a vector
+        for (std::size_t from = 0; from < phases.size(); from += static_cast<std::size_t>(length)) {
+            length = std::min(length % 137 + 1, static_cast<int>(phases.size() - from));
+            sines[from + static_cast<std::size_t>(length)] = 5.0f;
+            KernelsOf(isa).sines(&phases[from], 0.7f, &sines[from], length);
+            ASSERT_EQ(sines[from + static_cast<std::size_t>(length)], 5.0f);
+        }
+        EXPECT_EQ(std::memcmp(sines.data(), expected.data(), 4 * expected.size()), 0) << static_cast<int>(isa);
+    }
+}
+
+} // namespace
+} // namespace korvane
