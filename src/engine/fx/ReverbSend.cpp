@@ -1,11 +1,12 @@
 // Reverb send: the reverb's parameters, send, return and tail.
 #include "engine/fx/ReverbSend.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 
-#include "engine/dsp/StereoFrame.h"
-#include "engine/fx/Tail.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 
@@ -39,6 +40,9 @@ bool ReverbSend::Runs(const UnitControls& unit) const { return !unit.bypass || u
 
 void ReverbSend::Set(const UnitControls& unit)
 {
+    if (unit.x == setX && unit.y == setY) return;
+    setX = unit.x;
+    setY = unit.y;
     const float decay = law::ReverbDecay(unit.x);
     reverb->SetParameter(reverb::HighDamping, law::ReverbDamping(unit.y));
     reverb->SetParameter(reverb::Decay, decay);
@@ -47,29 +51,31 @@ void ReverbSend::Set(const UnitControls& unit)
 
 void ReverbSend::Process(UnitControls& unit, const StereoBlock& block)
 {
-    Set(unit);
-    float sendLeft[kMaxRun], sendRight[kMaxRun], wetLeft[kMaxRun], wetRight[kMaxRun];
-    const float target = unit.Target();
-    float level = unit.mix;
-    for (int n = 0; n < block.frames; ++n) {
-        level += (target - level) * UnitControls::kOnStep;
-        sendLeft[n] = block.left[n] * level;
-        sendRight[n] = block.right[n] * level;
-    }
-    unit.mix = level;
-    float* sends[] = {sendLeft, sendRight};
-    float* wets[] = {wetLeft, wetRight};
-    reverb->ProcessReplacing(sends, wets, block.frames);
+    const EffectRun run{this, &unit, block};
+    ProcessAll({&run, 1});
+}
 
-    const auto full = static_cast<std::int32_t>(std::lround(unit.sampleRate * kTailSeconds));
-    std::int32_t tail = unit.holdFrames;
-    for (int n = 0; n < block.frames; ++n) {
-        const Stereo wet = LoadFrame(wetLeft, wetRight, n);
-        const Stereo out = LoadFrame(block.left, block.right, n) + wet;
-        tail = TailLeft(tail, CanBeHeard(out), full);
-        StoreFrame(out, block.left, block.right, n);
+void ReverbSend::ProcessAll(std::span<const EffectRun> runs)
+{
+    std::array<ReverbJob, kChannels> jobs;
+    for (std::size_t n = 0; n < runs.size(); ++n) {
+        ReverbSend& send = static_cast<ReverbSend&>(*runs[n].effect);
+        const UnitControls& unit = *runs[n].unit;
+        send.Set(unit);
+        float* const sides[] = {runs[n].block.left, runs[n].block.right};
+        jobs[n] = send.reverb->Job(sides, sides, true);
+        jobs[n].send = unit.mix;
+        jobs[n].sendTarget = unit.Target();
     }
-    unit.holdFrames = tail;
+    kernels.runReverbs(jobs.data(), static_cast<int>(runs.size()), runs[0].block.frames);
+    for (std::size_t n = 0; n < runs.size(); ++n) {
+        UnitControls& unit = *runs[n].unit;
+        const auto [left, right, frames] = runs[n].block;
+        unit.mix = jobs[n].send;
+        const auto full = static_cast<std::int32_t>(std::lround(unit.sampleRate * kTailSeconds));
+        const int heard = kernels.heardFrames(left, right, frames);
+        unit.holdFrames = std::max((heard > 0 ? full + heard : unit.holdFrames) - frames, -1);
+    }
 }
 
 } // namespace korvane

@@ -1,6 +1,7 @@
 // A channel's send into a reverb of its own.
 #pragma once
 
+#include <limits>
 #include <memory>
 
 #include "engine/fx/Effect.h"
@@ -17,10 +18,14 @@ public:
     void Reset() override;
     bool Runs(const UnitControls& unit) const override;
     void Process(UnitControls& unit, const StereoBlock& block) override;
+    void ProcessAll(std::span<const EffectRun> runs) override;
 
 private:
     void Set(const UnitControls& unit);
 
+    static constexpr float kUnset = std::numeric_limits<float>::quiet_NaN(); // unlike every number
+
+    float setX = kUnset, setY = kUnset; // what the parameters were computed of
     std::unique_ptr<fxReverb> reverb;
 };
 

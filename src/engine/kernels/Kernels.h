@@ -10,7 +10,9 @@
 #include "engine/kernels/ResonantFilter.h"
 #include "engine/kernels/Unison.h"
 #include "engine/kernels/AllSound.h"
+#include "engine/kernels/HeardFrames.h"
 #include "engine/kernels/Isa.h"
+#include "engine/kernels/Reverb.h"
 #include "engine/kernels/Sines.h"
 #include "engine/kernels/StripMix.h"
 #include "engine/kernels/VoiceFilter.h"
@@ -33,6 +35,8 @@ struct Kernels {
     AllSoundKernel* allSound;
     SinesKernel* sines;
     MixStripsKernel* mixStrips;
+    HeardFramesKernel* heardFrames;
+    RunReverbsKernel* runReverbs;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

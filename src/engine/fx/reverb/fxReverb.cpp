@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstring>
 
+#include "engine/kernels/Kernels.h"
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -82,20 +83,15 @@ void fxReverb::SetSampleRate(float newRate)
     tank.Fit(coefficients, false);
     lastRoomSize = steps[reverb::RoomSize];
     changed = false;
-    level = -1.0f;
 }
 
-void fxReverb::Reset()
-{
-    tank.Reset();
-    level = -1.0f;
-}
+void fxReverb::Reset() { tank.Reset(); }
 
-void fxReverb::Process(float** inputs, float** outputs, std::int32_t frames) { Render<true>(inputs, outputs, frames); }
+void fxReverb::Process(float** inputs, float** outputs, std::int32_t frames) { Render(inputs, outputs, frames, true); }
 
 void fxReverb::ProcessReplacing(float** inputs, float** outputs, std::int32_t frames)
 {
-    Render<false>(inputs, outputs, frames);
+    Render(inputs, outputs, frames, false);
 }
 
 void fxReverb::UpdateCoefficients()
@@ -107,31 +103,19 @@ void fxReverb::UpdateCoefficients()
     lastRoomSize = steps[reverb::RoomSize];
 }
 
-template <bool adding>
-void fxReverb::Render(float** inputs, float** outputs, std::int32_t frames)
+ReverbJob fxReverb::Job(float* const* inputs, float* const* outputs, bool adds)
 {
     UpdateCoefficients();
+    float& level = tank.state.level;
     if (level < 0.0f) level = coefficients.reverbTarget;
-    for (std::size_t side = 0; side < 2; ++side) Watch(inputMeters[side], inputs[side], frames);
+    return {&coefficients, &tank.state, inputs[0], inputs[1], outputs[0], outputs[1], adds};
+}
 
-    std::array<float, ReverbTank::kLongestRun> left, right, wetLeft, wetRight;
-    for (int done = 0; done < frames; done += tank.RunLimit()) {
-        const int run = std::min(frames - done, tank.RunLimit());
-        for (int n = 0; n < run; ++n) {
-            left[static_cast<std::size_t>(n)] = inputs[0][done + n] * coefficients.inputGain;
-            right[static_cast<std::size_t>(n)] = inputs[1][done + n] * coefficients.inputGain;
-        }
-        tank.Run(coefficients, left.data(), right.data(), wetLeft.data(), wetRight.data(), run, level);
-        for (int n = 0; n < run; ++n) {
-            const std::size_t at = static_cast<std::size_t>(n);
-            const float middle = wetLeft[at] + wetRight[at];
-            const float side = (wetLeft[at] - wetRight[at]) * coefficients.width;
-            const float outLeft = middle + side + coefficients.dryGain * left[at];
-            const float outRight = middle - side + coefficients.dryGain * right[at];
-            outputs[0][done + n] = adding ? outputs[0][done + n] + outLeft : outLeft;
-            outputs[1][done + n] = adding ? outputs[1][done + n] + outRight : outRight;
-        }
-    }
+void fxReverb::Render(float** inputs, float** outputs, std::int32_t frames, bool adds)
+{
+    ReverbJob job = Job(inputs, outputs, adds);
+    for (std::size_t side = 0; side < 2; ++side) Watch(inputMeters[side], inputs[side], frames);
+    kernels.runReverbs(&job, 1, frames);
     for (std::size_t side = 0; side < 2; ++side) Watch(outputMeters[side], outputs[side], frames);
 }
 

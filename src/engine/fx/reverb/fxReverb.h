@@ -33,6 +33,10 @@ public:
     void GetParameterDisplay(std::int32_t index, char* text) override;
     void GetParameterName(std::int32_t index, char* text) override;
     void Process(float** inputs, float** outputs, std::int32_t frames) override; // adds to the outputs
+    /// What the kernel takes to process a block; the meters see nothing of it.
+    /// inputs, outputs  left, right; may be the same
+    /// adds             to the outputs
+    ReverbJob Job(float* const* inputs, float* const* outputs, bool adds);
 
     /// Level of one input or output.
     struct Meter {
@@ -45,8 +49,7 @@ public:
     ReverbSteps steps{}; // what the parameters stand for
 
 private:
-    template <bool adding>
-    void Render(float** inputs, float** outputs, std::int32_t frames);
+    void Render(float** inputs, float** outputs, std::int32_t frames, bool adds);
     bool Fixed(std::int32_t index) const;
     void UpdateCoefficients();
 
@@ -56,7 +59,6 @@ private:
     bool changed = true;  // coefficients are older than the steps
     int lastRoomSize = 0; // of the coefficients; 0 before the first
     ReverbTank tank;
-    float level = -1.0f; // smoothed reverb level; -1 jumps to the target
 };
 
 } // namespace korvane

@@ -17,6 +17,8 @@ RenderUnisonKernel RenderUnison;
 AllSoundKernel AllSound;
 SinesKernel Sines;
 MixStripsKernel MixStrips;
+HeardFramesKernel HeardFrames;
+RunReverbsKernel RunReverbs;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
@@ -33,6 +35,8 @@ constinit const Kernels kKernels = {
     .allSound = AllSound,
     .sines = Sines,
     .mixStrips = MixStrips,
+    .heardFrames = HeardFrames,
+    .runReverbs = RunReverbs,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE
