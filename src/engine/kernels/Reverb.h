@@ -1,9 +1,32 @@
 // The reverb's signal path.
 #pragma once
 
-#include "engine/fx/reverb/ReverbCoefficients.h"
+#include <array>
+#include <cstddef>
 
 namespace korvane {
+
+inline constexpr int kReverbLines = 12; // 0..3 input diffusers, 4..7 left branch, 8..11 right branch
+inline constexpr int kReverbTaps = 7;   // of each output
+inline constexpr int kReflections = 8;  // of each side; the left sum uses the first seven
+
+struct ReverbCoefficients {
+    float inputGain, dryGain, reflectionsGain, reverbTarget;
+    float lowCut;               // of the allpass; 0 switches the low cut off
+    float highCut, highDamping; // of one-pole lowpasses; 1 passes everything
+    float input1, input2;       // diffusion
+    float decay1, decay2;
+    float decay;     // gain of half a branch
+    float bassBoost; // of what the crossover allpass leaves of the low band
+    float crossover;
+    float w1, w2, w3, w4, w5;              // weights of the output taps
+    float width;                           // 1: as it is
+    std::array<int, kReverbLines> lengths; // frames
+    int predelayFrames;
+    std::array<int, kReverbTaps> leftTaps, rightTaps;                // frames
+    std::array<int, kReflections> leftReflections, rightReflections; // frames
+    std::array<float, kReflections> leftReflectionGains, rightReflectionGains;
+};
 
 inline constexpr float kInputOffset = 1e-30f, kTankOffset = 1e-20f; // keep the tail out of the denormal range
 inline constexpr float kSendStep = 0.01f, kLevelStep = 0.001f;      // shares of the way that gains move per frame

@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "engine/fx/reverb/ReverbCoefficients.h"
-#include "engine/kernels/Reverb.h"
 
 namespace korvane {
 

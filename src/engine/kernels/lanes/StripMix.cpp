@@ -1,7 +1,7 @@
 // Levels of the channels' strips and their sum, many frames at a time.
 #include "engine/kernels/StripMix.h"
 
-#include "engine/kernels/lanes/Lanes.h"
+#include "engine/kernels/lanes/Glides.h"
 #include "framework/Limits.h"
 
 namespace korvane::KORVANE_ISA_SPACE {
@@ -10,34 +10,14 @@ MixStripsKernel MixStrips;
 
 namespace {
 
-/// Gains of the two sides, frame by frame.
-struct Gains {
-    float left[kMaxRun], right[kMaxRun];
-};
-
-bool Arrived(const StripSide& side) { return GainAfter(side.gain, side.target) == side.gain; }
-
-/// Both at once: each waits for its own result.
-void Move(StripJob& job, Gains& gains, int frames)
-{
-    float left = job.left.gain, right = job.right.gain;
-    for (int n = 0; n < frames; ++n) {
-        gains.left[n] = left = GainAfter(left, job.left.target);
-        gains.right[n] = right = GainAfter(right, job.right.target);
-    }
-    job.left.gain = left;
-    job.right.gain = right;
-}
-
-/// gains  of the frames; null: the side's gain has arrived
 template <bool kFirst, bool kDirect>
-void MixVectors(StripSide& side, const float* gains, float* main, int frames)
+void MixVectors(StripSide& side, const Glide& gain, float* main, int frames)
 {
     Floats peak = Floats{} + side.peak;
-    Floats gain = Floats{} + side.gain;
+    const float* const row = gain.row;
+    const Floats still = Floats{} + gain.value;
     for (int n = 0; n < frames; n += kLanes) {
-        if (gains) gain = Load<Floats>(gains + n);
-        const Floats sound = Load<Floats>(side.in + n) * gain;
+        const Floats sound = Load<Floats>(side.in + n) * (row ? Load<Floats>(row + n) : still);
         const Floats magnitude = Magnitude(sound);
         peak = Select(peak < magnitude, magnitude, peak);
         Store(kFirst ? sound : Load<Floats>(main + n) + sound, main + n);
@@ -47,12 +27,12 @@ void MixVectors(StripSide& side, const float* gains, float* main, int frames)
         if (side.peak < peak[lane]) side.peak = peak[lane];
 }
 
-void MixVectors(StripSide& side, bool first, const float* gains, float* main, int frames)
+void MixVectors(StripSide& side, bool first, const Glide& gain, float* main, int frames)
 {
-    if (first && side.direct) return MixVectors<true, true>(side, gains, main, frames);
-    if (first) return MixVectors<true, false>(side, gains, main, frames);
-    if (side.direct) return MixVectors<false, true>(side, gains, main, frames);
-    MixVectors<false, false>(side, gains, main, frames);
+    if (first && side.direct) return MixVectors<true, true>(side, gain, main, frames);
+    if (first) return MixVectors<true, false>(side, gain, main, frames);
+    if (side.direct) return MixVectors<false, true>(side, gain, main, frames);
+    MixVectors<false, false>(side, gain, main, frames);
 }
 
 /// The frames behind the last whole vector.
@@ -70,18 +50,26 @@ void MixRest(StripSide& side, bool first, float* main, int from, int frames)
 
 void MixStrips(StripJob* jobs, int count, float* mainLeft, float* mainRight, int frames)
 {
-    Gains gains;
+    constexpr int kSides = 2 * kChannels;
     const int whole = frames / kLanes * kLanes;
-    for (StripJob* job = jobs; job < jobs + count; ++job) {
-        const bool moving = !Arrived(job->left) || !Arrived(job->right);
+    Glide gains[kSides];
+    float rows[kSides][kMaxRun];
+    for (int n = 0; n < 2 * count; ++n) {
+        const StripSide& side = n % 2 == 0 ? jobs[n / 2].left : jobs[n / 2].right;
+        gains[n] = {side.gain, side.target, rows[n]};
+    }
+    RunGlides<kSides>(gains, 2 * count, kGainStep, whole);
+    for (int n = 0; n < count; ++n) {
+        auto& [left, right, first] = jobs[n];
+        left.gain = gains[2 * n].value;
+        right.gain = gains[2 * n + 1].value;
         if (whole > 0) {
-            if (moving) Move(*job, gains, whole);
-            MixVectors(job->left, job->first, moving ? gains.left : nullptr, mainLeft, whole);
-            MixVectors(job->right, job->first, moving ? gains.right : nullptr, mainRight, whole);
+            MixVectors(left, first, gains[2 * n], mainLeft, whole);
+            MixVectors(right, first, gains[2 * n + 1], mainRight, whole);
         }
         if (whole < frames) {
-            MixRest(job->left, job->first, mainLeft, whole, frames);
-            MixRest(job->right, job->first, mainRight, whole, frames);
+            MixRest(left, first, mainLeft, whole, frames);
+            MixRest(right, first, mainRight, whole, frames);
         }
     }
 }
