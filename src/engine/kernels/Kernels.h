@@ -15,6 +15,7 @@
 #include "engine/kernels/Reverb.h"
 #include "engine/kernels/Sines.h"
 #include "engine/kernels/StripMix.h"
+#include "engine/kernels/Layers.h"
 #include "engine/kernels/VoiceFilter.h"
 #include "engine/kernels/VoiceMotion.h"
 
@@ -37,6 +38,7 @@ struct Kernels {
     MixStripsKernel* mixStrips;
     HeardFramesKernel* heardFrames;
     RunReverbsKernel* runReverbs;
+    PlayLayersKernel* playLayers;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

@@ -6,9 +6,9 @@
 #include <limits>
 #include <memory>
 
+#include "engine/kernels/Layers.h"
 #include "engine/kernels/Unison.h"
 #include "engine/kernels/VoiceMotion.h"
-#include "engine/voice/LayerFilters.h"
 #include "engine/voice/Seam.h"
 #include "framework/Limits.h"
 
@@ -18,18 +18,12 @@ inline constexpr float kSourceScale =
     0.005f; // full scale of the sources, low in the filter's limiter; the output gain undoes it
 
 /// One layer of a sampler voice; fixed at note start but for position, increment, delay, hold, envelope and filters.
-struct SamplerLayer {
+struct SamplerLayer : LayerState {
     bool bypassed = false;
     bool reverse = false;
-    double position = 0.0;          // read position in frames of the sample; kept when a note starts without one
-    double increment = 1.0;         // frames of the sample per output frame, 2^(semitones / 12)
-    float semitones = 0.0f;         // sounding pitch of the run
-    float pitch = 0.0f;             // the layer's own transposition in semitones
-    std::int32_t delayFrames = 0;   // silence left before the layer starts
-    std::int32_t plateauFrames = 0; // left at full level between attack and decay
-    float gainLeft = 0.0f, gainRight = 0.0f;
-    float envLevel = 0.0f, envTarget = 0.0f, envRate = 0.0f, decayRate = 0.0f;
-    LayerFilters filters = {};
+    float semitones = 0.0f;       // sounding pitch of the run
+    float pitch = 0.0f;           // the layer's own transposition in semitones
+    std::int32_t delayFrames = 0; // silence left before the layer starts
     Seam seam;
 };
 

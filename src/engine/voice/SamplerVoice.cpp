@@ -5,7 +5,7 @@
 #include <cmath>
 
 #include "engine/dsp/Biquad.h"
-#include "engine/dsp/StereoFrame.h"
+#include "engine/kernels/Kernels.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/VoiceLife.h"
@@ -17,8 +17,6 @@ namespace korvane {
 
 namespace {
 
-constexpr float kHoldLevel = 1.00001f; // beyond full level, so that every frame of the hold finds the attack over
-
 /// The sample of a layer, or null. A file that could not be read is a sample of 0 frames.
 const CWaveSample* SampleOf(const ChannelSound& channel, int l)
 {
@@ -26,18 +24,13 @@ const CWaveSample* SampleOf(const ChannelSound& channel, int l)
     return entry ? entry->sample.get() : nullptr;
 }
 
-void StartFilters(LayerFilters& filters, float loCut, float hiCut, float bandwidth, float rate)
+void StartFilters(LayerState& layer, float loCut, float hiCut, float bandwidth, float rate)
 {
     const float q = law::LayerQ(bandwidth);
     const FilterCoefficients lo = HighPassCoefficients(law::LayerLoCutHz(loCut), q, rate);
     const FilterCoefficients hi = LowPassCoefficients(law::LayerHiCutHz(hiCut), q, rate);
-    filters = {};
-    for (int lane = 0; lane < 4; ++lane) {
-        const FilterCoefficients& section = lane < 2 ? lo : hi;
-        filters.b0[lane] = section.b;
-        filters.a1[lane] = section.a1;
-        filters.a2[lane] = section.a2;
-    }
+    layer.coefficients = {lo.b, lo.a1, lo.a2, hi.b, hi.a1, hi.a2};
+    for (LayerFilter<float>& filter : layer.filters) filter = {};
 }
 
 } // namespace
@@ -60,8 +53,7 @@ void StartLayers(ChannelSound& channel, ChannelVoice& voice)
         const float gain = value(slot::LayerInvert) != 0.0f ? -upright : upright;
         layer.gainLeft = law::LayerPanLeft(pan) * gain;
         layer.gainRight = law::LayerPanRight(pan) * gain;
-        StartFilters(layer.filters, value(slot::LayerLoCut), value(slot::LayerHiCut), value(slot::LayerBandwidth),
-                     rate);
+        StartFilters(layer, value(slot::LayerLoCut), value(slot::LayerHiCut), value(slot::LayerBandwidth), rate);
 
         const float decay = value(slot::LayerDecay);
         layer.envLevel = 0.0f;
@@ -97,116 +89,130 @@ void TuneLayers(ChannelSound& channel, ChannelVoice& voice)
 
 namespace {
 
-/// Frames of one layer on their way through its stages, interleaved left and right.
-struct LayerRun {
-    alignas(64) float stereo[2 * kMaxRun];
-    alignas(64) float envelope[kMaxRun];
-};
-
-/// Reads the sample, with gain applied. Returns the frames that the layer could play before the sample's end; the
-/// position moves on through the whole run.
-template <bool kStereo, bool kReverse>
-int ReadFrames(SamplerLayer& layer, const CWaveSample& sample, float* out, int frames)
+/// How many frames the position stays inside the sample.
+int FramesInside(const SamplerLayer& layer, const CWaveSample& sample, int wanted)
 {
-    const float* const data0 = sample.channelData[0].get();
-    const float* const data1 = kStereo ? sample.channelData[1].get() : data0;
-    const std::int32_t numFrames = sample.numFrames;
-    const double end = numFrames, increment = layer.increment;
-    const float gainLeft = layer.gainLeft, gainRight = layer.gainRight;
-    double position = layer.position;
+    const double end = sample.numFrames;
+    if (layer.position + layer.increment * wanted < end - 1.0) return wanted; // by more than all that rounding does
     int n = 0;
-    for (; n < frames && position < end; ++n) {
-        std::int32_t i = static_cast<std::int32_t>(position);
-        float f = static_cast<float>(position - i);
-        if constexpr (kReverse) {
-            f = 1.0f - f;
-            i = numFrames - i; // up to numFrames; the sample has zeros after its last frame
-        }
-        const float left = data0[i] * (1.0f - f) + data0[i + 1] * f;
-        const float right = kStereo ? data1[i] * (1.0f - f) + data1[i + 1] * f : left;
-        out[2 * n] = Flushed(left * gainLeft);
-        out[2 * n + 1] = Flushed(right * gainRight);
-        position += increment;
-    }
-    for (int rest = n; rest < frames; ++rest) position += increment;
-    layer.position = position;
+    for (double position = layer.position; n < wanted && position < end; ++n) position += layer.increment;
     return n;
 }
 
-int ReadFrames(SamplerLayer& layer, const CWaveSample& sample, float* out, int frames)
-{
-    if (sample.numChannels == 2)
-        return layer.reverse ? ReadFrames<true, true>(layer, sample, out, frames)
-                             : ReadFrames<true, false>(layer, sample, out, frames);
-    return layer.reverse ? ReadFrames<false, true>(layer, sample, out, frames)
-                         : ReadFrames<false, false>(layer, sample, out, frames);
-}
-
-void RunEnvelope(SamplerLayer& layer, float* gains, int frames)
-{
-    float level = layer.envLevel, target = layer.envTarget, rate = layer.envRate;
-    std::int32_t hold = layer.plateauFrames;
-    for (int n = 0; n < frames; ++n) {
-        level += (target - level) * rate;
-        if (level > 1.0f) {
-            if (hold > 0) {
-                level = kHoldLevel;
-                --hold;
-            } else {
-                level = 1.0f;
-                target = 0.0f;
-                rate = layer.decayRate;
-            }
-        }
-        gains[n] = level * level * kSourceScale;
-    }
-    layer.envLevel = Flushed(level);
-    layer.envTarget = target;
-    layer.envRate = rate;
-    layer.plateauFrames = hold;
-}
-
+/// A layer in a run of some frames: after its delay it plays until its sample ends.
 /// sample  null when there is none any more and the layer dies away
-void RenderLayer(SamplerLayer& layer, const CWaveSample* sample, float* left, float* right, int frames)
+LayerJob Begin(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample* sample, int frames)
 {
     const int delay = std::min(layer.delayFrames, frames);
     layer.delayFrames -= delay;
-
-    LayerRun run;
-    const int wanted = frames - delay;
-    int played = sample ? ReadFrames(layer, *sample, run.stereo, wanted) : 0;
-    if (layer.seam.Heard()) {
-        std::fill(run.stereo + 2 * played, run.stereo + 2 * wanted, 0.0f);
-        played = wanted;
-    }
-    layer.seam.Join(run.stereo, run.stereo + 1, played, 2);
-    if (played < wanted) layer.seam.End();
-    RunEnvelope(layer, run.envelope, played);
-    FilterLayer(layer.filters, run.stereo, played);
-    for (int n = 0; n < played; ++n) {
-        left[delay + n] += run.stereo[2 * n] * run.envelope[n];
-        right[delay + n] += run.stereo[2 * n + 1] * run.envelope[n];
-    }
+    LayerJob job = {};
+    job.state = &layer;
+    job.reverse = layer.reverse;
+    job.from = job.to = delay;
+    job.mixLeft = voice.left;
+    job.mixRight = voice.right;
+    if (!sample) return job;
+    job.data[0] = sample->channelData[0].get();
+    job.data[1] = sample->channelData[sample->numChannels == 2 ? 1 : 0].get();
+    job.numFrames = sample->numFrames;
+    job.to += FramesInside(layer, *sample, frames - delay);
+    return job;
 }
 
-void RenderLayers(ChannelSound& channel, ChannelVoice& voice, int frames)
+/// Where it does not sound the layer moves on all the same.
+void MoveOn(SamplerLayer& layer, int frames)
 {
-    std::fill_n(voice.left, frames, 0.0f);
-    std::fill_n(voice.right, frames, 0.0f);
+    for (int n = 0; n < frames; ++n) layer.position += layer.increment;
+}
+
+bool SeamHeard(const ChannelVoice& voice)
+{
+    return std::any_of(std::begin(voice.layers), std::end(voice.layers),
+                       [](const SamplerLayer& layer) { return !layer.bypassed && layer.seam.Heard(); });
+}
+
+/// A layer whose sample has been replaced, or one beside it.
+void RenderJoined(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample* sample, int frames)
+{
+    float left[kMaxRun], right[kMaxRun];
+    LayerJob job = Begin(layer, voice, sample, frames);
+    ReadLayer(job, left, right);
+    if (sample) MoveOn(layer, frames - job.to);
+    if (layer.seam.Heard()) {
+        std::fill(left + job.to, left + frames, 0.0f);
+        std::fill(right + job.to, right + frames, 0.0f);
+        job.to = frames;
+    }
+    layer.seam.Join(left + job.from, right + job.from, job.to - job.from);
+    if (job.to < frames) layer.seam.End();
+    ShapeLayer(job, left, right, kSourceScale);
+}
+
+void RenderJoined(ChannelSound& channel, ChannelVoice& voice, int frames)
+{
     for (int l = 0; l < kLayers; ++l) {
         const CWaveSample* sample = SampleOf(channel, l);
         SamplerLayer& layer = voice.layers[l];
-        if (!layer.bypassed && (sample || layer.seam.Heard()))
-            RenderLayer(layer, sample, voice.left, voice.right, frames);
+        if (!layer.bypassed && (sample || layer.seam.Heard())) RenderJoined(layer, voice, sample, frames);
     }
+}
+
+/// The layers of all voices.
+struct LayerList {
+    LayerJob jobs[kSamplerChannels * kVoices * kLayers];
+    SamplerLayer* layers[kSamplerChannels * kVoices * kLayers];
+    int count = 0;
+
+    void Add(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample& sample, int frames)
+    {
+        jobs[count] = Begin(layer, voice, &sample, frames);
+        layers[count] = &layer;
+        if (jobs[count].from < jobs[count].to)
+            ++count;
+        else
+            End(layer, frames - jobs[count].to);
+    }
+
+    void Play(int frames)
+    {
+        kernels.playLayers(jobs, count, kSourceScale);
+        for (int j = 0; j < count; ++j) {
+            layers[j]->seam.Pass(jobs[j].lastLeft, jobs[j].lastRight);
+            End(*layers[j], frames - jobs[j].to);
+        }
+    }
+
+    /// silent  frames left in the run
+    static void End(SamplerLayer& layer, int silent)
+    {
+        if (silent < 1) return;
+        MoveOn(layer, silent);
+        layer.seam.End();
+    }
+};
+
+void AddLayers(LayerList& list, ChannelSound& channel, ChannelVoice& voice, int frames)
+{
+    for (int l = 0; l < kLayers; ++l)
+        if (const CWaveSample* sample = SampleOf(channel, l); sample && !voice.layers[l].bypassed)
+            list.Add(voice.layers[l], voice, *sample, frames);
 }
 
 } // namespace
 
 void RenderSamplers(SoundingVoices sounding, int frames)
 {
-    for (const auto& [channel, voices, voice] : sounding)
-        if (channel->isSampler) RenderLayers(*channel, *voice, frames);
+    LayerList list;
+    for (const auto& [channel, voices, voice] : sounding) {
+        if (!channel->isSampler) continue;
+        std::fill_n(voice->left, frames, 0.0f);
+        std::fill_n(voice->right, frames, 0.0f);
+        if (SeamHeard(*voice))
+            RenderJoined(*channel, *voice, frames);
+        else
+            AddLayers(list, *channel, *voice, frames);
+    }
+    list.Play(frames);
 }
 
 } // namespace korvane

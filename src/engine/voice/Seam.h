@@ -17,8 +17,7 @@ public:
     bool Heard() const { return pending || left > 0; }
 
     /// A run of the source, in place.
-    /// stride  from frame to frame
-    void Join(float* outLeft, float* outRight, int frames, int stride = 1)
+    void Join(float* outLeft, float* outRight, int frames)
     {
         if (frames < 1) return;
         if (pending) {
@@ -29,12 +28,18 @@ public:
         }
         const int fading = left - kSettle;
         for (int n = 0; n < std::min(frames, fading); ++n) {
-            outLeft[n * stride] += stepLeft * static_cast<float>(fading - n);
-            outRight[n * stride] += stepRight * static_cast<float>(fading - n);
+            outLeft[n] += stepLeft * static_cast<float>(fading - n);
+            outRight[n] += stepRight * static_cast<float>(fading - n);
         }
         left = std::max(0, left - frames);
-        lastLeft = outLeft[(frames - 1) * stride];
-        lastRight = outRight[(frames - 1) * stride];
+        Pass(outLeft[frames - 1], outRight[frames - 1]);
+    }
+    /// A run of the source with no joint to hear.
+    /// endLeft, endRight  its last frame
+    void Pass(float endLeft, float endRight)
+    {
+        lastLeft = endLeft;
+        lastRight = endRight;
         sounded = true;
     }
     /// The source has come to its end: from here on it is silent.

@@ -19,6 +19,7 @@ SinesKernel Sines;
 MixStripsKernel MixStrips;
 HeardFramesKernel HeardFrames;
 RunReverbsKernel RunReverbs;
+PlayLayersKernel PlayLayers;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
@@ -37,6 +38,7 @@ constinit const Kernels kKernels = {
     .mixStrips = MixStrips,
     .heardFrames = HeardFrames,
     .runReverbs = RunReverbs,
+    .playLayers = PlayLayers,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE
