@@ -4,6 +4,8 @@
 #include <atomic>
 #include <utility>
 
+#include "platform/ChangeCount.h"
+
 namespace korvane {
 
 struct PoolEntry;
@@ -65,6 +67,8 @@ public:
     }
     SoundUse* TakeAll() { return top.exchange(nullptr, std::memory_order_acquire); }
 
+    ChangeCount offers; // of all slots that return here: who takes them looks when it has moved
+
 private:
     std::atomic<SoundUse*> top{nullptr};
 };
@@ -77,7 +81,11 @@ public:
     ~SoundOffer() { delete offered.load(); }
 
     /// The loader, or on its behalf who has the engine to itself.
-    void Put(SoundUse* use, SoundReturns& returned) { returned.Push(offered.exchange(use, std::memory_order_acq_rel)); }
+    void Put(SoundUse* use, SoundReturns& returned)
+    {
+        returned.Push(offered.exchange(use, std::memory_order_acq_rel));
+        returned.offers.Add();
+    }
     /// Null when there is nothing new. Who has the engine to itself.
     SoundUse* Take()
     {

@@ -23,11 +23,11 @@ struct VoiceList {
 VoiceList Sounding(RunChannels channels)
 {
     VoiceList list;
-    for (GrooveChannel* channel : channels) {
-        if (!channel->soundedThisBlock) continue;
-        for (auto& voice : channel->voices)
-            if (voice->active) list.voices[list.count++] = {&channel->sound, &channel->voices, voice.get()};
-    }
+    for (GrooveChannel* channel : channels)
+        ForEachBit(channel->activeVoices, [&](int v) {
+            ChannelVoice* const voice = channel->voices[static_cast<std::size_t>(v)].get();
+            list.voices[list.count++] = {&channel->sound, &channel->voices, voice};
+        });
     return list;
 }
 
@@ -37,6 +37,7 @@ void RenderVoices(RunChannels channels, int frames)
 {
     const VoiceList list = Sounding(channels);
     const SoundingVoices sounding = list;
+    if (sounding.empty()) return;
     ModulateVoices(sounding, frames);
     RenderSamplers(sounding, frames);
     RenderSynths(sounding, frames);
@@ -45,22 +46,19 @@ void RenderVoices(RunChannels channels, int frames)
         for (const SoundingVoice& each : sounding) each.voice->sounded = true;
 }
 
-void FilterChannels(RunChannels channels, SamplePool& pool, int frames, int first)
+void FilterChannels(RunChannels channels, SamplePool& pool, int frames)
 {
     FilterJob jobs[kChannels * kVoices];
     int count = 0;
-    for (std::size_t c = 0; c < channels.size(); ++c) {
-        const int number = first + static_cast<int>(c);
-        const FilterType type = static_cast<FilterType>(channels[c]->sound.filterType);
-        for (const auto& each : channels[c]->voices) {
-            ChannelVoice& voice = *each;
-            if (!voice.active) continue;
-            jobs[count++] = {voice.filterState,        voice.left,      voice.right, voice.cutoffFrames,
-                             voice.gainFrames,         voice.resonance, type,        pool.ChannelLeft(number),
-                             pool.ChannelRight(number)};
-        }
+    for (GrooveChannel* channel : channels) {
+        const FilterType type = static_cast<FilterType>(channel->sound.filterType);
+        ForEachBit(channel->activeVoices, [&](int v) {
+            ChannelVoice& voice = *channel->voices[static_cast<std::size_t>(v)];
+            jobs[count++] = {voice.filterState, voice.left,      voice.right, voice.cutoffFrames, voice.gainFrames,
+                             voice.resonance,   type,            channel->mixLeft, channel->mixRight};
+        });
     }
-    kernels.filterVoices(jobs, count, pool.engineTable, frames);
+    if (count > 0) kernels.filterVoices(jobs, count, pool.engineTable, frames);
 }
 
 namespace {
@@ -73,23 +71,57 @@ FXUnit& UnitOf(GrooveChannel& channel, int stage)
     return stage == 0 ? *channel.stutterUnit : *channel.fxUnits[static_cast<std::size_t>(stage - 1)];
 }
 
+/// The units of a stage that have something to do.
+struct StageRun {
+    std::array<UnitRun, kChannels> units;
+    std::array<int, kChannels> channels; // their places in the run
+    std::size_t count = 0;
+};
+
+StageRun UnitsOf(RunChannels channels, std::uint32_t candidates, int stage, std::uint32_t audible, int frames)
+{
+    StageRun run;
+    ForEachBit(candidates, [&](int c) {
+        GrooveChannel& channel = *channels[static_cast<std::size_t>(c)];
+        const bool sounds = stage == 0 || (audible >> c & 1u) != 0;
+        const auto has = [stage](std::uint16_t units) { return (units >> stage & 1u) != 0; };
+        if (!(sounds && has(channel.unitsHeard)) && !has(channel.unitsAwake)) return;
+        FXUnit& unit = UnitOf(channel, stage);
+        if (stage > 0) unit.bypass = !(sounds && has(channel.unitsOn));
+        run.channels[run.count] = c;
+        run.units[run.count++] = {&unit, {channel.mixLeft, channel.mixRight, frames}};
+    });
+    return run;
+}
+
 } // namespace
 
-std::bitset<kChannels> ProcessRacks(RunChannels channels, SamplePool& pool, int frames, float tempo)
+std::uint32_t ProcessRacks(RunChannels channels, int frames, float tempo)
 {
     assert(channels.size() <= kChannels);
-    std::bitset<kChannels> audible;
-    for (std::size_t c = 0; c < channels.size(); ++c) audible[c] = channels[c]->soundedThisBlock;
+    std::uint32_t audible = 0;
+    std::array<std::uint32_t, kStages> candidates{}; // of each stage, a bit for each channel
+    for (std::size_t c = 0; c < channels.size(); ++c) {
+        GrooveChannel& channel = *channels[c];
+        if (channel.soundedThisBlock) audible |= 1u << c;
+        ForEachBit(channel.unitsHeard | channel.unitsAwake,
+                   [&](int stage) { candidates[static_cast<std::size_t>(stage)] |= 1u << c; });
+    }
     for (int stage = 0; stage < kStages; ++stage) {
-        std::array<UnitRun, kChannels> runs;
-        for (std::size_t c = 0; c < channels.size(); ++c) {
-            FXUnit& unit = UnitOf(*channels[c], stage);
-            if (stage > 0 && !audible[c]) unit.bypass = 1;
-            const int number = static_cast<int>(c);
-            runs[c] = {&unit, {pool.ChannelLeft(number), pool.ChannelRight(number), frames}};
+        const std::uint32_t some = candidates[static_cast<std::size_t>(stage)];
+        if (some == 0) continue;
+        const StageRun run = UnitsOf(channels, some, stage, audible, frames);
+        if (run.count == 0) continue;
+        ProcessUnits({run.units.data(), run.count}, tempo);
+        for (std::size_t n = 0; n < run.count; ++n) {
+            const FXUnit& unit = *run.units[n].unit;
+            const int c = run.channels[n];
+            if (unit.audible) audible |= 1u << c;
+            if (frames < 1) continue; // nothing has moved
+            std::uint16_t& awake = channels[static_cast<std::size_t>(c)]->unitsAwake;
+            const std::uint16_t bit = static_cast<std::uint16_t>(1u << stage);
+            awake = static_cast<std::uint16_t>(unit.AtRest() ? awake & ~bit : awake | bit);
         }
-        ProcessUnits({runs.data(), channels.size()}, tempo);
-        for (std::size_t c = 0; c < channels.size(); ++c) audible[c] = audible[c] || runs[c].unit->audible;
     }
     return audible;
 }

@@ -1,14 +1,14 @@
 // What a run does to all channels, stage by stage.
 #pragma once
 
-#include <bitset>
+#include <cstdint>
 #include <span>
 
 #include "engine/GrooveChannel.h"
 
 namespace korvane {
 
-/// Channels in their order, each once, refreshed for the run.
+/// Channels that are not at rest in their order, each once, refreshed for the run.
 using RunChannels = std::span<GrooveChannel* const>;
 
 // Audio thread. frames: 0..kMaxRun.
@@ -18,12 +18,12 @@ void RenderVoices(RunChannels channels, int frames);
 
 /// Adds the active voices to the mix buffers of their channels through their filters: channel by channel, voice by
 /// voice.
-/// pool   the mix buffers and the cutoff table
-/// first  the number of the first channel
-void FilterChannels(RunChannels channels, SamplePool& pool, int frames, int first = 0);
+/// pool  has the cutoff table
+void FilterChannels(RunChannels channels, SamplePool& pool, int frames);
 
-/// Runs the stutters and the effects over the mix buffers, in place: the same effect of all channels at once. Which
-/// channels are mixed: a voice or an effect ran.
-std::bitset<kChannels> ProcessRacks(RunChannels channels, SamplePool& pool, int frames, float tempo);
+/// Runs the stutters and the effects over the mix buffers, in place: the same effect of all channels at once. Units
+/// that are at rest and have nothing to do are left out.
+/// Returns a bit for each of the channels that is mixed: a voice or an effect ran
+std::uint32_t ProcessRacks(RunChannels channels, int frames, float tempo);
 
 } // namespace korvane

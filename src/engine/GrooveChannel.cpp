@@ -20,6 +20,14 @@ namespace {
 /// Modulation source A of a voice that sounds.
 float SourceVelocity(const ChannelVoice& voice) { return voice.fromSequencer ? 0.0f : voice.velocity; }
 
+/// A voice has to be tuned before each run: something that moves within runs has a part in it.
+bool PitchMoves(const ChannelSound& sound)
+{
+    if (sound.Moves(destination::Pitch)) return true;
+    const bool synced = !sound.isSampler && sound.synth.mix.modulation == OscillatorModulation::Sync;
+    return synced && sound.Moves(destination::ModAmount);
+}
+
 void FillPhases(ChannelVoice& voice, RandomGenerator& random)
 {
     const auto word = [&] {
@@ -34,7 +42,9 @@ void FillPhases(ChannelVoice& voice, RandomGenerator& random)
 
 } // namespace
 
-GrooveChannel::GrooveChannel(SamplePool& pool, RandomGenerator& generator) : sound(pool, generator)
+GrooveChannel::GrooveChannel(SamplePool& pool, RandomGenerator& generator, int number)
+    : sound(pool, generator), mixLeft(pool.ChannelLeft(number)), mixRight(pool.ChannelRight(number)),
+      offersSeen(pool.returned.offers.Now() - 1)
 {
     for (auto& voice : voices) voice = std::make_unique<ChannelVoice>();
     for (std::size_t k = 0; k < fxUnits.size(); ++k) fxUnits[k] = std::make_unique<FXUnit>(static_cast<FxType>(k));
@@ -43,18 +53,44 @@ GrooveChannel::GrooveChannel(SamplePool& pool, RandomGenerator& generator) : sou
 
 void GrooveChannel::Refresh(float tempo)
 {
-    TakeOffers();
-    SetUpModulation(sound, AnyVoiceActive(voices), tempo);
-    UpdateFxSettings(sound.params, fxActive, fxUnits, *stutterUnit);
+    TakeInputs(tempo);
+    HoldStutter(sound.params, *stutterUnit);
+    const std::uint16_t stutter = stutterUnit->bypass ? 0 : 1;
+    unitsOn = static_cast<std::uint16_t>((unitsOn & ~1u) | stutter);
+    unitsHeard = static_cast<std::uint16_t>((unitsHeard & ~1u) | stutter);
+    SetUpModulation(sound, activeVoices != 0, tempo);
     const bool sounds = RefreshVoices();
     soundedThisBlock = sounds; // once, so that who watches sees no gap
     if (sounds) TuneVoices();
 }
 
-void GrooveChannel::TakeOffers()
+void GrooveChannel::TakeInputs(float tempo)
 {
+    const bool otherSound = TakeOffers();
+    const Inputs now{sound.params.changes.Now(), sound.modWheelIn, sound.pitchBendIn, sound.pressureIn, sound.rate,
+                     tempo};
+    if (!otherSound && sound.inputCount != 0 && now == inputs) return;
+    inputs = now;
+    ++sound.inputCount;
+    sound.velocityModulates = sound.params[slot::VelocityDestination] != 0.0f;
+    UpdateFxSettings(sound.params, fxActive, fxUnits);
+    strip.Set(sound.params[slot::MixLevel], sound.params[slot::Panning]);
+    unitsOn = 0;
+    for (int k = 0; k < kEffects; ++k)
+        if (!fxUnits[static_cast<std::size_t>(k)]->bypass) unitsOn |= static_cast<std::uint16_t>(2u << k);
+    unitsHeard = unitsOn;
+    if (fxUnits.back()->eqOn) unitsHeard |= 1u << kEffects;
+}
+
+bool GrooveChannel::TakeOffers()
+{
+    const std::uint32_t offers = sound.samplePool.returned.offers.Now();
+    if (offers == offersSeen) return false;
+    offersSeen = offers;
+    bool taken = false;
     for (int s = 0; s < kSampleSlots; ++s) {
         if (!sound.sampleSlots[static_cast<std::size_t>(s)].TakeOffer(sound.samplePool.returned)) continue;
+        taken = true;
         const bool isLayer = s >= kFirstLayerSlot;
         if (isLayer != sound.isSampler) continue;
         for (auto& voice : voices) {
@@ -66,47 +102,52 @@ void GrooveChannel::TakeOffers()
             layer.seam.Begin(voice->sounded && layer.position > 0.0 && layer.delayFrames == 0);
         }
     }
+    return taken;
 }
 
 bool GrooveChannel::RefreshVoices()
 {
-    if (!AnyVoiceActive(voices)) return false;
-    bool sounds = false;
-    const float levelGain = LevelGain(sound.Modulated(slot::AmpLevel));
-    for (auto& voice : voices) {
-        if (!voice->active) continue;
-        sound.velocityIn = SourceVelocity(*voice);
-        sounds |= RefreshVoice(sound, *voice, levelGain);
-    }
-    return sounds;
+    ForEachBit(activeVoices, [this](int v) {
+        ChannelVoice& voice = *voices[static_cast<std::size_t>(v)];
+        sound.velocityIn = SourceVelocity(voice);
+        if (!RefreshVoice(sound, voice)) activeVoices &= static_cast<std::uint8_t>(~(1u << v));
+    });
+    return activeVoices != 0;
 }
 
 void GrooveChannel::TuneVoices()
 {
     SetUpVoices(sound);
-    for (auto& voice : voices) {
-        if (!voice->active) continue;
-        sound.velocityIn = SourceVelocity(*voice);
+    const bool moves = PitchMoves(sound);
+    ForEachBit(activeVoices, [&](int v) {
+        ChannelVoice& voice = *voices[static_cast<std::size_t>(v)];
+        sound.velocityIn = SourceVelocity(voice);
+        const bool glides = !sound.isSampler && voice.tunedPitch != voice.glidePitch;
+        if (!moves && !glides && voice.tunedAt == sound.tuneCount) return;
         if (sound.isSampler)
-            TuneLayers(sound, *voice);
+            TuneLayers(sound, voice);
         else
-            TuneOscillators(sound, *voice);
-    }
+            TuneOscillators(sound, voice);
+        voice.tunedPitch = voice.glidePitch;
+        voice.tunedAt = sound.tuneCount;
+    });
 }
 
-ChannelVoice& GrooveChannel::VoiceForNote()
+int GrooveChannel::VoiceForNote()
 {
-    if (sound.Modulated(slot::MonoVoice) != 0.0f) return *voices[0];
-    const auto free = std::find_if(voices.rbegin(), voices.rend(), [](const auto& voice) { return !voice->active; });
-    if (free != voices.rend()) return **free;
-    return **std::min_element(voices.begin(), voices.end(),
-                              [](const auto& a, const auto& b) { return a->age < b->age; });
+    if (sound.Modulated(slot::MonoVoice) != 0.0f) return 0;
+    for (int v = kVoices - 1; v >= 0; --v)
+        if ((activeVoices >> v & 1u) == 0) return v;
+    const auto oldest = std::min_element(voices.begin(), voices.end(),
+                                         [](const auto& a, const auto& b) { return a->age < b->age; });
+    return static_cast<int>(oldest - voices.begin());
 }
 
 void GrooveChannel::NoteOn(int note, float tempo, float velocity)
 {
     sound.velocityIn = velocity;
-    ChannelVoice& voice = VoiceForNote();
+    const int number = VoiceForNote();
+    ChannelVoice& voice = *voices[static_cast<std::size_t>(number)];
     voice.note = note;
     voice.pitchNote = PitchNote(sound, note);
     voice.velocity = velocity;
@@ -119,6 +160,8 @@ void GrooveChannel::NoteOn(int note, float tempo, float velocity)
         voice.lengthFrames = kLiveLengthFrames;
     }
     StartVoice(sound, voice);
+    activeVoices |= static_cast<std::uint8_t>(1u << number);
+    atRest = false;
     sound.lastPitch = static_cast<float>(voice.pitchNote);
 }
 
@@ -128,6 +171,9 @@ void GrooveChannel::Reset(float newRate)
     strip.Reset();
     for (auto& unit : fxUnits) unit->Reset(newRate);
     stutterUnit->Reset(newRate);
+    unitsAwake = kWholeRack;
+    activeVoices = 0;
+    atRest = false;
     voiceCounter = 0;
     sound.lastPitch = -1.0f;
     for (auto& voice : voices) {

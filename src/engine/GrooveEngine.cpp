@@ -36,7 +36,8 @@ bool Moved(const Shared<float> (&block)[kChannelSlots], const float* seen)
 GrooveEngine::GrooveEngine(const Shared<std::thread::id>* newOwner)
     : samplePool(std::make_unique<SamplePool>()), owner(newOwner)
 {
-    for (auto& channel : channels) channel = std::make_unique<GrooveChannel>(*samplePool, random);
+    for (int c = 0; c < kChannels; ++c)
+        channels[static_cast<std::size_t>(c)] = std::make_unique<GrooveChannel>(*samplePool, random, c);
 }
 
 GrooveEngine::~GrooveEngine() = default;
@@ -112,15 +113,19 @@ void GrooveEngine::SetExtControl(int n, float value)
 void GrooveEngine::RefreshChannel(int channel, bool withLocks)
 {
     const auto& stored = storedParams[channel];
+    ParameterBlock& params = Channel(channel).sound.params;
     constexpr int kTries = 3; // another thread's write, or step, is not to be lost under this copy
     for (int n = 0; n < kTries; ++n) {
+        params.changes.Note(false); // of two who copy at once, one sees what the other has read, or has left
         const int step = score.lastStep[channel];
         float seen[kChannelSlots], block[kChannelSlots];
         std::copy(std::begin(stored), std::end(stored), seen);
         std::copy(std::begin(seen), std::end(seen), block);
         if (withLocks && step >= 0) score.Current().locks[channel][step].ApplyTo(block);
-        for (int i = 0; i < kChannelSlots; ++i)
-            Channel(channel).sound.params[i] = Tame(block[i]); // wild values stay in `stored`
+        bool changed = false;
+        for (int i = 0; i < kChannelSlots; ++i) changed |= params.Write(i, Tame(block[i])); // wild ones stay in `stored`
+        params.changes.Note(changed);
+        if (changed) changes.Add();
         if (score.lastStep[channel] == step && !Moved(stored, seen)) break;
     }
     RefreshFxActive(channel);
@@ -130,8 +135,15 @@ void GrooveEngine::RefreshFxActive(int channel)
 {
     const bool reached = buttons.Reaches(channel, selection.selectedChannel);
     const int padEffect = buttons.fxPad ? static_cast<int>(selection.selectedFx) : -1;
-    for (int effect = 0; effect < kEffects; ++effect)
-        Channel(channel).fxActive[effect] = reached && (buttons.fxOn[effect] || effect == padEffect);
+    GrooveChannel& target = Channel(channel);
+    bool changed = false;
+    for (int effect = 0; effect < kEffects; ++effect) {
+        const bool active = reached && (buttons.fxOn[effect] || effect == padEffect);
+        changed |= target.fxActive[effect].Exchange(active) != active;
+    }
+    if (!changed) return;
+    target.sound.params.changes.Add();
+    changes.Add();
 }
 
 void GrooveEngine::RefreshFxActive()

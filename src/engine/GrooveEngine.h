@@ -17,6 +17,7 @@
 #include "engine/sequencer/Selection.h"
 #include "engine/dsp/RandomGenerator.h"
 #include "framework/Limits.h"
+#include "platform/ChangeCount.h"
 #include "platform/Shared.h"
 
 namespace korvane {
@@ -29,6 +30,15 @@ namespace korvane {
 /// or under the program-switch handshake. ResetGroove, ResetEngine and what puts a loaded state are called so only.
 class GrooveEngine {
 public:
+    /// What the channels hear of the rest of the engine in a run.
+    struct RunInputs {
+        std::uint32_t changes = 0, offers = 0;
+        std::uint32_t silenced = 0; // a bit for each channel
+        int selected = -1;
+        float tempo = 0.0f, modWheel = 0.0f, pitchBend = 0.0f, pressure = 0.0f;
+        bool operator==(const RunInputs&) const = default;
+    };
+
     /// newOwner  the thread that has the engine to itself, nobody's id while none has; null where one thread does
     ///           everything
     explicit GrooveEngine(const Shared<std::thread::id>* newOwner = nullptr);
@@ -110,6 +120,8 @@ public:
 
     Shared<float> storedParams[kChannels][kChannelSlots]; // any thread writes and reads; each value stands for itself
     Channels channels;
+    ChangeCount changes; // of the channels' working blocks and fxActive flags; RefreshChannel and RefreshFxActive count
+    RunInputs lastRun;   // audio thread
 
     EngineCommands commands;
 

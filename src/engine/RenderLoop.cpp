@@ -3,7 +3,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bitset>
 #include <cassert>
 
 #include "engine/ChannelStages.h"
@@ -17,57 +16,105 @@ namespace korvane {
 
 namespace {
 
-constexpr int kOutputs = 2 + 2 * kChannels;
+/// The channels of a run.
+struct RunList {
+    std::array<GrooveChannel*, kChannels> channels;
+    std::array<int, kChannels> numbers;
+    std::size_t count = 0;
 
-void RefreshChannels(GrooveEngine& engine)
+    operator RunChannels() const { return {channels.data(), count}; }
+};
+
+GrooveEngine::RunInputs InputsOf(const GrooveEngine& engine)
 {
-    const int selected = engine.selection.selectedChannel;
-    for (int c = 0; c < kChannels; ++c) {
-        ChannelSound& sound = engine.Channel(c).sound;
-        const bool live = c == selected;
-        sound.muted = engine.mixer.Silences(c, selected);
-        sound.modWheelIn = live ? static_cast<float>(engine.liveModWheel) : 0.0f;
-        sound.pitchBendIn = live ? static_cast<float>(engine.livePitchBend) : 0.0f;
-        sound.pressureIn = live ? static_cast<float>(engine.livePressure) : 0.0f;
-        engine.Channel(c).Refresh(engine.clock.tempo);
-    }
+    GrooveEngine::RunInputs inputs;
+    inputs.changes = engine.changes.Now(); // before anything that it counts is read
+    inputs.offers = engine.samplePool->returned.offers.Now();
+    inputs.selected = engine.selection.selectedChannel;
+    for (int c = 0; c < kChannels; ++c)
+        inputs.silenced |= static_cast<std::uint32_t>(engine.mixer.Silences(c, inputs.selected)) << c;
+    inputs.tempo = engine.clock.tempo;
+    inputs.modWheel = engine.liveModWheel;
+    inputs.pitchBend = engine.livePitchBend;
+    inputs.pressure = engine.livePressure;
+    return inputs;
 }
 
-void MixChannels(GrooveEngine& engine, const std::bitset<kChannels>& audible, float* const* outputs, int frames)
+/// All channels, or where nothing has changed for them those that are not at rest.
+/// ticked  a tick has come since the last run
+RunList RefreshChannels(GrooveEngine& engine, bool ticked)
 {
-    SamplePool& pool = *engine.samplePool;
+    const GrooveEngine::RunInputs now = InputsOf(engine);
+    const bool moved = ticked || now != engine.lastRun;
+    engine.lastRun = now;
+    RunList run;
+    for (int c = 0; c < kChannels; ++c) {
+        GrooveChannel& channel = engine.Channel(c);
+        if (!moved && channel.atRest) continue;
+        if (moved) {
+            const bool live = c == now.selected;
+            channel.sound.muted = (now.silenced >> c & 1u) != 0;
+            channel.sound.modWheelIn = live ? now.modWheel : 0.0f;
+            channel.sound.pitchBendIn = live ? now.pitchBend : 0.0f;
+            channel.sound.pressureIn = live ? now.pressure : 0.0f;
+        }
+        channel.Refresh(now.tempo);
+        run.numbers[run.count] = c;
+        run.channels[run.count++] = &channel;
+    }
+    return run;
+}
+
+/// Where a chunk goes; null where nobody listens, but for the main pair.
+struct Outputs {
+    GrooveEngine& engine;
+    float* const* pointers;
+    int offset = 0; // of the run
+
+    float* Main(int side) const
+    {
+        return (pointers[side] ? pointers[side] : engine.samplePool->Scratch(side)) + offset;
+    }
+    float* Direct(int c, int side) const
+    {
+        float* const pointer = pointers[2 + 2 * c + side];
+        return pointer ? pointer + offset : nullptr;
+    }
+};
+
+void MixStrips(const RunList& run, std::uint32_t audible, const Outputs& outputs, int frames)
+{
     std::array<StripJob, kChannels> jobs;
     std::array<MixerStrip*, kChannels> strips;
     std::size_t count = 0;
-    for (int c = 0; c < kChannels; ++c) {
-        GrooveChannel& channel = engine.Channel(c);
-        MixerStrip& strip = channel.strip;
-        strip.Set(channel.sound.params[slot::MixLevel], channel.sound.params[slot::Panning]);
-        if (audible[static_cast<std::size_t>(c)]) {
-            jobs[count] =
-                strip.Job(pool.ChannelLeft(c), pool.ChannelRight(c), outputs[2 + 2 * c], outputs[3 + 2 * c], c == 0);
-            strips[count++] = &strip;
+    for (std::size_t n = 0; n < run.count; ++n) {
+        GrooveChannel& channel = *run.channels[n];
+        const int c = run.numbers[n];
+        const bool mixed = (audible >> n & 1u) != 0;
+        channel.atRest = !mixed && channel.activeVoices == 0 && channel.unitsAwake == 0 && (channel.unitsOn & 1u) == 0;
+        if (mixed) {
+            jobs[count] = channel.strip.Job(channel.mixLeft, channel.mixRight, outputs.Direct(c, 0),
+                                            outputs.Direct(c, 1), c == 0);
+            strips[count++] = &channel.strip;
         } else {
-            strip.Skip();
+            channel.strip.Skip();
         }
     }
-    kernels.mixStrips(jobs.data(), static_cast<int>(count), outputs[0], outputs[1], frames);
+    if (count > 0)
+        kernels.mixStrips(jobs.data(), static_cast<int>(count), outputs.Main(0), outputs.Main(1), frames);
     for (std::size_t n = 0; n < count; ++n) strips[n]->Mixed(jobs[n]);
 }
 
-void RenderChannels(GrooveEngine& engine, float* const* outputs, int frames)
+void RenderChannels(GrooveEngine& engine, const RunList& run, const Outputs& outputs, int frames)
 {
-    SamplePool& pool = *engine.samplePool;
-    std::array<GrooveChannel*, kChannels> channels;
-    for (int c = 0; c < kChannels; ++c) {
-        channels[static_cast<std::size_t>(c)] = &engine.Channel(c);
-        std::fill_n(pool.ChannelLeft(c), frames, 0.0f);
-        std::fill_n(pool.ChannelRight(c), frames, 0.0f);
+    if (run.count == 0) return;
+    for (GrooveChannel* channel : static_cast<RunChannels>(run)) {
+        std::fill_n(channel->mixLeft, frames, 0.0f);
+        std::fill_n(channel->mixRight, frames, 0.0f);
     }
-    RenderVoices(channels, frames);
-    FilterChannels(channels, pool, frames);
-    const auto audible = ProcessRacks(channels, pool, frames, engine.clock.tempo);
-    MixChannels(engine, audible, outputs, frames);
+    RenderVoices(run, frames);
+    FilterChannels(run, *engine.samplePool, frames);
+    MixStrips(run, ProcessRacks(run, frames, engine.clock.tempo), outputs, frames);
 }
 
 } // namespace
@@ -79,37 +126,35 @@ void RenderFrames(GrooveEngine& engine, float* const* outputs, int frames)
     ServeTransport(engine);
     engine.ServeVoices();
 
-    std::array<float*, kOutputs> out;
-    std::copy_n(outputs, kOutputs, out.begin());
-    for (int side = 0; side < 2; ++side)
-        if (!out[side]) out[side] = engine.samplePool->Scratch(side);
+    Outputs out{engine, outputs};
     if (frames < 1) return;
-    std::fill_n(out[0], frames, 0.0f);
-    std::fill_n(out[1], frames, 0.0f);
+    std::fill_n(out.Main(0), frames, 0.0f);
+    std::fill_n(out.Main(1), frames, 0.0f);
 
     // A late tick comes with the first run that begins after its instant. Without shuffle that instant is the step's
     // own, which no run begins after, so the two ticks come together.
     const float straightness = clock.Straightness();
     const double lateThreshold = clock.LateThreshold(straightness);
     while (frames > 0) {
+        bool ticked = false;
         if (clock.lateTickPending && (clock.samplesToNextStep < lateThreshold || straightness == 1.0f)) {
             SequencerTick(engine, true);
+            ticked = true;
             clock.lateTickPending = false;
         }
         const int framesToStep = std::max(0, Truncate(static_cast<double>(clock.samplesToNextStep)));
         int run = std::min(framesToStep, frames);
         if (framesToStep == 0) {
             SequencerTick(engine, false);
+            ticked = true;
             if (clock.patternStep & 1) clock.lateTickPending = true;
             clock.samplesToNextStep = clock.samplesToNextStep + clock.StepFrames();
             run = 0; // the channels still take over what the tick has changed
         }
-        RefreshChannels(engine);
-        RenderChannels(engine, out.data(), run);
-        if (clock.Recording()) engine.mixer.click.Add(out[0], out[1], run);
+        RenderChannels(engine, RefreshChannels(engine, ticked), out, run);
+        if (clock.Recording()) engine.mixer.click.Add(out.Main(0), out.Main(1), run);
         clock.Pass(run);
-        for (float*& pointer : out)
-            if (pointer) pointer += run;
+        out.offset += run;
         frames -= run;
     }
 }

@@ -29,9 +29,10 @@ public:
 
     /// Something above −80 dB is still in the filters.
     bool Ringing() const;
+    /// There is nothing in the filters: silence passes and changes nothing.
+    bool Silent() const;
 
 private:
-    bool Silent() const;
 
     alignas(64) EqualiserSide<Stereo> sides{};
 };

@@ -108,9 +108,17 @@ bool FXUnit::Begin(float tempo)
         audible = 0;
         return false;
     }
+    if (tempo != lfoTempo || lfoBeats != lfoTimedBeats || sampleRate != lfoRate) TimeLfo(tempo);
+    return true;
+}
+
+void FXUnit::TimeLfo(float tempo)
+{
     lfoSeconds = lfoBeats * 60.0f / tempo;
     lfoIncrement = lfoSeconds > 0.0f ? 1.0 / (static_cast<double>(sampleRate) * static_cast<double>(lfoSeconds)) : 0.0;
-    return true;
+    lfoTempo = tempo;
+    lfoTimedBeats = lfoBeats;
+    lfoRate = sampleRate;
 }
 
 void FXUnit::Finish(const StereoBlock& block)

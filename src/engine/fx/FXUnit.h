@@ -61,6 +61,8 @@ public:
     /// tempo   beats per minute
     void Process(float* left, float* right, int frames, float tempo);
     friend void ProcessUnits(std::span<const UnitRun> runs, float tempo);
+    /// After a run: while it stays bypassed and hears nothing, a further one would change nothing and `audible` is 0.
+    bool AtRest() const { return audible == 0 && (eqOn == 0 || eqBands->Silent()); }
 
     const FxType type;
 
@@ -77,6 +79,7 @@ public:
 private:
     bool Usable() const;
     bool Begin(float tempo);
+    void TimeLfo(float tempo);
     void Finish(const StereoBlock& block);
     bool Equalises() const { return eqBands && eqOn; }
     void UpdateBands();
@@ -84,6 +87,8 @@ private:
 
     const std::unique_ptr<Effect> effect;
     const std::unique_ptr<Equaliser> eqBands; // pump only
+
+    float lfoTempo = 0.0f, lfoTimedBeats = 0.0f, lfoRate = 0.0f; // what the LFO's period and increment are of
 };
 
 } // namespace korvane

@@ -36,11 +36,11 @@ LfoShape ShapeOf(float value)
     return static_cast<LfoShape>(Clamp(law::Position(value, kLast), 0, kLast));
 }
 
-void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
+void UpdateEqualiser(FXUnit& unit, const ParameterBlock& params)
 {
     unit.eqOn = params[slot::EqOn] != 0.0f;
     for (std::size_t band = 0; band < kEqBands; ++band) {
-        const float gain = params[slot::EqGain + band];
+        const float gain = params[slot::EqGain + static_cast<int>(band)];
         if (gain == unit.eqGains[band]) continue;
         unit.eqGains[band] = gain;
         unit.eqChanged[band] = 1;
@@ -49,11 +49,11 @@ void UpdateEqualiser(FXUnit& unit, const Shared<float>* params)
 
 } // namespace
 
-void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
-                      const std::array<std::unique_ptr<FXUnit>, kEffects>& units, FXUnit& stutter)
+void UpdateFxSettings(const ParameterBlock& params, const Shared<bool>* fxActive,
+                      const std::array<std::unique_ptr<FXUnit>, kEffects>& units)
 {
-    for (std::size_t k = 0; k < units.size(); ++k) {
-        FXUnit& unit = *units[k];
+    for (int k = 0; k < kEffects; ++k) {
+        FXUnit& unit = *units[static_cast<std::size_t>(k)];
         unit.bypass = !fxActive[k] && params[slot::FxGlue + k] == 0.0f;
         unit.x = Clamp<float>(params[slot::FxX + k], 0.0f, 1.0f);
         unit.y = Clamp<float>(params[slot::FxY + k], 0.0f, 1.0f);
@@ -63,6 +63,10 @@ void UpdateFxSettings(const Shared<float>* params, const Shared<bool>* fxActive,
             SyncBeats(params[slot::FxLfoRate + k]) * (params[slot::FxLfoSync + k] != 0.0f ? kBeatsPerBar : 1.0f);
         if (unit.type == FxType::Pump) UpdateEqualiser(unit, params);
     }
+}
+
+void HoldStutter(const ParameterBlock& params, FXUnit& stutter)
+{
     if (params[slot::FxBypassStutter] != 0.0f) stutter.bypass = 1;
 }
 

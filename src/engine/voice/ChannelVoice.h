@@ -51,6 +51,8 @@ struct ChannelVoice : VoiceMotion<float> {
     float velocity = 0.0f;         // 0..1
     std::int32_t lengthFrames = 0; // frames until the note is released
 
+    float cutoff = 0.0f, tracking = 0.0f; // what cutoffOffset is made of: the voice's own, how far the pitch moves it
+    bool followsVelocity = false;         // the output gain does
     float resonance = 0.0f;
     float filterState[2][4] = {}; // left, right; four stages
 
@@ -58,7 +60,9 @@ struct ChannelVoice : VoiceMotion<float> {
     UnisonPhases phases = {};
     UnisonTuning tuning; // of the run
     OscillatorPitch tunedTo;
-    Seam seam; // of the oscillators
+    float tunedPitch = 0.0f;                // glidePitch when the oscillators were tuned
+    std::uint64_t setUpAt = 0, tunedAt = 0; // the channel's inputCount and tuneCount then; 0: not for this note yet
+    Seam seam;                              // of the oscillators
 
     // Of the current run.
     alignas(64) float left[kMaxRun];

@@ -154,15 +154,22 @@ void CountDown(SoundingVoices sounding, std::size_t v, MotionJob* jobs, int fram
 
 void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
 {
-    SetUpLfo(channel, channel.lfo1, 0, tempo);
-    SetUpLfo(channel, channel.lfo2, 1, tempo);
-    if (voicesSound) {
+    const InputStamp now = channel.Stamp();
+    if (channel.modulationOf != now) {
+        channel.modulationOf = now;
+        SetUpLfo(channel, channel.lfo1, 0, tempo);
+        SetUpLfo(channel, channel.lfo2, 1, tempo);
+        constexpr int last = slot::LastPosition(slot::FilterType);
+        channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), last), 0, last);
+        channel.cutoffBase = channel.params[slot::FilterCutoff];
+    }
+    if (voicesSound && channel.routingOf != now) {
+        channel.routingOf = now;
         SetUpRouting(channel, 0, channel.env1, channel.lfo1);
         SetUpRouting(channel, 1, channel.env2, channel.lfo2);
+        channel.levelGain = LevelGain(channel.Modulated(slot::AmpLevel));
+        ++channel.tuneCount;
     }
-    constexpr int last = slot::LastPosition(slot::FilterType);
-    channel.filterType = Clamp(law::Position(channel.Modulated(slot::FilterType), last), 0, last);
-    channel.cutoffBase = channel.params[slot::FilterCutoff];
     if (!(channel.cutoffSmooth >= 0.0f) || !std::isfinite(channel.cutoffSmooth))
         channel.cutoffSmooth = channel.cutoffBase;
     if (!std::isfinite(channel.modAmountSmooth)) channel.modAmountSmooth = 0.0f;
@@ -170,6 +177,10 @@ void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo)
 
 void SetUpVoices(ChannelSound& channel)
 {
+    const InputStamp now = channel.Stamp();
+    if (channel.voicesOf == now) return;
+    channel.voicesOf = now;
+    ++channel.tuneCount;
     channel.modTarget = law::ModulationAmount(channel.Modulated(slot::Modulation));
     channel.glideRate = law::EnvelopeRate(law::SlideSeconds(channel.Modulated(slot::SlideTime)), channel.rate);
     if (!channel.isSampler) SetUpSynth(channel, channel.synth);

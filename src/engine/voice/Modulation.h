@@ -7,8 +7,8 @@ namespace korvane {
 
 struct ChannelSound;
 
-/// Reads LFO rates, routing, filter type and cutoff for the coming run.
-/// voicesSound  a voice is active; else the routing stays
+/// Reads LFO rates, routing, filter type, level and cutoff for the coming run.
+/// voicesSound  a voice is active; else routing and level stay
 /// tempo        beats per minute
 void SetUpModulation(ChannelSound& channel, bool voicesSound, float tempo);
 

@@ -44,6 +44,18 @@ void StartEnvelopes(ChannelSound& channel, ChannelVoice& voice)
     }
 }
 
+/// What the voice's own velocity has a part in.
+void SetUpVoice(const ChannelSound& channel, ChannelVoice& voice)
+{
+    if (voice.setUpAt == channel.inputCount) return;
+    voice.setUpAt = channel.inputCount;
+    voice.tracking = channel.Modulated(slot::FilterTracking);
+    voice.cutoff = channel.Modulated(slot::FilterCutoff);
+    voice.resonance = Clamp(channel.Modulated(slot::FilterResonance), -kLoudest, kLoudest);
+    voice.followsVelocity = !voice.fromSequencer && channel.Modulated(slot::VelocitySensitivity) != 0.0f;
+    voice.pitchNote = PitchNote(channel, voice.note);
+}
+
 bool Faded(const ChannelVoice& voice)
 {
     return voice.amp.level < kSilence && voice.amp.target == 0.0f && voice.gain < kSilence &&
@@ -71,6 +83,7 @@ void StartVoice(ChannelSound& channel, ChannelVoice& voice)
     voice.active = true;
     voice.lfo1Out = voice.lfo2Out = 0.0f;
     voice.seam = {};
+    voice.setUpAt = voice.tunedAt = 0;
 
     const bool silenced = voice.fromSequencer && channel.muted;
     voice.gainTarget = silenced ? 0.0f : Clamp(law::Square(channel.Modulated(slot::AmpLevel)), 0.0f, kLoudest);
@@ -88,7 +101,7 @@ void StartVoice(ChannelSound& channel, ChannelVoice& voice)
         StartOscillators(channel, voice);
 }
 
-bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain)
+bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice)
 {
     Recover(voice.amp.level, 0.0f);
     Recover(voice.env1.level, 0.0f);
@@ -105,17 +118,15 @@ bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain)
         return false;
     }
 
-    const float tracking = channel.Modulated(slot::FilterTracking);
-    const float trackedCutoff = tracking == 0.0f ? 0.0f : law::CutoffTracking(voice.glidePitch, tracking);
+    SetUpVoice(channel, voice);
+    const float trackedCutoff =
+        voice.tracking == 0.0f ? 0.0f : law::CutoffTracking(voice.glidePitch, voice.tracking);
+    voice.cutoffOffset = trackedCutoff + voice.cutoff - channel.cutoffBase;
 
     const bool silenced = voice.fromSequencer && channel.muted;
     const bool released = voice.amp.level < kSilence && voice.amp.target == 0.0f;
-    const bool followsVelocity = !voice.fromSequencer && channel.Modulated(slot::VelocitySensitivity) != 0.0f;
-    voice.gainTarget = silenced || released ? 0.0f : levelGain * (followsVelocity ? voice.velocity : 1.0f);
-
-    voice.cutoffOffset = trackedCutoff + channel.Modulated(slot::FilterCutoff) - channel.cutoffBase;
-    voice.resonance = Clamp(channel.Modulated(slot::FilterResonance), -kLoudest, kLoudest);
-    voice.pitchNote = PitchNote(channel, voice.note);
+    voice.gainTarget =
+        silenced || released ? 0.0f : channel.levelGain * (voice.followsVelocity ? voice.velocity : 1.0f);
     return true;
 }
 

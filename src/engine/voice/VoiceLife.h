@@ -21,8 +21,7 @@ void StartVoice(ChannelSound& channel, ChannelVoice& voice);
 
 /// At the start of a block: takes over what the channel's parameters say now, or ends a voice that has faded or whose
 /// layers have all run out. False when the voice has ended.
-/// levelGain  output gain of the channel's "CHN: Amp Level", see LevelGain
-bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice, float levelGain);
+bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice);
 
 /// Gain that "CHN: Amp Level" gives a note at full velocity: -25 dB to +25 dB, on top of the sources' own scale.
 float LevelGain(float ampLevel);

@@ -42,7 +42,7 @@ TEST_F(LaneTest, AStrokeLocksTheNotesWhoseStretchesItCrosses)
 
 TEST_F(LaneTest, WhatPlaysNowIsHeardAtOnceAndNothingElseIsTouched)
 {
-    const Shared<float>& heard = Engine().Channel(9).sound.params[12];
+    const ParameterBlock::Entry heard = Engine().Channel(9).sound.params[12];
     Engine().selection.selectedBar = 5;
     Do("9.0:1 9.16:1 open 9 tap L3,0.75");
     EXPECT_FLOAT_EQ(heard, 0.5f); // stopped

@@ -18,9 +18,13 @@ struct Rack {
         }
     }
     FXUnit& Unit(FxType type) { return *units[static_cast<std::size_t>(type)]; }
-    void Update() { UpdateFxSettings(params, active, units, stutter); }
+    void Update()
+    {
+        UpdateFxSettings(params, active, units);
+        HoldStutter(params, stutter);
+    }
 
-    Shared<float> params[kChannelSlots];
+    ParameterBlock params;
     Shared<bool> active[kEffects];
     std::array<std::unique_ptr<FXUnit>, kEffects> units;
     FXUnit stutter{FxType::Stutter};

@@ -24,7 +24,7 @@ struct FilterRig {
 
     FilterRig()
     {
-        for (auto& channel : channels) channel = std::make_unique<GrooveChannel>(*pool, random);
+        for (int c = 0; c < kChannels; ++c) channels[c] = std::make_unique<GrooveChannel>(*pool, random, c);
     }
 
     float Value() { return static_cast<float>(random.Next()) * 0x1p-32f; }
@@ -34,7 +34,7 @@ struct FilterRig {
     {
         ChannelVoice& voice = *channels[c]->voices[v];
         channels[c]->sound.filterType = c % 3;
-        voice.active = true;
+        channels[c]->activeVoices |= static_cast<std::uint8_t>(1u << v);
         voice.resonance = Value();
         for (auto& side : voice.filterState)
             for (float& stage : side) stage = Value() - 0.5f;
@@ -70,7 +70,7 @@ TEST(ChannelFilter, ActsOnASineAsItIsSet)
         channel.sound.params[slot::FilterType] = c.type;
         RenderAlone(channel, 0, kTempo);
         ChannelVoice& voice = *channel.voices[0];
-        voice.active = true;
+        channel.activeVoices = 1;
         voice.resonance = c.resonance;
         std::fill_n(voice.cutoffFrames, kMaxRun, c.cutoff);
         std::fill_n(voice.gainFrames, kMaxRun, 2.0f);
@@ -117,7 +117,7 @@ TEST(ChannelFilter, VoicesSideBySideGiveTheBitsOfEachAlone)
                 const int c = v * 5 % kChannels;
                 for (FilterRig* rig : {&together, &alone}) rig->Play(c, v / kChannels);
                 FilterChannels(Pointers(alone.channels), *alone.pool, frames);
-                alone.channels[c]->voices[v / kChannels]->active = false;
+                alone.channels[c]->activeVoices = 0;
             }
             FilterChannels(Pointers(together.channels), *together.pool, frames);
             ASSERT_EQ(Results(alone), Results(together)) << voices << " voices, " << frames << " frames";
