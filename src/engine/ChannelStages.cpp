@@ -54,8 +54,8 @@ void FilterChannels(RunChannels channels, SamplePool& pool, int frames)
         const FilterType type = static_cast<FilterType>(channel->sound.filterType);
         ForEachBit(channel->activeVoices, [&](int v) {
             ChannelVoice& voice = *channel->voices[static_cast<std::size_t>(v)];
-            jobs[count++] = {voice.filterState, voice.left,      voice.right, voice.cutoffFrames, voice.gainFrames,
-                             voice.resonance,   type,            channel->mixLeft, channel->mixRight};
+            jobs[count++] = {voice.filterState, voice.left, voice.right,      voice.cutoffFrames, voice.gainFrames,
+                             voice.resonance,   type,       channel->mixLeft, channel->mixRight};
         });
     }
     if (count > 0) kernels.filterVoices(jobs, count, pool.engineTable, frames);

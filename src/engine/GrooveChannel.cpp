@@ -67,8 +67,8 @@ void GrooveChannel::Refresh(float tempo)
 void GrooveChannel::TakeInputs(float tempo)
 {
     const bool otherSound = TakeOffers();
-    const Inputs now{sound.params.changes.Now(), sound.modWheelIn, sound.pitchBendIn, sound.pressureIn, sound.rate,
-                     tempo};
+    const Inputs now{sound.params.changes.Now(), sound.modWheelIn, sound.pitchBendIn,
+                     sound.pressureIn,           sound.rate,       tempo};
     if (!otherSound && sound.inputCount != 0 && now == inputs) return;
     inputs = now;
     ++sound.inputCount;
@@ -138,8 +138,8 @@ int GrooveChannel::VoiceForNote()
     if (sound.Modulated(slot::MonoVoice) != 0.0f) return 0;
     for (int v = kVoices - 1; v >= 0; --v)
         if ((activeVoices >> v & 1u) == 0) return v;
-    const auto oldest = std::min_element(voices.begin(), voices.end(),
-                                         [](const auto& a, const auto& b) { return a->age < b->age; });
+    const auto oldest =
+        std::min_element(voices.begin(), voices.end(), [](const auto& a, const auto& b) { return a->age < b->age; });
     return static_cast<int>(oldest - voices.begin());
 }
 

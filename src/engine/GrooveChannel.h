@@ -61,9 +61,9 @@ public:
     bool atRest = false;
     // A bit for each unit of the rack: the stutter, then "FX 1" to "FX 10".
     static constexpr std::uint16_t kWholeRack = (1u << (1 + kEffects)) - 1;
-    std::uint16_t unitsOn = 0;               // played or glued
-    std::uint16_t unitsHeard = 0;            // these and the one whose equaliser is on: what changes a channel that sounds
-    std::uint16_t unitsAwake = kWholeRack;   // not at rest, see FXUnit
+    std::uint16_t unitsOn = 0;    // played or glued
+    std::uint16_t unitsHeard = 0; // these and the one whose equaliser is on: what changes a channel that sounds
+    std::uint16_t unitsAwake = kWholeRack; // not at rest, see FXUnit
 
 private:
     /// What settings are worked out from, but for the velocity.

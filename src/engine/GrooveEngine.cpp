@@ -123,7 +123,8 @@ void GrooveEngine::RefreshChannel(int channel, bool withLocks)
         std::copy(std::begin(seen), std::end(seen), block);
         if (withLocks && step >= 0) score.Current().locks[channel][step].ApplyTo(block);
         bool changed = false;
-        for (int i = 0; i < kChannelSlots; ++i) changed |= params.Write(i, Tame(block[i])); // wild ones stay in `stored`
+        for (int i = 0; i < kChannelSlots; ++i)
+            changed |= params.Write(i, Tame(block[i])); // wild ones stay in `stored`
         params.changes.Note(changed);
         if (changed) changes.Add();
         if (score.lastStep[channel] == step && !Moved(stored, seen)) break;

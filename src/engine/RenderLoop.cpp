@@ -134,10 +134,10 @@ void RenderFrames(GrooveEngine& engine, float* const* outputs, int frames)
     // A late tick comes with the first run that begins after its instant. Without shuffle that instant is the step's
     // own, which no run begins after, so the two ticks come together.
     const float straightness = clock.Straightness();
-    const double lateThreshold = clock.LateThreshold(straightness);
     while (frames > 0) {
         bool ticked = false;
-        if (clock.lateTickPending && (clock.samplesToNextStep < lateThreshold || straightness == 1.0f)) {
+        if (clock.lateTickPending &&
+            (clock.samplesToNextStep < clock.LateThreshold(straightness) || straightness == 1.0f)) {
             SequencerTick(engine, true);
             ticked = true;
             clock.lateTickPending = false;

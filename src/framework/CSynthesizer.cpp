@@ -15,11 +15,16 @@ namespace korvane {
 
 namespace {
 
-constexpr std::size_t kMaxPointers = 64; // of either direction
 constexpr auto kPoll = std::chrono::milliseconds(1);
 constexpr auto kChangePoll = std::chrono::microseconds(100);
 
-int Pointers(std::int32_t count) { return std::clamp(count, 0, static_cast<int>(kMaxPointers)); }
+void Silence(float* samples, int frames)
+{
+    if (frames == 1)
+        *samples = 0.0f; // the shortest blocks spend most of their time with what surrounds them
+    else
+        std::fill_n(samples, frames, 0.0f);
+}
 
 } // namespace
 
@@ -117,40 +122,50 @@ void CSynthesizer::ServeChange()
 
 // Blocks
 
+CSynthesizer::Pointers::Pointers(float** given, int wanted) : count(given ? std::clamp(wanted, 0, kMost) : 0)
+{
+    const auto rest = std::copy_n(given, count, all.begin());
+    std::fill(rest, all.end(), nullptr);
+}
+
+void CSynthesizer::Pointers::Advance(int frames)
+{
+    for (int n = 0; n < count; ++n)
+        if (all[static_cast<std::size_t>(n)]) all[static_cast<std::size_t>(n)] += frames;
+}
+
 void CSynthesizer::ProcessBlock(float** inputs, float** outputs, int frames, bool replacing)
 {
-    const int numOutputs = Pointers(Definition() ? 2 * Definition()->numOutputPairs : 0);
-    const int numInputs = Pointers(Definition() ? Definition()->numInputs : 0);
-    std::array<float*, kMaxPointers> in{}, out{};
-    if (inputs) std::copy_n(inputs, numInputs, in.begin());
-    if (outputs) std::copy_n(outputs, numOutputs, out.begin());
-    if (blockThread == std::this_thread::get_id() && programChanges == 0) return; // entered again
+    const CPluginDefinition* const definition = Definition();
+    Pointers in(inputs, definition ? definition->numInputs : 0);
+    Pointers out(outputs, definition ? 2 * definition->numOutputPairs : 0);
+    const std::thread::id thisThread = std::this_thread::get_id();
+    if (blockThread == thisThread && programChanges == 0) return; // entered again
     if (replacing && frames > 0)
-        for (float* output : out)
-            if (output) std::fill_n(output, frames, 0.0f);
+        for (int n = 0; n < out.count; ++n)
+            if (float* const output = out.all[static_cast<std::size_t>(n)]) Silence(output, frames);
     if (!EnterBlock()) return;
-    audioThread = std::this_thread::get_id();
+    audioThread = thisThread;
     blockFrames = std::max(frames, blockFrames / 2); // of some hosts, only the first of a few is long
     ServeChange();
     ServeKeyOrders();
-    RenderChunks(in.data(), out.data(), frames);
+    RenderChunks(in, out, frames);
     ClearEvents();
     LeaveBlock();
 }
 
-void CSynthesizer::RenderChunks(float** inputs, float** outputs, int frames)
+void CSynthesizer::RenderChunks(Pointers& inputs, Pointers& outputs, int frames)
 {
     while (frames > 0) {
         DispatchPending();
         for (std::int64_t gap = NextGap(frames); gap > 0;) {
             const int chunk = static_cast<int>(std::min<std::int64_t>({kMaxChunk, frames, gap}));
             if (chunk < 1) return;
-            ProcessMultiOut(inputs, outputs, chunk);
-            for (std::size_t n = 0; n < kMaxPointers; ++n) {
-                if (inputs[n]) inputs[n] += chunk;
-                if (outputs[n]) outputs[n] += chunk;
-            }
+            ProcessMultiOut(inputs.all.data(), outputs.all.data(), chunk);
             frames -= chunk;
+            if (frames < 1) return;
+            inputs.Advance(chunk);
+            outputs.Advance(chunk);
             gap -= chunk;
         }
     }

@@ -1,6 +1,7 @@
 // The engine's interface to its bridges: events, blocks, parameters, programs.
 #pragma once
 
+#include <array>
 #include <atomic>
 #include <chrono>
 #include <cstdint>
@@ -139,7 +140,16 @@ private:
     void LeaveBlock();
     void ServeChange(); // who has the engine to itself
     std::chrono::nanoseconds Patience() const;
-    void RenderChunks(float** inputs, float** outputs, int frames);
+    /// The pointers of a block; those that the definition does not count are null.
+    struct Pointers {
+        static constexpr int kMost = 64;
+        std::array<float*, kMost> all;
+        int count;
+
+        Pointers(float** given, int wanted);
+        void Advance(int frames);
+    };
+    void RenderChunks(Pointers& inputs, Pointers& outputs, int frames);
 
     std::unique_ptr<CProgram> programs;
     int programCount = 0;

@@ -10,9 +10,9 @@ namespace korvane {
 ///
 /// Who changes a value stores it first and counts afterwards; who reads asks for the number first and looks at the
 /// values afterwards. A change that is read before it is counted makes the reader look once more than necessary. A
-/// change that the reader has missed is not counted yet: once it is, the number differs, and the reader finds that value
-/// or one that has replaced it, which counts in turn. So nothing stays unseen, however writers meet; that a writer may
-/// leave out what already stands there changes nothing, since whoever has stored it counts it.
+/// change that the reader has missed is not counted yet: once it is, the number differs, and the reader finds that
+/// value or one that has replaced it, which counts in turn. So nothing stays unseen, however writers meet; that a
+/// writer may leave out what already stands there changes nothing, since whoever has stored it counts it.
 class ChangeCount {
 public:
     /// Any thread.

@@ -33,7 +33,6 @@ public:
     bool Silent() const;
 
 private:
-
     alignas(64) EqualiserSide<Stereo> sides{};
 };
 

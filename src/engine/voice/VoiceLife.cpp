@@ -119,8 +119,7 @@ bool RefreshVoice(ChannelSound& channel, ChannelVoice& voice)
     }
 
     SetUpVoice(channel, voice);
-    const float trackedCutoff =
-        voice.tracking == 0.0f ? 0.0f : law::CutoffTracking(voice.glidePitch, voice.tracking);
+    const float trackedCutoff = voice.tracking == 0.0f ? 0.0f : law::CutoffTracking(voice.glidePitch, voice.tracking);
     voice.cutoffOffset = trackedCutoff + voice.cutoff - channel.cutoffBase;
 
     const bool silenced = voice.fromSequencer && channel.muted;
