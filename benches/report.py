@@ -127,14 +127,17 @@ def bench_table(name, best):
 
 
 def kernel_table(best):
-    """Of benchmarks with names "Kernel/KERNEL/FORM": the plain form and each instruction set's."""
-    names = list(dict.fromkeys(name.split("/")[1] for name in best if name.startswith("Kernel/")))
+    """Of benchmarks with names "Kernel/KERNEL/FORM", or of all channels in blocks of 128: the plain form and each
+    instruction set's."""
+    kernels = defaultdict(dict)
+    for name, value in best.items():
+        first, *words = name.split("/")
+        if first == "Kernel" and words[2:] in ([], ["13", "128"]):
+            kernels[words[0]][words[1]] = value
     forms = ["plain", *instruction_sets()]
-    rows = []
-    for name in names:
-        values = [best.get(f"Kernel/{name}/{form}") for form in forms]
-        rows.append([name] + ["" if v is None else number(v) + (f" ({values[0] / v:.1f} ×)" if n and values[0] else "")
-                              for n, v in enumerate(values)])
+    rows = [[name, number(values["plain"])] +
+            [f"{number(values[form])} ({values['plain'] / values[form]:.1f} ×)" for form in forms[1:]]
+            for name, values in kernels.items()]
     return table(["Kernel, ns per unit and frame", *forms], rows)
 
 

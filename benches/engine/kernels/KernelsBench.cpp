@@ -83,14 +83,15 @@ constexpr Row kRows[] = {
 
 void Register(const Row& row, const std::string& form, const Kernels* of)
 {
-    benchmark::RegisterBenchmark(("Kernel/" + std::string(row.name) + "/" + form).c_str(), [row, of](auto& state) {
-        const auto call = row.make(of);
-        EnableFlushToZero(); // as blocks have it
-        for (auto _ : state) call();
-        state.counters["ns/unit/frame"] =
-            benchmark::Counter(row.units * kFrames * static_cast<double>(state.iterations()) * 1e-9,
-                               benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
-    });
+    benchmark::RegisterBenchmark(
+        ("Kernel/" + std::string(row.name) + "/" + form).c_str(), [row, of](benchmark::State& state) {
+            const auto call = row.make(of);
+            EnableFlushToZero(); // as blocks have it
+            for (auto _ : state) call();
+            state.counters["ns/unit/frame"] =
+                benchmark::Counter(row.units * kFrames * static_cast<double>(state.iterations()) * 1e-9,
+                                   benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+        });
 }
 
 const bool registered = [] {

@@ -7,6 +7,7 @@
 
 #include "engine/kernels/Kernels.h"
 #include "framework/Limits.h"
+#include "platform/FlushToZero.h"
 
 using namespace korvane;
 
@@ -36,14 +37,21 @@ void Sides(benchmark::State& state, SidesKernel<Side>* kernel)
     fill(all.noise);
     fill(all.lfo);
     fill(all.sides);
+<<<<<<< HEAD
     for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], &all.sides[c], all.lfo};
     for (auto _ : state) {
         std::memcpy(all.signal, all.noise, sizeof all.signal[0] * static_cast<std::size_t>(frames == 1 ? 1 : channels));
+=======
+    for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], all.sides[c], all.lfo};
+    fill(all.signal);
+    EnableFlushToZero(); // as blocks have it: the noise may die
+    for (auto _ : state) {
+>>>>>>> 2826ad8 (Benchmarks: kernels without the time that their noise takes; one table for all)
         kernel(all.jobs, channels, frames);
         benchmark::DoNotOptimize(all.signal);
     }
     const double units = static_cast<double>(state.iterations()) * channels * frames;
-    state.counters["ns/unit"] =
+    state.counters["ns/unit/frame"] =
         benchmark::Counter(units / 1e9, benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
 }
 
@@ -51,7 +59,7 @@ template <template <class> class Side>
 void Register(const char* name, SidesKernel<Side>* Kernels::*kernel)
 {
     const auto add = [&](const char* form, SidesKernel<Side>* function) {
-        const std::string title = std::string(name) + "/" + form;
+        const std::string title = "Kernel/" + std::string(name) + ", channel/" + form;
         for (const int channels : {1, 2, 4, 13})
             benchmark::RegisterBenchmark(title.c_str(), Sides<Side>, function)->Args({channels, kMaxFrames});
         benchmark::RegisterBenchmark(title.c_str(), Sides<Side>, function)->Args({kChannels, 1});
@@ -65,11 +73,11 @@ void Register(const char* name, SidesKernel<Side>* Kernels::*kernel)
 }
 
 const bool registered = [] {
-    Register("Distortion", &Kernels::distort);
-    Register("Decimator", &Kernels::decimate);
-    Register("ResonantFilter", &Kernels::filterSides);
-    Register("Phaser", &Kernels::phase);
-    Register("Equaliser", &Kernels::equalise);
+    Register("distortion", &Kernels::distort);
+    Register("decimator", &Kernels::decimate);
+    Register("resonant filter", &Kernels::filterSides);
+    Register("phaser", &Kernels::phase);
+    Register("equaliser", &Kernels::equalise);
     return true;
 }();
 
