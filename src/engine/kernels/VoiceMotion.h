@@ -164,26 +164,6 @@ struct MotionJob {
 using ModulateVoicesKernel = void(const MotionJob* jobs, int count, int frames);
 
 /// The plain form.
-inline void ModulateVoicesPlainly(const MotionJob* jobs, int count, int frames)
-{
-    for (const MotionJob* job = jobs; job != jobs + count; ++job) {
-        VoiceMotion<float>& voice = *job->voice;
-        ChannelMotion<float> channel = *job->channel;
-        for (int n = 0; n <= frames; ++n) {
-            if (n == job->release) {
-                voice.amp.rate = voice.ampReleaseRate;
-                voice.amp.target = 0.0f;
-            }
-            if (n == frames) break;
-            const float sines[] = {LfoSine(channel.phase[0]), LfoSine(channel.phase[1])};
-            const MotionFrame<float> frame = StepMotion<true, true, true>(voice, channel, sines);
-            job->cutoff[n] = frame.cutoff;
-            job->gain[n] = frame.gain;
-            job->amp[n] = frame.amp;
-            if (job->modAmount) job->modAmount[n] = frame.modAmount;
-        }
-        *job->moved = channel;
-    }
-}
+ModulateVoicesKernel ModulateVoicesPlainly;
 
 } // namespace korvane

@@ -10,7 +10,8 @@ ModulateVoicesKernel ModulateVoices;
 namespace {
 
 // A lane holds a voice and a copy of what moves in its channel.
-constexpr int kTile = 32; // frames between packing
+constexpr int kTile = 32;                 // frames between packing
+constexpr int kWorthPacking = 2 * kLanes; // frames of all voices of a group; fewer are faster one by one
 constexpr int kMaxJobs = kChannels * kVoices;
 constexpr int kRows = 4; // cutoff, gain, amp, modulation amount
 
@@ -54,14 +55,20 @@ bool Any(Ints mask)
 
 /// Voices that share a vector.
 struct Group {
-    VoiceMotion<Floats> voice;
-    ChannelMotion<Floats> channel;
+    union { // filled as a whole
+        VoiceMotion<Floats> voice;
+    };
+    union {
+        ChannelMotion<Floats> channel;
+    };
     const MotionJob* const* jobs;
     int count;
     bool lfosAct = false, modAmount = false, sines = false; // in one lane at least
     std::int32_t nextRelease;
     alignas(64) Floats sine[kTile][kLfos];
-    alignas(64) Floats rows[kRows][kTile];
+    alignas(64) Floats frames[kRows][kTile];
+    float* rows[kRows][kLanes]; // of the jobs, or `unread`
+    alignas(64) float unread[kMaxRun];
 
     Group(const MotionJob* const* group, int size);
     void Finish();
@@ -77,6 +84,10 @@ Group::Group(const MotionJob* const* group, int size) : jobs(group), count(size)
         const MotionJob* const job = lane < count ? jobs[lane] : nullptr;
         voices[lane] = job ? job->voice : &kNoVoice;
         channels[lane] = job ? job->channel : &kNoChannel;
+        rows[0][lane] = job ? job->cutoff : unread;
+        rows[1][lane] = job ? job->gain : unread;
+        rows[2][lane] = job ? job->amp : unread;
+        rows[3][lane] = job && job->modAmount ? job->modAmount : unread;
         if (!job) continue;
         lfosAct |= job->lfosAct;
         modAmount |= job->modAmount != nullptr;
@@ -146,13 +157,9 @@ void StoreFrames(Group& group, int from, int frames)
     for (int row = 0; row < (group.modAmount ? kRows : kRows - 1); ++row)
         for (int n = 0; n < frames; n += kLanes) {
             Floats lanes[kLanes];
-            for (int frame = 0; frame < kLanes; ++frame) lanes[frame] = group.rows[row][n + frame];
+            for (int frame = 0; frame < kLanes; ++frame) lanes[frame] = group.frames[row][n + frame];
             Transpose(lanes);
-            for (int lane = 0; lane < group.count; ++lane) {
-                const MotionJob& job = *group.jobs[lane];
-                float* const rows[kRows] = {job.cutoff, job.gain, job.amp, job.modAmount};
-                if (rows[row]) Store(lanes[lane], rows[row] + from + n);
-            }
+            for (int lane = 0; lane < kLanes; ++lane) Store(lanes[lane], group.rows[row][lane] + from + n);
         }
 }
 
@@ -184,13 +191,23 @@ void RunFrames(Group& group, int from, int to)
     ChannelMotion<Floats> channel = group.channel;
     for (int n = from; n < to; ++n) {
         const MotionFrame<Floats> frame = StepMotion<kArrives, kLfosAct, kModAmount>(voice, channel, group.sine[n]);
-        group.rows[0][n] = frame.cutoff;
-        group.rows[1][n] = frame.gain;
-        group.rows[2][n] = frame.amp;
-        if constexpr (kModAmount) group.rows[3][n] = frame.modAmount;
+        group.frames[0][n] = frame.cutoff;
+        group.frames[1][n] = frame.gain;
+        group.frames[2][n] = frame.amp;
+        if constexpr (kModAmount) group.frames[3][n] = frame.modAmount;
     }
-    group.voice = voice;
-    group.channel = channel;
+    // Field by field: what stands still is not worth a copy.
+    group.voice.amp = voice.amp;
+    group.voice.env1 = voice.env1;
+    group.voice.env2 = voice.env2;
+    group.voice.gain = voice.gain;
+    group.voice.lfo1Out = voice.lfo1Out;
+    group.voice.lfo2Out = voice.lfo2Out;
+    group.voice.glidePitch = voice.glidePitch;
+    group.channel.phase[0] = channel.phase[0];
+    group.channel.phase[1] = channel.phase[1];
+    group.channel.cutoff = channel.cutoff;
+    group.channel.modAmount = channel.modAmount;
 }
 
 void Run(Group& group, int from, int to)
@@ -206,6 +223,10 @@ void Run(Group& group, int from, int to)
 
 void RunGroup(const MotionJob* const* jobs, int count, int frames)
 {
+    if (count * frames < kWorthPacking) {
+        for (int v = 0; v < count; ++v) ModulateVoicesPlainly(jobs[v], 1, frames);
+        return;
+    }
     Group group(jobs, count);
     for (int from = 0; from < frames; from += kTile) {
         const int size = frames - from < kTile ? frames - from : kTile;
