@@ -30,7 +30,7 @@ struct Sends {
     }
 
     template <class Run>
-    void Measure(benchmark::State& state, const Run& run)
+    void Measure(benchmark::State& state, int frames, const Run& run)
     {
         ReverbJob jobs[kChannels];
         const auto count = static_cast<int>(reverbs.size());
@@ -39,9 +39,9 @@ struct Sends {
                 float* const sides[] = {sound[n][0], sound[n][1]};
                 jobs[n] = reverbs[n].Job(sides, sides, false);
             }
-            run(jobs, count, kFrames);
+            run(jobs, count, frames);
         }
-        state.counters["ns/frame"] = benchmark::Counter(static_cast<double>(state.iterations()) * kFrames * count / 1e9,
+        state.counters["ns/frame"] = benchmark::Counter(static_cast<double>(state.iterations()) * frames * count / 1e9,
                                                         benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
     }
 };
@@ -50,13 +50,14 @@ void ReverbSends(benchmark::State& state)
 {
     const Isa isa = static_cast<Isa>(state.range(0));
     if (!Runs(isa)) return state.SkipWithError("not on this processor");
-    Sends(static_cast<std::size_t>(state.range(1))).Measure(state, *KernelsOf(isa).runReverbs);
+    Sends(static_cast<std::size_t>(state.range(1)))
+        .Measure(state, static_cast<int>(state.range(2)), *KernelsOf(isa).runReverbs);
 }
-BENCHMARK(ReverbSends)->ArgsProduct({{0, 1, 2}, {1, 2, 13}});
+BENCHMARK(ReverbSends)->ArgsProduct({{0, 1, 2}, {1, 2, 13}, {1, kFrames}});
 
 void ReverbSendsPlain(benchmark::State& state)
 {
-    Sends(1).Measure(state, [](ReverbJob* jobs, int, int frames) { RunReverb(jobs[0], frames); });
+    Sends(1).Measure(state, kFrames, [](ReverbJob* jobs, int, int frames) { RunReverb(jobs[0], frames); });
 }
 BENCHMARK(ReverbSendsPlain);
 

@@ -108,9 +108,12 @@ struct PlainReverb {
     const ReverbCoefficients& c;
     ReverbState& state;
 
-    static void Step(ReverbLine& line) { line.position = line.position + 1 < line.length ? line.position + 1 : 0; }
+    [[gnu::always_inline]] static void Step(ReverbLine& line)
+    {
+        line.position = line.position + 1 < line.length ? line.position + 1 : 0;
+    }
 
-    float Diffuse(std::size_t number, float x, float ga, float gb)
+    [[gnu::always_inline]] float Diffuse(std::size_t number, float x, float ga, float gb)
     {
         ReverbLine& line = state.lines[number];
         float& buffer = line.memory[line.position];
@@ -119,36 +122,41 @@ struct PlainReverb {
         Step(line);
         return out;
     }
-    static float Delay(ReverbLine& line, float x)
+    [[gnu::always_inline]] static float Delay(ReverbLine& line, float x)
     {
         const float out = line.memory[line.position];
         line.memory[line.position] = x;
         Step(line);
         return out;
     }
-    float Next(std::size_t number) const { return state.lines[number].memory[state.lines[number].position]; }
+    [[gnu::always_inline]] float Next(std::size_t number) const
+    {
+        return state.lines[number].memory[state.lines[number].position];
+    }
 
     /// tap  1 is the frame just written, `length` the oldest one
-    static float Tap(const ReverbLine& line, int tap)
+    [[gnu::always_inline]] static float Tap(const ReverbLine& line, int tap)
     {
         const int place = line.position - tap;
         return line.memory[place < 0 ? place + line.length : place];
     }
 
-    float Branch(std::size_t first, float x)
+    [[gnu::always_inline]] float Branch(std::size_t first, float x)
     {
         x = Delay(state.lines[first + 1], Diffuse(first, x, c.decay1, c.decay1)) * c.decay;
         return Delay(state.lines[first + 3], Diffuse(first + 2, x, c.decay2, c.decay2));
     }
-    float Taps(const std::array<std::size_t, kReverbTaps>& lines, const std::array<int, kReverbTaps>& taps,
-               const std::array<float, kReverbTaps>& weights) const
+    [[gnu::always_inline]] float Taps(const std::array<std::size_t, kReverbTaps>& lines,
+                                      const std::array<int, kReverbTaps>& taps,
+                                      const std::array<float, kReverbTaps>& weights) const
     {
         float sum = 0.0f;
         for (std::size_t n = 0; n < kReverbTaps; ++n) sum += weights[n] * Tap(state.lines[lines[n]], taps[n]);
         return sum;
     }
-    float Reflections(const std::array<int, kReflections>& taps, const std::array<float, kReflections>& gains,
-                      const std::array<float, kReflections>& signs) const
+    [[gnu::always_inline]] float Reflections(const std::array<int, kReflections>& taps,
+                                             const std::array<float, kReflections>& gains,
+                                             const std::array<float, kReflections>& signs) const
     {
         float sum = 0.0f;
         for (std::size_t n = 0; n < kReflections; ++n)
@@ -157,7 +165,7 @@ struct PlainReverb {
     }
 
     /// left, right  the input; the output replaces it
-    void Frame(float& left, float& right)
+    [[gnu::always_inline]] void Frame(float& left, float& right)
     {
         left *= c.inputGain;
         right *= c.inputGain;
@@ -186,7 +194,7 @@ struct PlainReverb {
     }
 };
 
-inline void RunReverb(ReverbJob& job, int frames)
+[[gnu::always_inline]] inline void RunReverb(ReverbJob& job, int frames)
 {
     PlainReverb reverb{*job.coefficients, *job.state};
     for (int n = 0; n < frames; ++n) {

@@ -456,6 +456,11 @@ void Run(Reverb* reverbs, int count, int frames)
 
 void RunReverbs(ReverbJob* jobs, int count, int frames)
 {
+    constexpr int kFew = 4; // frames that are sooner done one by one
+    if (frames <= kFew) {
+        for (int n = 0; n < count; ++n) RunReverb(jobs[n], frames);
+        return;
+    }
     Reverb reverbs[kChannels];
     int limit = kRun;
     for (int n = 0; n < count; ++n) {
