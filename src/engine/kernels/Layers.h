@@ -23,15 +23,22 @@ struct LayerFilter {
     S m1{}, m2{}; // between
     S y1{}, y2{}; // out of the high-cut
 
-    /// kept   x as the history stores it
-    /// flush  Flushed for an S
-    template <class Flush>
-    [[gnu::always_inline]] S Step(S x, S kept, const LayerCoefficients<S>& c, Flush flush)
+    /// What goes into the low-cut's recursion.
+    /// kept  x as the history stores it
+    [[gnu::always_inline]] S Feed(S x, S kept, const LayerCoefficients<S>& c)
     {
-        const S middle = c.loB * (x - 2.0f * x1 + x2) - c.loA1 * m1 - c.loA2 * m2;
-        const S y = c.hiB * (middle + 2.0f * m1 + m2) - c.hiA1 * y1 - c.hiA2 * y2;
+        const S fed = c.loB * (x - 2.0f * x1 + x2);
         x2 = x1;
         x1 = kept;
+        return fed;
+    }
+
+    /// flush  Flushed for an S
+    template <class Flush>
+    [[gnu::always_inline]] S Step(S fed, const LayerCoefficients<S>& c, Flush flush)
+    {
+        const S middle = fed - c.loA1 * m1 - c.loA2 * m2;
+        const S y = c.hiB * (middle + 2.0f * m1 + m2) - c.hiA1 * y1 - c.hiA2 * y2;
         m2 = m1;
         m1 = flush(middle);
         y2 = y1;
@@ -103,12 +110,16 @@ inline void StepEnvelope(LayerState& state)
 inline void ShapeLayer(const LayerJob& job, const float* left, const float* right, float scale)
 {
     LayerState& state = *job.state;
-    const auto flush = [](float value) { return Flushed(value); };
+    const auto filtered = [&state](int side, float x) {
+        LayerFilter<float>& filter = state.filters[side];
+        const float fed = filter.Feed(x, Flushed(x), state.coefficients);
+        return filter.Step(fed, state.coefficients, [](float value) { return Flushed(value); });
+    };
     for (int n = job.from; n < job.to; ++n) {
         StepEnvelope(state);
         const float gain = state.envLevel * state.envLevel * scale;
-        job.mixLeft[n] += state.filters[0].Step(left[n], Flushed(left[n]), state.coefficients, flush) * gain;
-        job.mixRight[n] += state.filters[1].Step(right[n], Flushed(right[n]), state.coefficients, flush) * gain;
+        job.mixLeft[n] += filtered(0, left[n]) * gain;
+        job.mixRight[n] += filtered(1, right[n]) * gain;
     }
     state.envLevel = Flushed(state.envLevel);
 }

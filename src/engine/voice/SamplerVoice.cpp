@@ -175,7 +175,11 @@ struct LayerList {
 
     void Play(int frames)
     {
-        kernels.playLayers(jobs, count, kSourceScale);
+        // What packing them costs pays only when there is some work.
+        if (count > 1 && frames > 2)
+            kernels.playLayers(jobs, count, kSourceScale);
+        else
+            for (int j = 0; j < count; ++j) PlayLayer(jobs[j], kSourceScale);
         for (int j = 0; j < count; ++j) {
             layers[j]->seam.Pass(jobs[j].lastLeft, jobs[j].lastRight);
             End(*layers[j], frames - jobs[j].to);

@@ -24,13 +24,11 @@ struct EnvelopeLanes {
     [[gnu::always_inline]] Floats Gain(float scale)
     {
         level += (target - level) * rate;
-        const Ints over = level > 1.0f;
-        const Ints holds = over & (plateau > 0);
-        const Ints ends = over & ~holds;
-        plateau += holds;
+        const Ints over = level > 1.0f, holds = plateau > 0;
         level = Select(over, Select(holds, Splat(kHoldLevel), Splat(1.0f)), level);
-        target = Select(ends, Floats{}, target);
-        rate = Select(ends, decayRate, rate);
+        target = Select(over, Select(holds, target, Floats{}), target);
+        rate = Select(over, Select(holds, rate, decayRate), rate);
+        plateau += over & holds;
         return level * level * scale;
     }
 };
@@ -50,11 +48,11 @@ struct GroupState {
 template <int kHalves>
 struct Group {
     GroupState<kHalves> state;
-    Floats last[kHalves]; // that were read
     // Of up to kLanes frames.
     alignas(64) std::int32_t index[kLanes][kLanes];
     Floats fraction[kLanes];
-    Floats signal[kHalves][kLanes]; // as read, then as put out
+    Floats gain[kLanes];            // of the envelopes
+    Floats signal[kHalves][kLanes]; // into the filters, then out of them
 
     static constexpr int VectorOf(int side) { return kHalves == 2 ? side : 0; }
     static constexpr int LaneOf(int layer, int side) { return kHalves == 2 ? layer : layer + side * kDoubles; }
@@ -110,7 +108,7 @@ void StoreLayer(const Group<kHalves>& group, LayerJob& job, int layer)
         const int lane = group.LaneOf(layer, side);
         to.filters[side] = {filter.x1[lane], filter.x2[lane], filter.m1[lane],
                             filter.m2[lane], filter.y1[lane], filter.y2[lane]};
-        (side == 0 ? job.lastLeft : job.lastRight) = group.last[group.VectorOf(side)][lane];
+        (side == 0 ? job.lastLeft : job.lastRight) = filter.x1[lane];
     }
 }
 
@@ -120,12 +118,13 @@ Floats Both(HalfFloats low, HalfFloats high)
     (std::make_integer_sequence<int, kLanes>());
 }
 
-/// Where each layer reads in the coming frames. Those past their end stay at it.
+/// Where each layer reads in the coming frames, and the gain of its envelope. Those past their end stay at it.
 template <int kHalves>
-void Locate(Group<kHalves>& group, int frames)
+void Locate(Group<kHalves>& group, int frames, float scale)
 {
     auto& state = group.state;
     Doubles position[kHalves];
+    EnvelopeLanes envelope = state.envelope;
     for (int h = 0; h < kHalves; ++h) position[h] = state.position[h];
     for (int n = 0; n < frames; ++n) {
         HalfInts whole[kHalves];
@@ -141,16 +140,21 @@ void Locate(Group<kHalves>& group, int frames)
             Both(reinterpret_cast<HalfFloats>(whole[0]), reinterpret_cast<HalfFloats>(whole[kHalves - 1])));
         group.fraction[n] = Select(state.reverse, 1.0f - f, f);
         Store((i ^ state.reverse) + state.turn, group.index[n]);
+        group.gain[n] = envelope.Gain(scale);
     }
+    state.envelope = envelope;
     for (int h = 0; h < kHalves; ++h) state.position[h] = position[h];
 }
 
-/// Each of kDoubles layers' frame and the one after it.
+/// Each of kDoubles layers' frame and the one after it, moved as if both were a double.
 Doubles Pairs(const float* const* data, const std::int32_t* index)
 {
-    Doubles pairs;
-    for (int layer = 0; layer < kDoubles; ++layer) pairs[layer] = Load<double>(data[layer] + index[layer]);
-    return pairs;
+    typedef double Pair __attribute__((may_alias, aligned(4)));
+    return [&]<int... layer>(std::integer_sequence<int, layer...>)
+    {
+        return Doubles{*reinterpret_cast<const Pair*>(data[layer] + index[layer])...};
+    }
+    (std::make_integer_sequence<int, kDoubles>());
 }
 
 /// Frames between neighbours.
@@ -167,46 +171,57 @@ Floats Between(Doubles low, Doubles high, Floats f)
     return first * (1.0f - f) + second * f;
 }
 
+/// Member by member: after a copy of the whole the compiler would hold the histories of a loop in memory.
+[[gnu::always_inline]] inline void Copy(const LayerFilter<Floats>& from, LayerFilter<Floats>& to)
+{
+    to.x1 = from.x1;
+    to.x2 = from.x2;
+    to.m1 = from.m1;
+    to.m2 = from.m2;
+    to.y1 = from.y1;
+    to.y2 = from.y2;
+}
+
+/// Loads take the time here, so the part of the filters that waits for nothing is done beside them.
 template <int kHalves, bool kStereo>
 void Read(Group<kHalves>& group, int frames)
 {
     const auto& state = group.state;
+    LayerFilter<Floats> filters[kHalves];
+    for (int v = 0; v < kHalves; ++v) Copy(state.filters[v], filters[v]);
     for (int n = 0; n < frames; ++n) {
         const std::int32_t* const index = group.index[n];
-        const Floats f = group.fraction[n];
         const auto pairs = [&](int side, int half) {
             return Pairs(&state.data[side][half * kDoubles], &index[half * kDoubles]);
         };
+        Floats x[kHalves];
+        const Doubles left = pairs(0, 0);
         if constexpr (kHalves == 1) {
-            const Doubles left = pairs(0, 0);
-            group.signal[0][n] = Flushed(Between(left, kStereo ? pairs(1, 0) : left, f) * state.gain[0]);
+            x[0] = Between(left, kStereo ? pairs(1, 0) : left, group.fraction[n]);
         } else {
-            const Floats left = Between(pairs(0, 0), pairs(0, 1), f);
-            group.signal[0][n] = Flushed(left * state.gain[0]);
-            const Floats right = kStereo ? Between(pairs(1, 0), pairs(1, 1), f) : left;
-            group.signal[kHalves - 1][n] = Flushed(right * state.gain[kHalves - 1]);
+            x[0] = Between(left, pairs(0, 1), group.fraction[n]);
+            x[1] = kStereo ? Between(pairs(1, 0), pairs(1, 1), group.fraction[n]) : x[0];
+        }
+        for (int v = 0; v < kHalves; ++v) {
+            const Floats flushed = Flushed(x[v] * state.gain[v]);
+            group.signal[v][n] = filters[v].Feed(flushed, flushed, state.coefficients);
         }
     }
-    for (int v = 0; v < kHalves; ++v) group.last[v] = group.signal[v][frames - 1];
+    for (int v = 0; v < kHalves; ++v) Copy(filters[v], group.state.filters[v]);
 }
 
 template <int kHalves>
-void Shape(Group<kHalves>& group, int frames, float scale)
+void Filter(Group<kHalves>& group, int frames)
 {
-    EnvelopeLanes envelope = group.state.envelope;
     LayerFilter<Floats> filters[kHalves];
-    for (int v = 0; v < kHalves; ++v) filters[v] = group.state.filters[v];
-    const LayerCoefficients<Floats> coefficients = group.state.coefficients;
+    for (int v = 0; v < kHalves; ++v) Copy(group.state.filters[v], filters[v]);
     const auto flush = [](Floats value) __attribute__((always_inline)) { return Flushed(value); };
-    for (int n = 0; n < frames; ++n) {
-        const Floats gain = envelope.Gain(scale);
+    for (int n = 0; n < frames; ++n)
         for (int v = 0; v < kHalves; ++v) {
-            const Floats x = group.signal[v][n];
-            group.signal[v][n] = filters[v].Step(x, x, coefficients, flush) * gain;
+            const Floats out = filters[v].Step(group.signal[v][n], group.state.coefficients, flush);
+            group.signal[v][n] = out * group.gain[n];
         }
-    }
-    group.state.envelope = envelope;
-    for (int v = 0; v < kHalves; ++v) group.state.filters[v] = filters[v];
+    for (int v = 0; v < kHalves; ++v) Copy(filters[v], group.state.filters[v]);
 }
 
 bool Plays(const LayerJob& job, int frame) { return job.from <= frame && frame < job.to; }
@@ -255,9 +270,9 @@ void PlayGroup(LayerJob* jobs, int count, float scale)
     for (int event = from; event <= kMaxRun; event = NextEvent(jobs, count, event)) {
         while (from < event) {
             const int frames = event - from < kLanes ? event - from : kLanes;
-            Locate(group, frames);
+            Locate(group, frames, scale);
             Read<kHalves, kStereo>(group, frames);
-            Shape(group, frames, scale);
+            Filter(group, frames);
             Mix(group, jobs, count, from, frames);
             from += frames;
         }
