@@ -16,7 +16,7 @@ inline void StoreFrame(Stereo frame, float* left, float* right, int n)
     right[n] = frame[1];
 }
 
-inline float Magnitude(float value) { return __builtin_fabsf(value); }
+[[gnu::always_inline]] inline float Magnitude(float value) { return __builtin_fabsf(value); }
 
 template <class S>
 [[gnu::always_inline]] inline S Magnitude(S value)
@@ -28,7 +28,7 @@ template <class S>
 inline constexpr float kFlushBelow = 1e-9f;
 
 /// Values this small, and NaN, become 0: recurrences reach no denormals and forget a bad input.
-inline float Flushed(float value) { return Magnitude(value) >= kFlushBelow ? value : 0.0f; }
+[[gnu::always_inline]] inline float Flushed(float value) { return Magnitude(value) >= kFlushBelow ? value : 0.0f; }
 
 template <class S>
 [[gnu::always_inline]] inline S Flushed(S value)

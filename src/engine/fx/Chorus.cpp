@@ -1,8 +1,11 @@
 // Chorus: tape speed and feedback, frame by frame.
 #include "engine/fx/Chorus.h"
 
+#include <algorithm>
+
 #include "engine/fx/DelayLengths.h"
 #include "engine/fx/Fade.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
@@ -11,8 +14,25 @@ namespace korvane {
 
 namespace {
 
+constexpr int kPiece = 128;  // frames
+constexpr int kTogether = 4; // channels
+
+struct Piece {
+    TapePlace places[kPiece];
+    float fractions[kPiece], gains[kPiece];
+};
+
 /// Part of the tape's length: the deeper, the shorter.
 float DelayOf(float x, float lfo) { return Clamp((1.0f - x) - lfo, 0.0f, kLongestTapePart); }
+
+void MoveTapes(TapeClock& clock, float x, const float* lfo, int frames, TapePlace* places, float* fractions)
+{
+    float delays[kMaxRun];
+    double speeds[kMaxRun];
+    for (int n = 0; n < frames; ++n) delays[n] = DelayOf(x, lfo[n]);
+    kernels.tapeSpeeds(delays, clock.length, speeds, frames);
+    clock.Run(speeds, frames, places, fractions);
+}
 
 } // namespace
 
@@ -22,30 +42,37 @@ void Chorus::Reset() { delays->Clear(); }
 
 void Chorus::Process(UnitControls& unit, const StereoBlock& block)
 {
-    float lfo[kMaxRun];
-    double speeds[kMaxRun];
-    TapePlace places[kMaxRun];
-    unit.FillLfo(lfo, block.frames);
-    TapeDelay<StereoChain>& tapes = *delays;
-    for (int n = 0; n < block.frames; ++n)
-        speeds[n] = tapes.clock.SpeedFor(static_cast<double>(DelayOf(unit.x, lfo[n])));
-    tapes.clock.Run(speeds, block.frames, places);
-    float levels[kMaxRun];
-    FillLevels(unit, levels, block.frames);
-    const float feedback = law::ChorusFeedback(unit.y);
-    RecordPath<StereoChain> path = tapes.path;
-    for (int n = 0; n < block.frames; ++n) {
-        const float left = block.left[n];
-        const float right = block.right[n];
-        const StereoChain out = tapes.Read(places[n]);
-        const StereoChain in = {Float4{left, out.left[0], out.left[1], 0.0f},
-                                Float4{right, out.right[0], out.right[1], 0.0f}};
-        // Three inversions in series: the sum is inverted, too.
-        tapes.Write(path.Step(-levels[n] * in + feedback * out, 1.0f, 0.0f), places[n]);
-        block.left[n] = left + out.left[2];
-        block.right[n] = right + out.right[2];
+    const EffectRun run{this, &unit, block};
+    ProcessAll({&run, 1});
+}
+
+void Chorus::ProcessAll(std::span<const EffectRun> runs)
+{
+    for (std::size_t n = 0; n < runs.size(); n += kTogether)
+        ProcessSome(runs.subspan(n, std::min<std::size_t>(runs.size() - n, kTogether)));
+}
+
+void Chorus::ProcessSome(std::span<const EffectRun> runs)
+{
+    float lfo[kTogether][kMaxRun];
+    Piece pieces[kTogether];
+    ChainedTapesJob jobs[kTogether];
+    const int frames = runs.front().block.frames, count = static_cast<int>(runs.size());
+    for (int c = 0; c < count; ++c) runs[c].unit->FillLfo(lfo[c], frames);
+    for (int from = 0; from < frames; from += kPiece) {
+        const int size = std::min(frames - from, kPiece);
+        for (int c = 0; c < count; ++c) {
+            const auto& [effect, unit, block] = runs[c];
+            TapeDelay<StereoChain>& tapes = *static_cast<Chorus*>(effect)->delays;
+            Piece& piece = pieces[c];
+            MoveTapes(tapes.clock, unit->x, lfo[c] + from, size, piece.places, piece.fractions);
+            FillLevels(*unit, piece.gains, size);
+            for (int n = 0; n < size; ++n) piece.gains[n] = -piece.gains[n]; // three in series invert the sum, too
+            jobs[c] = {block.left + from, block.right + from,           piece.places,    piece.fractions,
+                       piece.gains,       law::ChorusFeedback(unit->y), tapes.Entries(), &tapes.path.lowpassState};
+        }
+        kernels.chainTapes(jobs, count, size);
     }
-    tapes.path = path;
 }
 
 } // namespace korvane

@@ -16,8 +16,11 @@ public:
     void Allocate(float rate) override;
     void Reset() override;
     void Process(UnitControls& unit, const StereoBlock& block) override;
+    void ProcessAll(std::span<const EffectRun> runs) override;
 
 private:
+    static void ProcessSome(std::span<const EffectRun> runs);
+
     std::unique_ptr<TapeDelay<StereoChain>> delays; // lanes 0..2: the three of a side
 };
 

@@ -4,8 +4,8 @@
 #include <algorithm>
 
 #include "engine/fx/DelayLengths.h"
-#include "engine/fx/Tail.h"
 #include "engine/fx/Fade.h"
+#include "engine/fx/Tail.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
@@ -39,7 +39,7 @@ bool Echo::Runs(const UnitControls& unit) const { return !unit.bypass || unit.ho
 
 void Echo::Set(const UnitControls& unit)
 {
-    delays->speed = delays->clock.SpeedFor(static_cast<double>(DelayOf(unit.lfoSeconds)));
+    delays->speed = delays->SpeedFor(DelayOf(unit.lfoSeconds));
     delays->lowpass = law::EchoLowPass(unit.y);
     delays->highpass = law::EchoHighPass(unit.y);
     delays->feedback = law::EchoSend(unit.x);
@@ -71,9 +71,10 @@ int Echo::Play(UnitControls& unit, const StereoBlock& block)
 {
     double speeds[kMaxRun];
     TapePlace places[kMaxRun];
+    float fractions[kMaxRun];
     TapeDelay<Stereo>& tapes = *delays;
     std::fill_n(speeds, block.frames, tapes.speed);
-    tapes.clock.Run(speeds, block.frames, places);
+    tapes.clock.Run(speeds, block.frames, places, fractions);
     const float send = law::EchoSend(unit.x);
     const float feedback = tapes.feedback, lowpass = tapes.lowpass, highpass = tapes.highpass;
     float levels[kMaxRun];
@@ -83,7 +84,7 @@ int Echo::Play(UnitControls& unit, const StereoBlock& block)
     bool silent = true;
     for (int n = 0; n < block.frames; ++n) {
         const Stereo dry = LoadFrame(block.left, block.right, n);
-        const Stereo wet = tapes.Read(places[n]);
+        const Stereo wet = tapes.Read(places[n], fractions[n]);
         const Stereo recorded = path.Step(levels[n] * send * dry + feedback * wet, lowpass, highpass);
         tapes.Write(recorded, places[n]);
         const Stereo out = dry + wet;

@@ -10,20 +10,6 @@
 
 namespace korvane {
 
-/// The record path of a tape: a one-pole lowpass, then a one-pole highpass.
-template <class S>
-struct RecordPath {
-    S lowpassState{}, highpassState{};
-
-    /// input  with the feedback
-    S Step(S input, float lowpass, float highpass)
-    {
-        lowpassState = Flushed(lowpassState + (input - lowpassState) * lowpass);
-        highpassState = Flushed(highpassState + (lowpassState - highpassState) * highpass);
-        return lowpassState - highpassState;
-    }
-};
-
 /// Reading interpolates between the entries around the present position one loop earlier, so a change of speed bends
 /// the pitch of what is on the tape. Process is the definition; an effect runs the clock for a block and does the rest
 /// in its own loop. S is float, or a vector of floats for several tapes that run at the same speed; every lane gives
@@ -43,17 +29,18 @@ public:
     S Process(S x)
     {
         TapePlace place;
-        clock.Run(&speed, 1, &place);
-        const S y = Read(place);
+        float fraction;
+        clock.Run(&speed, 1, &place, &fraction);
+        const S y = Read(place, fraction);
         Write(path.Step(inputGain * x + feedback * y, lowpass, highpass), place);
         return y;
     }
 
     /// What the tape gives for a frame; 0 during the first loop.
-    S Read(const TapePlace& place) const
+    S Read(const TapePlace& place, float fraction) const
     {
         const S before = At(place.before);
-        return Flushed(before + (At(place.after) - before) * place.fraction);
+        return Flushed(before + (At(place.after) - before) * fraction);
     }
 
     /// Records what the record path gives for the frame.
@@ -77,6 +64,16 @@ public:
         clock.RunSilent(speed, frames);
         Silence();
     }
+
+    /// The speed for a delay from 2 (delay = 0) to `length` frames (delay = 1).
+    double SpeedFor(float delay) const
+    {
+        double speedOfOne;
+        TapeSpeeds(&delay, clock.length, &speedOfOne, 1);
+        return speedOfOne;
+    }
+
+    S* Entries() { return entries.get(); }
 
     TapeClock clock;
     RecordPath<S> path;

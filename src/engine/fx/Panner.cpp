@@ -2,6 +2,7 @@
 #include "engine/fx/Panner.h"
 
 #include "engine/fx/DelayLengths.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/Limits.h"
 #include "platform/Numbers.h"
 
@@ -26,35 +27,40 @@ void Panner::Allocate(float rate)
 void Panner::Reset()
 {
     for (auto& delay : delays) delay->Clear();
-    path = {};
+    last = Stereo{};
 }
 
 void Panner::Process(UnitControls& unit, const StereoBlock& block)
 {
-    float lfo[kMaxRun];
-    double speeds[2][kMaxRun];
+    float lfo[kMaxRun], away[2][kMaxRun], fractions[2][kMaxRun];
+    double speeds[kMaxRun];
     TapePlace places[2][kMaxRun];
     unit.FillLfo(lfo, block.frames);
     const float x = unit.x;
     const float y = unit.y;
-    MFXTapeDelay& left = *delays[0];
-    MFXTapeDelay& right = *delays[1];
     for (int n = 0; n < block.frames; ++n) {
         const float s = 2.0f * (x + lfo[n]) - 1.0f; // -1 left, 1 right
-        speeds[0][n] = left.clock.SpeedFor(static_cast<double>(DelayOf(s)));
-        speeds[1][n] = right.clock.SpeedFor(static_cast<double>(DelayOf(-s)));
+        away[0][n] = DelayOf(s);
+        away[1][n] = DelayOf(-s);
         block.left[n] *= GainOf(s, y);
         block.right[n] *= GainOf(-s, y);
     }
-    left.clock.Run(speeds[0], block.frames, places[0]);
-    right.clock.Run(speeds[1], block.frames, places[1]);
-    for (int n = 0; n < block.frames; ++n) {
-        const Stereo in = path.Step(LoadFrame(block.left, block.right, n), 1.0f, 0.0f);
-        block.left[n] = left.Read(places[0][n]);
-        block.right[n] = right.Read(places[1][n]);
-        left.Write(in[0], places[0][n]);
-        right.Write(in[1], places[1][n]);
+    for (int side = 0; side < 2; ++side) {
+        TapeClock& clock = delays[side]->clock;
+        kernels.tapeSpeeds(away[side], clock.length, speeds, block.frames);
+        clock.Run(speeds, block.frames, places[side], fractions[side]);
     }
+    MFXTapeDelay& left = *delays[0];
+    MFXTapeDelay& right = *delays[1];
+    Stereo recorded = last;
+    for (int n = 0; n < block.frames; ++n) {
+        recorded = OpenStep(recorded, LoadFrame(block.left, block.right, n));
+        block.left[n] = left.Read(places[0][n], fractions[0][n]);
+        block.right[n] = right.Read(places[1][n], fractions[1][n]);
+        left.Write(recorded[0], places[0][n]);
+        right.Write(recorded[1], places[1][n]);
+    }
+    last = recorded;
 }
 
 } // namespace korvane

@@ -19,7 +19,7 @@ public:
 
 private:
     std::unique_ptr<MFXTapeDelay> delays[2]; // left, right; without feedback
-    RecordPath<Stereo> path;                 // of both
+    Stereo last{};                           // that was recorded
 };
 
 } // namespace korvane

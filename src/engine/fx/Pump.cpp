@@ -6,6 +6,7 @@
 
 #include "engine/dsp/EqualSteps.h"
 #include "engine/dsp/StereoFrame.h"
+#include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
 #include "framework/Limits.h"
 
@@ -13,36 +14,51 @@ namespace korvane {
 
 namespace {
 
-constexpr float kEnvelopeStep = 0.01f; // of the way per frame: no clicks
+constexpr int kPiece = 128; // frames
 
-/// p  0..1 of the period
-float EnvelopeAt(float p, float release)
+void FillPhases(UnitControls& unit, double* phases, int frames)
 {
-    constexpr float kAttack = 0.01f; // of the period
-    const float fall = (p - kAttack) / (1.0f - kAttack);
-    return p < kAttack ? p / kAttack : 1.0f - std::min(fall * fall * fall * fall * release, 1.0f);
+    for (int from = 0; from < frames;) {
+        from += StepBelowOne(unit.lfoPhase, unit.lfoIncrement, frames - from, phases + from);
+        if (!(unit.lfoPhase < 1.0)) unit.lfoPhase -= std::floor(unit.lfoPhase);
+    }
+}
+
+void Duck(float drop, const float* levels, const StereoBlock& block)
+{
+    for (float* side : {block.left, block.right})
+        for (int n = 0; n < block.frames; ++n) side[n] *= 1.0f - levels[n] * drop;
 }
 
 } // namespace
 
 void Pump::Process(UnitControls& unit, const StereoBlock& block)
 {
-    double phases[kMaxRun];
-    float levels[kMaxRun];
-    for (int from = 0; from < block.frames;) {
-        from += StepBelowOne(unit.lfoPhase, unit.lfoIncrement, block.frames - from, phases + from);
-        if (!(unit.lfoPhase < 1.0)) unit.lfoPhase -= std::floor(unit.lfoPhase);
+    const EffectRun run{this, &unit, block};
+    ProcessAll({&run, 1});
+}
+
+void Pump::ProcessAll(std::span<const EffectRun> runs)
+{
+    double phases[kChannels][kPiece];
+    alignas(64) float levels[kChannels][kPiece];
+    PumpJob jobs[kChannels];
+    const int frames = runs.front().block.frames, count = static_cast<int>(runs.size());
+    for (int from = 0; from < frames; from += kPiece) {
+        const int size = std::min(frames - from, kPiece);
+        for (int c = 0; c < count; ++c) {
+            UnitControls& unit = *runs[c].unit;
+            FillPhases(unit, phases[c], size);
+            jobs[c] = {phases[c], law::PumpSpeed(unit.x), levels[c], &static_cast<Pump*>(runs[c].effect)->envelope};
+        }
+        kernels.pump(jobs, count, size);
+        for (int c = 0; c < count; ++c)
+            Duck(law::PumpDrop(runs[c].unit->y), levels[c],
+                 {runs[c].block.left + from, runs[c].block.right + from, size});
     }
-    const float release = law::PumpSpeed(unit.x);
-    const float drop = law::PumpDrop(unit.y);
-    for (int n = 0; n < block.frames; ++n) levels[n] = EnvelopeAt(static_cast<float>(phases[n]), release);
-    float level = envelope;
-    for (int n = 0; n < block.frames; ++n) levels[n] = level += (levels[n] - level) * kEnvelopeStep;
-    envelope = Flushed(level);
-    for (int n = 0; n < block.frames; ++n) {
-        const float gain = 1.0f - levels[n] * drop;
-        block.left[n] *= gain;
-        block.right[n] *= gain;
+    for (const EffectRun& run : runs) {
+        float& last = static_cast<Pump*>(run.effect)->envelope;
+        last = Flushed(last);
     }
 }
 

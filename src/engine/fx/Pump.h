@@ -13,6 +13,7 @@ public:
     void Reset() override { envelope = 0.0f; }
     bool Runs(const UnitControls& unit) const override { return !unit.bypass && unit.lfoBeats > 0.0f; }
     void Process(UnitControls& unit, const StereoBlock& block) override;
+    void ProcessAll(std::span<const EffectRun> runs) override;
 
 private:
     float envelope = 0.0f; // smoothed; 1 where the level has dropped

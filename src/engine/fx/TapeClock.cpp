@@ -4,6 +4,8 @@
 #include <algorithm>
 
 #include "engine/dsp/EqualSteps.h"
+#include "engine/kernels/Kernels.h"
+#include "framework/Limits.h"
 
 namespace korvane {
 
@@ -45,34 +47,34 @@ void TapeClock::Clear()
     StartBehind(-1.0);
 }
 
-void TapeClock::Run(const double* speeds, int frames, TapePlace* places)
+void TapeClock::Run(const double* speeds, int frames, TapePlace* places, float* fractions)
 {
+    double ways[kMaxRun], spans[kMaxRun];
     double* const time = times.get();
     double now = position;
-    int to = write, from = read, start = passStart;
+    int to = write, after = read, start = passStart;
     for (int n = 0; n < frames; ++n) {
-        while (time[from] < now) from = Next(from); // the closing entry lies behind every position
-        const int before = from > 0 ? from - 1 : room - 1;
-        const double span = time[from] - time[before]; // of the first of a loop: negative
-        const float fraction = span > 0.0 ? static_cast<float>((now - time[before]) / span) : 0.0f;
-        const int first = to;
-        const int after = from;
+        while (time[after] < now) after = Next(after); // the closing entry lies behind every position
+        const int before = after > 0 ? after - 1 : room - 1;
+        ways[n] = now - time[before];
+        spans[n] = time[after] - time[before]; // at the start of a loop: negative
+        places[n] = {before, after, to, to};
         now += Kept(speeds[n]);
         if (now >= 1.0) {
             time[to] = now;
             to = Next(to);
             now -= 1.0;
-            from = start;
-            start = to;
+            after = start;
+            start = places[n].writeAgain = to;
         }
         time[to] = now;
-        places[n] = {before, after, fraction, first, to};
         to = Next(to);
     }
     position = now;
     write = to;
-    read = from;
+    read = after;
     passStart = start;
+    kernels.tapeFractions(ways, spans, fractions, frames);
 }
 
 void TapeClock::RunSilent(double speed, int frames)

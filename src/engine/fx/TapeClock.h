@@ -4,15 +4,9 @@
 #include <cstddef>
 #include <memory>
 
-namespace korvane {
+#include "engine/kernels/Tape.h"
 
-/// What one frame does to the tape, by the numbers of entries.
-struct TapePlace {
-    int before, after; // the entries that the output lies between
-    float fraction;    // of the way from one to the other
-    int write;         // the entry that is recorded
-    int writeAgain;    // the last frame of a loop is also the first of the next one; else the same
-};
+namespace korvane {
 
 /// Every entry of a tape has the position at which it was recorded; it is read where the tape stands there again, one
 /// loop later. None of this depends on what is recorded. What was read is recorded over: one loop, whose end is the
@@ -27,9 +21,11 @@ public:
     void Clear();
     static constexpr int kFirstLoop = 3;
 
-    /// speeds  loops per frame; kept within 1 / length and 0.2, so no delay is below 5 frames
-    /// places  of each frame
-    void Run(const double* speeds, int frames, TapePlace* places);
+    /// speeds     loops per frame; kept within 1 / length and 0.2, so no delay is below 5 frames
+    /// frames     0..kMaxRun
+    /// places     of each frame
+    /// fractions  of each frame: of the way between the entries that the output lies between
+    void Run(const double* speeds, int frames, TapePlace* places, float* fractions);
 
     /// The frames that can be read before any of them is recorded, at this speed.
     int FramesAhead(double speed) const { return static_cast<int>(1.0 / Kept(speed)); }
@@ -40,9 +36,6 @@ public:
     /// Of a tape that holds nothing but silence: moves it on and forgets its entries. As Run at one speed, then Clear,
     /// but for the position.
     void RunSilent(double speed, int frames);
-
-    /// The speed for a delay from 2 (d = 0) to `length` frames (d = 1).
-    double SpeedFor(double d) const { return 1.0 / (length * ((1.0 - 2.0 / length) * d + 2.0 / length)); }
 
     const int length; // frames
     const int room;   // entries

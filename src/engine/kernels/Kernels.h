@@ -16,6 +16,8 @@
 #include "engine/kernels/Sines.h"
 #include "engine/kernels/StripMix.h"
 #include "engine/kernels/Layers.h"
+#include "engine/kernels/Pump.h"
+#include "engine/kernels/Tape.h"
 #include "engine/kernels/VoiceFilter.h"
 #include "engine/kernels/VoiceMotion.h"
 
@@ -39,6 +41,10 @@ struct Kernels {
     HeardFramesKernel* heardFrames;
     RunReverbsKernel* runReverbs;
     PlayLayersKernel* playLayers;
+    PumpKernel* pump;
+    TapeSpeedsKernel* tapeSpeeds;
+    TapeFractionsKernel* tapeFractions;
+    ChainTapesKernel* chainTapes;
 };
 
 /// Of an instruction set that runs here (Isa.h). Any thread.

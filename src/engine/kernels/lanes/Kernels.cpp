@@ -20,6 +20,10 @@ MixStripsKernel MixStrips;
 HeardFramesKernel HeardFrames;
 RunReverbsKernel RunReverbs;
 PlayLayersKernel PlayLayers;
+PumpKernel PumpAll;
+TapeSpeedsKernel SpeedsOfTapes;
+TapeFractionsKernel FractionsOfTapes;
+ChainTapesKernel ChainAll;
 
 extern const Kernels kKernels;
 constinit const Kernels kKernels = {
@@ -39,6 +43,10 @@ constinit const Kernels kKernels = {
     .heardFrames = HeardFrames,
     .runReverbs = RunReverbs,
     .playLayers = PlayLayers,
+    .pump = PumpAll,
+    .tapeSpeeds = SpeedsOfTapes,
+    .tapeFractions = FractionsOfTapes,
+    .chainTapes = ChainAll,
 };
 
 } // namespace korvane::KORVANE_ISA_SPACE
