@@ -19,19 +19,19 @@ constexpr int kTogether = 4; // channels
 
 struct Piece {
     TapePlace places[kPiece];
-    float fractions[kPiece], gains[kPiece];
+    float gains[kPiece];
 };
 
 /// Part of the tape's length: the deeper, the shorter.
 float DelayOf(float x, float lfo) { return Clamp((1.0f - x) - lfo, 0.0f, kLongestTapePart); }
 
-void MoveTapes(TapeClock& clock, float x, const float* lfo, int frames, TapePlace* places, float* fractions)
+void MoveTapes(TapeClock& clock, float x, const float* lfo, int frames, TapePlace* places)
 {
     float delays[kMaxRun];
     double speeds[kMaxRun];
     for (int n = 0; n < frames; ++n) delays[n] = DelayOf(x, lfo[n]);
     kernels.tapeSpeeds(delays, clock.length, speeds, frames);
-    clock.Run(speeds, frames, places, fractions);
+    clock.Run(speeds, frames, places);
 }
 
 } // namespace
@@ -65,11 +65,12 @@ void Chorus::ProcessSome(std::span<const EffectRun> runs)
             const auto& [effect, unit, block] = runs[c];
             TapeDelay<StereoChain>& tapes = *static_cast<Chorus*>(effect)->delays;
             Piece& piece = pieces[c];
-            MoveTapes(tapes.clock, unit->x, lfo[c] + from, size, piece.places, piece.fractions);
+            MoveTapes(tapes.clock, unit->x, lfo[c] + from, size, piece.places);
             FillLevels(*unit, piece.gains, size);
             for (int n = 0; n < size; ++n) piece.gains[n] = -piece.gains[n]; // three in series invert the sum, too
-            jobs[c] = {block.left + from, block.right + from,           piece.places,    piece.fractions,
-                       piece.gains,       law::ChorusFeedback(unit->y), tapes.Entries(), &tapes.path.lowpassState};
+            jobs[c] = {
+                block.left + from, block.right + from,      piece.places, piece.gains, law::ChorusFeedback(unit->y),
+                tapes.Entries(),   &tapes.path.lowpassState};
         }
         kernels.chainTapes(jobs, count, size);
     }

@@ -71,10 +71,9 @@ int Echo::Play(UnitControls& unit, const StereoBlock& block)
 {
     double speeds[kMaxRun];
     TapePlace places[kMaxRun];
-    float fractions[kMaxRun];
     TapeDelay<Stereo>& tapes = *delays;
     std::fill_n(speeds, block.frames, tapes.speed);
-    tapes.clock.Run(speeds, block.frames, places, fractions);
+    tapes.clock.Run(speeds, block.frames, places);
     const float send = law::EchoSend(unit.x);
     const float feedback = tapes.feedback, lowpass = tapes.lowpass, highpass = tapes.highpass;
     float levels[kMaxRun];
@@ -84,7 +83,7 @@ int Echo::Play(UnitControls& unit, const StereoBlock& block)
     bool silent = true;
     for (int n = 0; n < block.frames; ++n) {
         const Stereo dry = LoadFrame(block.left, block.right, n);
-        const Stereo wet = tapes.Read(places[n], fractions[n]);
+        const Stereo wet = tapes.Read(places[n]);
         const Stereo recorded = path.Step(levels[n] * send * dry + feedback * wet, lowpass, highpass);
         tapes.Write(recorded, places[n]);
         const Stereo out = dry + wet;

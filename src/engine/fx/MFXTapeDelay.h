@@ -29,18 +29,17 @@ public:
     S Process(S x)
     {
         TapePlace place;
-        float fraction;
-        clock.Run(&speed, 1, &place, &fraction);
-        const S y = Read(place, fraction);
+        clock.Run(&speed, 1, &place);
+        const S y = Read(place);
         Write(path.Step(inputGain * x + feedback * y, lowpass, highpass), place);
         return y;
     }
 
     /// What the tape gives for a frame; 0 during the first loop.
-    S Read(const TapePlace& place, float fraction) const
+    S Read(const TapePlace& place) const
     {
         const S before = At(place.before);
-        return Flushed(before + (At(place.after) - before) * fraction);
+        return Flushed(before + (At(place.after) - before) * place.fraction);
     }
 
     /// Records what the record path gives for the frame.

@@ -32,7 +32,7 @@ void Panner::Reset()
 
 void Panner::Process(UnitControls& unit, const StereoBlock& block)
 {
-    float lfo[kMaxRun], away[2][kMaxRun], fractions[2][kMaxRun];
+    float lfo[kMaxRun], away[2][kMaxRun];
     double speeds[kMaxRun];
     TapePlace places[2][kMaxRun];
     unit.FillLfo(lfo, block.frames);
@@ -48,15 +48,15 @@ void Panner::Process(UnitControls& unit, const StereoBlock& block)
     for (int side = 0; side < 2; ++side) {
         TapeClock& clock = delays[side]->clock;
         kernels.tapeSpeeds(away[side], clock.length, speeds, block.frames);
-        clock.Run(speeds, block.frames, places[side], fractions[side]);
+        clock.Run(speeds, block.frames, places[side]);
     }
     MFXTapeDelay& left = *delays[0];
     MFXTapeDelay& right = *delays[1];
     Stereo recorded = last;
     for (int n = 0; n < block.frames; ++n) {
         recorded = OpenStep(recorded, LoadFrame(block.left, block.right, n));
-        block.left[n] = left.Read(places[0][n], fractions[0][n]);
-        block.right[n] = right.Read(places[1][n], fractions[1][n]);
+        block.left[n] = left.Read(places[0][n]);
+        block.right[n] = right.Read(places[1][n]);
         left.Write(recorded[0], places[0][n]);
         right.Write(recorded[1], places[1][n]);
     }

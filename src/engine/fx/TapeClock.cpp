@@ -4,8 +4,6 @@
 #include <algorithm>
 
 #include "engine/dsp/EqualSteps.h"
-#include "engine/kernels/Kernels.h"
-#include "framework/Limits.h"
 
 namespace korvane {
 
@@ -47,18 +45,17 @@ void TapeClock::Clear()
     StartBehind(-1.0);
 }
 
-void TapeClock::Run(const double* speeds, int frames, TapePlace* places, float* fractions)
+void TapeClock::Run(const double* speeds, int frames, TapePlace* places)
 {
-    double ways[kMaxRun], spans[kMaxRun];
     double* const time = times.get();
     double now = position;
     int to = write, after = read, start = passStart;
     for (int n = 0; n < frames; ++n) {
         while (time[after] < now) after = Next(after); // the closing entry lies behind every position
         const int before = after > 0 ? after - 1 : room - 1;
-        ways[n] = now - time[before];
-        spans[n] = time[after] - time[before]; // at the start of a loop: negative
-        places[n] = {before, after, to, to};
+        const double span = time[after] - time[before]; // at the start of a loop: negative
+        const float fraction = span > 0.0 ? static_cast<float>((now - time[before]) / span) : 0.0f;
+        places[n] = {before, after, fraction, to, to};
         now += Kept(speeds[n]);
         if (now >= 1.0) {
             time[to] = now;
@@ -74,7 +71,6 @@ void TapeClock::Run(const double* speeds, int frames, TapePlace* places, float* 
     write = to;
     read = after;
     passStart = start;
-    kernels.tapeFractions(ways, spans, fractions, frames);
 }
 
 void TapeClock::RunSilent(double speed, int frames)

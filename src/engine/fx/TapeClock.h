@@ -21,14 +21,9 @@ public:
     void Clear();
     static constexpr int kFirstLoop = 3;
 
-    /// speeds     loops per frame; kept within 1 / length and 0.2, so no delay is below 5 frames
-    /// frames     0..kMaxRun
-    /// places     of each frame
-    /// fractions  of each frame: of the way between the entries that the output lies between
-    void Run(const double* speeds, int frames, TapePlace* places, float* fractions);
-
-    /// The frames that can be read before any of them is recorded, at this speed.
-    int FramesAhead(double speed) const { return static_cast<int>(1.0 / Kept(speed)); }
+    /// speeds  loops per frame; kept within 1 / length and 0.2, so no delay is below 5 frames
+    /// places  of each frame
+    void Run(const double* speeds, int frames, TapePlace* places);
 
     /// Entries that can still be read.
     int Entries() const { return write - read + 1 + (write < read ? room : 0); }

@@ -43,7 +43,6 @@ struct Kernels {
     PlayLayersKernel* playLayers;
     PumpKernel* pump;
     TapeSpeedsKernel* tapeSpeeds;
-    TapeFractionsKernel* tapeFractions;
     ChainTapesKernel* chainTapes;
 };
 

@@ -10,6 +10,7 @@ namespace korvane {
 /// What one frame does to a tape, by the numbers of entries.
 struct TapePlace {
     int before, after; // the entries that the output lies between
+    float fraction;    // of the way from one to the other
     int write;         // the entry that is recorded
     int writeAgain;    // the last frame of a loop is also the first of the next one; else the same
 };
@@ -23,15 +24,6 @@ inline void TapeSpeeds(const float* delays, int length, double* speeds, int fram
 {
     for (int n = 0; n < frames; ++n)
         speeds[n] = 1.0 / (length * ((1.0 - 2.0 / length) * static_cast<double>(delays[n]) + 2.0 / length));
-}
-
-/// How far a tape is from one entry to the next, 0..1; 0 where they do not follow one another.
-/// ways, spans  of each frame: from the one entry to the tape's position, to the other entry
-using TapeFractionsKernel = void(const double* ways, const double* spans, float* fractions, int frames);
-
-inline void TapeFractions(const double* ways, const double* spans, float* fractions, int frames)
-{
-    for (int n = 0; n < frames; ++n) fractions[n] = spans[n] > 0.0 ? static_cast<float>(ways[n] / spans[n]) : 0.0f;
 }
 
 /// The record path: a one-pole lowpass, then a one-pole highpass. S is float or a vector of floats.
@@ -62,7 +54,6 @@ template <class S>
 struct ChainedTapesJob {
     float *left, *right; // of each frame, in place
     const TapePlace* places;
-    const float* fractions;
     const float* gains; // of each frame: of the input of all tapes
     float feedback;
     StereoChain* entries;
@@ -78,7 +69,7 @@ inline void ChainTapes(const ChainedTapesJob* jobs, int count, int frames)
         for (int n = 0; n < frames; ++n) {
             const TapePlace& place = job->places[n];
             const StereoChain before = job->entries[place.before];
-            const StereoChain out = Flushed(before + (job->entries[place.after] - before) * job->fractions[n]);
+            const StereoChain out = Flushed(before + (job->entries[place.after] - before) * place.fraction);
             const StereoChain in = {Float4{job->left[n], out.left[0], out.left[1], 0.0f},
                                     Float4{job->right[n], out.right[0], out.right[1], 0.0f}};
             const StereoChain recorded = OpenStep(*job->last, job->gains[n] * in + job->feedback * out);

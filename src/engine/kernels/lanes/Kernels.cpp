@@ -22,7 +22,6 @@ RunReverbsKernel RunReverbs;
 PlayLayersKernel PlayLayers;
 PumpKernel PumpAll;
 TapeSpeedsKernel SpeedsOfTapes;
-TapeFractionsKernel FractionsOfTapes;
 ChainTapesKernel ChainAll;
 
 extern const Kernels kKernels;
@@ -45,7 +44,6 @@ constinit const Kernels kKernels = {
     .playLayers = PlayLayers,
     .pump = PumpAll,
     .tapeSpeeds = SpeedsOfTapes,
-    .tapeFractions = FractionsOfTapes,
     .chainTapes = ChainAll,
 };
 

@@ -6,21 +6,12 @@
 namespace korvane::KORVANE_ISA_SPACE {
 
 TapeSpeedsKernel SpeedsOfTapes;
-TapeFractionsKernel FractionsOfTapes;
 ChainTapesKernel ChainAll;
 
 void SpeedsOfTapes(const float* delays, int length, double* speeds, int frames)
 {
     const double range = 1.0 - 2.0 / length, shortest = 2.0 / length;
     for (int n = 0; n < frames; ++n) speeds[n] = 1.0 / (length * (range * static_cast<double>(delays[n]) + shortest));
-}
-
-void FractionsOfTapes(const double* ways, const double* spans, float* fractions, int frames)
-{
-    for (int n = 0; n < frames; ++n) {
-        const float fraction = static_cast<float>(ways[n] / spans[n]);
-        fractions[n] = spans[n] > 0.0 ? fraction : 0.0f;
-    }
 }
 
 namespace {
@@ -67,7 +58,7 @@ void ChainGroup(const ChainedTapesJob* jobs, int frames)
             for (int part = 0; part < kParts; ++part) {
                 const Part before = Load<Part>(EntryOf(job, place.before, part));
                 const Part after = Load<Part>(EntryOf(job, place.after, part));
-                const Part out = korvane::Flushed(before + (after - before) * job.fractions[n]);
+                const Part out = korvane::Flushed(before + (after - before) * place.fraction);
                 const Part in = InputOf(out, sides[part], sides[1]);
                 Part& state = states[c][part];
                 state = OpenStep(state, job.gains[n] * in + job.feedback * out);
