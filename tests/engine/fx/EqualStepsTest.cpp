@@ -6,12 +6,12 @@
 namespace korvane {
 namespace {
 
-// Odd multiples of 2^-53 end half way between two numbers of 0.5 to 1.
+// Odd multiples of 2^-54 end half way between two numbers of 0.5 to 1.
 TEST(EqualSteps, SumToTheLastBit)
 {
-    const double steps[] = {1.0 / 72000, 0.0, 0.2, 1.5, 1e-9, 0x1.0000000000001p-6 + 0x1p-53, 3 * 0x1p-53, 1.0 / 24000};
+    const double steps[] = {1.0 / 72000, 0.0, 0.2, 1.5, 1e-9, 0x1p-6 + 0x1p-54, 0x1p-7 + 3 * 0x1p-54, 1.0 / 24000};
     for (double step : steps)
-        for (double start : {0.0, 0.3, 0.5 + 0x1p-53, 0.99})
+        for (double start : {0.0, 0.3, 0.5 + 0x1p-53, 0.3 + 0x1p-54, 0.99})
             for (int frames : {1, 2, 100, 5000}) {
                 double sums[5000], value = start, single = start;
                 const int done = StepBelowOne(value, step, frames, sums);
