@@ -6,6 +6,7 @@
 
 #include "engine/ChannelStages.h"
 #include "engine/RenderLoop.h"
+#include "engine/kernels/Kernels.h"
 #include "engine/voice/Modulation.h"
 #include "engine/voice/SamplerVoice.h"
 #include "engine/voice/SynthVoice.h"
@@ -22,8 +23,8 @@ constexpr std::int8_t kStutterCode = 5;
 struct Bench {
     std::unique_ptr<GrooveEngine> engine;
     std::array<GrooveChannel*, kChannels> channels{};
-    std::array<float, kFrames> mainLeft{}, mainRight{}, left{}, right{};
-    std::bitset<kChannels> audible;
+    std::array<float, kFrames> mainLeft{}, mainRight{};
+    std::uint32_t audible = 0; // a bit for each channel
 
     explicit Bench(std::unique_ptr<GrooveEngine> playing) : engine(std::move(playing))
     {
@@ -36,16 +37,22 @@ struct Bench {
         RenderFrames(*engine, nowhere.data(), kFrames);
     }
 
-    void Mix(int c)
+    void Mix()
     {
-        MixerStrip& strip = engine->Channel(c).strip;
-        const auto& params = engine->Channel(c).sound.params;
-        strip.Set(params[slot::MixLevel], params[slot::Panning]);
-        if (audible[static_cast<std::size_t>(c)])
-            strip.Mix(engine->samplePool->ChannelLeft(c), engine->samplePool->ChannelRight(c), kFrames,
-                      {mainLeft.data(), mainRight.data(), left.data(), right.data(), c == 0});
-        else
-            strip.Skip();
+        std::array<StripJob, kChannels> jobs;
+        int count = 0;
+        for (int c = 0; c < kChannels; ++c)
+            if ((audible >> c & 1u) != 0)
+                jobs[static_cast<std::size_t>(count++)] = channels[static_cast<std::size_t>(c)]->strip.Job(
+                    engine->samplePool->ChannelLeft(c), engine->samplePool->ChannelRight(c), nullptr, nullptr, c == 0);
+        kernels.mixStrips(jobs.data(), count, mainLeft.data(), mainRight.data(), kFrames);
+        for (int c = 0, n = 0; c < kChannels; ++c) {
+            MixerStrip& strip = channels[static_cast<std::size_t>(c)]->strip;
+            if ((audible >> c & 1u) != 0)
+                strip.Mixed(jobs[static_cast<std::size_t>(n++)]);
+            else
+                strip.Skip();
+        }
     }
 
     StageTimes Block()
@@ -79,9 +86,9 @@ struct Bench {
             for (float* mix : {pool.ChannelLeft(c), pool.ChannelRight(c)}) std::fill_n(mix, kFrames, 0.0f);
         FilterChannels(channels, pool, kFrames);
         ends();
-        audible = ProcessRacks(channels, pool, kFrames, tempo);
+        audible = ProcessRacks(channels, kFrames, tempo);
         ends();
-        for (int c = 0; c < kChannels; ++c) Mix(c);
+        Mix();
         ends();
         engine->clock.Pass(kFrames);
         return times;

@@ -7,11 +7,11 @@
 #include <memory>
 
 #include "content/SamplePool.h"
+#include "engine/dsp/RandomGenerator.h"
 #include "engine/fx/FXUnit.h"
 #include "engine/mix/MixerStrip.h"
 #include "engine/voice/ChannelSound.h"
 #include "engine/voice/ChannelVoice.h"
-#include "engine/dsp/RandomGenerator.h"
 #include "engine/voice/VoiceLife.h"
 #include "framework/Limits.h"
 #include "platform/Shared.h"

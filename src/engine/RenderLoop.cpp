@@ -100,8 +100,7 @@ void MixStrips(const RunList& run, std::uint32_t audible, const Outputs& outputs
             channel.strip.Skip();
         }
     }
-    if (count > 0)
-        kernels.mixStrips(jobs.data(), static_cast<int>(count), outputs.Main(0), outputs.Main(1), frames);
+    if (count > 0) kernels.mixStrips(jobs.data(), static_cast<int>(count), outputs.Main(0), outputs.Main(1), frames);
     for (std::size_t n = 0; n < count; ++n) strips[n]->Mixed(jobs[n]);
 }
 

@@ -6,8 +6,8 @@
 
 #include "content/SamplePool.h"
 #include "content/SampleSlot.h"
-#include "engine/voice/Lfo.h"
 #include "engine/dsp/RandomGenerator.h"
+#include "engine/voice/Lfo.h"
 #include "engine/voice/SynthVoice.h"
 #include "framework/Limits.h"
 #include "framework/ParameterBlock.h"
