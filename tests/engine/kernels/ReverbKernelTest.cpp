@@ -62,6 +62,8 @@ TEST(ReverbKernel, GivesTheBitsOfFrameByFrame)
                     one.Play(plain, from, frames);
                     other.Play(*KernelsOf(isa).runReverbs, from, frames);
                 }
+                for (std::size_t n = 0; n < one.tanks.size(); ++n)
+                    EXPECT_EQ(one.tanks[n].state.cuts.lowOut, other.tanks[n].state.cuts.lowOut);
                 EXPECT_EQ(one.sound, other.sound) << static_cast<int>(isa) << ' ' << rate << ' ' << count;
             }
 }

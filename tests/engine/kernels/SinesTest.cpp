@@ -9,7 +9,7 @@
 namespace korvane {
 namespace {
 
-/// Even, around the quarters of a turn, and so small that they are hardly there.
+/// Even, around the quarters of a turn, so small that they are hardly there, and next to where the rounding changes.
 std::vector<double> Phases()
 {
     std::vector<double> phases;
@@ -18,6 +18,10 @@ std::vector<double> Phases()
         for (int bits = 0; bits < 70; ++bits)
             for (const double sign : {-1.0, 1.0}) phases.push_back(std::fabs(quarter + sign * std::ldexp(1.0, -bits)));
     for (double phase = 1.0; phase > 1e-300; phase *= 0.7) phases.push_back(phase);
+    for (int n = 0; n < 100'000; ++n) { // halfway between two floats
+        const double sine = 0.25 + std::ldexp(2.0 * n + 1.0, -26);
+        phases.push_back(std::asin(sine) / (2.0 * std::numbers::pi));
+    }
     return phases;
 }
 
