@@ -72,6 +72,7 @@ void GrooveChannel::TakeInputs(float tempo)
     if (!otherSound && sound.inputCount != 0 && now == inputs) return;
     inputs = now;
     ++sound.inputCount;
+    unitsAwake = kWholeRack; // one may have to go on where it was left, as an equaliser that is switched on
     sound.velocityModulates = sound.params[slot::VelocityDestination] != 0.0f;
     UpdateFxSettings(sound.params, fxActive, fxUnits);
     strip.Set(sound.params[slot::MixLevel], sound.params[slot::Panning]);

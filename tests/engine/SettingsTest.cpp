@@ -27,13 +27,13 @@ struct Player {
         engine.ResetGroove();
         engine.ResetEngine(48000.0f);
         Offer(tables);
-        const std::pair<int, float> values[] = {{slot::NoteLength, 1.0f},
+        const std::pair<int, float> values[] = {{slot::NoteLength, 0.2f},
                                                 {slot::FilterCutoff, 0.6f},
                                                 {slot::WheelDestination, 1.0f},
                                                 {slot::WheelAmount, 1.0f},
                                                 {slot::PressureDestination, 4.0f},
                                                 {slot::PressureAmount, 1.0f},
-                                                {slot::VelocityDestination, 2.0f},
+                                                {slot::VelocityDestination, 14.0f},
                                                 {slot::VelocityAmount, 0.9f},
                                                 {slot::LfoSync, 0.5f},
                                                 {slot::LfoAmount, 0.6f},
@@ -121,7 +121,7 @@ TEST(Settings, FollowEveryInputAtOnce)
                 if (!idle) SetPlay(player->engine, true);
                 player->Play(20);
                 if (player != &unchanged) c.change(*player, player->engine);
-                if (idle) SetPlay(player->engine, true);
+                if (idle) player->Play(1), SetPlay(player->engine, true);
                 after[player == &changed ? 0 : player == &forced ? 1 : 2] = player->Play(1);
             }
             EXPECT_NE(after[0], after[2]) << "not heard at once";

@@ -249,8 +249,8 @@ TEST_F(Image, TakesWhatItCanOfADamagedPart)
         auto& steps = engine.score.Current().steps[c.channel];
         for (auto& word : steps) word = 3u;
         EXPECT_EQ(LoadPart(engine, image.data(), c.length), c.accepted);
-        const float heard = engine.Channel(c.channel).sound.params[slot::NoteLength];
-        EXPECT_EQ(c.accepted ? heard : params[slot::NoteLength], c.noteLength);
+        const float heard = engine.Channel(c.channel).sound.params[slot::NoteLength], stored = params[slot::NoteLength];
+        EXPECT_EQ(c.accepted ? heard : stored, c.noteLength);
         EXPECT_EQ(std::count(std::begin(steps), std::end(steps), 9u), c.steps);
     }
 }
