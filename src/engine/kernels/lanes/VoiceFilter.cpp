@@ -135,13 +135,9 @@ struct Coefficients {
 
 Coefficients Read(const CutoffPair* table, Ints index)
 {
-    typedef float Pair __attribute__((vector_size(8)));
-    Floats pairs;
-    for (int voice = 0; voice < kVoicesPerVector; ++voice) {
-        const Pair pair = Load<Pair>(&table[index[2 * voice]]);
-        pairs[2 * voice] = pair[0];
-        pairs[2 * voice + 1] = pair[1];
-    }
+    Doubles raw;
+    for (int voice = 0; voice < kVoicesPerVector; ++voice) raw[voice] = Load<double>(&table[index[2 * voice]]);
+    const Floats pairs = reinterpret_cast<Floats>(raw);
     const auto even = [&]<int... lane>(std::integer_sequence<int, lane...>)
     {
         return __builtin_shufflevector(pairs, pairs, (lane / 2 * 2)...);
