@@ -37,16 +37,10 @@ void Sides(benchmark::State& state, SidesKernel<Side>* kernel)
     fill(all.noise);
     fill(all.lfo);
     fill(all.sides);
-<<<<<<< HEAD
     for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], &all.sides[c], all.lfo};
-    for (auto _ : state) {
-        std::memcpy(all.signal, all.noise, sizeof all.signal[0] * static_cast<std::size_t>(frames == 1 ? 1 : channels));
-=======
-    for (int c = 0; c < channels; ++c) all.jobs[c] = {all.signal[c][0], all.signal[c][1], all.sides[c], all.lfo};
     fill(all.signal);
     EnableFlushToZero(); // as blocks have it: the noise may die
     for (auto _ : state) {
->>>>>>> 2826ad8 (Benchmarks: kernels without the time that their noise takes; one table for all)
         kernel(all.jobs, channels, frames);
         benchmark::DoNotOptimize(all.signal);
     }
