@@ -17,7 +17,7 @@ inline constexpr int Amplitude = 3; // LFOs
 /// Shared by the channel's voices; runs while one of them sounds. Audio thread only.
 struct Lfo {
     float phase = 0.0f;              // 0..1
-    float increment = 0.0f;          // cycles per frame
+    float increment = 0.0f;          // cycles per frame, 0..2^24
     LfoShape shape = LfoShape::Sine; // the ramp falls; a value beyond the shapes gives silence
     float amount = 0.0f;             // signed depth
     int destination = 0;             // 0..3, anything else acts on nothing

@@ -24,7 +24,8 @@ void SetUpLfo(const ChannelSound& channel, Lfo& lfo, int number, float tempo)
     const float frequency =
         LfoFrequency(channel.Modulated(slot::LfoRate + number), channel.Modulated(slot::LfoSync + number), tempo);
     const float increment = frequency / channel.rate;
-    lfo.increment = std::isfinite(increment) ? increment : 0.0f;
+    constexpr float kFastest = 0x1p24f; // from here on all give phase 0
+    lfo.increment = std::isfinite(increment) ? std::min(increment, kFastest) : 0.0f;
 }
 
 void SetUpRouting(const ChannelSound& channel, int number, EnvelopeRoute& envelope, Lfo& lfo)
@@ -48,14 +49,14 @@ Mix MixFor(const ChannelSound& channel, int destination)
             channel.lfo2.destination == destination ? 1.0f : 0.0f};
 }
 
-/// An LFO beyond the shapes stands still at 0. Increments from kFastest on all give phase 0.
+/// An LFO beyond the shapes stands still at 0.
 void DescribeLfo(const Lfo& lfo, int l, const EnvelopeRoute& envelope, ChannelMotion<float>& motion)
 {
-    constexpr float kFastest = 0x1p24f, kNoShape = -1.0f;
+    constexpr float kNoShape = -1.0f;
     const bool known = lfo.shape >= LfoShape::Sine && lfo.shape <= LfoShape::Square;
     const bool stands = lfo.amount != 0.0f && !known;
     motion.phase[l] = lfo.phase;
-    motion.increment[l] = stands ? 0.0f : std::min(lfo.increment, kFastest);
+    motion.increment[l] = stands ? 0.0f : lfo.increment;
     motion.amount[l] = stands ? 0.0f : lfo.amount;
     motion.shape[l] = lfo.amount != 0.0f && known ? static_cast<float>(lfo.shape) : kNoShape;
     motion.scaled[l] = envelope.destination == destination::Depth ? 1.0f : 0.0f;
