@@ -20,6 +20,8 @@ float Tame(float value)
     return std::isfinite(value) ? Clamp(value, -kWildest, kWildest) : 0.0f;
 }
 
+constexpr int kTries = 3; // of a copy, under which another thread's write, or step, is not to be lost
+
 bool IsChannelSlot(int index) { return index >= 0 && index < kChannelSlots; }
 
 /// Whether a block has changed since it was read.
@@ -114,7 +116,6 @@ void GrooveEngine::RefreshChannel(int channel, bool withLocks)
 {
     const auto& stored = storedParams[channel];
     ParameterBlock& params = Channel(channel).sound.params;
-    constexpr int kTries = 3; // another thread's write, or step, is not to be lost under this copy
     for (int n = 0; n < kTries; ++n) {
         params.changes.Note(false); // of two who copy at once, one sees what the other has read, or has left
         const int step = score.lastStep[channel];
@@ -132,19 +133,32 @@ void GrooveEngine::RefreshChannel(int channel, bool withLocks)
     RefreshFxActive(channel);
 }
 
+unsigned GrooveEngine::PlayedEffects(int channel) const
+{
+    if (!buttons.Reaches(channel, selection.selectedChannel)) return 0;
+    const int padEffect = buttons.fxPad ? static_cast<int>(selection.selectedFx) : -1;
+    unsigned played = 0;
+    for (int effect = 0; effect < kEffects; ++effect)
+        if (buttons.fxOn[effect] || effect == padEffect) played |= 1u << effect;
+    return played;
+}
+
 void GrooveEngine::RefreshFxActive(int channel)
 {
-    const bool reached = buttons.Reaches(channel, selection.selectedChannel);
-    const int padEffect = buttons.fxPad ? static_cast<int>(selection.selectedFx) : -1;
     GrooveChannel& target = Channel(channel);
-    bool changed = false;
-    for (int effect = 0; effect < kEffects; ++effect) {
-        const bool active = reached && (buttons.fxOn[effect] || effect == padEffect);
-        changed |= target.fxActive[effect].Exchange(active) != active;
+    ChangeCount& counted = target.sound.params.changes;
+    for (int n = 0; n < kTries; ++n) {
+        counted.Note(false); // as in RefreshChannel
+        const unsigned played = PlayedEffects(channel);
+        bool changed = false;
+        for (int effect = 0; effect < kEffects; ++effect) {
+            const bool active = (played >> effect & 1u) != 0;
+            changed |= target.fxActive[effect].Exchange(active) != active;
+        }
+        counted.Note(changed);
+        if (changed) changes.Add();
+        if (PlayedEffects(channel) == played) break;
     }
-    if (!changed) return;
-    target.sound.params.changes.Add();
-    changes.Add();
 }
 
 void GrooveEngine::RefreshFxActive()

@@ -129,6 +129,7 @@ private:
     void Do(const VoiceCommand& command);
     void Execute(const VoiceCommand& command);
     void RefreshFxActive(int channel);
+    unsigned PlayedEffects(int channel) const; // a bit for each
 
     const Shared<std::thread::id>* const owner;
 };
