@@ -78,7 +78,7 @@ template <class Start>
 void SoundingBlock(benchmark::State& state, Rig& rig, const Start& start)
 {
     for (auto _ : state) {
-        if (!AnyVoiceActive(rig.engine.Channel(0).voices)) {
+        if (rig.engine.Channel(0).activeVoices == 0) {
             state.PauseTiming();
             rig.engine.ResetEngine(0.0f);
             start();

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "engine/dsp/OnLevel.h"
 #include "engine/fx/UnitControls.h"
 
 namespace korvane {
@@ -13,7 +14,7 @@ inline void FillLevels(UnitControls& unit, float* levels, int frames)
     const float target = unit.Target();
     float level = unit.mix;
     for (int n = 0; n < frames; ++n) {
-        const float next = level + (target - level) * UnitControls::kOnStep;
+        const float next = level + (target - level) * kOnStep;
         if (next == level) {
             std::fill(levels + n, levels + frames, level);
             break;

@@ -4,7 +4,6 @@
 #include <cstdint>
 
 #include "engine/dsp/LfoShape.h"
-#include "engine/dsp/OnLevel.h"
 
 namespace korvane {
 
@@ -20,10 +19,8 @@ struct UnitControls {
     std::uint8_t reverse = 0;           // stutter: play the slice backwards
     double lfoPhase = 0.0;              // 0..1; stutter: position in the slice; the effect moves it
     double lfoIncrement = 0.0;          // phase per frame
-    float mix = 0.0f;                   // smoothed on-level, 0..1; the effect moves it
+    float mix = 0.0f;                   // on-level, smoothed by kOnStep, 0..1; the effect moves it
     std::int32_t holdFrames = 0;        // frames of tail still to be produced after release; TailLeft counts them down
-
-    static constexpr float kOnStep = korvane::kOnStep; // of the way that mix goes per frame
 
     /// Where mix goes.
     float Target() const { return bypass ? 0.0f : 1.0f; }

@@ -1,19 +1,19 @@
 // Envelope of the pump.
 #pragma once
 
-#include <algorithm>
-
 namespace korvane {
 
 inline constexpr float kPumpStep = 0.01f; // of the way that the envelope goes per frame: no clicks
 
 /// p        0..1 of the period
 /// release  1 or more: the larger, the sooner the level is back
-inline float PumpEnvelope(float p, float release)
+[[gnu::always_inline]] inline float PumpEnvelope(float p, float release)
 {
     constexpr float kAttack = 0.01f; // of the period
     const float fall = (p - kAttack) / (1.0f - kAttack);
-    return p < kAttack ? p / kAttack : 1.0f - std::min(fall * fall * fall * fall * release, 1.0f);
+    const float back = fall * fall * fall * fall * release;
+    const float rise = p / kAttack, down = 1.0f - (1.0f < back ? 1.0f : back); // both, so that frames go side by side
+    return p < kAttack ? rise : down;
 }
 
 struct PumpJob {

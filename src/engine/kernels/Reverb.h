@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 
+#include "engine/dsp/OnLevel.h"
+
 namespace korvane {
 
 inline constexpr int kReverbLines = 12; // 0..3 input diffusers, 4..7 left branch, 8..11 right branch
@@ -29,7 +31,7 @@ struct ReverbCoefficients {
 };
 
 inline constexpr float kInputOffset = 1e-30f, kTankOffset = 1e-20f; // keep the tail out of the denormal range
-inline constexpr float kSendStep = 0.01f, kLevelStep = 0.001f;      // shares of the way that gains move per frame
+inline constexpr float kLevelStep = 0.001f;                         // of the way that the level goes per frame
 
 // Which line each output tap reads.
 inline constexpr std::array<std::size_t, kReverbTaps> kLeftTapLines = {9, 9, 10, 11, 5, 6, 7};
@@ -198,7 +200,7 @@ struct PlainReverb {
 {
     PlainReverb reverb{*job.coefficients, *job.state};
     for (int n = 0; n < frames; ++n) {
-        job.send += (job.sendTarget - job.send) * kSendStep;
+        job.send += (job.sendTarget - job.send) * kOnStep;
         float left = job.inLeft[n] * job.send, right = job.inRight[n] * job.send;
         reverb.Frame(left, right);
         job.outLeft[n] = job.adds ? job.outLeft[n] + left : left;

@@ -1,7 +1,6 @@
 // What moves within a run: LFOs, smoothed knobs, envelopes, gain, glide.
 #pragma once
 
-#include <cmath>
 #include <cstdint>
 #include <numbers>
 #include <type_traits>
@@ -84,7 +83,10 @@ template <class S>
         return p - __builtin_convertvector(__builtin_convertvector(p, decltype(p < p)), S);
 }
 
-inline float LfoSine(float phase) { return std::sin(2.0f * std::numbers::pi_v<float> * phase); }
+[[gnu::always_inline]] inline float LfoSine(float phase)
+{
+    return __builtin_sinf(2.0f * std::numbers::pi_v<float> * phase);
+}
 
 /// Value at full depth.
 /// sine  LfoSine(phase), read where the shape is the sine

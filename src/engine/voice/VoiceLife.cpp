@@ -1,7 +1,6 @@
 // Start, refresh, release and end of a voice.
 #include "engine/voice/VoiceLife.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -134,11 +133,6 @@ void ReleaseVoice(ChannelVoice& voice)
     voice.releasing = true;
     voice.amp.rate = voice.ampReleaseRate;
     voice.amp.target = 0.0f;
-}
-
-bool AnyVoiceActive(const ChannelVoices& voices)
-{
-    return std::any_of(voices.begin(), voices.end(), [](const auto& voice) { return voice->active; });
 }
 
 void ReleaseNote(ChannelVoices& voices, int note)

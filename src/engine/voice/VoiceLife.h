@@ -31,7 +31,6 @@ void ReleaseVoice(ChannelVoice& voice);
 
 // Of a channel's voices.
 
-bool AnyVoiceActive(const ChannelVoices& voices);
 void ReleaseNote(ChannelVoices& voices, int note); // every voice that plays `note`
 void ReleaseLive(ChannelVoices& voices);           // every voice that the sequencer did not start
 void ReleaseSequenced(ChannelVoices& voices);      // every voice that the sequencer started

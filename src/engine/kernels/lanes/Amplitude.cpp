@@ -11,13 +11,6 @@ namespace {
 
 constexpr std::int32_t kInfinity = 0x7f800000;
 
-Ints FirstLanes(int count)
-{
-    Ints lane;
-    for (int n = 0; n < kLanes; ++n) lane[n] = n;
-    return lane < count;
-}
-
 /// Lanes of `to` that are no numbers any more.
 Ints Shape(float* to, Floats amp)
 {
@@ -35,10 +28,8 @@ void Shape(const AmplitudeJob& job, int frames)
         return Shape(job.left + n, amp) | Shape(job.right + n, amp);
     };
     for (; n + kLanes <= frames; n += kLanes) broken |= shape();
-    if (n < frames) broken |= shape() & FirstLanes(frames - n);
-    std::int32_t any = 0;
-    for (int lane = 0; lane < kLanes; ++lane) any |= broken[lane];
-    if (any == 0) return;
+    if (n < frames) broken |= shape() & (LaneNumbers() < frames - n);
+    if (!Any(broken)) return;
     for (n = 0; n < frames; ++n) job.left[n] = job.right[n] = 0.0f;
 }
 

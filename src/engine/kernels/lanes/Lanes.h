@@ -7,6 +7,9 @@
 #include <cstring>
 #include <utility>
 
+#include "engine/dsp/StereoFrame.h"
+#include "framework/Limits.h"
+
 // The build compiles everything in this folder once for each instruction set, in a namespace of its own. What several
 // files of the folder share lies in that namespace or is always inlined: otherwise the linker would keep one of the
 // three copies for all.
@@ -20,6 +23,8 @@ typedef std::int32_t Ints __attribute__((vector_size(4 * kLanes)));
 typedef std::uint32_t Words __attribute__((vector_size(4 * kLanes)));
 typedef double Doubles __attribute__((vector_size(4 * kLanes)));
 typedef std::int64_t Longs __attribute__((vector_size(4 * kLanes)));
+
+alignas(64) inline constexpr float kNoRow[kMaxRun] = {}; // what lanes read that no channel or voice has
 
 template <class V, class T>
 [[gnu::always_inline]] inline V Load(const T* from)
@@ -39,11 +44,6 @@ template <class V, class T>
 
 [[gnu::always_inline]] inline Floats Select(Ints mask, Floats yes, Floats no) { return mask ? yes : no; }
 
-[[gnu::always_inline]] inline Floats Magnitude(Floats value)
-{
-    return reinterpret_cast<Floats>(reinterpret_cast<Ints>(value) & 0x7fffffff);
-}
-
 /// Some lane of a mask is set.
 [[gnu::always_inline]] inline bool Any(Ints mask)
 {
@@ -60,14 +60,6 @@ template <class V, class T>
     Ints numbers{};
     for (int n = 0; n < kLanes; ++n) numbers[n] = n;
     return numbers;
-}
-
-/// Values this small, and NaN, become 0.
-[[gnu::always_inline]] inline Floats Flushed(Floats value)
-{
-    constexpr float kFlushBelow = 1e-9f;
-    const Ints keep = Magnitude(value) >= kFlushBelow;
-    return reinterpret_cast<Floats>(reinterpret_cast<Ints>(value) & keep);
 }
 
 /// Lane n's sign in bit n.

@@ -14,8 +14,6 @@ namespace {
 typedef std::int32_t HalfInts __attribute__((vector_size(2 * kLanes)));
 typedef float HalfFloats __attribute__((vector_size(2 * kLanes)));
 
-constexpr float kNothing[2] = {}; // what unused lanes read
-
 struct EnvelopeLanes {
     Floats level, target, rate, decayRate;
     Ints plateau;
@@ -99,7 +97,7 @@ void StoreLayer(const Group<kHalves>& group, LayerJob& job, int layer)
     LayerState& to = *job.state;
     to.position = from.position[layer / kDoubles][layer % kDoubles];
     const float level = from.envelope.level[layer];
-    to.envLevel = Flushed(Splat(level))[0];
+    to.envLevel = Flushed(level);
     to.envTarget = from.envelope.target[layer];
     to.envRate = from.envelope.rate[layer];
     to.plateauFrames = from.envelope.plateau[layer];
@@ -265,7 +263,7 @@ void PlayGroup(LayerJob* jobs, int count, float scale)
 {
     Group<kHalves> group;
     for (auto& side : group.state.data)
-        for (const float*& data : side) data = kNothing;
+        for (const float*& data : side) data = kNoRow;
     int from = NextEvent(jobs, count, -1);
     for (int event = from; event <= kMaxRun; event = NextEvent(jobs, count, event)) {
         while (from < event) {

@@ -2,7 +2,6 @@
 #include "engine/kernels/Pump.h"
 
 #include "engine/kernels/lanes/Transpose.h"
-#include "framework/Limits.h"
 
 namespace korvane::KORVANE_ISA_SPACE {
 
@@ -12,22 +11,12 @@ namespace {
 
 constexpr int kFewJobs = 2; // that cost less one by one
 
-alignas(64) constexpr float kNoRow[kMaxRun] = {}; // of lanes that no channel has
-
-/// As PumpEnvelope.
 void FillEnvelopes(const PumpJob& job, int frames)
 {
-    constexpr float kAttack = 0.01f;
     const float release = job.release;
     const double* const phases = job.phases;
     float* const levels = job.levels;
-    for (int n = 0; n < frames; ++n) {
-        const float p = static_cast<float>(phases[n]);
-        const float fall = (p - kAttack) / (1.0f - kAttack);
-        const float back = fall * fall * fall * fall * release;
-        const float rise = p / kAttack, down = 1.0f - (1.0f < back ? 1.0f : back);
-        levels[n] = p < kAttack ? rise : down;
-    }
+    for (int n = 0; n < frames; ++n) levels[n] = PumpEnvelope(static_cast<float>(phases[n]), release);
 }
 
 void SmoothOne(const PumpJob& job, int from, int frames)

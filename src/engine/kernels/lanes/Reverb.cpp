@@ -418,7 +418,7 @@ void Glides(Reverb* reverbs, int count, int frames)
         sends[n] = {job.send, job.sendTarget, reverbs[n].sends};
         levels[n] = {job.state->level, job.coefficients->reverbTarget, reverbs[n].levels};
     }
-    RunGlides<kChannels>(sends, count, kSendStep, frames);
+    RunGlides<kChannels>(sends, count, kOnStep, frames);
     RunGlides<kChannels>(levels, count, kLevelStep, frames);
     for (int n = 0; n < count; ++n) {
         reverbs[n].send = sends[n];

@@ -5,13 +5,10 @@
 
 #include "engine/kernels/Sides.h"
 #include "engine/kernels/lanes/Transpose.h"
-#include "framework/Limits.h"
 
 namespace korvane::KORVANE_ISA_SPACE {
 
 namespace {
-
-alignas(64) constexpr float kNoRow[kMaxRun] = {}; // of lanes that no channel has
 
 inline constexpr int kPiece = 32; // frames that are in lanes at a time
 inline constexpr int kMovedValues = 16;

@@ -58,7 +58,7 @@ void ChainGroup(const ChainedTapesJob* jobs, int frames)
             for (int part = 0; part < kParts; ++part) {
                 const Part before = Load<Part>(EntryOf(job, place.before, part));
                 const Part after = Load<Part>(EntryOf(job, place.after, part));
-                const Part out = korvane::Flushed(before + (after - before) * place.fraction);
+                const Part out = Flushed(before + (after - before) * place.fraction);
                 const Part in = InputOf(out, sides[part], sides[1]);
                 Part& state = states[c][part];
                 state = OpenStep(state, job.gains[n] * in + job.feedback * out);

@@ -16,8 +16,6 @@ constexpr int kMaxVectors = kLanes == 16 ? 5 : 6;
 constexpr int kFullGroup = kMaxVectors * kVoicesPerVector;
 constexpr int kMaxJobs = kChannels * kVoices;
 
-alignas(64) constexpr float kNothing[kMaxRun] = {}; // rows of lanes that no voice has
-
 /// The lanes of a vector, one by one.
 struct Lanes {
     float s1[kLanes] = {}, s2[kLanes] = {}, s3[kLanes] = {}, s4[kLanes] = {};
@@ -54,7 +52,7 @@ void LoadVoices(Group<kVectors>& group, const FilterJob* const* jobs, int count)
         lanes.cutoff[at] = job.cutoff;
     }
     for (int lane = 2 * count; lane < kLanes * kVectors; ++lane)
-        group.lanes[lane / kLanes].signal[lane % kLanes] = group.lanes[lane / kLanes].cutoff[lane % kLanes] = kNothing;
+        group.lanes[lane / kLanes].signal[lane % kLanes] = group.lanes[lane / kLanes].cutoff[lane % kLanes] = kNoRow;
 }
 
 template <int kVectors>

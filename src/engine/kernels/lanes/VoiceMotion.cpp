@@ -15,7 +15,6 @@ constexpr int kWorthPacking = 2 * kLanes; // frames of all voices of a group; fe
 constexpr int kMaxJobs = kChannels * kVoices;
 constexpr int kRows = 4; // cutoff, gain, amp, modulation amount
 
-alignas(64) constexpr float kNothing[kMaxRun] = {};
 constexpr VoiceMotion<float> kNoVoice = {};
 constexpr ChannelMotion<float> kNoChannel = {};
 
@@ -44,13 +43,6 @@ void Unpack(const Lanes& from, Each* const (&to)[kLanes], int count)
         for (int lane = 0; lane < count; ++lane)
             Store(rows[lane], reinterpret_cast<char*>(to[lane]) + field * sizeof(float));
     }
-}
-
-bool Any(Ints mask)
-{
-    std::int32_t any = 0;
-    for (int lane = 0; lane < kLanes; ++lane) any |= mask[lane];
-    return any != 0;
 }
 
 /// Voices that share a vector.
@@ -135,7 +127,7 @@ void LoadSines(Group& group, int from)
             Floats lanes[kLanes];
             for (int lane = 0; lane < kLanes; ++lane) {
                 const float* const row = lane < group.count ? group.jobs[lane]->sines[l] : nullptr;
-                lanes[lane] = Load<Floats>((row ? row : kNothing) + from + n);
+                lanes[lane] = Load<Floats>((row ? row : kNoRow) + from + n);
             }
             Transpose(lanes);
             for (int frame = 0; frame < kLanes; ++frame) group.sine[n + frame][l] = lanes[frame];
@@ -148,8 +140,7 @@ void FindSines(Group& group, int n)
     for (int l = 0; l < kLfos; ++l)
         for (int lane = 0; lane < group.count; ++lane)
             if (group.channel.shape[l][lane] == static_cast<float>(LfoShape::Sine) && !group.jobs[lane]->sines[l])
-                group.sine[n][l][lane] =
-                    __builtin_sinf(2.0f * std::numbers::pi_v<float> * group.channel.phase[l][lane]);
+                group.sine[n][l][lane] = LfoSine(group.channel.phase[l][lane]);
 }
 
 void StoreFrames(Group& group, int from, int frames)
