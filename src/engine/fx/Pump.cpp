@@ -2,9 +2,7 @@
 #include "engine/fx/Pump.h"
 
 #include <algorithm>
-#include <cmath>
 
-#include "engine/dsp/EqualSteps.h"
 #include "engine/dsp/StereoFrame.h"
 #include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
@@ -15,14 +13,6 @@ namespace korvane {
 namespace {
 
 constexpr int kPiece = 128; // frames
-
-void FillPhases(UnitControls& unit, double* phases, int frames)
-{
-    for (int from = 0; from < frames;) {
-        from += StepBelowOne(unit.lfoPhase, unit.lfoIncrement, frames - from, phases + from);
-        if (!(unit.lfoPhase < 1.0)) unit.lfoPhase -= std::floor(unit.lfoPhase);
-    }
-}
 
 void Duck(float drop, const float* levels, const StereoBlock& block)
 {
@@ -48,7 +38,7 @@ void Pump::ProcessAll(std::span<const EffectRun> runs)
         const int size = std::min(frames - from, kPiece);
         for (int c = 0; c < count; ++c) {
             UnitControls& unit = *runs[c].unit;
-            FillPhases(unit, phases[c], size);
+            unit.FillPhases(phases[c], size);
             jobs[c] = {phases[c], law::PumpSpeed(unit.x), levels[c], &static_cast<Pump*>(runs[c].effect)->envelope};
         }
         kernels.pump(jobs, count, size);

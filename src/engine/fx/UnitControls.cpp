@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "engine/dsp/EqualSteps.h"
 #include "engine/dsp/Silence.h"
 #include "engine/kernels/Kernels.h"
 #include "framework/Limits.h"
@@ -30,18 +31,6 @@ void ShapeLfo(const double* phases, float amount, float* lfo, int frames)
     for (int n = 0; n < frames; ++n) lfo[n] = LfoValue<shape>(phases[n]) * amount;
 }
 
-/// Moves the phase behind the last frame.
-void FillPhases(double& phase, double increment, double* phases, int frames)
-{
-    double next = phase;
-    for (int n = 0; n < frames; ++n) {
-        phases[n] = next;
-        next += increment;
-        if (next >= 1.0) next -= std::floor(next);
-    }
-    phase = next;
-}
-
 } // namespace
 
 bool UnitControls::FadedOut() const { return bypass && mix < kSilence; }
@@ -58,11 +47,19 @@ void UnitControls::FillLfo(float* lfo, int frames)
 {
     if (lfoAmount != 0.0f) {
         double phases[kMaxRun];
-        FillPhases(lfoPhase, lfoIncrement, phases, frames);
+        FillPhases(phases, frames);
         ShapePhases(phases, lfo, frames);
     } else {
         std::fill_n(lfo, frames, 0.0f);
         lfoPhase = AdvancedPhase(frames);
+    }
+}
+
+void UnitControls::FillPhases(double* phases, int frames)
+{
+    for (int from = 0; from < frames;) {
+        from += StepBelowOne(lfoPhase, lfoIncrement, frames - from, phases + from);
+        if (!(lfoPhase < 1.0)) lfoPhase -= std::floor(lfoPhase);
     }
 }
 

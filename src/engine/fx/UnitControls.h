@@ -31,6 +31,8 @@ struct UnitControls {
     float BlockLfo(int frames);
     /// The LFO of each frame, likewise.
     void FillLfo(float* lfo, int frames);
+    /// Its phase of each frame; moves it on behind the last one.
+    void FillPhases(double* phases, int frames);
 
 private:
     void ShapePhases(const double* phases, float* lfo, int frames) const;
