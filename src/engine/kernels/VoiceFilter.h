@@ -52,7 +52,8 @@ inline int CutoffIndex(float cutoff)
     return static_cast<int>(Clamp(cutoff * kPairs, 0.0f, kPairs - 1.0f));
 }
 
-/// One voice to filter and the mix buffers that it is added to. Rows hold kMaxRun floats, aligned to 64 bytes.
+/// One voice to filter and the mix buffers that it is added to. Rows hold kMaxRun floats, aligned to 64 bytes; those of
+/// the input may change up to the next multiple of 16 frames.
 struct FilterJob {
     float (*state)[kFilterStages]; // left, right; moved on
     float *left, *right;           // input; the output replaces it

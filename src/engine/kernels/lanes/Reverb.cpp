@@ -12,7 +12,7 @@ RunReverbsKernel RunReverbs;
 namespace {
 
 constexpr int kRun = 128;           // the longest run
-constexpr int kRow = kRun + kLanes; // floats behind a run's last vector are neither of use nor harmful
+constexpr int kRow = kRun + kLanes; // what stages make of the floats behind a run is of no use
 
 /// A reverb on its way through a run.
 struct Reverb {
@@ -439,7 +439,10 @@ void InGroups(Reverb* reverbs, int count, const Body& body)
 void Run(Reverb* reverbs, int count, int frames)
 {
     Glides(reverbs, count, frames);
-    for (int n = 0; n < count; ++n) Mono(reverbs[n], frames);
+    for (int n = 0; n < count; ++n) {
+        for (float* row : {reverbs[n].x, reverbs[n].left, reverbs[n].right}) Store(Floats{}, row + frames);
+        Mono(reverbs[n], frames);
+    }
     InGroups(reverbs, count, [=](Reverb* group, int size) { Cut(group, size, frames); });
     for (int n = 0; n < count; ++n) DiffuseInput(reverbs[n], frames);
     InGroups(reverbs, count, [=](Reverb* group, int size) { Damp(group, size, frames); });

@@ -113,6 +113,7 @@ void StoreFrames(const Group<kVectors>& group, const FilterJob* const* jobs, int
     for (int v = 0; v < kVectors; ++v) {
         Floats rows[kLanes];
         for (int n = 0; n < frames; ++n) rows[n] = group.signal[n][v];
+        for (int n = frames; n < kLanes; ++n) rows[n] = Floats{};
         const bool few = frames <= kFewFrames;
         if (!few) Transpose(rows);
         for (int lane = 0; lane < kLanes && v * kLanes + lane < 2 * count; ++lane) {

@@ -145,13 +145,15 @@ void FindSines(Group& group, int n)
 
 void StoreFrames(Group& group, int from, int frames)
 {
-    for (int row = 0; row < (group.modAmount ? kRows : kRows - 1); ++row)
+    for (int row = 0; row < (group.modAmount ? kRows : kRows - 1); ++row) {
+        for (int n = frames; n % kLanes != 0; ++n) group.frames[row][n] = Floats{};
         for (int n = 0; n < frames; n += kLanes) {
             Floats lanes[kLanes];
             for (int frame = 0; frame < kLanes; ++frame) lanes[frame] = group.frames[row][n + frame];
             Transpose(lanes);
             for (int lane = 0; lane < kLanes; ++lane) Store(lanes[lane], group.rows[row][lane] + from + n);
         }
+    }
 }
 
 /// Lanes whose level cannot reach 1 within a run, or that no step moves. Levels and targets of a magnitude below
