@@ -102,7 +102,8 @@ public:
     mutable std::mutex readers;          // of entries, but for loader and audio thread; see SoundHandover.h
 
     // Audio thread only.
-    alignas(64) float channelBuffers[kChannels][2][kMaxRun] = {};
+    // A line apart in the cache's sets, which rows of equal distance would crowd.
+    alignas(64) float channelBuffers[kChannels][2][kMaxRun + 16] = {};
     alignas(64) float engineBuffer[2][kMaxRun] = {};
     alignas(64) const float silentTable[kWaveTablePoints] = {}; // what an oscillator without a waveform reads
 };

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cassert>
+#include <new>
 
 #include "engine/ChannelStages.h"
 #include "engine/SequencerTick.h"
@@ -93,8 +94,9 @@ void MixStrips(const RunList& run, std::uint32_t audible, const Outputs& outputs
         const bool mixed = (audible >> n & 1u) != 0;
         channel.atRest = !mixed && channel.activeVoices == 0 && channel.unitsAwake == 0 && (channel.unitsOn & 1u) == 0;
         if (mixed) {
-            jobs[count] = channel.strip.Job(channel.mixLeft, channel.mixRight, outputs.Direct(c, 0),
-                                            outputs.Direct(c, 1), c == 0);
+            // Made where it stands: a copy would wait for its fields.
+            ::new (&jobs[count]) StripJob(channel.strip.Job(channel.mixLeft, channel.mixRight, outputs.Direct(c, 0),
+                                                            outputs.Direct(c, 1), c == 0));
             strips[count++] = &channel.strip;
         } else {
             channel.strip.Skip();

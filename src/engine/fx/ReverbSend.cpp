@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <new>
 
 #include "engine/kernels/Kernels.h"
 #include "framework/KnobLaws.h"
@@ -63,7 +64,7 @@ void ReverbSend::ProcessAll(std::span<const EffectRun> runs)
         const UnitControls& unit = *runs[n].unit;
         send.Set(unit);
         float* const sides[] = {runs[n].block.left, runs[n].block.right};
-        jobs[n] = send.reverb->Job(sides, sides, true);
+        ::new (&jobs[n]) ReverbJob(send.reverb->Job(sides, sides, true)); // a copy would wait for its fields
         jobs[n].send = unit.mix;
         jobs[n].sendTarget = unit.Target();
     }

@@ -1,8 +1,6 @@
 // Blocks of the voices, shaped by their amplitudes.
 #pragma once
 
-#include <cmath>
-
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -20,14 +18,14 @@ struct AmplitudeJob {
 using ShapeVoicesKernel = void(const AmplitudeJob* jobs, int count, int frames);
 
 /// The plain form.
-inline void ShapeVoicesPlainly(const AmplitudeJob* jobs, int count, int frames)
+[[gnu::always_inline]] inline void ShapeVoicesPlainly(const AmplitudeJob* jobs, int count, int frames)
 {
     for (const AmplitudeJob* job = jobs; job != jobs + count; ++job) {
         bool finite = true;
         for (int n = 0; n < frames; ++n) {
             job->left[n] *= job->amp[n];
             job->right[n] *= job->amp[n];
-            finite = finite && std::isfinite(job->left[n]) && std::isfinite(job->right[n]);
+            finite = finite && __builtin_isfinite(job->left[n]) && __builtin_isfinite(job->right[n]);
         }
         for (int n = 0; n < frames && !finite; ++n) job->left[n] = job->right[n] = 0.0f;
     }

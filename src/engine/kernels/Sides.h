@@ -21,19 +21,25 @@ concept MovedByLfo = requires(Side side, S value)
     side.Step(value, value);
 };
 
+/// One frame of a channel.
+template <template <class> class Side>
+[[gnu::always_inline]] inline void StepSides(const SidesJob<Side>& job, Side<Stereo>& sides, int n)
+{
+    Stereo frame = LoadFrame(job.left, job.right, n);
+    if constexpr (MovedByLfo<Side<Stereo>, Stereo>)
+        frame = sides.Step(frame, Stereo{} + job.lfo[n]);
+    else
+        frame = sides.Step(frame);
+    StoreFrame(frame, job.left, job.right, n);
+}
+
 /// The plain form for one channel.
 template <template <class> class Side>
 [[gnu::always_inline]] inline void RunSides(const SidesJob<Side>& job, int frames)
 {
+    if (frames == 1) return StepSides(job, *job.sides, 0); // sooner done than a copy
     Side<Stereo> sides = *job.sides;
-    for (int n = 0; n < frames; ++n) {
-        Stereo frame = LoadFrame(job.left, job.right, n);
-        if constexpr (MovedByLfo<Side<Stereo>, Stereo>)
-            frame = sides.Step(frame, Stereo{} + job.lfo[n]);
-        else
-            frame = sides.Step(frame);
-        StoreFrame(frame, job.left, job.right, n);
-    }
+    for (int n = 0; n < frames; ++n) StepSides(job, sides, n);
     *job.sides = sides;
 }
 

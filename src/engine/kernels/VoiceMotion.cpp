@@ -28,7 +28,9 @@ void Modulate(const MotionJob& job, int frames)
         job.amp[n] = frame.amp;
         if (job.modAmount) job.modAmount[n] = frame.modAmount;
     }
-    *job.moved = channel;
+    for (int l = 0; l < kLfos; ++l) job.moved->phase[l] = channel.phase[l];
+    job.moved->cutoff = channel.cutoff;
+    job.moved->modAmount = channel.modAmount;
 }
 
 } // namespace

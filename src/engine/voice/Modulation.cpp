@@ -63,9 +63,9 @@ void DescribeLfo(const Lfo& lfo, int l, const EnvelopeRoute& envelope, ChannelMo
     motion.toAmp[l] = lfo.destination == destination::Amplitude ? 1.0f : 0.0f;
 }
 
-ChannelMotion<float> MotionOf(const ChannelSound& channel)
+void DescribeMotion(const ChannelSound& channel, ChannelMotion<float>& motion)
 {
-    ChannelMotion<float> motion;
+    std::fill(std::begin(motion.unused), std::end(motion.unused), 0.0f);
     DescribeLfo(channel.lfo1, 0, channel.env1, motion);
     DescribeLfo(channel.lfo2, 1, channel.env2, motion);
     motion.cutoff = channel.cutoffSmooth;
@@ -75,7 +75,6 @@ ChannelMotion<float> MotionOf(const ChannelSound& channel)
     motion.glideRate = channel.glideRate;
     motion.toCutoff = MixFor(channel, destination::Cutoff);
     motion.toModAmount = MixFor(channel, destination::ModAmount);
-    return motion;
 }
 
 bool NeedsModAmount(const ChannelSound& channel)
@@ -92,12 +91,27 @@ bool Acts(const ChannelSound& channel, const Lfo& lfo, const EnvelopeRoute& enve
            (lfo.destination == destination::ModAmount && NeedsModAmount(channel));
 }
 
-/// What the channel's jobs have in common.
-MotionJob DescribeChannel(ChannelSound& channel, ChannelMotion<float>& motion, int frames)
+/// A channel of a run.
+struct Motion {
+    union { // both filled before they are read
+        ChannelMotion<float> begin;
+    };
+    union {
+        ChannelMotion<float> moved;
+    };
+
+    Motion() {}
+};
+
+/// What the channel's jobs have in common, into the first one.
+void DescribeChannel(ChannelSound& channel, Motion& run, int frames, MotionJob& job)
 {
-    motion = MotionOf(channel);
-    MotionJob job = {};
+    ChannelMotion<float>& motion = run.begin;
+    DescribeMotion(channel, motion);
     job.channel = &motion;
+    job.moved = &run.moved;
+    job.sines[0] = job.sines[1] = nullptr;
+    job.lfosAct = false;
     job.release = kNeverReleased;
     const Lfo* const lfos[kLfos] = {&channel.lfo1, &channel.lfo2};
     const EnvelopeRoute* const envelopes[kLfos] = {&channel.env1, &channel.env2};
@@ -108,7 +122,16 @@ MotionJob DescribeChannel(ChannelSound& channel, ChannelMotion<float>& motion, i
         lfos[l]->FillSines(channel.frames.sines[l], frames);
         job.sines[l] = channel.frames.sines[l];
     }
-    return job;
+}
+
+/// What further voices of the channel have in common with its first one, whose note may have been released.
+void CopyChannel(const MotionJob& first, MotionJob& job)
+{
+    job.channel = first.channel;
+    job.moved = first.moved;
+    for (int l = 0; l < kLfos; ++l) job.sines[l] = first.sines[l];
+    job.lfosAct = first.lfosAct;
+    job.release = kNeverReleased;
 }
 
 void TakeOver(ChannelSound& channel, const ChannelMotion<float>& moved)
@@ -119,16 +142,14 @@ void TakeOver(ChannelSound& channel, const ChannelMotion<float>& moved)
     channel.modAmountSmooth = moved.modAmount;
 }
 
-MotionJob DescribeVoice(const MotionJob& channel, bool needsModAmount, ChannelVoice& voice)
+void DescribeVoice(bool needsModAmount, ChannelVoice& voice, MotionJob& job)
 {
-    MotionJob job = channel;
     job.voice = &voice;
     job.cutoff = voice.cutoffFrames;
     job.gain = voice.gainFrames;
     job.amp = voice.ampFrames;
     job.modAmount = needsModAmount ? voice.modAmountFrames : nullptr;
     voice.glideTarget = static_cast<float>(voice.pitchNote);
-    return job;
 }
 
 /// Counts the note of voice v down. Those before it have been counted already, those behind it not yet.
@@ -190,25 +211,27 @@ void SetUpVoices(ChannelSound& channel)
 void ModulateVoices(SoundingVoices sounding, int frames)
 {
     if (frames < 1 || sounding.empty()) return;
-    ChannelMotion<float> channels[kChannels], moved[kChannels];
+    Motion channels[kChannels];
     MotionJob jobs[kChannels * kVoices];
     ChannelSound* sounds[kChannels];
     int count = 0;
     bool needsModAmount = false;
-    MotionJob shared = {};
+    std::size_t first = 0; // of the channel
     for (std::size_t v = 0; v < sounding.size(); ++v) {
         ChannelSound* const channel = sounding[v].channel;
         if (count == 0 || channel != sounds[count - 1]) {
-            shared = DescribeChannel(*channel, channels[count], frames);
-            shared.moved = &moved[count];
+            first = v;
+            DescribeChannel(*channel, channels[count], frames, jobs[v]);
             needsModAmount = NeedsModAmount(*channel);
             sounds[count++] = channel;
+        } else {
+            CopyChannel(jobs[first], jobs[v]);
         }
-        jobs[v] = DescribeVoice(shared, needsModAmount, *sounding[v].voice);
+        DescribeVoice(needsModAmount, *sounding[v].voice, jobs[v]);
         CountDown(sounding, v, jobs, frames);
     }
     kernels.modulateVoices(jobs, static_cast<int>(sounding.size()), frames);
-    for (int c = 0; c < count; ++c) TakeOver(*sounds[c], moved[c]);
+    for (int c = 0; c < count; ++c) TakeOver(*sounds[c], channels[c].moved);
 }
 
 void ShapeVoices(SoundingVoices sounding, int frames)

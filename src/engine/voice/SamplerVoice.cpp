@@ -101,22 +101,21 @@ int FramesInside(const SamplerLayer& layer, const CWaveSample& sample, int wante
 
 /// A layer in a run of some frames: after its delay it plays until its sample ends.
 /// sample  null when there is none any more and the layer dies away
-LayerJob Begin(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample* sample, int frames)
+/// job     filled where it stands: a copy would wait for its fields
+void Begin(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample* sample, int frames, LayerJob& job)
 {
     const int delay = std::min(layer.delayFrames, frames);
     layer.delayFrames -= delay;
-    LayerJob job = {};
     job.state = &layer;
     job.reverse = layer.reverse;
     job.from = job.to = delay;
     job.mixLeft = voice.left;
     job.mixRight = voice.right;
-    if (!sample) return job;
+    if (!sample) return;
     job.data[0] = sample->channelData[0].get();
     job.data[1] = sample->channelData[sample->numChannels == 2 ? 1 : 0].get();
     job.numFrames = sample->numFrames;
     job.to += FramesInside(layer, *sample, frames - delay);
-    return job;
 }
 
 /// Where it does not sound the layer moves on all the same.
@@ -135,7 +134,8 @@ bool SeamHeard(const ChannelVoice& voice)
 void RenderJoined(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample* sample, int frames)
 {
     float left[kMaxRun], right[kMaxRun];
-    LayerJob job = Begin(layer, voice, sample, frames);
+    LayerJob job = {};
+    Begin(layer, voice, sample, frames, job);
     ReadLayer(job, left, right);
     if (sample) MoveOn(layer, frames - job.to);
     if (layer.seam.Heard()) {
@@ -165,7 +165,7 @@ struct LayerList {
 
     void Add(SamplerLayer& layer, ChannelVoice& voice, const CWaveSample& sample, int frames)
     {
-        jobs[count] = Begin(layer, voice, &sample, frames);
+        Begin(layer, voice, &sample, frames, jobs[count]);
         layers[count] = &layer;
         if (jobs[count].from < jobs[count].to)
             ++count;

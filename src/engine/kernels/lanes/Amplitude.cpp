@@ -37,6 +37,8 @@ void Shape(const AmplitudeJob& job, int frames)
 
 void ShapeVoices(const AmplitudeJob* jobs, int count, int frames)
 {
+    constexpr int kFew = 4; // frames that were written one by one: a vector would wait for them
+    if (frames <= kFew) return ShapeVoicesPlainly(jobs, count, frames);
     for (int v = 0; v < count; ++v) Shape(jobs[v], frames);
 }
 

@@ -52,6 +52,13 @@ void MixStrips(StripJob* jobs, int count, float* mainLeft, float* mainRight, int
 {
     constexpr int kSides = 2 * kChannels;
     const int whole = frames / kLanes * kLanes;
+    if (whole == 0) {
+        for (int n = 0; n < count; ++n) {
+            MixSide(jobs[n].left, jobs[n].first, mainLeft, frames);
+            MixSide(jobs[n].right, jobs[n].first, mainRight, frames);
+        }
+        return;
+    }
     Glide gains[kSides];
     float rows[kSides][kMaxRun];
     for (int n = 0; n < 2 * count; ++n) {
@@ -63,10 +70,8 @@ void MixStrips(StripJob* jobs, int count, float* mainLeft, float* mainRight, int
         auto& [left, right, first] = jobs[n];
         left.gain = gains[2 * n].value;
         right.gain = gains[2 * n + 1].value;
-        if (whole > 0) {
-            MixVectors(left, first, gains[2 * n], mainLeft, whole);
-            MixVectors(right, first, gains[2 * n + 1], mainRight, whole);
-        }
+        MixVectors(left, first, gains[2 * n], mainLeft, whole);
+        MixVectors(right, first, gains[2 * n + 1], mainRight, whole);
         if (whole < frames) {
             MixRest(left, first, mainLeft, whole, frames);
             MixRest(right, first, mainRight, whole, frames);

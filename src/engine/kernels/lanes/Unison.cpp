@@ -252,7 +252,7 @@ void Render(const UnisonJob& job, RandomGenerator& random, int frames)
     const Sources<modulation, second, third, noise> sources = {*job.mix, *job.tuning};
     const int rest = frames % kLanes;
     if (rest != 0 && VoicesFirst(job.mix->unisonCount, rest)) {
-        RenderFrames(sources, job, random, frames - rest);
+        if (frames > rest) RenderFrames(sources, job, random, frames - rest);
         RenderVoices(sources, job, random, frames - rest, rest);
     } else {
         RenderFrames(sources, job, random, frames);
