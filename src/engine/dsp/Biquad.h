@@ -70,6 +70,14 @@ struct BiquadChain {
     }
 };
 
+/// A side that is nothing but sections in series: `chain`, and the sections' Section(number, x, x1, x2, y1, y2).
+template <class Side, class S>
+concept ChainOfSections = requires(Side side, S value)
+{
+    value = side.Section(0, value, value, value, value, value);
+    side.chain.past[0] = value;
+};
+
 inline constexpr float kLowPassMiddle = 2.0f, kHighPassMiddle = -2.0f; // factors of x1
 
 /// Equal sections of FilterCoefficients.
@@ -78,10 +86,13 @@ struct FilterChain {
     BiquadChain<S, kSections> chain;
     S b, a1, a2, middle;
 
+    [[gnu::always_inline]] S Section(int, S x, S x1, S x2, S y1, S y2) const
+    {
+        return b * (x + middle * x1 + x2) - a1 * y1 - a2 * y2;
+    }
     [[gnu::always_inline]] S Step(S in)
     {
-        return chain.Step(
-            in, [this](int, S x, S x1, S x2, S y1, S y2) { return b * (x + middle * x1 + x2) - a1 * y1 - a2 * y2; });
+        return chain.Step(in, [this](auto... values) { return Section(values...); });
     }
 
     void Set(const FilterCoefficients& c, float newMiddle)

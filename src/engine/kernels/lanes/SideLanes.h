@@ -1,8 +1,10 @@
 // Sides of channels in lanes.
 #pragma once
 
+#include <type_traits>
 #include <utility>
 
+#include "engine/dsp/Biquad.h"
 #include "engine/kernels/Sides.h"
 #include "engine/kernels/lanes/Transpose.h"
 
@@ -10,14 +12,13 @@ namespace korvane::KORVANE_ISA_SPACE {
 
 namespace {
 
-inline constexpr int kPiece = 32; // frames that are in lanes at a time
 inline constexpr int kMovedValues = 16;
 inline constexpr int kWorthPacking = 24; // frames of all channels
 
 /// kVectors vectors of sides: left and right of one channel, then of the next one.
 template <template <class> class Side, int kVectors>
 struct SideGroup {
-    static constexpr int kSides = kLanes * kVectors;
+    static constexpr int kPiece = 128 / kVectors; // frames that are in lanes at a time
 
     Side<Floats> sides[kVectors];
     alignas(64) Floats signal[kPiece][kVectors];
@@ -112,9 +113,96 @@ template <int kVectors, class Row>
         }
 }
 
+/// Sections in series, each a frame behind the one before: a section of a frame waits for the one before and for its
+/// own past, and a processor does not look as far ahead as five sections to begin the next frame meanwhile. A step
+/// takes one frame in; a stream keeps its last three values by the step that gave them, modulo three, so that nothing
+/// has to be moved.
+template <class Side>
+struct SectionsInStep {
+    static constexpr int kStreams = std::extent_v<decltype(Side::chain.past)>; // the input, each section's output
+    static constexpr int kLast = kStreams - 2;                                 // section
+
+    const Side& side;
+    Floats values[kStreams][3]{};
+
+    /// The step that gives the stream's value of frame 0.
+    static constexpr int Start(int stream) { return stream > 0 ? stream - 1 : 0; }
+
+    template <int... stream>
+    [[gnu::always_inline]] SectionsInStep(const Side& from, std::integer_sequence<int, stream...>) : side(from)
+    {
+        ((values[stream][(Start(stream) + 2) % 3] = from.chain.past[stream],
+          values[stream][(Start(stream) + 1) % 3] = from.chain.beforePast[stream]),
+         ...);
+    }
+    /// step  modulo three, at which the input would go on
+    template <int step, int... stream>
+    [[gnu::always_inline]] void Keep(Side& to, std::integer_sequence<int, stream...>) const
+    {
+        ((to.chain.past[stream] = values[stream][(Start(stream) + step + 2) % 3],
+          to.chain.beforePast[stream] = values[stream][(Start(stream) + step + 1) % 3]),
+         ...);
+    }
+
+    /// The sections from `from` up to `to` of a step, the last one first: it takes what the one before gave a step ago.
+    template <int step, int from, int to>
+    [[gnu::always_inline]] void Step(Floats in)
+    {
+        constexpr int kNew = step % 3, k1 = (step + 2) % 3, k2 = (step + 1) % 3;
+        const Floats(&own)[3] = values[to + 1];
+        Floats(&given)[3] = values[to];
+        if constexpr (to > 0) {
+            values[to + 1][kNew] = Flushed(side.Section(to, given[k1], given[k2], given[kNew], own[k1], own[k2]));
+            if constexpr (to > from) Step<step, from, to - 1>(in);
+        } else {
+            values[1][kNew] = Flushed(side.Section(0, in, given[k1], given[k2], own[k1], own[k2]));
+            given[kNew] = Flushed(in);
+        }
+    }
+};
+
+/// frames  at least kLast; those beyond it are a multiple of three
+template <class Side, int kVectors, int... ahead>
+[[gnu::always_inline]] inline void RunSections(Side& side, Floats (*signal)[kVectors], int v, int frames,
+                                               std::integer_sequence<int, ahead...>)
+{
+    using Sections = SectionsInStep<Side>;
+    constexpr int kLast = Sections::kLast;
+    constexpr auto kEachStream = std::make_integer_sequence<int, Sections::kStreams>();
+    Sections sections(side, kEachStream);
+    const auto& out = sections.values[kLast + 1];
+    (sections.template Step<ahead, 0, ahead>(signal[ahead][v]), ...);
+    for (int n = kLast; n < frames; n += 3) {
+        const auto step = [&]<int k>(std::integral_constant<int, k>) {
+            sections.template Step<kLast + k, 0, kLast>(signal[n + k][v]);
+            signal[n + k - kLast][v] = out[(kLast + k) % 3];
+        };
+        step(std::integral_constant<int, 0>());
+        step(std::integral_constant<int, 1>());
+        step(std::integral_constant<int, 2>());
+    }
+    ((sections.template Step<kLast + ahead, ahead + 1, kLast>(Floats{}),
+      signal[frames - kLast + ahead][v] = out[(kLast + ahead) % 3]),
+     ...);
+    sections.template Keep<kLast % 3>(side, kEachStream);
+}
+
 template <template <class> class Side, int kVectors>
 void StepFrames(SideGroup<Side, kVectors>& group, int frames)
 {
+    if constexpr (ChainOfSections<Side<Floats>, Floats>) {
+        constexpr int kLast = SectionsInStep<Side<Floats>>::kLast;
+        if (frames >= kLast) {
+            const int alone = (frames - kLast) % 3;
+            for (int v = 0; v < kVectors; ++v) {
+                Side<Floats>& side = group.sides[v];
+                for (int n = 0; n < alone; ++n) group.signal[n][v] = side.Step(group.signal[n][v]);
+                RunSections<Side<Floats>, kVectors>(side, group.signal + alone, v, frames - alone,
+                                                    std::make_integer_sequence<int, kLast>());
+            }
+            return;
+        }
+    }
     Side<Floats> sides[kVectors];
     for (int v = 0; v < kVectors; ++v) sides[v] = group.sides[v];
     for (int n = 0; n < frames; ++n)
@@ -131,6 +219,7 @@ void StepFrames(SideGroup<Side, kVectors>& group, int frames)
 template <template <class> class Side, int kVectors>
 void RunGroup(const SidesJob<Side>* jobs, int count, int frames)
 {
+    constexpr int kPiece = SideGroup<Side, kVectors>::kPiece;
     SideGroup<Side, kVectors> group;
     LoadSides(group, jobs, count);
     int pieces = (frames + kPiece - 1) / kPiece;
