@@ -1,10 +1,7 @@
 // A sample that is no sound is found wherever it is.
-#include <gtest/gtest.h>
+#include "engine/kernels/OnEachIsa.h"
 
 #include <limits>
-#include <vector>
-
-#include "engine/kernels/Kernels.h"
 
 namespace korvane {
 namespace {
@@ -12,14 +9,13 @@ namespace {
 TEST(AllSound, FindsEachBadSample)
 {
     using Limits = std::numeric_limits<float>;
-    for (const Isa isa : kIsas) {
-        if (!Runs(isa)) continue;
+    OnEachIsa([](const Kernels& each) {
         for (const float bad : {Limits::quiet_NaN(), -Limits::infinity(), 1.0e25f, -1.1e25f})
             for (const int frames : {0, 1, 3, 15, 16, 17, 61, 128}) {
                 std::vector<float> sides[2] = {std::vector<float>(frames + 1, -9.9e24f),
                                                std::vector<float>(frames + 1)};
                 sides[0].back() = sides[1].back() = bad; // behind the end
-                const auto sound = [&] { return KernelsOf(isa).allSound(sides[0].data(), sides[1].data(), frames); };
+                const auto sound = [&] { return each.allSound(sides[0].data(), sides[1].data(), frames); };
                 ASSERT_TRUE(sound()) << frames;
                 for (auto& side : sides)
                     for (int n = 0; n < frames; ++n) {
@@ -28,7 +24,7 @@ TEST(AllSound, FindsEachBadSample)
                         side[n] = good;
                     }
             }
-    }
+    });
 }
 
 } // namespace

@@ -1,12 +1,7 @@
 // Sample layers side by side give the bits of each by itself.
-#include <gtest/gtest.h>
+#include "engine/kernels/OnEachIsa.h"
 
 #include <cstddef>
-#include <cstring>
-#include <random>
-#include <vector>
-
-#include "engine/kernels/Kernels.h"
 
 namespace korvane {
 namespace {
@@ -50,12 +45,7 @@ struct Layers {
     std::vector<LayerJob> jobs;
 };
 
-bool SameBits(const std::vector<float>& a, const std::vector<float>& b)
-{
-    return std::memcmp(a.data(), b.data(), a.size() * sizeof(float)) == 0;
-}
-
-bool SameBits(const LayerState& a, const LayerState& b)
+bool SameState(const LayerState& a, const LayerState& b)
 {
     constexpr auto kBytes = offsetof(LayerState, filters) + sizeof a.filters; // without what pads it
     return std::memcmp(&a, &b, kBytes) == 0;
@@ -68,18 +58,17 @@ TEST(LayerKernels, GiveTheBitsOfThePlainForm)
         for (const int frames : {1, 2, 7, 16, 61, 128, 512}) {
             Layers plain(count, frames, ++seed);
             for (LayerJob& job : plain.jobs) PlayLayer(job, 0.005f);
-            for (const Isa isa : kIsas) {
-                if (!Runs(isa)) continue;
-                SCOPED_TRACE(testing::Message() << count << " of " << frames << ", " << static_cast<int>(isa));
+            OnEachIsa([&](const Kernels& each) {
+                SCOPED_TRACE(testing::Message() << count << " of " << frames);
                 Layers lanes(count, frames, seed);
-                KernelsOf(isa).playLayers(lanes.jobs.data(), count, 0.005f);
+                each.playLayers(lanes.jobs.data(), count, 0.005f);
                 for (std::size_t m = 0; m < lanes.mix.size(); ++m) EXPECT_TRUE(SameBits(lanes.mix[m], plain.mix[m]));
                 for (int l = 0; l < count; ++l) {
-                    EXPECT_TRUE(SameBits(lanes.states[l], plain.states[l]));
+                    EXPECT_TRUE(SameState(lanes.states[l], plain.states[l]));
                     EXPECT_EQ(lanes.jobs[l].lastLeft, plain.jobs[l].lastLeft);
                     EXPECT_EQ(lanes.jobs[l].lastRight, plain.jobs[l].lastRight);
                 }
-            }
+            });
         }
 }
 

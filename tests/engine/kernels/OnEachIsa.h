@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <random>
 #include <vector>
 
@@ -18,6 +19,13 @@ void OnEachIsa(Check check)
         SCOPED_TRACE(static_cast<int>(isa));
         if (Runs(isa)) check(KernelsOf(isa));
     }
+}
+
+/// Of rows of the same length.
+template <class T>
+bool SameBits(const std::vector<T>& a, const std::vector<T>& b)
+{
+    return std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
 
 /// Numbers that loops stumble over, among ordinary ones.

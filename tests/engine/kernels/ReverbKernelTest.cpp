@@ -1,10 +1,7 @@
 // Reverbs side by side: the bits of each one frame by frame.
-#include <gtest/gtest.h>
-
-#include <random>
+#include "engine/kernels/OnEachIsa.h"
 
 #include "engine/fx/reverb/ReverbTank.h"
-#include "engine/kernels/Kernels.h"
 
 namespace korvane {
 namespace {
@@ -51,21 +48,21 @@ TEST(ReverbKernel, GivesTheBitsOfFrameByFrame)
     const auto plain = [](ReverbJob* jobs, int count, int frames) {
         for (int n = 0; n < count; ++n) RunReverb(jobs[n], frames);
     };
-    for (const Isa isa : kIsas)
+    OnEachIsa([&](const Kernels& each) {
         for (const float rate : {2000.0f, 44100.0f})
             for (const int count : {1, 2, 13}) {
-                if (!Runs(isa)) continue;
                 constexpr int kFrames = 3000;
                 Hall one(count, rate, kFrames), other(count, rate, kFrames);
                 for (int from = 0, frames = 1; from < kFrames; from += frames, frames = frames * 5 % 301) {
                     frames = std::min(frames, kFrames - from);
                     one.Play(plain, from, frames);
-                    other.Play(*KernelsOf(isa).runReverbs, from, frames);
+                    other.Play(*each.runReverbs, from, frames);
                 }
                 for (std::size_t n = 0; n < one.tanks.size(); ++n)
                     EXPECT_EQ(one.tanks[n].state.cuts.lowOut, other.tanks[n].state.cuts.lowOut);
-                EXPECT_EQ(one.sound, other.sound) << static_cast<int>(isa) << ' ' << rate << ' ' << count;
+                EXPECT_EQ(one.sound, other.sound) << rate << ' ' << count;
             }
+    });
 }
 
 } // namespace

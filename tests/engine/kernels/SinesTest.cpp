@@ -1,10 +1,5 @@
 // Sines of many phases: the bits of the library's, rounded.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <vector>
-
-#include "engine/kernels/Kernels.h"
+#include "engine/kernels/OnEachIsa.h"
 
 namespace korvane {
 namespace {
@@ -30,17 +25,16 @@ TEST(Sines, AreThoseOfTheLibrary)
     const std::vector<double> phases = Phases();
     std::vector<float> expected, sines(phases.size() + 1);
     for (const double phase : phases) expected.push_back(SineOf(phase) * 0.7f);
-    for (const Isa isa : kIsas) {
-        if (!Runs(isa)) continue;
+    OnEachIsa([&](const Kernels& each) {
         int length = 0; // each odd length, at each place of a vector
         for (std::size_t from = 0; from < phases.size(); from += static_cast<std::size_t>(length)) {
             length = std::min(length % 137 + 1, static_cast<int>(phases.size() - from));
             sines[from + static_cast<std::size_t>(length)] = 5.0f;
-            KernelsOf(isa).sines(&phases[from], 0.7f, &sines[from], length);
+            each.sines(&phases[from], 0.7f, &sines[from], length);
             ASSERT_EQ(sines[from + static_cast<std::size_t>(length)], 5.0f);
         }
-        EXPECT_EQ(std::memcmp(sines.data(), expected.data(), 4 * expected.size()), 0) << static_cast<int>(isa);
-    }
+        EXPECT_TRUE(SameBits(expected, sines));
+    });
 }
 
 } // namespace

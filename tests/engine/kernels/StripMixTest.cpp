@@ -1,10 +1,8 @@
 // Strips: the bits of frame by frame.
-#include <gtest/gtest.h>
+#include "engine/kernels/OnEachIsa.h"
 
-#include <cstring>
-#include <random>
-
-#include "engine/kernels/Kernels.h"
+#include <algorithm>
+#include <limits>
 
 namespace korvane {
 namespace {
@@ -48,14 +46,14 @@ TEST(StripMix, IsThatOfFrameByFrame)
     std::generate_n(samples, kStrips * 2 * kMaxRun, [&] { return static_cast<float>(random()) / 1e9f - 1.0f; });
     samples[5] = -0.0f;
     samples[70] = std::numeric_limits<float>::quiet_NaN();
-    for (const Isa isa : kIsas)
+    OnEachIsa([](const Kernels& each) {
         for (const int frames : {0, 1, 7, 16, 61, 128, 512}) {
-            if (!Runs(isa)) continue;
             lanes = plain;
             plain.Mix(Plain, frames);
-            lanes.Mix(*KernelsOf(isa).mixStrips, frames);
+            lanes.Mix(*each.mixStrips, frames);
             EXPECT_EQ(std::memcmp(&plain, &lanes, sizeof plain), 0) << frames;
         }
+    });
 }
 
 } // namespace

@@ -2,7 +2,6 @@
 #include "engine/kernels/OnEachIsa.h"
 
 #include <cmath>
-#include <cstring>
 
 #include "framework/Limits.h"
 
@@ -10,12 +9,6 @@ namespace korvane {
 namespace {
 
 constexpr int kLengths[] = {0, 1, 17, 128, kMaxRun};
-
-template <class T>
-bool Same(const std::vector<T>& a, const std::vector<T>& b)
-{
-    return std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
-}
 
 TEST(TapeSpeeds, AreThoseOfThePlainForm)
 {
@@ -26,7 +19,7 @@ TEST(TapeSpeeds, AreThoseOfThePlainForm)
         for (int frames : kLengths) {
             TapeSpeeds(delays.data(), 96, plain.data(), frames);
             each.tapeSpeeds(delays.data(), 96, lanes.data(), frames);
-            EXPECT_TRUE(Same(plain, lanes)) << frames;
+            EXPECT_TRUE(SameBits(plain, lanes)) << frames;
         }
     });
 }
@@ -68,10 +61,10 @@ TEST(ChainedTapes, AreThoseOfThePlainForm)
                 Chains plain, lanes;
                 plain.Run(ChainTapes, count, frames);
                 lanes.Run(each.chainTapes, count, frames);
-                EXPECT_TRUE(Same(plain.last, lanes.last)) << count << ' ' << frames;
+                EXPECT_TRUE(SameBits(plain.last, lanes.last)) << count << ' ' << frames;
                 for (std::size_t c = 0; c < kChannels; ++c)
-                    EXPECT_TRUE(Same(plain.left[c], lanes.left[c]) && Same(plain.right[c], lanes.right[c]) &&
-                                Same(plain.entries[c], lanes.entries[c]))
+                    EXPECT_TRUE(SameBits(plain.left[c], lanes.left[c]) && SameBits(plain.right[c], lanes.right[c]) &&
+                                SameBits(plain.entries[c], lanes.entries[c]))
                         << count << ' ' << frames << ' ' << c;
             }
     });
@@ -104,7 +97,7 @@ TEST(PumpLevels, AreThoseOfThePlainForm)
                 Pumps plain, lanes;
                 plain.Run(PumpLevels, count, frames);
                 lanes.Run(each.pump, count, frames);
-                EXPECT_TRUE(Same(plain.levels, lanes.levels) && Same(plain.envelopes, lanes.envelopes))
+                EXPECT_TRUE(SameBits(plain.levels, lanes.levels) && SameBits(plain.envelopes, lanes.envelopes))
                     << count << ' ' << frames;
             }
     });

@@ -1,11 +1,5 @@
 // Unison voices side by side.
-#include <gtest/gtest.h>
-
-#include <cstring>
-#include <memory>
-#include <vector>
-
-#include "engine/kernels/Kernels.h"
+#include "engine/kernels/OnEachIsa.h"
 
 namespace korvane {
 namespace {
@@ -66,23 +60,21 @@ TEST(UnisonKernel, GivesTheBitsOfThePlainForm)
 {
     const OscillatorModulation kinds[] = {OscillatorModulation::Sync, OscillatorModulation::Phase,
                                           OscillatorModulation::Amplitude};
-    for (const Isa isa : kIsas) {
-        if (!Runs(isa)) continue;
+    OnEachIsa([&](const Kernels& each) {
         for (int count : {1, 2, 3, 5, 8, 9, 16})
             for (const OscillatorModulation kind : kinds)
                 for (int heard = 0; heard < 16; heard += 2) {
-                    const int octaves = heard;
-                    SCOPED_TRACE(testing::Message() << static_cast<int>(isa) << ", " << count << " voices, kind "
-                                                    << static_cast<int>(kind) << ", sources " << heard);
-                    Rig rig(count, kind, heard, octaves);
+                    SCOPED_TRACE(testing::Message()
+                                 << count << " voices, kind " << static_cast<int>(kind) << ", sources " << heard);
+                    Rig rig(count, kind, heard, heard);
                     Voice plain, lanes;
                     for (int frames : {0, 1, 2, 3, 7, 1, 16, 19, 33, 128, kMaxRun}) {
                         rig.Play(RenderUnisonPlainly, plain, frames);
-                        rig.Play(KernelsOf(isa).renderUnison, lanes, frames);
+                        rig.Play(each.renderUnison, lanes, frames);
                         ExpectSame(plain, lanes, frames);
                     }
                 }
-    }
+    });
 }
 
 } // namespace
