@@ -25,7 +25,7 @@ void OnEachIsa(Check check)
 template <class T>
 bool SameBits(const std::vector<T>& a, const std::vector<T>& b)
 {
-    return std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
+    return a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0;
 }
 
 /// Numbers that loops stumble over, among ordinary ones.

@@ -1,7 +1,6 @@
 // Effects side by side on each instruction set against their plain forms.
 #include "engine/kernels/OnEachIsa.h"
 
-#include <cstring>
 
 #include "framework/Limits.h"
 
@@ -28,8 +27,7 @@ struct Rig {
     }
     bool operator==(const Rig& other) const
     {
-        return std::memcmp(sides.data(), other.sides.data(), sides.size() * sizeof(Side<Stereo>)) == 0 &&
-               std::memcmp(rows.data(), other.rows.data(), rows.size() * 4) == 0;
+        return SameBits(sides, other.sides) && SameBits(rows, other.rows);
     }
 };
 
