@@ -1,7 +1,6 @@
 // Effects side by side on each instruction set against their plain forms.
 #include "engine/kernels/OnEachIsa.h"
 
-
 #include "framework/Limits.h"
 
 namespace korvane {
@@ -25,10 +24,7 @@ struct Rig {
             jobs[c] = {row, row + frames, &sides[c], row + 2 * frames};
         }
     }
-    bool operator==(const Rig& other) const
-    {
-        return SameBits(sides, other.sides) && SameBits(rows, other.rows);
-    }
+    bool operator==(const Rig& other) const { return SameBits(sides, other.sides) && SameBits(rows, other.rows); }
 };
 
 template <template <class> class Side>
