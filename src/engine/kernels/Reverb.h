@@ -8,9 +8,10 @@
 
 namespace korvane {
 
-inline constexpr int kReverbLines = 12; // 0..3 input diffusers, 4..7 left branch, 8..11 right branch
-inline constexpr int kReverbTaps = 7;   // of each output
-inline constexpr int kReflections = 8;  // of each side; the left sum uses the first seven
+inline constexpr int kReverbLines = 12;       // 0..3 input diffusers, 4..7 left branch, 8..11 right branch
+inline constexpr int kReverbTaps = 7;         // of each output
+inline constexpr int kLongestReverbRun = 128; // frames that pass a stage at a time
+inline constexpr int kReflections = 8;        // of each side; the left sum uses the first seven
 
 struct ReverbCoefficients {
     float inputGain, dryGain, reflectionsGain, reverbTarget;

@@ -11,7 +11,6 @@ namespace korvane {
 namespace {
 
 constexpr float kFill = 1e-30f;
-constexpr int kLongestRun = 128;    // frames
 constexpr std::size_t kMargin = 16; // floats that are read behind the last line
 
 /// Longest reflection at room size 100, in frames.
@@ -57,7 +56,7 @@ void ReverbTank::Reset()
 void ReverbTank::Fit(const ReverbCoefficients& c, bool clear)
 {
     if (clear) std::fill_n(memory.get(), memoryFloats, 0.0f);
-    state.runLimit = kLongestRun;
+    state.runLimit = kLongestReverbRun;
     for (std::size_t n = 0; n < kReverbLines; ++n) {
         ReverbLine& line = state.lines[n];
         line.length = c.lengths[n];

@@ -11,8 +11,7 @@ RunReverbsKernel RunReverbs;
 
 namespace {
 
-constexpr int kRun = 128;           // the longest run
-constexpr int kRow = kRun + kLanes; // what stages make of the floats behind a run is of no use
+constexpr int kRow = kLongestReverbRun + kLanes; // what stages make of the floats behind a run is of no use
 
 /// A reverb on its way through a run.
 struct Reverb {
@@ -465,7 +464,7 @@ void RunReverbs(ReverbJob* jobs, int count, int frames)
         return;
     }
     Reverb reverbs[kChannels];
-    int limit = kRun;
+    int limit = kLongestReverbRun;
     for (int n = 0; n < count; ++n) {
         reverbs[n].job = &jobs[n];
         if (jobs[n].state->runLimit < limit) limit = jobs[n].state->runLimit;
